@@ -1,0 +1,19 @@
+# One interface target carries every compiler flag; nothing else sets any.
+add_library(orvalis_flags INTERFACE)
+target_compile_options(orvalis_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+target_compile_definitions(orvalis_flags INTERFACE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII
+                           QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING)
+if(ORVALIS_SANITIZE)
+    target_compile_options(orvalis_flags INTERFACE -fsanitize=address,undefined
+                           -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(orvalis_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+find_program(CCACHE ccache)
+if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+find_program(LLD ld.lld)
+if(LLD)
+    target_link_options(orvalis_flags INTERFACE -fuse-ld=lld)
+endif()
