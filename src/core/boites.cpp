@@ -1,0 +1,58 @@
+#include "core/boites.h"
+
+#include "core/texte.h"
+
+#include <algorithm>
+
+namespace orvalis {
+namespace {
+
+bool Passe(Touches touches, char c) {
+    switch (touches) {
+    case Touches::Libres:
+    case Touches::Majuscules:
+        return true;
+    case Touches::DateHeureFreq:
+        return c >= '.' && c <= ':';
+    case Touches::Report:
+        return (c >= '.' && c <= ':') || c == '+';
+    case Touches::Chiffres:
+        return c >= '0' && c <= '9';
+    }
+    return false;
+}
+
+// Number of characters that `a` and `b` begin with in common, at most `limite`.
+std::size_t PrefixeCommun(std::string_view a, std::string_view b, std::size_t limite) {
+    std::size_t n = 0;
+    while (n < limite && n < Longueur(a) && Milieu(a, n + 1, 1) == Milieu(b, n + 1, 1))
+        ++n;
+    return n;
+}
+
+} // namespace
+
+std::string FiltrerTouches(Touches touches, std::string_view saisie) {
+    std::string texte = NettoyerSaisie(saisie);
+    if (touches == Touches::Majuscules)
+        return Majuscules(texte);
+    if (touches != Touches::Libres)
+        std::erase_if(texte, [touches](char c) { return !Passe(touches, c); });
+    return texte;
+}
+
+TexteEdite FiltrerEdition(Touches touches, std::size_t longueur, std::string_view ancien,
+                          const TexteEdite& nouveau) {
+    const std::string_view avantCurseur = Gauche(nouveau.texte, nouveau.curseur);
+    const std::string_view suite = std::string_view(nouveau.texte).substr(avantCurseur.size());
+    const std::size_t garde = PrefixeCommun(ancien, avantCurseur, nouveau.curseur);
+    const std::string_view debut = Gauche(nouveau.texte, garde);
+    const std::string insere = FiltrerTouches(touches, avantCurseur.substr(debut.size()));
+    const std::size_t occupe = Longueur(debut) + Longueur(suite);
+    const std::size_t place = longueur > occupe ? longueur - occupe : 0;
+    const std::string_view pris = Gauche(insere, place);
+    return {std::string{debut} + std::string{pris} + std::string{suite},
+            Longueur(debut) + Longueur(pris)};
+}
+
+} // namespace orvalis

@@ -1,0 +1,89 @@
+#include "core/dossier.h"
+
+#include "core/texte.h"
+
+#include <array>
+#include <vector>
+
+namespace orvalis {
+namespace fs = std::filesystem;
+namespace {
+
+struct PointDeMontage {
+    std::array<std::string_view, 2> debut; ///< leading folders, the second may be empty
+    std::size_t profondeur;                ///< components of the volume's root, "/" not counted
+};
+
+constexpr std::array<PointDeMontage, 4> kPointsDeMontage = {{
+    {{"media", ""}, 3},
+    {{"run", "media"}, 4},
+    {{"mnt", ""}, 2},
+    {{"Volumes", ""}, 2},
+}};
+
+std::vector<fs::path> Composants(const fs::path& chemin) {
+    std::vector<fs::path> composants;
+    for (const fs::path& composant : chemin.lexically_normal().relative_path())
+        if (!composant.empty())
+            composants.push_back(composant);
+    return composants;
+}
+
+bool Convient(const PointDeMontage& point, const std::vector<fs::path>& composants) {
+    return composants.size() >= point.profondeur && composants[0] == point.debut[0] &&
+           (point.debut[1].empty() || composants[1] == point.debut[1]);
+}
+
+} // namespace
+
+fs::path CalculerLecteur(const fs::path& courant, const fs::path& maison) {
+    const std::string texte = courant.string();
+    if (texte.size() >= 3 && texte[1] == ':' && (texte[2] == '\\' || texte[2] == '/'))
+        return texte.substr(0, 3);
+    const std::vector<fs::path> composants = Composants(courant);
+    for (const PointDeMontage& point : kPointsDeMontage) {
+        if (!Convient(point, composants))
+            continue;
+        fs::path racine = "/";
+        for (std::size_t i = 0; i < point.profondeur; ++i)
+            racine /= composants[i];
+        return racine;
+    }
+    return maison;
+}
+
+std::string TexteLecteur(const fs::path& lecteur) {
+    std::string texte = lecteur.string();
+    if (texte.empty() || (texte.back() != '/' && texte.back() != '\\'))
+        texte.push_back(static_cast<char>(fs::path::preferred_separator));
+    return texte;
+}
+
+fs::path DossierProgramme(const fs::path& lecteur) {
+    return TexteLecteur(lecteur) + std::string{kNomDossier};
+}
+
+fs::path TrouverFichier(const fs::path& dossier, std::string_view nom) {
+    const fs::path exact = dossier / fs::path{nom};
+    std::error_code erreur;
+    if (fs::exists(exact, erreur))
+        return exact;
+    const std::string cherche = Majuscules(nom);
+    for (auto it = fs::directory_iterator(dossier, erreur);
+         !erreur && it != fs::directory_iterator(); it.increment(erreur))
+        if (Majuscules(it->path().filename().string()) == cherche)
+            return it->path();
+    return exact;
+}
+
+std::string NomDuJournal(std::string_view indicatif) {
+    constexpr std::size_t kLongueurNom = 8;
+    constexpr std::string_view kInterdits = "<>:\"/\\|?*";
+    std::string nom;
+    for (const char c : Gauche(indicatif, kLongueurNom))
+        if (kInterdits.find(c) == std::string_view::npos)
+            nom.push_back(c);
+    return nom + ".Vek";
+}
+
+} // namespace orvalis

@@ -1,0 +1,38 @@
+// Where the program folder lies, and the files in it.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace orvalis {
+
+inline constexpr std::string_view kNomDossier = "Orvalis";
+inline constexpr std::string_view kNomParametres = "Parvel.cfg";
+inline constexpr std::string_view kNomParametresEcrits = "ParVel.cfg";
+inline constexpr std::string_view kNomFeuilleQSL = "FeuilleQSL.txt";
+inline constexpr std::string_view kNomSauvegardes = "VekSave";
+
+/// The folder that plays the part of the current drive: on Windows the first three characters of
+/// the current directory; elsewhere the root of the removable volume that holds it
+/// (/media/<user>/<volume>, /run/media/<user>/<volume>, /mnt/<volume>, /Volumes/<volume>), else
+/// the user's home.
+[[nodiscard]] std::filesystem::path CalculerLecteur(const std::filesystem::path& courant,
+                                                    const std::filesystem::path& maison);
+
+/// The drive as shown and as prefixed to relative paths: with its closing separator, UTF-8.
+[[nodiscard]] std::string TexteLecteur(const std::filesystem::path& lecteur);
+
+/// The program folder on a drive.
+[[nodiscard]] std::filesystem::path DossierProgramme(const std::filesystem::path& lecteur);
+
+/// Path of the file `nom` (UTF-8) in `dossier`: the one that is there under that name in
+/// whatever case, else the name as given.
+[[nodiscard]] std::filesystem::path TrouverFichier(const std::filesystem::path& dossier,
+                                                   std::string_view nom);
+
+/// Name of the logbook file for a callsign: its first eight characters, less those that no file
+/// name may hold, then ".Vek".
+[[nodiscard]] std::string NomDuJournal(std::string_view indicatif);
+
+} // namespace orvalis

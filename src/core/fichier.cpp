@@ -1,0 +1,138 @@
+#include "core/fichier.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <string>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace orvalis {
+namespace {
+
+std::error_code DerniereErreur() {
+    return {errno, std::generic_category()};
+}
+
+int Drapeaux(ModeFichier mode) {
+    switch (mode) {
+    case ModeFichier::Lecture:
+        return O_RDONLY | O_CLOEXEC;
+    case ModeFichier::LectureEcriture:
+        return O_RDWR | O_CLOEXEC;
+    case ModeFichier::Creation:
+        break;
+    }
+    return O_RDWR | O_CREAT | O_CLOEXEC;
+}
+
+} // namespace
+
+ErreurFichier::ErreurFichier(ActionFichier action, std::filesystem::path chemin,
+                             std::error_code raison)
+    : std::system_error(raison, chemin.string()), action_(action), chemin_(std::move(chemin)) {}
+
+Fichier::Fichier(std::filesystem::path chemin, ModeFichier mode) : chemin_(std::move(chemin)) {
+    constexpr mode_t kDroits = 0666;
+    const auto action =
+        mode == ModeFichier::Creation ? ActionFichier::Creer : ActionFichier::Ouvrir;
+    descripteur_ = ::open(chemin_.c_str(), Drapeaux(mode), kDroits);
+    if (descripteur_ < 0)
+        throw ErreurFichier(action, chemin_, DerniereErreur());
+    struct stat etat = {};
+    if (::fstat(descripteur_, &etat) == 0 && S_ISDIR(etat.st_mode)) {
+        Fermer();
+        throw ErreurFichier(action, chemin_, {EISDIR, std::generic_category()});
+    }
+}
+
+Fichier::Fichier(Fichier&& autre) noexcept
+    : descripteur_(std::exchange(autre.descripteur_, -1)), chemin_(std::move(autre.chemin_)) {}
+
+Fichier& Fichier::operator=(Fichier&& autre) noexcept {
+    if (this != &autre) {
+        Fermer();
+        descripteur_ = std::exchange(autre.descripteur_, -1);
+        chemin_ = std::move(autre.chemin_);
+    }
+    return *this;
+}
+
+Fichier::~Fichier() {
+    Fermer();
+}
+
+void Fichier::Fermer() noexcept {
+    if (descripteur_ >= 0)
+        ::close(descripteur_);
+    descripteur_ = -1;
+}
+
+std::int64_t Fichier::Taille() const {
+    struct stat etat = {};
+    if (::fstat(descripteur_, &etat) != 0)
+        throw ErreurFichier(ActionFichier::Lire, chemin_, DerniereErreur());
+    return etat.st_size;
+}
+
+std::size_t Fichier::Lire(std::int64_t position, std::span<char> tampon) const {
+    std::size_t lus = 0;
+    while (lus < tampon.size()) {
+        const auto n = ::pread(descripteur_, tampon.data() + lus, tampon.size() - lus,
+                               position + static_cast<std::int64_t>(lus));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n < 0)
+            throw ErreurFichier(ActionFichier::Lire, chemin_, DerniereErreur());
+        if (n == 0)
+            break;
+        lus += static_cast<std::size_t>(n);
+    }
+    return lus;
+}
+
+void Fichier::Ecrire(std::int64_t position, std::span<const char> octets) {
+    std::string comble;
+    if (const std::int64_t taille = Taille(); taille < position) {
+        comble.assign(static_cast<std::size_t>(position - taille), ' ');
+        comble.append(octets.data(), octets.size());
+        octets = comble;
+        position = taille;
+    }
+    for (std::size_t ecrits = 0; ecrits < octets.size();) {
+        const auto n = ::pwrite(descripteur_, octets.data() + ecrits, octets.size() - ecrits,
+                                position + static_cast<std::int64_t>(ecrits));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            throw ErreurFichier(ActionFichier::Ecrire, chemin_,
+                                n == 0 ? std::make_error_code(std::errc::no_space_on_device)
+                                       : DerniereErreur());
+        ecrits += static_cast<std::size_t>(n);
+    }
+}
+
+void Fichier::Synchroniser() {
+    if (::fdatasync(descripteur_) != 0 && errno != EINVAL && errno != EROFS)
+        throw ErreurFichier(ActionFichier::Synchroniser, chemin_, DerniereErreur());
+}
+
+bool Fichier::Verrouiller() {
+    if (::flock(descripteur_, LOCK_EX | LOCK_NB) == 0)
+        return true;
+    if (errno == EWOULDBLOCK)
+        return false;
+    if (errno == ENOLCK || errno == ENOSYS || errno == EOPNOTSUPP || errno == EINVAL)
+        return true;
+    throw ErreurFichier(ActionFichier::Verrouiller, chemin_, DerniereErreur());
+}
+
+bool Fichier::EstLeMeme(const std::filesystem::path& autre) const {
+    struct stat ici = {};
+    struct stat la = {};
+    return EstOuvert() && ::fstat(descripteur_, &ici) == 0 && ::stat(autre.c_str(), &la) == 0 &&
+           ici.st_dev == la.st_dev && ici.st_ino == la.st_ino;
+}
+
+} // namespace orvalis

@@ -1,0 +1,73 @@
+#include "core/journal.h"
+
+#include <algorithm>
+
+namespace orvalis {
+namespace {
+
+constexpr std::int64_t Position(std::int32_t k) {
+    return (static_cast<std::int64_t>(k) - 1) * static_cast<std::int64_t>(kTailleFiche);
+}
+
+std::span<char> Octets(std::span<QsoRecord> fiches) {
+    return {fiches.data()->octets.data(), fiches.size_bytes()};
+}
+
+std::span<const char> Octets(std::span<const QsoRecord> fiches) {
+    return {fiches.data()->octets.data(), fiches.size_bytes()};
+}
+
+} // namespace
+
+std::int32_t Journal::NbEnregistrements() const {
+    constexpr auto kTaille = static_cast<std::int64_t>(kTailleFiche);
+    return static_cast<std::int32_t>((fichier_.Taille() + kTaille - 1) / kTaille);
+}
+
+QsoRecord Journal::Lire(std::int32_t k) const {
+    QsoRecord fiche;
+    static_cast<void>(Lire(k, std::span(&fiche, 1)));
+    return fiche;
+}
+
+std::size_t Journal::Lire(std::int32_t k, std::span<QsoRecord> fiches) const {
+    if (fiches.empty())
+        return 0;
+    const std::span<char> octets = Octets(fiches);
+    const std::size_t lus = fichier_.Lire(Position(k), octets);
+    std::fill(octets.begin() + static_cast<std::ptrdiff_t>(lus), octets.end(), ' ');
+    return (lus + kTailleFiche - 1) / kTailleFiche;
+}
+
+void Journal::Ecrire(std::int32_t k, std::span<const QsoRecord> fiches) {
+    if (!fiches.empty())
+        fichier_.Ecrire(Position(k), Octets(fiches));
+}
+
+std::int32_t Journal::Compter() const {
+    std::vector<QsoRecord> bloc(kFichesParBloc);
+    for (std::int32_t k = 1;;) {
+        const std::size_t lus = Lire(k, bloc);
+        for (std::size_t i = 0; i < lus; ++i)
+            if (EstFinDeLog(bloc[i]))
+                return k - 1 + static_cast<std::int32_t>(i);
+        k += static_cast<std::int32_t>(lus);
+        if (lus < bloc.size())
+            return k - 1;
+    }
+}
+
+LecteurFiches::LecteurFiches(const Journal& journal) : journal_(journal) {}
+
+const QsoRecord& LecteurFiches::Lire(std::int32_t k) {
+    if (bloc_.empty())
+        bloc_.resize(kFichesParBloc);
+    const auto taille = static_cast<std::int32_t>(bloc_.size());
+    if (premiere_ == 0 || k < premiere_ || k >= premiere_ + taille) {
+        static_cast<void>(journal_.Lire(k, bloc_));
+        premiere_ = k;
+    }
+    return bloc_[static_cast<std::size_t>(k - premiere_)];
+}
+
+} // namespace orvalis

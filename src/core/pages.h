@@ -1,0 +1,32 @@
+// The logbook in pages of twenty-five contacts, and the texts of the log list.
+#pragma once
+
+#include "core/qso_record.h"
+
+#include <cstdint>
+#include <string>
+
+namespace orvalis {
+
+inline constexpr std::int32_t kFichesParPage = 25;
+/// The list numbers contacts in 16 bits; what lies beyond is counted and kept, but not listed.
+inline constexpr std::int32_t kDerniereListable = 32767;
+
+/// Page that holds record `x`, from 1. Also the page count, for x = N (0 contacts: one page).
+[[nodiscard]] std::int32_t CalculerPages(std::int32_t x);
+
+struct PlagePage {
+    std::int32_t premiere = 1; ///< first record of the page
+    std::int32_t derniere = 0; ///< last record; below `premiere` when the page is empty
+};
+
+/// Records of page `page` (from 1) in a logbook of `nbFiches` contacts.
+[[nodiscard]] PlagePage CalculerPlage(std::int32_t page, std::int32_t nbFiches);
+
+/// Line of the log list for record `k`: 40 characters, number, callsign, date and start time.
+[[nodiscard]] std::string LigneListe(std::int32_t k, const QsoRecord& fiche);
+
+/// Record number that begins a line of the log list or of the contacts list.
+[[nodiscard]] std::int32_t NumeroDeLigne(std::string_view ligne);
+
+} // namespace orvalis

@@ -1,0 +1,102 @@
+#include "core/parametres.h"
+
+#include "core/fichier.h"
+#include "core/texte.h"
+
+#include <array>
+#include <vector>
+
+namespace orvalis {
+namespace fs = std::filesystem;
+namespace {
+
+constexpr std::size_t kNbValeurs = 3;
+constexpr std::size_t kLargeurLocator = 6;
+constexpr std::size_t kTailleMaximale = 4096; // far beyond any file this program writes
+
+std::string LireOctets(const fs::path& chemin) {
+    const Fichier fichier(chemin, ModeFichier::Lecture);
+    std::string octets(kTailleMaximale, '\0');
+    octets.resize(fichier.Lire(0, octets));
+    return octets;
+}
+
+// One value from `reste`, which is left behind its separator.
+std::string LireValeur(std::string_view& reste) {
+    std::string valeur;
+    reste.remove_prefix(std::min(reste.find_first_not_of(" \t"), reste.size()));
+    if (!reste.empty() && reste.front() == '"') {
+        reste.remove_prefix(1);
+        while (!reste.empty()) {
+            const char c = reste.front();
+            reste.remove_prefix(1);
+            if (c != '"') {
+                valeur.push_back(c);
+            } else if (!reste.empty() && reste.front() == '"') {
+                valeur.push_back('"');
+                reste.remove_prefix(1);
+            } else {
+                break;
+            }
+        }
+        reste.remove_prefix(std::min(reste.find_first_of(",\r\n"), reste.size()));
+    } else {
+        const std::size_t fin = std::min(reste.find_first_of(",\r\n"), reste.size());
+        valeur = Rogner(reste.substr(0, fin));
+        reste.remove_prefix(fin);
+    }
+    if (!reste.empty() && reste.front() == '\r' && reste.size() > 1 && reste[1] == '\n')
+        reste.remove_prefix(1);
+    if (!reste.empty())
+        reste.remove_prefix(1);
+    return valeur;
+}
+
+std::string Guillemets(std::string_view texte) {
+    std::string sortie = "\"";
+    for (const char c : VersCp1252(texte)) {
+        sortie.push_back(c);
+        if (c == '"')
+            sortie.push_back(c);
+    }
+    return sortie + "\"";
+}
+
+} // namespace
+
+Parametres LireParametres(const fs::path& chemin) {
+    const std::string octets = LireOctets(chemin);
+    std::vector<std::string> valeurs;
+    for (std::string_view reste = octets; !reste.empty() && valeurs.size() < kNbValeurs;)
+        valeurs.push_back(DepuisCp1252(LireValeur(reste)));
+    const bool complet =
+        valeurs.size() == kNbValeurs && !Rogner(valeurs[0]).empty() && !Rogner(valeurs[1]).empty();
+    if (!complet)
+        throw ErreurParametres("Le fichier de paramètres « " + chemin.string() +
+                               " » est incomplet : il doit contenir l'indicatif, le nom du "
+                               "cahier et le locator de la station.");
+    return {valeurs[0], valeurs[1], Cadrer(valeurs[2], kLargeurLocator)};
+}
+
+void EcrireParametres(const fs::path& chemin, const Parametres& parametres) {
+    std::error_code erreur;
+    const fs::path reel = fs::exists(chemin, erreur) ? fs::canonical(chemin) : chemin;
+    const fs::path provisoire = fs::path(reel) += ".tmp";
+    const std::string ligne = Guillemets(parametres.indicatif) + "," +
+                              Guillemets(parametres.nomFichier) + "," +
+                              Guillemets(Cadrer(parametres.monLocator, kLargeurLocator)) + "\r\n";
+    fs::remove(provisoire, erreur);
+    try {
+        Fichier fichier(provisoire, ModeFichier::Creation);
+        fichier.Ecrire(0, ligne);
+        fichier.Synchroniser();
+    } catch (const ErreurFichier& echec) {
+        fs::remove(provisoire, erreur);
+        throw ErreurFichier(echec.Action(), reel, echec.code());
+    }
+    fs::rename(provisoire, reel, erreur);
+    if (erreur)
+        throw ErreurFichier(ActionFichier::Renommer, reel, erreur);
+}
+
+} // namespace orvalis
