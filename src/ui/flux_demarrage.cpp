@@ -6,6 +6,7 @@
 #include "core/parametres.h"
 #include "ui/chang_locator.h"
 #include "ui/dlg1.h"
+#include "ui/effets.h"
 #include "ui/flux_navigation.h"
 #include "ui/msg_fiche.h"
 #include "ui/panneau_contacts.h"
@@ -17,7 +18,6 @@
 #include "ui/systeme.h"
 #include "ui/texte_qt.h"
 
-#include <QGuiApplication>
 #include <QLabel>
 #include <QMainWindow>
 
@@ -25,30 +25,9 @@ namespace orvalis {
 namespace fs = std::filesystem;
 namespace {
 
-// The hourglass while this lives.
-class Sablier {
-  public:
-    Sablier() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~Sablier() { QGuiApplication::restoreOverrideCursor(); }
-    Sablier(const Sablier&) = delete;
-    Sablier& operator=(const Sablier&) = delete;
-    Sablier(Sablier&&) = delete;
-    Sablier& operator=(Sablier&&) = delete;
-};
-
 std::string Titre(const Session& session) {
     return " Cahier de Trafic de " + session.indicatif + std::string(22, ' ') +
            "(version " ORVALIS_VERSION ")";
-}
-
-// The logbook on show: its name, how many contacts it holds, and whether it may be changed.
-QString NomAffiche(const Session& session) {
-    const QString nom = session.autreJournal.empty() || !session.LectureSeule()
-                            ? Q(session.indicatif)
-                            : Q(session.autreJournal) + QStringLiteral(" (lecture seule)");
-    return nom + QStringLiteral(" : %1 contact%2")
-                     .arg(session.nbFiches)
-                     .arg(session.nbFiches < 2 ? QString() : QStringLiteral("s"));
 }
 
 } // namespace
@@ -94,7 +73,6 @@ void InitialiserFenetre(Plateau& p) {
     p.menu.ActiverFermer(true);
     p.rech.setVisible(s.nbFiches != 0 && !s.EnEdition());
     p.liste.ReglerDefilement(s.nbFiches, s.nbFiches);
-    p.liste.MontrerNom(NomAffiche(s));
     p.liste.DonnerFoyer();
     p.fenetre.setWindowTitle(Q(Titre(s)));
 }

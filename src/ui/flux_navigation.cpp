@@ -31,12 +31,22 @@ void ViderCarte(Plateau& p) {
     for (std::size_t i = 1; i <= kNbBoites; ++i)
         p.fiche.MontrerBoite(i, "");
     p.fiche.MontrerNumero("  Fiche N° 0  ");
-    p.fiche.MontrerDistance("", "");
+    p.fiche.MontrerDistance("");
+    p.fiche.MontrerAzimut("");
     p.fiche.MontrerDepartement("");
     p.fiche.MontrerActiveRech(false);
 }
 
 } // namespace
+
+void MontrerNomDuJournal(Plateau& p) {
+    const Session& s = p.session;
+    const QString nom =
+        s.LectureSeule() ? Q(s.autreJournal) + QStringLiteral(" (lecture seule)") : Q(s.indicatif);
+    p.liste.MontrerNom(nom + QStringLiteral(" : %1 contact%2")
+                                 .arg(s.nbFiches)
+                                 .arg(s.nbFiches < 2 ? QString() : QStringLiteral("s")));
+}
 
 void MontrerPage(Plateau& p, std::int32_t page) {
     Session& s = p.session;
@@ -63,6 +73,7 @@ void MontrerPage(Plateau& p, std::int32_t page) {
 void RemplirListe(Plateau& p) {
     CompterFiches(p.session);
     MontrerPage(p, NbPages(p.session));
+    MontrerNomDuJournal(p);
 }
 
 void SelectionnerLigne(Plateau& p, int ligne) {
@@ -101,7 +112,8 @@ void AfficherFiche(Plateau& p) {
         p.fiche.MontrerBoite(i, s.zones[i]);
     const TextesCarte textes = TextesDeFiche(s, k);
     p.fiche.MontrerNumero(textes.numero);
-    p.fiche.MontrerDistance(textes.distance, textes.azimut);
+    p.fiche.MontrerDistance(textes.distance);
+    p.fiche.MontrerAzimut(textes.azimut);
     p.fiche.MontrerDepartement(textes.departement);
     if (textes.indicatifPresent)
         p.fiche.MontrerActiveRech(!p.contacts.isVisible());

@@ -13,6 +13,9 @@ namespace orvalis {
 /// show and its first record, and the paging buttons.
 void MontrerPage(Plateau& p, std::int32_t page);
 
+/// Shows the name of the open logbook, how many contacts it holds, and whether it is read-only.
+void MontrerNomDuJournal(Plateau& p);
+
 /// Recounts the logbook, sets the scroll bar's range and shows the last page.
 void RemplirListe(Plateau& p);
 

@@ -17,10 +17,10 @@ FraMsgFiche::FraMsgFiche(QWidget* parent)
 
 FraMsgFiche::~FraMsgFiche() = default;
 
-void FraMsgFiche::Demander(std::string_view question, std::int32_t numero,
+void FraMsgFiche::Demander(std::string_view question, std::string_view numero,
                            std::string_view indicatif) {
     setTitle(Q(question));
-    ui_->FraLab01->setText(QString::number(numero));
+    ui_->FraLab01->setText(Q(numero));
     ui_->FraLab02->setText(Q(indicatif));
     show();
 }

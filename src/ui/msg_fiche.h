@@ -3,7 +3,6 @@
 
 #include <QGroupBox>
 
-#include <cstdint>
 #include <memory>
 #include <string_view>
 
@@ -20,7 +19,7 @@ class FraMsgFiche : public QGroupBox {
     ~FraMsgFiche() override;
 
     /// Fills the frame and shows it.
-    void Demander(std::string_view question, std::int32_t numero, std::string_view indicatif);
+    void Demander(std::string_view question, std::string_view numero, std::string_view indicatif);
     void DonnerFoyerNon();
 
   Q_SIGNALS:

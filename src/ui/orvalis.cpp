@@ -23,6 +23,7 @@
 #include <QIcon>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
 #include <QTimer>
@@ -37,6 +38,25 @@ namespace {
 
 constexpr int kDemarrageAFaire = 4;
 constexpr int kDureeTic = 1000;
+
+// Something the operator does to a control.
+bool EstUnGeste(QEvent::Type type) {
+    switch (type) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::ContextMenu:
+    case QEvent::Drop:
+        return true;
+    default:
+        return false;
+    }
+}
 
 // A layout without margins of its own.
 template<typename Disposition> Disposition* SansMarges(QWidget* parent) {
@@ -73,6 +93,8 @@ Orvalis::Orvalis(Systeme& systeme, QWidget* parent)
     BrancherMenus();
     BrancherPanneaux();
     BrancherNavigation();
+    BrancherFiche();
+    BrancherSaisie();
     qApp->installEventFilter(this);
 }
 
@@ -140,14 +162,14 @@ QWidget* Orvalis::ColonneDroite() {
 }
 
 void Orvalis::Executer(const Commande& flux) {
-    if (arret_)
+    if (p_.arret || p_.gel)
         return;
     try {
         flux();
     } catch (const std::exception& echec) {
-        if (arret_)
+        if (p_.arret)
             return;
-        arret_ = true;
+        p_.arret = true;
         p_.systeme.Avertir(this, Q(MessageErreur(echec)));
         QuitterProgramme(p_, 1);
     }
@@ -165,17 +187,17 @@ bool Orvalis::event(QEvent* evenement) {
 }
 
 void Orvalis::Demarrer() {
-    if (temoinDemarrage_ != kDemarrageAFaire || demarrageEnCours_ || arret_)
+    if (temoinDemarrage_ != kDemarrageAFaire || demarrageEnCours_ || p_.arret)
         return;
     demarrageEnCours_ = true;
     Executer([this] {
-        for (auto suite = Demarrage::Recommencer; suite == Demarrage::Recommencer && !arret_;) {
+        for (auto suite = Demarrage::Recommencer; suite == Demarrage::Recommencer && !p_.arret;) {
             p_.systeme.Pause(1);
-            if (arret_)
+            if (p_.arret)
                 return;
             suite = ChargerParametres(p_);
             if (suite == Demarrage::Arreter) {
-                arret_ = true;
+                p_.arret = true;
                 QuitterProgramme(p_, 0);
                 return;
             }
@@ -188,14 +210,22 @@ void Orvalis::Demarrer() {
 
 void Orvalis::closeEvent(QCloseEvent* evenement) {
     evenement->accept();
-    if (arret_)
+    if (p_.arret)
         return;
-    arret_ = true;
+    p_.arret = true;
     QuitterProgramme(p_, 0);
 }
 
-// Enter on a button presses it, wherever it stands.
+// Enter on a button presses it, wherever it stands. While the window is frozen, what the operator
+// does reaches only what quits.
 bool Orvalis::eventFilter(QObject* objet, QEvent* evenement) {
+    if (p_.gel && EstUnGeste(evenement->type()) && objet->isWidgetType()) {
+        const auto* controle = static_cast<QWidget*>(objet);
+        const bool quitte = controle->objectName() == QLatin1String("BtFermerLog") ||
+                            qobject_cast<const QMenuBar*>(controle) != nullptr;
+        if (controle->window() == this && !quitte)
+            return true;
+    }
     if (evenement->type() == QEvent::KeyPress) {
         const int touche = static_cast<QKeyEvent*>(evenement)->key();
         auto* bouton = qobject_cast<QAbstractButton*>(objet);

@@ -39,6 +39,8 @@ class Orvalis : public QMainWindow {
     void BrancherMenus();
     void BrancherPanneaux();
     void BrancherNavigation();
+    void BrancherFiche();
+    void BrancherSaisie();
     void Demarrer();
     /// Runs a flow; a failure is told in French and ends the program with an error status.
     void Executer(const Commande& flux);
@@ -54,7 +56,6 @@ class Orvalis : public QMainWindow {
     QTimer* timer1_ = nullptr;
     int temoinDemarrage_ = 4; ///< start-up marker: 4 until the window is initialised
     bool demarrageEnCours_ = false;
-    bool arret_ = false;
 };
 
 } // namespace orvalis

@@ -65,6 +65,10 @@ void PictContacts::Selectionner(int ligne) {
     ui_->ContactsListe->setCurrentRow(ligne);
 }
 
+void PictContacts::DonnerFoyer() {
+    ui_->ContactsListe->setFocus();
+}
+
 std::int32_t PictContacts::NumeroDe(int ligne) const {
     const QListWidgetItem* element = ui_->ContactsListe->item(ligne);
     return element == nullptr ? 0 : NumeroDeLigne(S(element->text()));

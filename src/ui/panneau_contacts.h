@@ -26,6 +26,7 @@ class PictContacts : public QFrame {
     void MontrerNature(std::string_view texte);
     /// Selects a line (from 0) without reporting it.
     void Selectionner(int ligne);
+    void DonnerFoyer();
     [[nodiscard]] std::int32_t NumeroDe(int ligne) const;
 
   Q_SIGNALS:

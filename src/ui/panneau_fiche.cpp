@@ -170,9 +170,12 @@ void PictFiche::MontrerNumero(std::string_view texte) {
     noFicheLab_->setText(Q(texte));
 }
 
-void PictFiche::MontrerDistance(std::string_view distance, std::string_view azimut) {
-    labDist_->setText(Q(distance));
-    labAzim_->setText(Q(azimut));
+void PictFiche::MontrerDistance(std::string_view texte) {
+    labDist_->setText(Q(texte));
+}
+
+void PictFiche::MontrerAzimut(std::string_view texte) {
+    labAzim_->setText(Q(texte));
 }
 
 void PictFiche::MontrerDepartement(std::string_view nom) {
@@ -187,8 +190,8 @@ void PictFiche::MontrerNonEnregistre(bool visible) {
     labNonEnregistre_->setVisible(visible);
 }
 
-void ColorerZone(PictFiche& fiche, std::size_t index, int code) {
-    fiche.Boite(index).Colorer(code);
+void ColorerZone(PictFiche& fiche, std::size_t index, Couleur couleur) {
+    fiche.Boite(index).Colorer(couleur);
 }
 
 } // namespace orvalis

@@ -25,7 +25,8 @@ class PictFiche : public QFrame {
     [[nodiscard]] std::string TexteBoite(std::size_t index) const;
     void MontrerBoite(std::size_t index, std::string_view texte);
     void MontrerNumero(std::string_view texte);
-    void MontrerDistance(std::string_view distance, std::string_view azimut);
+    void MontrerDistance(std::string_view texte);
+    void MontrerAzimut(std::string_view texte);
     void MontrerDepartement(std::string_view nom);
     void MontrerActiveRech(bool visible);
     /// The badge that says that what the card shows is not in the logbook yet.
@@ -49,7 +50,7 @@ class PictFiche : public QFrame {
     QPushButton* btActiveRech_ = nullptr;
 };
 
-/// `ColorerZone`: the background of box `index` (1 to 17) by a colour code, 1 to 5.
-void ColorerZone(PictFiche& fiche, std::size_t index, int code);
+/// `ColorerZone`: the background of box `index` (1 to 17) by a colour code.
+void ColorerZone(PictFiche& fiche, std::size_t index, Couleur couleur);
 
 } // namespace orvalis

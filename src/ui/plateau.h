@@ -33,6 +33,9 @@ struct Plateau {
     PictContacts& contacts;
     FraMsgFiche& msgFiche;
     PictChangLocator& changLocator;
+
+    bool gel = false;   ///< keyboard and mouse act on nothing but quitting
+    bool arret = false; ///< the program is ending: no flow goes on
 };
 
 } // namespace orvalis

@@ -9,8 +9,6 @@
 #include <QMouseEvent>
 #include <QPalette>
 
-#include <array>
-
 namespace orvalis {
 namespace {
 
@@ -27,14 +25,6 @@ bool PaletteSombre(const QPalette& palette) {
 }
 
 } // namespace
-
-std::optional<unsigned> CouleurDeCode(int code) {
-    // At rest, (unused) grey, callsign at rest, stored card under modification, focus in entry.
-    constexpr std::array<unsigned, 4> kCouleurs = {0xE0E0E0, 0xFFFFC0, 0xFFC0C0, 0xC0FFC0};
-    if (code < 2 || code > 5)
-        return std::nullopt;
-    return kCouleurs[static_cast<std::size_t>(code) - 2];
-}
 
 ZoneSaisie::ZoneSaisie(const DescriptionBoite& boite, QWidget* parent)
     : QLineEdit(parent), boite_(boite) {
@@ -62,17 +52,17 @@ void ZoneSaisie::Montrer(const QString& texte) {
     programme_ = false;
 }
 
-void ZoneSaisie::Colorer(int code) {
-    couleur_ = code;
+void ZoneSaisie::Colorer(Couleur couleur) {
+    couleur_ = couleur;
     AppliquerCouleur();
 }
 
 void ZoneSaisie::AppliquerCouleur() {
     QPalette palette;
     const bool saQsl = boite_.index == kBoiteSaQsl;
-    const std::optional<unsigned> fond = CouleurDeCode(couleur_);
+    const std::optional<Rvb> fond = FondDe(couleur_);
     if (fond) {
-        palette.setColor(QPalette::Base, QColor::fromRgb(*fond));
+        palette.setColor(QPalette::Base, QColor(fond->rouge, fond->vert, fond->bleu));
         palette.setColor(QPalette::Text, saQsl ? QColor(0xA0, 0, 0) : QColor(Qt::black));
     } else if (saQsl) {
         palette.setColor(QPalette::Text,

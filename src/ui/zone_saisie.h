@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/boites.h"
+#include "core/saisie.h"
 
 #include <QLineEdit>
 
@@ -15,8 +16,8 @@ class ZoneSaisie : public QLineEdit {
 
     /// Shows a text as it is, past the key rules, and clears the undo history.
     void Montrer(const QString& texte);
-    /// Background by a colour code of the boxes (1 to 5); code 1 is the palette's own.
-    void Colorer(int code);
+    /// Background by a colour of the boxes; at rest it is the palette's own.
+    void Colorer(Couleur couleur);
 
   Q_SIGNALS:
     void entree(int index);                        ///< Enter, either one
@@ -42,10 +43,7 @@ class ZoneSaisie : public QLineEdit {
     QString precedent_; ///< text before the edit that the filter looks at
     bool programme_ = false;
     bool pressionRecue_ = false;
-    int couleur_ = 1;
+    Couleur couleur_ = Couleur::Repos;
 };
-
-/// Background of a colour code as 0xRRGGBB; nothing for the palette's own colour.
-[[nodiscard]] std::optional<unsigned> CouleurDeCode(int code);
 
 } // namespace orvalis
