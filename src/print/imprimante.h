@@ -24,7 +24,7 @@ enum class Orientation { Portrait, Paysage };
 enum class Suite { NouvelleLigne, MemeLigne };
 
 /// A document begins with the first drawing and is sent by TerminerDocument(). A document that
-/// is not ended is not printed. Every operation may throw ErreurImpression.
+/// is not ended is not printed.
 class Imprimante {
   public:
     virtual ~Imprimante() = default;
@@ -42,7 +42,11 @@ class Imprimante {
     /// Prints a text (UTF-8) at the current position and moves it: to the end of the text with
     /// MemeLigne, to the left edge below the text otherwise.
     virtual void Ecrire(std::string_view utf8, Suite suite) = 0;
-    void Ecrire(std::string_view utf8) { Ecrire(utf8, Suite::NouvelleLigne); }
+    /// Prints a text at a place, and no more on its line.
+    void EcrireEn(int x, int y, std::string_view utf8) {
+        Placer(x, y);
+        Ecrire(utf8, Suite::NouvelleLigne);
+    }
     /// Width of a text in the current font, in twips.
     [[nodiscard]] virtual int LargeurTexte(std::string_view utf8) const = 0;
 
@@ -50,7 +54,7 @@ class Imprimante {
     /// An unfilled rectangle between two opposite corners.
     virtual void TracerRectangle(int x1, int y1, int x2, int y2) = 0;
 
-    /// Sends the document.
+    /// Sends the document. Throws ErreurImpression.
     virtual void TerminerDocument() = 0;
 
   protected:
