@@ -8,6 +8,9 @@
 #include <QPointF>
 #include <QPrinter>
 
+#include <functional>
+#include <vector>
+
 namespace orvalis {
 
 /// True when `imprimante` leads somewhere: a printer of the system, or a PDF file with a name.
@@ -19,21 +22,18 @@ namespace orvalis {
 /// unit is a twip, and the smallest margins its paper allows, so that the origin is the corner of
 /// the printable area.
 ///
-/// The document begins at the first drawing; if this object goes without TerminerDocument() the
-/// printer is told to drop it. Failures throw ErreurImpression.
+/// The drawing is gathered and reaches the printer in one go with TerminerDocument(), since a
+/// system printer does not reliably take back a job begun: a document that is not ended prints
+/// nothing and leaves an existing PDF file alone. Only TerminerDocument() throws.
 class ImprimanteQt : public Imprimante {
   public:
     explicit ImprimanteQt(QPrinter& imprimante);
-    ImprimanteQt(const ImprimanteQt&) = delete;
-    ImprimanteQt& operator=(const ImprimanteQt&) = delete;
-    ~ImprimanteQt() override;
 
     void ChoisirPapier(Papier papier, Orientation orientation) override;
     void ChoisirPolice(std::string_view famille) override;
     void ChoisirTaille(int points) override;
     void ChoisirGras(bool gras) override;
     void Placer(int x, int y) override;
-    using Imprimante::Ecrire;
     void Ecrire(std::string_view utf8, Suite suite) override;
     [[nodiscard]] int LargeurTexte(std::string_view utf8) const override;
     void TracerLigne(int x1, int y1, int x2, int y2) override;
@@ -41,10 +41,10 @@ class ImprimanteQt : public Imprimante {
     void TerminerDocument() override;
 
   private:
-    void Commencer();
+    using Trace = std::function<void(QPainter&)>;
 
     QPrinter& imprimante_;
-    QPainter peintre_;
+    std::vector<Trace> dessin_;
     QFont police_;
     QPointF position_;
 };
