@@ -1,0 +1,344 @@
+#include "geo/dlg2.h"
+
+#include "geo/locator.h"
+#include "ui_dlg2.h"
+
+#include <QFocusEvent>
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QStyle>
+#include <QStyleOptionFrame>
+#include <QValidator>
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvalis {
+namespace {
+
+constexpr const char* kLocatorOuverture = "JN04SD";
+constexpr int kLimiteLatitude = 90;
+constexpr int kLimiteLongitude = 180;
+
+// Holds every insertion (key, paste, drop, input method) to the box's rule. A maximum length of the
+// box itself would cut a pasted text before its refused characters are dropped.
+class Filtre : public QValidator {
+  public:
+    Filtre(const RegleBoite& regleBoite, QObject* parent) : QValidator(parent), regle(regleBoite) {}
+
+    State validate(QString& texte, int& curseur) const override {
+        const auto filtre = FiltrerTexte(regle, texte.toStdU16String(),
+                                         static_cast<std::size_t>(std::max(curseur, 0)));
+        texte = QString::fromStdU16String(filtre.texte);
+        curseur = static_cast<int>(filtre.curseur);
+        return Acceptable;
+    }
+
+  private:
+    RegleBoite regle;
+};
+
+bool EstLettre(const RegleBoite& regle) {
+    return regle.genre == GenreBoite::Hemisphere || regle.genre == GenreBoite::Cote;
+}
+
+bool EstEntree(const QKeyEvent& touche) {
+    return touche.key() == Qt::Key_Return || touche.key() == Qt::Key_Enter;
+}
+
+int Entier(const QLineEdit* champ) {
+    return champ->text().toInt();
+}
+
+void AfficherEntier(QLineEdit* champ, int valeur, int chiffres) {
+    champ->setText(QStringLiteral("%1").arg(valeur, chiffres, 10, QLatin1Char('0')));
+}
+
+// As wide as its text, in whatever font and style the desktop has.
+void AjusterLargeur(QLineEdit* champ, int caracteres) {
+    champ->ensurePolished();
+    QStyleOptionFrame option;
+    option.initFrom(champ);
+    option.lineWidth = champ->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, champ);
+    const QFontMetrics mesure = champ->fontMetrics();
+    const int marge = mesure.horizontalAdvance(QLatin1Char('0'));
+    const QSize contenu(mesure.horizontalAdvance(QString(caracteres, QLatin1Char('M'))) + marge,
+                        mesure.height());
+    champ->setFixedWidth(
+        champ->style()->sizeFromContents(QStyle::CT_LineEdit, &option, contenu, champ).width());
+}
+
+} // namespace
+
+Dlg2::Dlg2(QWidget* parent) : QDialog(parent), ui(std::make_unique<Ui::Dlg2>()) {
+    ui->setupUi(this);
+    using enum GenreBoite;
+    constexpr RegleBoite kSoixante{Chiffres, 2, 60};
+    constexpr RegleBoite kDecimal{Decimal, 0, 0};
+    boites = {{
+        {ui->Fr1DegText1, {Chiffres, 2, kLimiteLatitude}, Notation::Dms, ui->Fr1MinText1},
+        {ui->Fr1MinText1, kSoixante, Notation::Dms, ui->Fr1SecText1},
+        {ui->Fr1SecText1, kSoixante, Notation::Dms, ui->Fr1LatSgnText},
+        {ui->Fr1LatSgnText, {Hemisphere, 1, 0}, Notation::Dms, ui->Fr1DegText2},
+        {ui->Fr1DegText2, {Chiffres, 3, kLimiteLongitude}, Notation::Dms, ui->Fr1MinText2},
+        {ui->Fr1MinText2, kSoixante, Notation::Dms, ui->Fr1SecText2},
+        {ui->Fr1SecText2, kSoixante, Notation::Dms, ui->Fr1LonSgnText},
+        {ui->Fr1LonSgnText, {Cote, 1, 0}, Notation::Dms, ui->Fr1CmdFermer},
+        {ui->Fr1LatCent, kDecimal, Notation::Decimale, ui->Fr1LonCent},
+        {ui->Fr1LonCent, kDecimal, Notation::Decimale, ui->Fr1CmdFermer},
+        {ui->Fr1TextLocator,
+         {GenreBoite::Locator, kLargeurLocator, 0},
+         Notation::Locator,
+         ui->Fr1CmdFermer},
+    }};
+    QFont grand = ui->Fr1TextLocator->font();
+    grand.setBold(true);
+    ui->Fr1TextLocator->setFont(grand);
+    for (const Boite& boite : boites) {
+        PreparerBoite(boite);
+    }
+    for (QLabel* legende : {ui->Fr1LabDms, ui->Fr1LabCent, ui->Fr1LabLocator}) {
+        legende->installEventFilter(this);
+    }
+    connect(ui->Fr1CmdFermer, &QPushButton::clicked, this, &QDialog::accept);
+}
+
+Dlg2::~Dlg2() = default;
+
+void Dlg2::PreparerBoite(const Boite& boite) {
+    constexpr int kLargeurDecimale = 8; // "-179.9583" in digits, which are narrower than an M
+    boite.champ->setValidator(new Filtre(boite.regle, boite.champ));
+    boite.champ->installEventFilter(this);
+    AjusterLargeur(boite.champ, boite.regle.largeur > 0 ? static_cast<int>(boite.regle.largeur)
+                                                        : kLargeurDecimale);
+    connect(boite.champ, &QLineEdit::textEdited, this,
+            [this, &boite] { TraiterChangement(boite); });
+}
+
+std::optional<std::string> Dlg2::LocatorModifie() const {
+    return modifie ? std::optional(locator) : std::nullopt;
+}
+
+void Dlg2::showEvent(QShowEvent* evenement) {
+    // Coming back from an icon or from another window is no new opening.
+    if (!evenement->spontaneous()) {
+        Ouvrir();
+    }
+    QDialog::showEvent(evenement);
+}
+
+// The button is no default button, which would look pressed by Enter in the boxes too; so Enter has
+// to be brought to it when it has the focus.
+void Dlg2::keyPressEvent(QKeyEvent* evenement) {
+    if (EstEntree(*evenement) && ui->Fr1CmdFermer->hasFocus()) {
+        ui->Fr1CmdFermer->click();
+    } else {
+        QDialog::keyPressEvent(evenement);
+    }
+}
+
+void Dlg2::Ouvrir() {
+    notation = Notation::Locator;
+    locator = kLocatorOuverture;
+    locatorEdite = false;
+    modifie = false;
+    ui->Fr1TextLocator->setText(QString::fromStdString(locator));
+    AfficherDepuisLocator();
+    ui->Fr1CmdFermer->setFocus();
+}
+
+bool Dlg2::eventFilter(QObject* objet, QEvent* evenement) {
+    // The shortcut of a notation's caption is the keyboard's way to click its first box.
+    const auto* legende = qobject_cast<QLabel*>(objet);
+    const QObject* vise = legende != nullptr ? legende->buddy() : objet;
+    const auto boite =
+        std::find_if(boites.begin(), boites.end(), [&](const Boite& b) { return b.champ == vise; });
+    if (boite == boites.end()) {
+        return QDialog::eventFilter(objet, evenement);
+    }
+    if (legende != nullptr) {
+        if (evenement->type() == QEvent::Shortcut) {
+            Choisir(*boite);
+        }
+        return false;
+    }
+    switch (evenement->type()) {
+    case QEvent::KeyPress:
+        return TraiterTouche(*boite, *static_cast<QKeyEvent*>(evenement));
+    case QEvent::MouseButtonRelease:
+        if (static_cast<QMouseEvent*>(evenement)->button() == Qt::LeftButton) {
+            Choisir(*boite);
+        }
+        return false;
+    case QEvent::FocusIn:
+    case QEvent::FocusOut: {
+        // A window that comes and goes, or a context menu, neither enters a box nor leaves it.
+        const auto raison = static_cast<QFocusEvent*>(evenement)->reason();
+        if (raison == Qt::ActiveWindowFocusReason || raison == Qt::PopupFocusReason) {
+            return false;
+        }
+        if (evenement->type() == QEvent::FocusOut) {
+            Quitter(*boite);
+        } else {
+            boite->champ->selectAll();
+        }
+        return false;
+    }
+    default:
+        return false;
+    }
+}
+
+// True when the key goes no further. Refused keys must stop here: the box would first let them
+// replace the selection.
+bool Dlg2::TraiterTouche(const Boite& boite, const QKeyEvent& touche) {
+    if (EstEntree(touche)) {
+        Confirmer(boite);
+        return true;
+    }
+    // Kept on purpose: Backspace does not empty a letter box.
+    if (EstLettre(boite.regle) && touche.key() == Qt::Key_Backspace) {
+        return true;
+    }
+    const QString texte = touche.text();
+    const bool commande = (touche.modifiers() & ~Qt::ShiftModifier) == Qt::ControlModifier;
+    if (commande || texte.isEmpty() || !texte.front().isPrint()) {
+        return false;
+    }
+    const bool plein = boite.regle.largeur > 0 && !boite.champ->hasSelectedText() &&
+                       boite.champ->text().size() >= static_cast<int>(boite.regle.largeur);
+    return plein || FiltrerCaractere(boite.regle.genre, texte.front().unicode()) == 0;
+}
+
+// Enter takes a complete locator over; in the other boxes, whose values are taken over as they are
+// typed, it only moves on.
+void Dlg2::Confirmer(const Boite& boite) {
+    if (boite.notation == Notation::Locator) {
+        const std::string saisi = boite.champ->text().toStdString();
+        if (!LocatorValide(saisi)) {
+            return;
+        }
+        RetenirLocator(saisi);
+        AfficherDepuisLocator();
+    }
+    boite.suivant->setFocus();
+}
+
+// Kept on purpose: only choosing a notation, by a click or by the shortcut of its caption, makes
+// its boxes drive the others; passing through a box with the Tab key does not.
+void Dlg2::Choisir(const Boite& boite) {
+    notation = boite.notation;
+    boite.champ->selectAll();
+}
+
+void Dlg2::Quitter(const Boite& boite) {
+    if (boite.notation != Notation::Locator) {
+        return;
+    }
+    const std::string saisi = boite.champ->text().toStdString();
+    if (boite.champ->text().size() < static_cast<int>(kLargeurLocator)) {
+        boite.champ->setText(QString::fromStdString(locator));
+        AfficherDepuisLocator();
+    } else if (locatorEdite && LocatorValide(saisi)) {
+        // Left without Enter, a complete locator would contradict the coordinates beside it.
+        RetenirLocator(saisi);
+        AfficherDepuisLocator();
+    }
+    locatorEdite = false;
+}
+
+void Dlg2::TraiterChangement(const Boite& boite) {
+    if (boite.notation == Notation::Locator) {
+        locatorEdite = true;
+    } else if (boite.notation == notation) {
+        if (notation == Notation::Dms) {
+            ChangerDms(boite);
+        } else {
+            ChangerDecimal(boite);
+        }
+    }
+}
+
+void Dlg2::ChangerDms(const Boite& boite) {
+    const bool refuse = boite.regle.limite > 0 && Entier(boite.champ) >= boite.regle.limite;
+    if (refuse) {
+        AfficherEntier(boite.champ, 0, static_cast<int>(boite.regle.largeur));
+        boite.champ->selectAll();
+    }
+    CalculerDepuisDMS();
+    const bool complet = boite.champ->text().size() == static_cast<int>(boite.regle.largeur);
+    if (!refuse && (complet || EstLettre(boite.regle))) {
+        boite.suivant->setFocus();
+    }
+}
+
+void Dlg2::ChangerDecimal(const Boite& boite) {
+    const float lu = LireDecimal(boite.champ->text().toStdString());
+    (boite.champ == ui->Fr1LatCent ? latitude : longitude) = lu;
+    if (std::abs(latitude) < kLimiteLatitude && std::abs(longitude) < kLimiteLongitude) {
+        RetenirLocator(CoordVersLocator(latitude, longitude));
+        AfficherDms();
+    }
+}
+
+void Dlg2::CalculerDepuisDMS() {
+    const auto lire = [](const QLineEdit* degres, const QLineEdit* minutes,
+                         const QLineEdit* secondes) {
+        return DmsVersDecimal({Entier(degres), Entier(minutes), Entier(secondes)});
+    };
+    latitude = lire(ui->Fr1DegText1, ui->Fr1MinText1, ui->Fr1SecText1);
+    longitude = lire(ui->Fr1DegText2, ui->Fr1MinText2, ui->Fr1SecText2);
+    if (ui->Fr1LatSgnText->text() == QLatin1String("S")) {
+        latitude = -latitude;
+    }
+    if (ui->Fr1LonSgnText->text() == QLatin1String("E")) {
+        longitude = -longitude;
+    }
+    AfficherDecimal();
+    RetenirLocator(CoordVersLocator(latitude, longitude));
+}
+
+void Dlg2::AfficherDepuisLocator() {
+    latitude = static_cast<float>(LocatorVersLatitude(locator));
+    longitude = static_cast<float>(LocatorVersLongitude(locator));
+    AfficherDecimal();
+    AfficherDms();
+}
+
+void Dlg2::AfficherDecimal() {
+    ui->Fr1LatCent->setText(QString::fromStdString(FormaterDecimal(latitude)));
+    ui->Fr1LonCent->setText(QString::fromStdString(FormaterDecimal(longitude)));
+}
+
+void Dlg2::AfficherDms() {
+    // A zero leaves the letter as it was.
+    if (latitude != 0) {
+        ui->Fr1LatSgnText->setText(latitude < 0 ? QStringLiteral("S") : QStringLiteral("N"));
+    }
+    if (longitude != 0) {
+        ui->Fr1LonSgnText->setText(longitude < 0 ? QStringLiteral("E") : QStringLiteral("O"));
+    }
+    const Dms lat = DecimalVersDms(latitude);
+    AfficherEntier(ui->Fr1DegText1, lat.degres, 2);
+    AfficherEntier(ui->Fr1MinText1, lat.minutes, 2);
+    AfficherEntier(ui->Fr1SecText1, lat.secondes, 2);
+    const Dms lon = DecimalVersDms(longitude);
+    AfficherEntier(ui->Fr1DegText2, lon.degres, 3);
+    AfficherEntier(ui->Fr1MinText2, lon.minutes, 2);
+    AfficherEntier(ui->Fr1SecText2, lon.secondes, 2);
+}
+
+// Takes over what the operator worked out; the few points that rounding pushes off the globe have
+// no locator and leave the last one.
+void Dlg2::RetenirLocator(const std::string& nouveau) {
+    if (!LocatorValide(nouveau)) {
+        return;
+    }
+    locator = nouveau;
+    locatorEdite = false;
+    modifie = true;
+    ui->Fr1TextLocator->setText(QString::fromStdString(locator));
+}
+
+} // namespace orvalis

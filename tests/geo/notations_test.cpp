@@ -1,0 +1,94 @@
+#include "geo/notations.h"
+
+#include <array>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace orvalis;
+
+TEST(Notations, DegresMinutesSecondes) {
+    struct {
+        Dms dms;
+        const char* decimal;
+    } const cas[] = {{{44, 8, 45}, "44.1375"}, {{0, 0, 0}, "0.0000"},  {{0, 0, 1}, "0.0001"},
+                     {{0, 1, 0}, "0.0200"},    {{1, 30, 3}, "1.5005"}, {{179, 59, 59}, "179.9898"},
+                     {{44, 60, 0}, "45.0000"}};
+    for (const auto& c : cas) {
+        EXPECT_EQ(FormaterDecimal(DmsVersDecimal(c.dms)), c.decimal);
+    }
+    const std::pair<float, std::array<int, 3>> inverse[] = {
+        {44.1458F, {44, 8, 35}},
+        {-1.5417F, {1, 32, 10}},
+        {-44.1375F, {44, 8, 45}},
+        {179.9898F, {179, 59, 59}},
+        {44.99996F, {44, 60, 0}}}; // no carry into the degrees
+    for (const auto& [decimal, attendu] : inverse) {
+        const Dms dms = DecimalVersDms(decimal);
+        EXPECT_EQ((std::array{dms.degres, dms.minutes, dms.secondes}), attendu) << decimal;
+    }
+}
+
+TEST(Notations, TexteDecimal) {
+    const std::pair<float, const char*> formats[] = {
+        {44.145832F, "44.1458"}, {-1.5416666F, "-1.5417"},  {0.03125F, "0.0313"},
+        {-0.03125F, "-0.0313"},  {-0.00001F, "0.0000"},     {-0.0F, "0.0000"},
+        {0.99996F, "1.0000"},    {-179.95833F, "-179.9583"}};
+    for (const auto& [valeur, attendu] : formats) {
+        EXPECT_EQ(FormaterDecimal(valeur), attendu);
+    }
+    const std::pair<float, std::vector<std::string>> lectures[] = {
+        {44, {"44", "44/5", "44-4", "44.", "44.0.2", "44e5", "044"}},
+        {-0.5F, {"-.5", "-0.5", "-.5.5"}},
+        {0, {"", "-", ".", "--5", "/5", "inf", "nan", "0." + std::string(400, '0') + "1"}},
+        {1000, {"99999", std::string(400, '9')}},
+        {-1000, {"-" + std::string(400, '9')}}};
+    for (const auto& [attendu, textes] : lectures) {
+        for (const std::string& texte : textes) {
+            EXPECT_EQ(LireDecimal(texte), attendu) << texte;
+        }
+    }
+}
+
+TEST(Notations, CaracteresAcceptes) {
+    const std::pair<GenreBoite, std::u16string> cas[] = {{GenreBoite::Chiffres, u"0123456789"},
+                                                         {GenreBoite::Hemisphere, u"NSns"},
+                                                         {GenreBoite::Cote, u"EOeo"},
+                                                         {GenreBoite::Decimal, u"-./0123456789"}};
+    for (const auto& [genre, acceptes] : cas) {
+        for (char16_t c = 1; c < 0x180; ++c) {
+            const bool accepte = acceptes.find(c) != std::u16string::npos;
+            EXPECT_EQ(FiltrerCaractere(genre, c) != 0, accepte) << static_cast<int>(c);
+        }
+    }
+    EXPECT_EQ(FiltrerCaractere(GenreBoite::Cote, u'o'), u'O');
+    const std::pair<char16_t, char16_t> locator[] = {
+        {u'j', u'J'}, {u'0', u'0'},   {u'-', u'-'}, {u'\u00E9', u'\u00C9'},
+        {u'\n', 0},   {u'\u0085', 0}, {0x7F, 0},    {u'\u20AC', 0}};
+    for (const auto& [tape, attendu] : locator) {
+        EXPECT_EQ(FiltrerCaractere(GenreBoite::Locator, tape), attendu);
+    }
+}
+
+TEST(Notations, TexteInsere) {
+    const RegleBoite chiffres{GenreBoite::Chiffres, 2, 90};
+    struct {
+        RegleBoite regle;
+        std::u16string texte;
+        std::size_t curseur;
+        std::u16string attendu;
+        std::size_t curseurAttendu;
+    } const cas[] = {{chiffres, u"4a5", 3, u"45", 2},   // dropped before the cut
+                     {chiffres, u"9x844", 3, u"44", 0}, // what stood behind the insertion stays
+                     {chiffres, u"4995", 3, u"45", 1},
+                     {{GenreBoite::Locator, 6, 0}, u"jn04\tsd!", 8, u"JN04SD", 6}};
+    for (const auto& c : cas) {
+        const auto filtre = FiltrerTexte(c.regle, c.texte, c.curseur);
+        EXPECT_EQ(filtre.texte, c.attendu);
+        EXPECT_EQ(filtre.curseur, c.curseurAttendu);
+    }
+}
+
+} // namespace
