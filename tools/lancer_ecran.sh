@@ -27,7 +27,8 @@ declare -a enfants=()
 finir() {
     local pid
     for pid in "${enfants[@]}"; do
-        kill "$pid" 2>/dev/null && wait "$pid" 2>/dev/null || true
+        kill "$pid" 2>/dev/null || continue
+        wait "$pid" 2>/dev/null || true
     done
     rm -rf "$travail"
 }
@@ -46,11 +47,17 @@ demarrer_ecran() {
     fi
     export DISPLAY=:$numero
     unset WAYLAND_DISPLAY
-    # A window manager gives windows their title bar and the keyboard, as on a real desktop.
-    if command -v openbox >/dev/null; then
-        HOME=$travail openbox --sm-disable >/dev/null 2>&1 </dev/null &
-        enfants=($! "${enfants[@]}")
-    fi
+    # A window manager gives windows their title bar and the keyboard, as on a real desktop; a
+    # window that comes up before it is ready would never become active.
+    HOME=$travail openbox --sm-disable >/dev/null 2>&1 </dev/null &
+    enfants=($! "${enfants[@]}")
+    local essai
+    for ((essai = 0; essai < 100; ++essai)); do
+        [[ $(xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null) != *"window id"* ]] || return 0
+        sleep 0.1
+    done
+    echo "Le gestionnaire de fenêtres n'a pas démarré." >&2
+    return 1
 }
 
 # Qt reads palette and font of a KDE desktop from one plain file: the lightest way to a dark one.
@@ -81,7 +88,7 @@ ForegroundVisited=155,89,182
 
 attendre_fenetre() {
     local titre=${TITRE:-Cahier de Trafic de} fin=$((SECONDS + ${ATTENTE:-20}))
-    until xwininfo -root -tree 2>/dev/null | grep -qF "$titre"; do
+    until [[ $(xwininfo -root -tree 2>/dev/null) == *"$titre"* ]]; do
         if ! kill -0 "$PID_ORVALIS" 2>/dev/null; then
             echo "Le programme s'est arrêté avant d'ouvrir sa fenêtre :" >&2
             cat "$travail/orvalis.log" >&2

@@ -8,6 +8,8 @@
 #include "core/parametres.h"
 #include "core/texte.h"
 #include "geo/locator.h"
+#include "qsl/contact_etiquette.h"
+#include "qsl/feuille_qsl.h"
 
 #include <array>
 #include <cstdio>
@@ -25,8 +27,25 @@ const std::string kIndicatif = "F4YZX";
 const std::string kLocator = "JN18DU";
 
 /// The column order of the table. The remark and the manager are the two halves of INFO.
-enum Colonne : std::size_t { Indicatif, Date, Debut, Fin, Frequence, Mode, Donne, Recu, Qth, Locator,
-                             Departement, Prenom, Infos, Manager, MaQsl, SaQsl, kNbColonnes };
+enum Colonne : std::size_t {
+    Indicatif,
+    Date,
+    Debut,
+    Fin,
+    Frequence,
+    Mode,
+    Donne,
+    Recu,
+    Qth,
+    Locator,
+    Departement,
+    Prenom,
+    Infos,
+    Manager,
+    MaQsl,
+    SaQsl,
+    kNbColonnes
+};
 using Ligne = std::array<std::string, kNbColonnes>;
 
 struct ChampDeColonne {
@@ -49,6 +68,7 @@ constexpr std::array<ChampDeColonne, 14> kChampsDesColonnes = {{
     {MaQsl, Champ::MQSL},
     {SaQsl, Champ::SQSL},
 }};
+const std::string kMerci = "MERCI DU QSO 73"; // first line of the labels
 constexpr std::size_t kDemiInfo = 15;
 
 Ligne Decouper(const std::string& texte) {
@@ -105,6 +125,35 @@ std::vector<QsoRecord> LireTable(const std::string& chemin) {
     return fiches;
 }
 
+// The pending cards, in the order of the log, on the first places of the sheet.
+std::vector<QslSlotRecord> Etiquettes(const std::vector<QsoRecord>& fiches) {
+    std::vector<QslSlotRecord> etiquettes;
+    for (std::size_t i = 0; i < fiches.size(); ++i) {
+        const QsoRecord& fiche = fiches[i];
+        if (TexteRogne(fiche, Champ::MQSL) != kEnCours)
+            continue;
+        const auto copier = [&](ChampEtiquette vers, Champ de) {
+            MettreChamp(etiquettes.back(), vers, TexteRogne(fiche, de));
+        };
+        QslSlotRecord& etiquette = etiquettes.emplace_back();
+        copier(ChampEtiquette::Indicatif, Champ::CSGN);
+        copier(ChampEtiquette::Date, Champ::DQSO);
+        copier(ChampEtiquette::Heure, Champ::HDEB);
+        copier(ChampEtiquette::Frequence, Champ::FREQ);
+        copier(ChampEtiquette::Report, Champ::SRST);
+        copier(ChampEtiquette::Mode, Champ::MODE);
+        MettreChamp(etiquette, ChampEtiquette::Ligne1, kMerci);
+        MettreChamp(etiquette, ChampEtiquette::Ligne2,
+                    Rogner(Gauche(TexteChamp(fiche, Champ::INFO), kDemiInfo)));
+        MettreChamp(etiquette, ChampEtiquette::Voie, kVoieBureau);
+        MettreChamp(etiquette, ChampEtiquette::NumeroFiche, std::to_string(i + 1));
+    }
+    QslSlotRecord libre;
+    MettreChamp(libre, ChampEtiquette::Indicatif, kMarqueLibre);
+    etiquettes.resize(kNbEtiquettes, libre);
+    return etiquettes;
+}
+
 } // namespace
 
 int main(int nbArguments, char** arguments) try {
@@ -119,6 +168,9 @@ int main(int nbArguments, char** arguments) try {
     const std::string nom = NomDuJournal(kIndicatif);
     Journal journal(dossier / nom, ModeFichier::Creation);
     journal.Ecrire(1, fiches);
+    const std::vector<QslSlotRecord> etiquettes = Etiquettes(fiches);
+    Fichier feuille(dossier / kNomFeuilleQSL, ModeFichier::Creation);
+    feuille.Ecrire(0, {etiquettes.data()->octets.data(), etiquettes.size() * kTailleEtiquette});
     EcrireParametres(dossier / kNomParametresEcrits, {kIndicatif, nom, kLocator});
     return 0;
 } catch (const std::exception& erreur) {
