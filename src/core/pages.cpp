@@ -30,6 +30,30 @@ std::string LigneListe(std::int32_t k, const QsoRecord& fiche) {
                   kLargeurLigne);
 }
 
+std::optional<MouvementListe> PageDeTouche(ToucheListe touche, std::int32_t courante, int ligne,
+                                           std::int32_t nbPages) {
+    const std::int32_t page = CalculerPages(courante);
+    switch (touche) {
+    case ToucheListe::PagePrecedente:
+        if (page >= 2)
+            return MouvementListe{page - 1, false};
+        break;
+    case ToucheListe::Haut:
+        if (ligne == 0 && page >= 2)
+            return MouvementListe{page - 1, true};
+        break;
+    case ToucheListe::PageSuivante:
+        if (page < nbPages)
+            return MouvementListe{page + 1, false};
+        break;
+    case ToucheListe::Bas:
+        if (ligne == kFichesParPage - 1 && page < nbPages)
+            return MouvementListe{page + 1, false};
+        break;
+    }
+    return std::nullopt;
+}
+
 std::int32_t NumeroDeLigne(std::string_view ligne) {
     return ValeurNumerique(Gauche(ligne, 6));
 }

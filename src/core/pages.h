@@ -4,7 +4,9 @@
 #include "core/qso_record.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace orvalis {
 
@@ -28,5 +30,18 @@ struct PlagePage {
 
 /// Record number that begins a line of the log list or of the contacts list.
 [[nodiscard]] std::int32_t NumeroDeLigne(std::string_view ligne);
+
+enum class ToucheListe { PagePrecedente, PageSuivante, Haut, Bas };
+
+/// Where a key of the log list leads: a page and the line that becomes current there.
+struct MouvementListe {
+    std::int32_t page = 1;
+    bool derniereLigne = false; ///< the last line of the page instead of the first
+};
+
+/// Page move of a key pressed in the log list while record `courante` is on the card and the
+/// line `ligne` (from 0, -1 for none) is selected; nothing when the key moves no page.
+[[nodiscard]] std::optional<MouvementListe> PageDeTouche(ToucheListe touche, std::int32_t courante,
+                                                         int ligne, std::int32_t nbPages);
 
 } // namespace orvalis

@@ -1,0 +1,45 @@
+#include "core/creation.h"
+
+#include "core/dossier.h"
+#include "core/journal.h"
+#include "core/texte.h"
+
+namespace orvalis {
+namespace fs = std::filesystem;
+namespace {
+
+// The Settings file keeps whatever name it has; a new one gets the name with the capital V.
+fs::path CheminParametres(const fs::path& dossier) {
+    const fs::path present = TrouverFichier(dossier, kNomParametres);
+    return fs::exists(present) ? present : dossier / fs::path{kNomParametresEcrits};
+}
+
+} // namespace
+
+bool CreerCahier(const fs::path& lecteur, const Parametres& parametres) {
+    constexpr std::size_t kLongueurLocator = 6;
+    const fs::path dossier = DossierProgramme(lecteur);
+    std::error_code erreur;
+    fs::create_directory(dossier, erreur);
+    if (!fs::is_directory(dossier, erreur))
+        return false;
+    // Kept on purpose: callsigns of 1, 8, 9, 16 or 17 characters create nothing, silently.
+    if ((kLongueurLocator & Longueur(parametres.indicatif)) == 0)
+        return false;
+    Journal journal(TrouverFichier(dossier, parametres.nomFichier), ModeFichier::Creation);
+    EcrireParametres(CheminParametres(dossier), parametres);
+    // An existing logbook is not emptied: only its first record becomes the end of the log.
+    journal.Ecrire(1, FicheFinDeLog(parametres.monLocator));
+    journal.Support().Synchroniser();
+    return true;
+}
+
+std::string CheminProgrammeTexte(const fs::path& lecteur, std::string_view nom) {
+    std::string texte = TexteLecteur(lecteur) + std::string{kNomDossier};
+    const char separateur = texte.size() > 1 && texte[1] == ':'
+                                ? '\\'
+                                : static_cast<char>(fs::path::preferred_separator);
+    return texte + separateur + std::string{nom};
+}
+
+} // namespace orvalis

@@ -1,0 +1,20 @@
+// The creation of a station's logbook on the first run.
+#pragma once
+
+#include "core/parametres.h"
+
+#include <filesystem>
+#include <string>
+
+namespace orvalis {
+
+/// Creates the program folder on `lecteur` when it is missing, writes the Settings file and an
+/// empty logbook. Returns false, without a word and without having written a file, when the
+/// folder cannot be made or the length of the callsign does not pass. Throws ErreurFichier.
+[[nodiscard]] bool CreerCahier(const std::filesystem::path& lecteur, const Parametres& parametres);
+
+/// Path of a file of the program folder as messages show it, native separators (UTF-8).
+[[nodiscard]] std::string CheminProgrammeTexte(const std::filesystem::path& lecteur,
+                                               std::string_view nom);
+
+} // namespace orvalis

@@ -1,0 +1,30 @@
+#include "core/locator_station.h"
+
+#include "core/dossier.h"
+#include "core/parametres.h"
+#include "core/texte.h"
+#include "geo/locator.h"
+
+namespace orvalis {
+
+VerdictLocator ControlerLocatorStation(std::string_view texte) {
+    const std::string_view rogne = Rogner(texte);
+    if (Longueur(rogne) != kLargeurLocator)
+        return VerdictLocator::Rien;
+    return LocatorValide(rogne) ? VerdictLocator::Accepte : VerdictLocator::Refuse;
+}
+
+void ChangerLocatorStation(Session& session, std::string_view texte, bool garder) {
+    const std::string locator = Cadrer(Rogner(texte), kLargeurLocator);
+    if (garder) {
+        const auto chemin = TrouverFichier(DossierProgramme(session.lecteur), kNomParametres);
+        Parametres parametres = LireParametres(chemin);
+        parametres.monLocator = locator;
+        EcrireParametres(chemin, parametres);
+    }
+    session.monLocator = locator;
+    if (session.saisie.EnSaisie)
+        session.zones[static_cast<std::size_t>(Champ::MLOC)] = locator;
+}
+
+} // namespace orvalis

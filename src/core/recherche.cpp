@@ -1,0 +1,149 @@
+#include "core/recherche.h"
+
+#include "core/texte.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+namespace orvalis {
+namespace {
+
+constexpr std::size_t kLargeurNumero = 6;
+constexpr std::size_t kLargeurTexte = 40;
+constexpr std::size_t kLargeurDate = Description(Champ::DQSO).largeur;
+// Callsign, date, times and frequency lie together at the head of a record.
+constexpr std::size_t kOctetsDoublon = Description(Champ::MODE).decalage;
+
+constexpr std::string_view kSeparateurs = "/.: ";
+
+std::array<char, 256> TableMajuscules() {
+    std::array<char, 256> table = {};
+    for (std::size_t octet = 0; octet < table.size(); ++octet)
+        table[octet] = static_cast<char>(MajusculeCp1252(static_cast<unsigned char>(octet)));
+    return table;
+}
+
+// Bytes in upper case, so that texts compare without regard to case and without decoding.
+class Pliage {
+  public:
+    [[nodiscard]] char Plier(char c) const { return table_[static_cast<unsigned char>(c)]; }
+    [[nodiscard]] std::string Plier(std::string_view octets) const {
+        std::string sortie{octets};
+        for (char& c : sortie)
+            c = Plier(c);
+        return sortie;
+    }
+    /// Whether `cherche`, already folded, occurs in `octets`.
+    [[nodiscard]] bool Contient(std::string_view octets, std::string_view cherche) const {
+        const auto memeLettre = [this](char a, char b) { return Plier(a) == b; };
+        return std::search(octets.begin(), octets.end(), cherche.begin(), cherche.end(),
+                           memeLettre) != octets.end();
+    }
+
+  private:
+    std::array<char, 256> table_ = TableMajuscules();
+};
+
+std::string Ligne(std::int32_t k, std::string_view texte) {
+    return Cadrer(std::to_string(k), kLargeurNumero) + Cadrer(texte, kLargeurTexte);
+}
+
+std::string LigneContact(std::int32_t k, const QsoRecord& fiche) {
+    return Ligne(k, "Le " + Cadrer(TexteRogne(fiche, Champ::DQSO), kLargeurDate) + " à " +
+                        Cadrer(TexteRogne(fiche, Champ::HDEB), Description(Champ::HDEB).largeur) +
+                        " sur " + TexteRogne(fiche, Champ::FREQ) + " Mhz");
+}
+
+std::string LigneDoublon(std::int32_t k, const QsoRecord& seconde) {
+    constexpr std::size_t kLargeurIndicatif = 10;
+    std::string texte =
+        DepuisCp1252(OctetsChamp(seconde, Champ::CSGN).substr(0, kLargeurIndicatif));
+    texte.insert(0, 1, ' ');
+    texte += "Le " + TexteChamp(seconde, Champ::DQSO) + " à " + TexteChamp(seconde, Champ::HDEB);
+    return Ligne(k, texte);
+}
+
+template<typename Retenir>
+std::vector<std::string> Parcourir(const Journal& journal, std::int32_t nbFiches, Retenir retenir) {
+    std::vector<std::string> lignes;
+    LecteurFiches lecteur(journal);
+    for (std::int32_t k = 1; k <= nbFiches; ++k)
+        if (const QsoRecord& fiche = lecteur.Lire(k); retenir(fiche))
+            lignes.push_back(LigneContact(k, fiche));
+    return lignes;
+}
+
+ResultatRecherche ParIndicatif(const Journal& journal, std::int32_t nbFiches,
+                               std::string_view texte) {
+    const Pliage pliage;
+    const std::string cherche = pliage.Plier(VersCp1252(Rogner(texte)));
+    // The lengths first: they settle most records without looking at their letters.
+    const auto estContact = [&](const QsoRecord& fiche) {
+        const std::string_view indicatif = Rogner(OctetsChamp(fiche, Champ::CSGN));
+        const std::size_t n = cherche.size();
+        return indicatif.size() >= n && (indicatif.size() == n || indicatif[n] == '/') &&
+               pliage.Contient(indicatif, cherche);
+    };
+    ResultatRecherche resultat;
+    if (!cherche.empty())
+        resultat.lignes = Parcourir(journal, nbFiches, estContact);
+    const std::size_t nb = resultat.lignes.size();
+    resultat.nbreContacts =
+        std::to_string(nb) + (nb < 2 ? " Contact réalisé" : " Contacts réalisés");
+    resultat.contactsLab.emplace();
+    return resultat;
+}
+
+ResultatRecherche ParDate(const Journal& journal, std::int32_t nbFiches, std::string_view texte) {
+    const Pliage pliage;
+    const std::string cherche = VersCp1252(Rogner(texte));
+    const auto estListee = [&](const QsoRecord& fiche) {
+        std::string date = pliage.Plier(Rogner(OctetsChamp(fiche, Champ::DQSO)));
+        date.resize(kLargeurDate, ' ');
+        return pliage.Contient(cherche, date);
+    };
+    ResultatRecherche resultat;
+    if (cherche.size() >= kLargeurDate)
+        resultat.lignes = Parcourir(journal, nbFiches, estListee);
+    const std::size_t nb = resultat.lignes.size();
+    resultat.nbreContacts = std::to_string(nb);
+    // Kept on purpose: with exactly two the label keeps what it showed before.
+    if (nb != 2)
+        resultat.contactsLab = nb > 2 ? "Contacts" : "Contact";
+    return resultat;
+}
+
+} // namespace
+
+bool EstDateOuHeure(std::string_view texte) {
+    const auto separateurEn = [texte](std::size_t position) {
+        const std::string_view c = Milieu(texte, position, 1);
+        return !c.empty() && kSeparateurs.find(c) != std::string_view::npos;
+    };
+    return separateurEn(3) && separateurEn(6);
+}
+
+ResultatRecherche ChercherContacts(const Journal& journal, std::int32_t nbFiches,
+                                   std::string_view texte) {
+    return EstDateOuHeure(texte) ? ParDate(journal, nbFiches, texte)
+                                 : ParIndicatif(journal, nbFiches, texte);
+}
+
+ResultatRecherche ChercherDoublons(const Journal& journal, std::int32_t nbFiches) {
+    ResultatRecherche resultat;
+    LecteurFiches lecteur(journal);
+    std::array<char, kOctetsDoublon> precedente = {};
+    for (std::int32_t k = 1; k <= nbFiches && nbFiches > 1; ++k) {
+        const QsoRecord& fiche = lecteur.Lire(k);
+        if (k > 1 && std::memcmp(precedente.data(), fiche.octets.data(), kOctetsDoublon) == 0)
+            resultat.lignes.push_back(LigneDoublon(k - 1, fiche));
+        std::memcpy(precedente.data(), fiche.octets.data(), kOctetsDoublon);
+    }
+    const std::size_t nb = resultat.lignes.size();
+    resultat.nbreContacts = std::to_string(nb);
+    resultat.contactsLab = nb < 2 ? "Doublon trouvé" : "Doublons trouvés";
+    return resultat;
+}
+
+} // namespace orvalis

@@ -1,0 +1,36 @@
+// Contacts made with a station or on a date, and contacts logged twice: one sequential pass over
+// the raw records, of which only those found are decoded.
+#pragma once
+
+#include "core/journal.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orvalis {
+
+/// What the contacts panel shows. Each line begins with its record number in six characters
+/// (NumeroDeLigne reads it back). The first line, if any, is to be selected.
+struct ResultatRecherche {
+    std::vector<std::string> lignes;
+    std::string nbreContacts;               ///< NbreContacts
+    std::optional<std::string> contactsLab; ///< ContactsLab; nothing: it keeps what it shows
+};
+
+/// Whether a searched text looks like a date or a time: "/", ".", ":" or a blank at positions 3
+/// and 6.
+[[nodiscard]] bool EstDateOuHeure(std::string_view texte);
+
+/// Contacts among records 1 to `nbFiches` for a searched text: by date when it looks like one,
+/// else by callsign, suffixed forms (F5ABC/P for F5ABC) included. Throws ErreurFichier.
+[[nodiscard]] ResultatRecherche ChercherContacts(const Journal& journal, std::int32_t nbFiches,
+                                                 std::string_view texte);
+
+/// Neighbouring records of equal callsign, date, times and frequency among 1 to `nbFiches`, each
+/// pair under the number of its first record. Throws ErreurFichier.
+[[nodiscard]] ResultatRecherche ChercherDoublons(const Journal& journal, std::int32_t nbFiches);
+
+} // namespace orvalis

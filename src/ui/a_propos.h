@@ -1,0 +1,26 @@
+// The About box.
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+namespace orvalis::Ui {
+class APropos;
+}
+
+namespace orvalis {
+
+class Systeme;
+
+class APropos : public QDialog {
+    Q_OBJECT
+  public:
+    APropos(Systeme& systeme, QWidget* parent);
+    ~APropos() override;
+
+  private:
+    std::unique_ptr<Ui::APropos> ui_;
+};
+
+} // namespace orvalis

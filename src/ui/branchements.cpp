@@ -1,0 +1,105 @@
+// What the panels and menus report, and the flow that answers it.
+#include "geo/dlg2.h"
+#include "ui/a_propos.h"
+#include "ui/chang_locator.h"
+#include "ui/feuille_log.h"
+#include "ui/flux_demarrage.h"
+#include "ui/flux_locator.h"
+#include "ui/flux_modification.h"
+#include "ui/flux_navigation.h"
+#include "ui/flux_recherche.h"
+#include "ui/flux_saisie.h"
+#include "ui/menus.h"
+#include "ui/msg_fiche.h"
+#include "ui/orvalis.h"
+#include "ui/panneau_contacts.h"
+#include "ui/panneau_enrs.h"
+#include "ui/panneau_fiche.h"
+#include "ui/panneau_horloge.h"
+#include "ui/panneau_liste.h"
+#include "ui/panneau_menu.h"
+#include "ui/panneau_rech.h"
+#include "ui/texte_qt.h"
+
+#include <QAction>
+#include <QMenuBar>
+#include <QTimer>
+
+namespace orvalis {
+
+void Orvalis::BrancherMenus() {
+    const std::map<std::string_view, Commande> commandes = {
+        {"MnuDoublons", [this] { MontrerDoublons(p_); }},
+        {"MnuChangerLocator", [this] { ChangerDeLocator(p_); }},
+        {"MnuCreateMDB", [this] { CreerBaseDeDonnees(p_); }},
+        {"MnuEditLocator", [this] { Dlg2(this).exec(); }},
+        {"MnuVoir", [this] { APropos(p_.systeme, this).exec(); }},
+    };
+    FaireMenus(*menuBar(), [&](QAction& action) {
+        if (action.objectName() == QLatin1String("MnuQuitter")) {
+            connect(&action, &QAction::triggered, this, &QWidget::close);
+            return;
+        }
+        const auto trouve = commandes.find(S(action.objectName()));
+        action.setEnabled(trouve != commandes.end());
+        if (trouve != commandes.end())
+            Brancher(&action, &QAction::triggered, [flux = trouve->second](bool) { flux(); });
+    });
+}
+
+void Orvalis::BrancherPanneaux() {
+    Brancher(timer1_, &QTimer::timeout, [this](auto&&...) { AfficherHeure(p_); });
+    Brancher(&p_.horloge, &PanneauHorloge::miseALHeureDemandee,
+             [this] { LancerCompagnon(p_, "Chronel.exe"); });
+    connect(&p_.menu, &PictMenu::fermetureDemandee, this, &QWidget::close);
+    Brancher(&p_.menu, &PictMenu::nouveauDemande, [this] { NouveauQso(p_); });
+    Brancher(&p_.menu, &PictMenu::suppressionDemandee, [this] { DemanderSuppression(p_); });
+    Brancher(&p_.msgFiche, &FraMsgFiche::oui, [this] { RepondreOuiAuCadre(p_); });
+    Brancher(&p_.msgFiche, &FraMsgFiche::non, [this] { RepondreNonAuCadre(p_); });
+    Brancher(&p_.rech, &PictRech::rechercheDemandee, [this] { Rechercher(p_); });
+    Brancher(&p_.rech, &PictRech::cliquee, [this] { CliquerRecherche(p_); });
+    Brancher(&p_.contacts, &PictContacts::fermetureDemandee, [this] { FermerContacts(p_); });
+    Brancher(&p_.contacts, &PictContacts::ligneChoisie,
+             [this](std::int32_t k) { ChoisirFiche(p_, k); });
+}
+
+void Orvalis::BrancherNavigation() {
+    Brancher(&p_.liste, &PictListe::ligneChoisie, [this](std::int32_t k) { ChoisirFiche(p_, k); });
+    Brancher(&p_.liste, &PictListe::boutonPage, [this](BoutonPage b) { SurBoutonPage(p_, b); });
+    Brancher(&p_.liste, &PictListe::defilement, [this](int valeur) { SurDefilement(p_, valeur); });
+    Brancher(&p_.liste, &PictListe::touche,
+             [this](ToucheListe touche, bool* prise) { *prise = SurToucheListe(p_, touche); });
+    Brancher(&p_.page, &FeuilleLog::rangeeChoisie, [this](std::int32_t k) {
+        p_.liste.Selectionner(k - session_.premiereAffichee);
+        ChoisirFiche(p_, k);
+    });
+}
+
+void Orvalis::BrancherFiche() {
+    for (const DescriptionBoite& boite : kBoites) {
+        const std::size_t n = boite.index;
+        ZoneSaisie* zone = &p_.fiche.Boite(n);
+        Brancher(zone, &ZoneSaisie::entree, [this, n](int) { SurEntree(p_, n); });
+        Brancher(zone, &ZoneSaisie::focusPris, [this, n](int) { SurFocusPris(p_, n); });
+        Brancher(zone, &ZoneSaisie::focusPerdu, [this, n](int) { SurFocusPerdu(p_, n); });
+        Brancher(zone, &ZoneSaisie::pressee, [this, n](int) { SurPression(p_, n); });
+        Brancher(zone, &ZoneSaisie::changee,
+                 [this](int, const QString& texte) { SurChangement(p_, S(texte)); });
+    }
+    Brancher(&p_.fiche, &PictFiche::activeRechDemande, [this] { VoirContacts(p_); });
+}
+
+void Orvalis::BrancherSaisie() {
+    Brancher(&p_.enrs, &PictEnrs::suivantDemande, [this] { EnregistrerEtSuivre(p_); });
+    Brancher(&p_.enrs, &PictEnrs::terminerDemande, [this] { EnregistrerEtTerminer(p_); });
+    Brancher(&p_.enrs, &PictEnrs::annulerDemande, [this] { AnnulerSaisie(p_); });
+    Brancher(&p_.enrs, &PictEnrs::optionChoisie, [this](bool reel) { ChoisirOption(p_, reel); });
+    Brancher(&p_.changLocator, &PictChangLocator::foyerTexte, [this] { SurFoyerLocator(p_); });
+    Brancher(&p_.changLocator, &PictChangLocator::texteChange,
+             [this](const QString&) { SurTexteLocator(p_); });
+    Brancher(&p_.changLocator, &PictChangLocator::entree, [this] { SurEntreeLocator(p_); });
+    Brancher(&p_.changLocator, &PictChangLocator::valider, [this] { ValiderLocator(p_); });
+    Brancher(&p_.changLocator, &PictChangLocator::annuler, [this] { AnnulerLocator(p_); });
+}
+
+} // namespace orvalis

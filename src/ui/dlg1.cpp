@@ -1,0 +1,119 @@
+#include "ui/dlg1.h"
+
+#include "core/boites.h"
+#include "core/creation.h"
+#include "core/dossier.h"
+#include "core/messages.h"
+#include "core/texte.h"
+#include "geo/dlg2.h"
+#include "geo/locator.h"
+#include "ui/filtre_edition.h"
+#include "ui/systeme.h"
+#include "ui/texte_qt.h"
+#include "ui_dlg1.h"
+
+#include <QKeyEvent>
+
+namespace orvalis {
+namespace {
+
+void FiltrerMajuscules(QLineEdit& boite, std::size_t longueur) {
+    boite.setValidator(new FiltreEdition(
+        [longueur](const TexteEdite& nouveau) {
+            return FiltrerEdition(Touches::Majuscules, longueur, "", nouveau);
+        },
+        &boite));
+}
+
+} // namespace
+
+Dlg1::Dlg1(std::filesystem::path lecteur, Systeme& systeme, QWidget* parent)
+    : QDialog(parent), ui_(std::make_unique<Ui::Dlg1>()), lecteur_(std::move(lecteur)),
+      systeme_(systeme) {
+    ui_->setupUi(this);
+    ui_->LabDisk->setText(Q(" Le disque courant est le disque : " + TexteLecteur(lecteur_)));
+    QSizePolicy place = ui_->Dlg1Fra3->sizePolicy();
+    place.setRetainSizeWhenHidden(true);
+    ui_->Dlg1Fra3->setSizePolicy(place);
+    ui_->Dlg1Fra3->hide();
+    FiltrerMajuscules(*ui_->Dlg1Fra2Text1, Boite(1).longueur);
+    FiltrerMajuscules(*ui_->Dlg1Fra2Text2, 6);
+    for (QLineEdit* boite : {ui_->Dlg1Fra2Text1, ui_->Dlg1Fra2Text2}) {
+        boite->installEventFilter(this);
+        // What was accepted no longer holds once the operator types on.
+        connect(boite, &QLineEdit::textEdited, ui_->Dlg1Fra3, &QWidget::hide);
+    }
+    ui_->Dlg1Fra3CmdValider->installEventFilter(this);
+    connect(ui_->BtAppelLocator, &QPushButton::clicked, this, &Dlg1::CalculerLocator);
+    connect(ui_->Dlg1Fra3CmdValider, &QPushButton::clicked, this, &Dlg1::Valider);
+    connect(ui_->Dlg1Fra2CmdArreter, &QPushButton::clicked, this, &QDialog::reject);
+    ui_->Dlg1Fra2Text1->setFocus();
+}
+
+Dlg1::~Dlg1() = default;
+
+bool Dlg1::eventFilter(QObject* objet, QEvent* evenement) {
+    if (evenement->type() == QEvent::KeyPress) {
+        const int touche = static_cast<QKeyEvent*>(evenement)->key();
+        if (touche == Qt::Key_Return || touche == Qt::Key_Enter) {
+            if (objet == ui_->Dlg1Fra2Text1)
+                AccepterIndicatif();
+            else if (objet == ui_->Dlg1Fra2Text2)
+                AccepterLocator();
+            else
+                ui_->Dlg1Fra3CmdValider->click();
+            return true;
+        }
+    }
+    return QDialog::eventFilter(objet, evenement);
+}
+
+void Dlg1::AccepterIndicatif() {
+    const std::string texte = S(ui_->Dlg1Fra2Text1->text());
+    if (texte.empty())
+        return;
+    indicatif_ = Majuscules(Rogner(texte));
+    nomFichier_ = NomDuJournal(indicatif_);
+    ui_->Dlg1Fra2Text2->clear();
+    ui_->Dlg1Fra3->hide();
+    ui_->Dlg1Fra2Text2->setFocus();
+}
+
+void Dlg1::AccepterLocator() {
+    const std::string texte = S(ui_->Dlg1Fra2Text2->text());
+    if (!LocatorValide(texte)) {
+        ui_->Dlg1Fra2Text2->setText(QStringLiteral("ERREUR"));
+        ui_->Dlg1Fra2Text2->selectAll();
+        ui_->Dlg1Fra3->hide();
+        return;
+    }
+    monLocator_ = texte;
+    ui_->Dlg1Fra3Lab2->setText(Q(CheminProgrammeTexte(lecteur_, nomFichier_) + " va être créé "));
+    ui_->Dlg1Fra3->show();
+    ui_->Dlg1Fra3CmdValider->setFocus();
+}
+
+void Dlg1::CalculerLocator() {
+    Dlg2 coordonnees(this);
+    coordonnees.exec();
+    if (const auto locator = coordonnees.LocatorModifie()) {
+        ui_->Dlg1Fra2Text2->setText(Q(*locator));
+        ui_->Dlg1Fra3->hide();
+        ui_->Dlg1Fra2Text2->setFocus();
+    }
+}
+
+void Dlg1::Valider() {
+    try {
+        if (!CreerCahier(lecteur_, {indicatif_, nomFichier_, monLocator_}))
+            return;
+    } catch (const ErreurFichier& echec) {
+        systeme_.Avertir(this, Q(MessageErreur(echec)));
+        return;
+    }
+    systeme_.Informer(this, QStringLiteral(" Création réalisée avec succès"),
+                      Q("   Le fichier " + nomFichier_ + " est créé  \n\n"));
+    accept();
+}
+
+} // namespace orvalis

@@ -1,0 +1,44 @@
+// The first run: asks for callsign and locator, writes the Settings file and an empty logbook.
+#pragma once
+
+#include <QDialog>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+namespace orvalis::Ui {
+class Dlg1;
+}
+
+namespace orvalis {
+
+class Systeme;
+
+class Dlg1 : public QDialog {
+    Q_OBJECT
+  public:
+    /// Result codes beside QDialog::Accepted: everything is written.
+    enum Issue { Arreter = QDialog::Rejected };
+
+    Dlg1(std::filesystem::path lecteur, Systeme& systeme, QWidget* parent);
+    ~Dlg1() override;
+
+  protected:
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
+
+  private:
+    void AccepterIndicatif();
+    void AccepterLocator();
+    void CalculerLocator();
+    void Valider();
+
+    std::unique_ptr<Ui::Dlg1> ui_;
+    std::filesystem::path lecteur_;
+    Systeme& systeme_;
+    std::string indicatif_;
+    std::string nomFichier_;
+    std::string monLocator_;
+};
+
+} // namespace orvalis

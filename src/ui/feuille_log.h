@@ -1,0 +1,57 @@
+// The page on show, drawn as a ruled sheet of the paper log. A click on a row reports its record.
+#pragma once
+
+#include "core/page_texte.h"
+
+#include <QAbstractScrollArea>
+
+#include <cstdint>
+#include <vector>
+
+namespace orvalis {
+
+struct RangeePage {
+    std::int32_t numero = 0;
+    CellulesPage cellules;
+};
+
+class FeuilleLog : public QAbstractScrollArea {
+    Q_OBJECT
+  public:
+    explicit FeuilleLog(QWidget* parent = nullptr);
+
+    void Montrer(std::vector<RangeePage> rangees);
+    /// Marks the row of the record on the card; 0 for none.
+    void Marquer(std::int32_t numero);
+    /// The sheet as fixed-pitch text, a line per row.
+    [[nodiscard]] QString toPlainText() const;
+
+  Q_SIGNALS:
+    void rangeeChoisie(std::int32_t numero);
+
+  protected:
+    void paintEvent(QPaintEvent* evenement) override;
+    void resizeEvent(QResizeEvent* evenement) override;
+    void mousePressEvent(QMouseEvent* evenement) override;
+    void changeEvent(QEvent* evenement) override;
+
+  private:
+    struct Mesures {
+        QFont police;
+        int caractere = 0; ///< width of one character
+        int ligne = 0;     ///< height of one row
+        int tete = 0;      ///< height of the head
+        int largeur = 0;   ///< whole sheet
+        int hauteur = 0;
+    };
+    [[nodiscard]] Mesures Mesurer(qreal points) const;
+    void Ajuster();
+    void PeindreTete(QPainter& peintre) const;
+    void PeindreRangees(QPainter& peintre) const;
+
+    std::vector<RangeePage> rangees_;
+    std::int32_t marquee_ = 0;
+    Mesures mesures_;
+};
+
+} // namespace orvalis

@@ -1,0 +1,110 @@
+#include "ui/flux_demarrage.h"
+
+#include "core/creation.h"
+#include "core/dossier.h"
+#include "core/fiches.h"
+#include "core/parametres.h"
+#include "ui/chang_locator.h"
+#include "ui/dlg1.h"
+#include "ui/effets.h"
+#include "ui/flux_navigation.h"
+#include "ui/msg_fiche.h"
+#include "ui/panneau_contacts.h"
+#include "ui/panneau_enrs.h"
+#include "ui/panneau_fiche.h"
+#include "ui/panneau_horloge.h"
+#include "ui/panneau_menu.h"
+#include "ui/panneau_rech.h"
+#include "ui/systeme.h"
+#include "ui/texte_qt.h"
+
+#include <QLabel>
+#include <QMainWindow>
+
+namespace orvalis {
+namespace fs = std::filesystem;
+namespace {
+
+std::string Titre(const Session& session) {
+    return " Cahier de Trafic de " + session.indicatif + std::string(22, ' ') +
+           "(version " ORVALIS_VERSION ")";
+}
+
+} // namespace
+
+void CacherPanneaux(Plateau& p) {
+    p.fiche.MontrerActiveRech(false);
+    p.enrs.hide();
+    p.contacts.hide();
+    p.msgFiche.hide();
+    p.changLocator.hide();
+}
+
+Demarrage ChargerParametres(Plateau& p) {
+    Session& s = p.session;
+    s.lecteur = p.systeme.Lecteur();
+    const fs::path dossier = DossierProgramme(s.lecteur);
+    const fs::path chemin = TrouverFichier(dossier, kNomParametres);
+    if (!fs::is_directory(dossier) || !fs::exists(chemin)) {
+        Dlg1 creation(s.lecteur, p.systeme, &p.fenetre);
+        return creation.exec() == QDialog::Accepted ? Demarrage::Recommencer : Demarrage::Arreter;
+    }
+    const Sablier sablier;
+    const Parametres parametres = LireParametres(chemin);
+    OuvrirJournal(s, TrouverFichier(dossier, parametres.nomFichier));
+    s.indicatif = parametres.indicatif;
+    s.nomFichier = parametres.nomFichier;
+    s.monLocator = parametres.monLocator;
+    s.autreJournal.clear();
+    InitialiserFenetre(p);
+    return Demarrage::Pret;
+}
+
+void InitialiserFenetre(Plateau& p) {
+    Session& s = p.session;
+    p.contacts.hide();
+    p.rech.Vider();
+    AfficherHeure(p);
+    RemplirListe(p);
+    SelectionnerDerniereLigne(p);
+    const bool modifiable = !s.LectureSeule();
+    p.menu.ActiverSupprimer(modifiable && s.nbFiches > 0 && !s.EnEdition());
+    p.menu.ActiverNouveau(modifiable);
+    p.menu.ActiverFermer(true);
+    p.rech.setVisible(s.nbFiches != 0 && !s.EnEdition());
+    p.liste.ReglerDefilement(s.nbFiches, s.nbFiches);
+    p.liste.DonnerFoyer();
+    p.fenetre.setWindowTitle(Q(Titre(s)));
+}
+
+void AfficherHeure(Plateau& p) {
+    p.horloge.Montrer(p.systeme.Maintenant());
+}
+
+void LancerCompagnon(Plateau& p, std::string_view nom) {
+    const std::string chemin = CheminProgrammeTexte(p.session.lecteur, nom);
+    std::optional<QString> raison = p.systeme.Lancer(Q(chemin), {});
+#ifndef Q_OS_WIN
+    constexpr std::string_view kSuffixe = ".exe";
+    if (raison && nom.ends_with(kSuffixe))
+        raison = p.systeme.Lancer(Q(chemin.substr(0, chemin.size() - kSuffixe.size())), {});
+#endif
+    if (raison)
+        p.systeme.Avertir(
+            &p.fenetre,
+            QStringLiteral("Impossible de démarrer « %1 » : %2.").arg(Q(chemin), *raison));
+}
+
+void CreerBaseDeDonnees(Plateau& p) {
+    if (!p.session.EnEdition() && p.session.nbFiches != 0)
+        LancerCompagnon(p, "dbOrvalis.exe");
+}
+
+void QuitterProgramme(Plateau& p, int code) {
+    p.session.journal = Journal();
+    if (auto* adieu = p.fenetre.findChild<QLabel*>(QStringLiteral("OrvalisLab03")))
+        adieu->setText(QStringLiteral(" Au revoir "));
+    p.systeme.Quitter(code);
+}
+
+} // namespace orvalis

@@ -1,0 +1,94 @@
+#include "ui/flux_modification.h"
+
+#include "core/fiches.h"
+#include "core/modification.h"
+#include "ui/effets.h"
+#include "ui/flux_navigation.h"
+#include "ui/msg_fiche.h"
+#include "ui/panneau_fiche.h"
+#include "ui/panneau_menu.h"
+#include "ui/panneau_rech.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace orvalis {
+namespace {
+
+void Supprimer(Plateau& p) {
+    Session& s = p.session;
+    const std::int32_t page = CalculerPages(s.ficheCourante);
+    SupprimerFiche(s, s.ficheCourante);
+    RemplirListe(p);
+    MontrerPage(p, std::min(page, s.pageAffichee));
+    SelectionnerDerniereLigne(p);
+    MontrerNomDuJournal(p);
+    p.menu.ActiverSupprimer(s.nbFiches > 0);
+    if (s.nbFiches == 0)
+        p.rech.hide();
+}
+
+void EnregistrerModification(Plateau& p) {
+    Session& s = p.session;
+    const std::int32_t k = s.ficheCourante;
+    EcrireFiche(s, k);
+    s.journal.Support().Synchroniser();
+    const std::int32_t ligne = k - s.premiereAffichee;
+    if (ligne >= 0 && ligne < p.liste.NbLignes()) {
+        MontrerPage(p, s.pageAffichee);
+        p.liste.Selectionner(ligne);
+    }
+    AppliquerReponse(p, RepondreOui(s));
+    AfficherFiche(p);
+}
+
+} // namespace
+
+void AbandonnerModification(Plateau& p) {
+    OublierModifications(p.session);
+    p.msgFiche.hide();
+    p.menu.setEnabled(true);
+    for (std::size_t i = 1; i <= kNbBoites; ++i)
+        ColorerZone(p.fiche, i, CouleurAuRepos(i));
+}
+
+void DemanderSuppression(Plateau& p) {
+    const Session& s = p.session;
+    if (s.saisie.EnSaisie || s.LectureSeule() || s.ficheCourante < 1)
+        return;
+    if (s.saisie.EnModification || s.saisie.NbModifs != 0)
+        ChoisirFiche(p, s.ficheCourante);
+    const TextesCadre cadre = CadreEffacer(s);
+    p.msgFiche.Demander(cadre.legende, cadre.numero, cadre.indicatif);
+    p.msgFiche.DonnerFoyerNon();
+    p.menu.setEnabled(false);
+}
+
+void RepondreOuiAuCadre(Plateau& p) {
+    LacherFoyer();
+    p.msgFiche.hide();
+    p.menu.setEnabled(true);
+    if (p.session.saisie.NbModifs == 0)
+        Supprimer(p);
+    else
+        EnregistrerModification(p);
+    p.liste.DonnerFoyer();
+}
+
+void RepondreNonAuCadre(Plateau& p) {
+    LacherFoyer();
+    p.msgFiche.hide();
+    const bool modifiee = p.session.saisie.NbModifs != 0;
+    AppliquerReponse(p, RepondreNon(p.session));
+    if (modifiee)
+        AfficherFiche(p);
+    else
+        p.liste.setEnabled(true);
+    p.liste.DonnerFoyer();
+    p.menu.setEnabled(true);
+    // The callsign field of the buffer always holds fifteen characters: the button always comes.
+    p.fiche.MontrerActiveRech(true);
+}
+
+} // namespace orvalis

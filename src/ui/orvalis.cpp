@@ -1,0 +1,241 @@
+#include "ui/orvalis.h"
+
+#include "core/messages.h"
+#include "ui/chang_locator.h"
+#include "ui/feuille_log.h"
+#include "ui/flux_demarrage.h"
+#include "ui/msg_fiche.h"
+#include "ui/panneau_contacts.h"
+#include "ui/panneau_enrs.h"
+#include "ui/panneau_fiche.h"
+#include "ui/panneau_horloge.h"
+#include "ui/panneau_liste.h"
+#include "ui/panneau_menu.h"
+#include "ui/panneau_rech.h"
+#include "ui/systeme.h"
+#include "ui/texte_qt.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QScreen>
+#include <QScrollArea>
+#include <QTimer>
+
+// Resources of a static library are linked only where they are asked for.
+static void ChargerRessources() {
+    Q_INIT_RESOURCE(orvalis);
+}
+
+namespace orvalis {
+namespace {
+
+constexpr int kDemarrageAFaire = 4;
+constexpr int kDureeTic = 1000;
+
+// Something the operator does to a control.
+bool EstUnGeste(QEvent::Type type) {
+    switch (type) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::ContextMenu:
+    case QEvent::Drop:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// A layout without margins of its own.
+template<typename Disposition> Disposition* SansMarges(QWidget* parent) {
+    auto* disposition = new Disposition(parent);
+    disposition->setContentsMargins(0, 0, 0, 0);
+    disposition->setSpacing(6);
+    return disposition;
+}
+
+} // namespace
+
+Orvalis::Orvalis(Systeme& systeme, QWidget* parent)
+    : QMainWindow(parent), p_{*this,
+                              session_,
+                              systeme,
+                              *new PanneauHorloge(this),
+                              *new PictListe(this),
+                              *new FeuilleLog(this),
+                              *new PictFiche(this),
+                              *new PictMenu(this),
+                              *new PictEnrs(this),
+                              *new PictRech(this),
+                              *new PictContacts(this),
+                              *new FraMsgFiche(this),
+                              *new PictChangLocator(this)},
+      timer1_(new QTimer(this)) {
+    ChargerRessources();
+    setObjectName(QStringLiteral("Orvalis"));
+    setWindowTitle(QStringLiteral(" Cahier de Trafic"));
+    setWindowIcon(QIcon(QStringLiteral(":/orvalis.svg")));
+    timer1_->setObjectName(QStringLiteral("Timer1"));
+    Disposer();
+    CacherPanneaux(p_);
+    BrancherMenus();
+    BrancherPanneaux();
+    BrancherNavigation();
+    BrancherFiche();
+    BrancherSaisie();
+    qApp->installEventFilter(this);
+}
+
+Orvalis::~Orvalis() = default;
+
+void Orvalis::Disposer() {
+    auto* centre = new QWidget;
+    auto* ligne = new QHBoxLayout(centre);
+    ligne->setContentsMargins(8, 6, 8, 6);
+    ligne->setSpacing(10);
+    ligne->addWidget(ColonneGauche());
+    ligne->addWidget(ColonneDroite(), 1);
+    // On a screen too small for the window, its parts stay within reach.
+    auto* defilement = new QScrollArea(this);
+    defilement->setFrameShape(QFrame::NoFrame);
+    defilement->setWidgetResizable(true);
+    defilement->setWidget(centre);
+    setCentralWidget(defilement);
+    const QSize voulue(1320, 740);
+    const QScreen* ecran = QGuiApplication::primaryScreen();
+    resize(ecran == nullptr ? voulue : voulue.boundedTo(ecran->availableSize() - QSize(16, 40)));
+}
+
+QWidget* Orvalis::ColonneGauche() {
+    auto* colonne = new QWidget;
+    auto* pile = SansMarges<QVBoxLayout>(colonne);
+    pile->addWidget(&p_.horloge);
+    pile->addWidget(&p_.liste, 1);
+    auto* adieu = new QLabel(colonne);
+    adieu->setObjectName(QStringLiteral("OrvalisLab03"));
+    adieu->setAlignment(Qt::AlignCenter);
+    pile->addWidget(adieu);
+    colonne->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    return colonne;
+}
+
+// The card, the buttons under it, then the sheet; whatever asks or answers something appears at
+// the right of the sheet, under the card, and moves nothing.
+QWidget* Orvalis::ColonneDroite() {
+    auto* colonne = new QWidget;
+    auto* pile = SansMarges<QVBoxLayout>(colonne);
+    pile->addWidget(&p_.fiche);
+    auto* boutons = new QWidget(colonne);
+    auto* rangee = SansMarges<QHBoxLayout>(boutons);
+    rangee->addWidget(&p_.menu);
+    rangee->addWidget(&p_.enrs);
+    rangee->addStretch(1);
+    rangee->addWidget(&p_.rech);
+    boutons->setMinimumHeight(p_.menu.sizeHint().height());
+    pile->addWidget(boutons);
+    auto* bas = new QHBoxLayout;
+    bas->setSpacing(8);
+    auto* feuille = new QWidget(colonne);
+    feuille->setObjectName(QStringLiteral("PictPage"));
+    SansMarges<QVBoxLayout>(feuille)->addWidget(&p_.page);
+    bas->addWidget(feuille, 1);
+    auto* reponses = new QVBoxLayout;
+    reponses->addWidget(&p_.msgFiche);
+    reponses->addWidget(&p_.changLocator);
+    reponses->addWidget(&p_.contacts, 1);
+    reponses->addStretch(0);
+    bas->addLayout(reponses);
+    pile->addLayout(bas, 1);
+    return colonne;
+}
+
+void Orvalis::Executer(const Commande& flux) {
+    if (p_.arret || p_.gel)
+        return;
+    try {
+        flux();
+    } catch (const std::exception& echec) {
+        if (p_.arret)
+            return;
+        p_.arret = true;
+        p_.systeme.Avertir(this, Q(MessageErreur(echec)));
+        QuitterProgramme(p_, 1);
+    }
+}
+
+bool Orvalis::event(QEvent* evenement) {
+    const bool traite = QMainWindow::event(evenement);
+    // The first activation starts the program; where no window manager activates windows, being
+    // shown must do.
+    if (evenement->type() == QEvent::WindowActivate)
+        Demarrer();
+    else if (evenement->type() == QEvent::Show && temoinDemarrage_ == kDemarrageAFaire)
+        QTimer::singleShot(kDureeTic, this, &Orvalis::Demarrer);
+    return traite;
+}
+
+void Orvalis::Demarrer() {
+    if (temoinDemarrage_ != kDemarrageAFaire || demarrageEnCours_ || p_.arret)
+        return;
+    demarrageEnCours_ = true;
+    Executer([this] {
+        for (auto suite = Demarrage::Recommencer; suite == Demarrage::Recommencer && !p_.arret;) {
+            p_.systeme.Pause(1);
+            if (p_.arret)
+                return;
+            suite = ChargerParametres(p_);
+            if (suite == Demarrage::Arreter) {
+                p_.arret = true;
+                QuitterProgramme(p_, 0);
+                return;
+            }
+        }
+        timer1_->start(kDureeTic);
+        temoinDemarrage_ = 0;
+    });
+    demarrageEnCours_ = false;
+}
+
+void Orvalis::closeEvent(QCloseEvent* evenement) {
+    evenement->accept();
+    if (p_.arret)
+        return;
+    p_.arret = true;
+    QuitterProgramme(p_, 0);
+}
+
+// Enter on a button presses it, wherever it stands. While the window is frozen, what the operator
+// does reaches only what quits.
+bool Orvalis::eventFilter(QObject* objet, QEvent* evenement) {
+    if (p_.gel && EstUnGeste(evenement->type()) && objet->isWidgetType()) {
+        const auto* controle = static_cast<QWidget*>(objet);
+        const bool quitte = controle->objectName() == QLatin1String("BtFermerLog") ||
+                            qobject_cast<const QMenuBar*>(controle) != nullptr;
+        if (controle->window() == this && !quitte)
+            return true;
+    }
+    if (evenement->type() == QEvent::KeyPress) {
+        const int touche = static_cast<QKeyEvent*>(evenement)->key();
+        auto* bouton = qobject_cast<QAbstractButton*>(objet);
+        if (bouton != nullptr && bouton->window() == this && bouton->isEnabled() &&
+            (touche == Qt::Key_Return || touche == Qt::Key_Enter)) {
+            bouton->click();
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(objet, evenement);
+}
+
+} // namespace orvalis

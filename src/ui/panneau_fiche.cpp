@@ -1,0 +1,197 @@
+#include "ui/panneau_fiche.h"
+
+#include "ui/texte_qt.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <vector>
+
+namespace orvalis {
+namespace {
+
+// The card, row by row: each cell has one caption and the boxes from its first to its last. The
+// eye follows the order of the Enter key; box 17 stands left of box 13.
+struct Cellule {
+    std::size_t premiere;
+    std::size_t derniere;
+};
+const std::vector<std::vector<Cellule>> kRangees = {
+    {{1, 1}, {2, 2}, {3, 4}, {5, 5}, {6, 6}, {7, 8}},
+    {{12, 12}, {9, 9}, {11, 11}, {10, 10}},
+    {{17, 17}, {13, 13}, {14, 14}, {15, 15}, {16, 16}},
+};
+
+constexpr std::array<std::string_view, kNbBoites> kNomsAccessibles = {
+    "Indicatif",   "Date",       "Heure de début", "Heure de fin", "Fréquence",
+    "Mode",        "RST donné",  "RST reçu",       "QTH",          "Son locator",
+    "Département", "Prénom",     "Informations",   "Ma QSL",       "Sa QSL",
+    "Mon locator", "QSL manager"};
+
+QLabel* FaireLabel(const char* nom, QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setObjectName(QString::fromLatin1(nom));
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+} // namespace
+
+PictFiche::PictFiche(QWidget* parent) : QFrame(parent) {
+    setObjectName(QStringLiteral("PictFiche"));
+    setFrameShape(QFrame::StyledPanel);
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::AlternateBase);
+    auto* pile = new QVBoxLayout(this);
+    pile->setContentsMargins(10, 6, 10, 8);
+    pile->setSpacing(4);
+    auto* entete = new QHBoxLayout;
+    FaireEntete(*entete);
+    pile->addLayout(entete);
+    for (const auto& rangee : kRangees) {
+        auto* ligne = new QHBoxLayout;
+        ligne->setSpacing(10);
+        for (const Cellule& cellule : rangee)
+            ligne->addWidget(FaireCellule(cellule.premiere, cellule.derniere));
+        if (&rangee == &kRangees.back())
+            ligne->addWidget(FaireResultats(), 1, Qt::AlignBottom);
+        ligne->addStretch(1);
+        pile->addLayout(ligne);
+    }
+    QWidget* avant = nullptr;
+    for (const std::size_t index : kOrdreTabulation) {
+        if (avant != nullptr)
+            setTabOrder(avant, &Boite(index));
+        avant = &Boite(index);
+    }
+}
+
+void PictFiche::FaireEntete(QHBoxLayout& entete) {
+    noFicheLab_ = FaireLabel("NoFicheLab", this);
+    noFicheLab_->setText(QStringLiteral("  Fiche N° 0  "));
+    QFont titre = font();
+    titre.setBold(true);
+    titre.setPointSizeF(titre.pointSizeF() * 1.2);
+    noFicheLab_->setFont(titre);
+    labNonEnregistre_ = FaireLabel("LabNonEnregistre", this);
+    labNonEnregistre_->setText(QStringLiteral("Nouveau contact, pas encore enregistré"));
+    labNonEnregistre_->setStyleSheet(
+        QStringLiteral("background:#ffd866; color:#3a2d00; border-radius:4px; padding:1px 8px;"));
+    labNonEnregistre_->hide();
+    btActiveRech_ = new QPushButton(QStringLiteral("Voir contacts réalisés"), this);
+    btActiveRech_->setObjectName(QStringLiteral("BtActiveRech"));
+    btActiveRech_->setToolTip(QStringLiteral("Lister tous les contacts faits avec cette station"));
+    QSizePolicy place = btActiveRech_->sizePolicy();
+    place.setRetainSizeWhenHidden(true);
+    btActiveRech_->setSizePolicy(place);
+    btActiveRech_->hide();
+    connect(btActiveRech_, &QPushButton::clicked, this, &PictFiche::activeRechDemande);
+    entete.addWidget(noFicheLab_);
+    entete.addWidget(labNonEnregistre_);
+    entete.addStretch(1);
+    entete.addWidget(btActiveRech_);
+}
+
+ZoneSaisie* PictFiche::FaireBoite(const DescriptionBoite& boite) {
+    auto* zone = new ZoneSaisie(boite, this);
+    zone->setAccessibleName(Q(kNomsAccessibles[boite.index - 1]));
+    const int caractere = QFontMetrics(zone->font()).horizontalAdvance(QLatin1Char('W'));
+    const auto n = static_cast<int>(boite.longueur);
+    // Wide letters count in full in short fields, three quarters in long ones.
+    zone->setMinimumWidth((n <= 8 ? n * caractere * 8 / 10 : n * caractere * 3 / 4) + 14);
+    boites_[boite.index - 1] = zone;
+    return zone;
+}
+
+QWidget* PictFiche::FaireCellule(std::size_t premiere, std::size_t derniere) {
+    auto* cellule = new QWidget(this);
+    auto* pile = new QVBoxLayout(cellule);
+    pile->setContentsMargins(0, 0, 0, 0);
+    pile->setSpacing(1);
+    const DescriptionBoite& tete = orvalis::Boite(premiere);
+    auto* legende = FaireLabel("", cellule);
+    legende->setObjectName(Q(tete.etiquette));
+    legende->setText(Q(tete.legende));
+    QFont petite = legende->font();
+    petite.setPointSizeF(petite.pointSizeF() * 0.85);
+    legende->setFont(petite);
+    pile->addWidget(legende);
+    auto* ligne = new QHBoxLayout;
+    ligne->setSpacing(4);
+    for (std::size_t i = premiere; i <= derniere; ++i)
+        ligne->addWidget(FaireBoite(orvalis::Boite(i)));
+    legende->setBuddy(&Boite(premiere));
+    if (premiere == 11) {
+        labDept_ = FaireLabel("LabDept", cellule);
+        labDept_->setAccessibleName(QStringLiteral("Nom du département"));
+        labDept_->setMinimumWidth(
+            QFontMetrics(font()).horizontalAdvance(QStringLiteral("Territoire-de-Belfort ")));
+        Boite(11).setFixedWidth(Boite(11).minimumWidth());
+        ligne->addWidget(labDept_, 1);
+    }
+    pile->addLayout(ligne);
+    return cellule;
+}
+
+QWidget* PictFiche::FaireResultats() {
+    auto* cadre = new QWidget(this);
+    auto* ligne = new QHBoxLayout(cadre);
+    ligne->setContentsMargins(12, 0, 0, 0);
+    QFont grasse = font();
+    grasse.setBold(true);
+    grasse.setPointSizeF(grasse.pointSizeF() * 1.15);
+    const auto ajouter = [&](const char* titre, const char* nom, const QString& modele) {
+        ligne->addWidget(new QLabel(QString::fromUtf8(titre), cadre));
+        QLabel* label = FaireLabel(nom, cadre);
+        label->setAccessibleName(QString::fromUtf8(titre));
+        label->setFont(grasse);
+        label->setMinimumWidth(QFontMetrics(grasse).horizontalAdvance(modele));
+        ligne->addWidget(label);
+        return label;
+    };
+    labDist_ = ajouter("Distance", "LabDist", QStringLiteral("12345.6 Km "));
+    labAzim_ = ajouter("Azimut", "LabAzim", QStringLiteral("000° "));
+    ligne->addStretch(1);
+    cadre->setMinimumHeight(Boite(1).sizeHint().height());
+    return cadre;
+}
+
+std::string PictFiche::TexteBoite(std::size_t index) const {
+    return S(boites_[index - 1]->text());
+}
+
+void PictFiche::MontrerBoite(std::size_t index, std::string_view texte) {
+    Boite(index).Montrer(Q(texte));
+}
+
+void PictFiche::MontrerNumero(std::string_view texte) {
+    noFicheLab_->setText(Q(texte));
+}
+
+void PictFiche::MontrerDistance(std::string_view texte) {
+    labDist_->setText(Q(texte));
+}
+
+void PictFiche::MontrerAzimut(std::string_view texte) {
+    labAzim_->setText(Q(texte));
+}
+
+void PictFiche::MontrerDepartement(std::string_view nom) {
+    labDept_->setText(Q(nom));
+}
+
+void PictFiche::MontrerActiveRech(bool visible) {
+    btActiveRech_->setVisible(visible);
+}
+
+void PictFiche::MontrerNonEnregistre(bool visible) {
+    labNonEnregistre_->setVisible(visible);
+}
+
+void ColorerZone(PictFiche& fiche, std::size_t index, Couleur couleur) {
+    fiche.Boite(index).Colorer(couleur);
+}
+
+} // namespace orvalis

@@ -1,0 +1,26 @@
+#include "ui/panneau_horloge.h"
+
+#include "ui/texte_qt.h"
+#include "ui_panneau_horloge.h"
+
+namespace orvalis {
+
+PanneauHorloge::PanneauHorloge(QWidget* parent)
+    : QWidget(parent), ui_(std::make_unique<Ui::PanneauHorloge>()) {
+    ui_->setupUi(this);
+    QFont grande = font();
+    grande.setPointSizeF(grande.pointSizeF() * 1.7);
+    grande.setBold(true);
+    ui_->LabHeure->setFont(grande);
+    connect(ui_->Horloge, &QAbstractButton::clicked, this, &PanneauHorloge::miseALHeureDemandee);
+}
+
+PanneauHorloge::~PanneauHorloge() = default;
+
+void PanneauHorloge::Montrer(const Instant& instant) {
+    ui_->LabHeure->setText(Q(HeureLongue(instant)));
+    ui_->LabDate->setText(Q(DateLongue(instant)));
+    ui_->Horloge->Montrer(instant);
+}
+
+} // namespace orvalis

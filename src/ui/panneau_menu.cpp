@@ -1,0 +1,28 @@
+#include "ui/panneau_menu.h"
+
+#include "ui/teintes.h"
+#include "ui_panneau_menu.h"
+
+namespace orvalis {
+
+PictMenu::PictMenu(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::PictMenu>()) {
+    ui_->setupUi(this);
+    TeinterTexte(*ui_->BtKillFiche, Teinte::Rouge);
+    connect(ui_->BtNewQSO, &QPushButton::clicked, this, &PictMenu::nouveauDemande);
+    connect(ui_->BtKillFiche, &QPushButton::clicked, this, &PictMenu::suppressionDemandee);
+    connect(ui_->BtFermerLog, &QPushButton::clicked, this, &PictMenu::fermetureDemandee);
+}
+
+PictMenu::~PictMenu() = default;
+
+void PictMenu::ActiverNouveau(bool actif) {
+    ui_->BtNewQSO->setEnabled(actif);
+}
+void PictMenu::ActiverSupprimer(bool actif) {
+    ui_->BtKillFiche->setEnabled(actif);
+}
+void PictMenu::ActiverFermer(bool actif) {
+    ui_->BtFermerLog->setEnabled(actif);
+}
+
+} // namespace orvalis

@@ -1,0 +1,48 @@
+#include "ui/panneau_rech.h"
+
+#include "core/boites.h"
+#include "ui/filtre_edition.h"
+#include "ui/texte_qt.h"
+#include "ui_panneau_rech.h"
+
+#include <QKeyEvent>
+
+namespace orvalis {
+
+PictRech::PictRech(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::PictRech>()) {
+    ui_->setupUi(this);
+    const auto longueur = static_cast<std::size_t>(ui_->RechText->maxLength());
+    ui_->RechText->setValidator(new FiltreEdition(
+        [longueur](const TexteEdite& nouveau) {
+            return FiltrerEdition(Touches::Majuscules, longueur, "", nouveau);
+        },
+        this));
+    ui_->RechText->installEventFilter(this);
+    ui_->RechText->setMinimumWidth(QFontMetrics(font()).averageCharWidth() * 18);
+    ui_->RechText->setClearButtonEnabled(true);
+}
+
+PictRech::~PictRech() = default;
+
+std::string PictRech::Texte() const {
+    return S(ui_->RechText->text());
+}
+
+void PictRech::Vider() {
+    ui_->RechText->clear();
+}
+
+bool PictRech::eventFilter(QObject* objet, QEvent* evenement) {
+    if (evenement->type() == QEvent::MouseButtonPress)
+        Q_EMIT cliquee();
+    if (evenement->type() == QEvent::KeyPress) {
+        const int touche = static_cast<QKeyEvent*>(evenement)->key();
+        if (touche == Qt::Key_Return || touche == Qt::Key_Enter) {
+            Q_EMIT rechercheDemandee();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(objet, evenement);
+}
+
+} // namespace orvalis

@@ -1,0 +1,89 @@
+#include "ui/systeme.h"
+
+#include "core/dossier.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QEventLoop>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QProcess>
+#include <QTimer>
+
+#include <cmath>
+
+namespace orvalis {
+namespace {
+
+// Seconds since midnight, with their fraction.
+double SecondesDuJour() {
+    return QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
+}
+
+QString RaisonDeLancement(const QString& chemin) {
+    const QFileInfo info(chemin);
+    if (!info.exists())
+        return QStringLiteral("le programme n'existe pas");
+    if (!info.isFile() || !info.isExecutable())
+        return QStringLiteral("ce fichier n'est pas un programme exécutable");
+    return QStringLiteral("le système a refusé de le démarrer");
+}
+
+} // namespace
+
+std::filesystem::path SystemeReel::Lecteur() const {
+    return CalculerLecteur(QDir::currentPath().toStdString(), QDir::homePath().toStdString());
+}
+
+Instant SystemeReel::Maintenant() const {
+    const QDateTime t = QDateTime::currentDateTime();
+    return {t.date().year(), t.date().month(),  t.date().day(),
+            t.time().hour(), t.time().minute(), t.time().second()};
+}
+
+void SystemeReel::Pause(int secondes) {
+    const double fin = std::floor(SecondesDuJour() + 0.5) + secondes;
+    QTimer reveil; // wakes the loop while nothing else happens
+    reveil.start(20);
+    // Kept on purpose: no wrap at midnight; a pause begun just before it waits for the next day's
+    // same second, unless the operator quits.
+    while (!arret_ && SecondesDuJour() < fin)
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}
+
+void SystemeReel::Informer(QWidget* parent, const QString& titre, const QString& texte) {
+    QMessageBox(QMessageBox::Information, titre, texte, QMessageBox::Ok, parent).exec();
+}
+
+void SystemeReel::Avertir(QWidget* parent, const QString& texte) {
+    QMessageBox(QMessageBox::Warning, QStringLiteral("Orvalis"), texte, QMessageBox::Ok, parent)
+        .exec();
+}
+
+QString SystemeReel::ChoisirFichier(QWidget* parent, const DemandeFichier& demande) {
+    QFileDialog dialogue(parent, demande.titre, demande.dossier,
+                         QStringLiteral("Fichier (*.Vek *.vek *.VEK)"));
+    dialogue.setDefaultSuffix(QStringLiteral("Vek"));
+    dialogue.setAcceptMode(demande.enregistrer ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialogue.setFileMode(demande.enregistrer ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    if (!demande.nomPropose.isEmpty())
+        dialogue.selectFile(demande.nomPropose);
+    if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty())
+        return {};
+    return dialogue.selectedFiles().constFirst();
+}
+
+std::optional<QString> SystemeReel::Lancer(const QString& chemin, const QStringList& arguments) {
+    if (QProcess::startDetached(chemin, arguments))
+        return std::nullopt;
+    return RaisonDeLancement(chemin);
+}
+
+void SystemeReel::Quitter(int code) {
+    arret_ = true;
+    QCoreApplication::exit(code);
+}
+
+} // namespace orvalis

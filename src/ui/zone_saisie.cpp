@@ -1,0 +1,130 @@
+#include "ui/zone_saisie.h"
+
+#include "core/texte.h"
+#include "ui/filtre_edition.h"
+#include "ui/texte_qt.h"
+
+#include <QEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPalette>
+
+namespace orvalis {
+namespace {
+
+constexpr std::size_t kBoiteSaQsl = 15;
+
+// Moves of the focus that the operator did not make inside the window.
+bool HorsSaisie(Qt::FocusReason raison) {
+    return raison == Qt::ActiveWindowFocusReason || raison == Qt::MenuBarFocusReason ||
+           raison == Qt::PopupFocusReason;
+}
+
+bool PaletteSombre(const QPalette& palette) {
+    return palette.color(QPalette::Window).lightness() < 128;
+}
+
+} // namespace
+
+ZoneSaisie::ZoneSaisie(const DescriptionBoite& boite, QWidget* parent)
+    : QLineEdit(parent), boite_(boite) {
+    const int index = static_cast<int>(boite.index);
+    setObjectName(QStringLiteral("TxtField_%1").arg(index));
+    if (boite.centre)
+        setAlignment(Qt::AlignCenter);
+    setValidator(new FiltreEdition(
+        [this](const TexteEdite& nouveau) {
+            return programme_
+                       ? nouveau
+                       : FiltrerEdition(boite_.touches, boite_.longueur, S(precedent_), nouveau);
+        },
+        this));
+    connect(this, &QLineEdit::textChanged, this, [this, index](const QString& texte) {
+        precedent_ = texte;
+        Q_EMIT changee(index, texte);
+    });
+    AppliquerCouleur();
+}
+
+void ZoneSaisie::Montrer(const QString& texte) {
+    programme_ = true;
+    setText(texte);
+    programme_ = false;
+}
+
+void ZoneSaisie::Colorer(Couleur couleur) {
+    couleur_ = couleur;
+    AppliquerCouleur();
+}
+
+void ZoneSaisie::AppliquerCouleur() {
+    QPalette palette;
+    const bool saQsl = boite_.index == kBoiteSaQsl;
+    const std::optional<Rvb> fond = FondDe(couleur_);
+    if (fond) {
+        palette.setColor(QPalette::Base, QColor(fond->rouge, fond->vert, fond->bleu));
+        palette.setColor(QPalette::Text, saQsl ? QColor(0xA0, 0, 0) : QColor(Qt::black));
+    } else if (saQsl) {
+        palette.setColor(QPalette::Text,
+                         PaletteSombre(palette) ? QColor(0xFF, 0x80, 0x80) : QColor(0xC0, 0, 0));
+    }
+    setPalette(palette);
+}
+
+void ZoneSaisie::changeEvent(QEvent* evenement) {
+    if (evenement->type() == QEvent::ApplicationPaletteChange)
+        AppliquerCouleur();
+    QLineEdit::changeEvent(evenement);
+}
+
+void ZoneSaisie::keyPressEvent(QKeyEvent* evenement) {
+    const int index = static_cast<int>(boite_.index);
+    switch (evenement->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        evenement->accept();
+        Q_EMIT entree(index);
+        return;
+    case Qt::Key_F2:
+        evenement->accept();
+        Q_EMIT pressee(index);
+        Q_EMIT cliquee(index);
+        return;
+    default:
+        QLineEdit::keyPressEvent(evenement);
+    }
+}
+
+void ZoneSaisie::focusInEvent(QFocusEvent* evenement) {
+    QLineEdit::focusInEvent(evenement);
+    if (!HorsSaisie(evenement->reason()))
+        Q_EMIT focusPris(static_cast<int>(boite_.index));
+}
+
+void ZoneSaisie::focusOutEvent(QFocusEvent* evenement) {
+    QLineEdit::focusOutEvent(evenement);
+    if (!HorsSaisie(evenement->reason()))
+        Q_EMIT focusPerdu(static_cast<int>(boite_.index));
+}
+
+void ZoneSaisie::mousePressEvent(QMouseEvent* evenement) {
+    QLineEdit::mousePressEvent(evenement);
+    pressionRecue_ = evenement->button() == Qt::LeftButton;
+    if (pressionRecue_)
+        Q_EMIT pressee(static_cast<int>(boite_.index));
+}
+
+void ZoneSaisie::mouseMoveEvent(QMouseEvent* evenement) {
+    // A hand that trembles during the press must not undo the selection the press just made.
+    if (!pressionRecue_)
+        QLineEdit::mouseMoveEvent(evenement);
+}
+
+void ZoneSaisie::mouseReleaseEvent(QMouseEvent* evenement) {
+    QLineEdit::mouseReleaseEvent(evenement);
+    if (pressionRecue_ && rect().contains(evenement->pos()))
+        Q_EMIT cliquee(static_cast<int>(boite_.index));
+    pressionRecue_ = false;
+}
+
+} // namespace orvalis

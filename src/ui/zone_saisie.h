@@ -1,0 +1,49 @@
+// One of the seventeen entry boxes: a line edit that filters what is typed or pasted and reports
+// what happened to it. It decides nothing.
+#pragma once
+
+#include "core/boites.h"
+#include "core/saisie.h"
+
+#include <QLineEdit>
+
+namespace orvalis {
+
+class ZoneSaisie : public QLineEdit {
+    Q_OBJECT
+  public:
+    ZoneSaisie(const DescriptionBoite& boite, QWidget* parent);
+
+    /// Shows a text as it is, past the key rules, and clears the undo history.
+    void Montrer(const QString& texte);
+    /// Background by a colour of the boxes; at rest it is the palette's own.
+    void Colorer(Couleur couleur);
+
+  Q_SIGNALS:
+    void entree(int index);                        ///< Enter, either one
+    void focusPris(int index);                     ///< by key, mouse or program
+    void focusPerdu(int index);                    ///< to another control of the window
+    void pressee(int index);                       ///< mouse press, or F2
+    void cliquee(int index);                       ///< press and release, or F2
+    void changee(int index, const QString& texte); ///< any change of the text
+
+  protected:
+    void keyPressEvent(QKeyEvent* evenement) override;
+    void focusInEvent(QFocusEvent* evenement) override;
+    void focusOutEvent(QFocusEvent* evenement) override;
+    void mousePressEvent(QMouseEvent* evenement) override;
+    void mouseMoveEvent(QMouseEvent* evenement) override;
+    void mouseReleaseEvent(QMouseEvent* evenement) override;
+    void changeEvent(QEvent* evenement) override;
+
+  private:
+    void AppliquerCouleur();
+
+    const DescriptionBoite& boite_;
+    QString precedent_; ///< text before the edit that the filter looks at
+    bool programme_ = false;
+    bool pressionRecue_ = false;
+    Couleur couleur_ = Couleur::Repos;
+};
+
+} // namespace orvalis

@@ -1,0 +1,125 @@
+// Browsing: pages, list keys, scroll bar, sheet, card.
+#include "ui/banc.h"
+#include "ui/feuille_log.h"
+
+#include <QListWidget>
+#include <QScrollBar>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace orvalis::essais {
+namespace {
+
+struct Apercu {
+    QString page;
+    int lignes;
+    QString premiere;
+    QString carte;
+};
+
+Apercu Voir(const Banc& banc) {
+    const QStringList lignes = banc.Lignes("ListeLog");
+    return {banc.Texte("LabPage"), static_cast<int>(lignes.size()),
+            lignes.isEmpty() ? QString() : lignes.first().left(6).trimmed(),
+            banc.Texte("NoFicheLab")};
+}
+
+TEST(Navigation, TaillesDeJournal) {
+    struct Cas {
+        int n;
+        const char* page;
+        int lignes;
+        bool boutons;
+        const char* carte;
+    };
+    const std::vector<Cas> cas = {
+        {0, "Page 1 / 1", 0, false, "  Fiche N° 0  "},
+        {1, "Page 1 / 1", 1, false, " Fiche N° 1 "},
+        {25, "Page 1 / 1", 25, false, " Fiche N° 25 "},
+        {26, "Page 2 / 2", 1, true, " Fiche N° 26 "},
+        {33000, "Page 1311 / 1311", 17, true, " Fiche N° 32767 "},
+    };
+    for (const Cas& c : cas) {
+        SCOPED_TRACE(c.n);
+        Banc banc;
+        banc.Installer(Contacts(c.n) + Fin());
+        banc.Ouvrir();
+        const Apercu vu = Voir(banc);
+        EXPECT_EQ(vu.page, QString::fromUtf8(c.page));
+        EXPECT_EQ(vu.lignes, c.lignes);
+        EXPECT_EQ(vu.carte, QString::fromUtf8(c.carte));
+        EXPECT_EQ(banc.Controle<QWidget>("CmdPageMoins")->isEnabled(), c.boutons);
+        EXPECT_EQ(banc.Controle<QScrollBar>("VScroll1")->maximum(), c.n);
+        EXPECT_EQ(banc.Foyer(), QStringLiteral("ListeLog"));
+    }
+}
+
+TEST(Navigation, TouchesEtBoutons) {
+    Banc banc;
+    banc.Installer(Contacts(60) + Fin());
+    banc.Ouvrir();
+    struct Cas {
+        std::function<void()> geste;
+        const char* page;
+        const char* carte;
+    };
+    const auto touche = [&](int t) { return [&banc, t] { banc.Touche(t); }; };
+    const auto bouton = [&](const char* nom) { return [&banc, nom] { banc.Cliquer(nom); }; };
+    const std::vector<Cas> cas = {
+        {touche(Qt::Key_PageDown), "Page 3 / 3", " Fiche N° 60 "},
+        {touche(Qt::Key_PageUp), "Page 2 / 3", " Fiche N° 26 "},
+        {touche(Qt::Key_Up), "Page 1 / 3", " Fiche N° 25 "},
+        {touche(Qt::Key_Down), "Page 2 / 3", " Fiche N° 26 "},
+        {touche(Qt::Key_Down), "Page 2 / 3", " Fiche N° 27 "},
+        {touche(Qt::Key_PageDown), "Page 3 / 3", " Fiche N° 51 "},
+        {bouton("CmdSensHaut"), "Page 1 / 3", " Fiche N° 1 "},
+        {bouton("CmdPageMoins"), "Page 1 / 3", " Fiche N° 1 "},
+        {bouton("CmdPagePlus"), "Page 2 / 3", " Fiche N° 1 "},
+        {bouton("CmdPagePlus"), "Page 3 / 3", " Fiche N° 1 "},
+        {bouton("CmdPageMoins"), "Page 2 / 3", " Fiche N° 26 "},
+        {bouton("CmdSensBas"), "Page 3 / 3", " Fiche N° 26 "},
+        {[&] { banc.Controle<QScrollBar>("VScroll1")->setValue(25); }, "Page 1 / 3",
+         " Fiche N° 26 "},
+    };
+    for (std::size_t i = 0; i < cas.size(); ++i) {
+        SCOPED_TRACE(i);
+        cas[i].geste();
+        const Apercu vu = Voir(banc);
+        EXPECT_EQ(vu.page, QString::fromUtf8(cas[i].page));
+        EXPECT_EQ(vu.carte, QString::fromUtf8(cas[i].carte));
+    }
+}
+
+TEST(Navigation, CarteListeEtFeuilleMontrentLesOctets) {
+    Banc banc;
+    banc.Installer(Octets({{Champ::CSGN, "F6ABCDEFGHIJ/P"},
+                           {Champ::DQSO, "12/05/02"},
+                           {Champ::HDEB, "18:30"},
+                           {Champ::SQTH, "Besançon"},
+                           {Champ::SLOC, "JO62QM"},
+                           {Champ::DEPT, "2A"},
+                           {Champ::SNOM, "Éloïse"},
+                           {Champ::INFO, "ANTENNE YAGI 3 F5XYZ"},
+                           {Champ::MLOC, "JN04SD"}}) +
+                   Octets({{Champ::CSGN, "F5XYZ"}}) + Fin());
+    banc.Ouvrir();
+    EXPECT_EQ(banc.Texte("LabDist").trimmed(), QStringLiteral("0 Km")) << "both locators empty";
+    EXPECT_EQ(banc.Texte("LabAzim"), QStringLiteral("... "));
+    auto* page = banc.Controle<FeuilleLog>("PageText1");
+    const int y = page->viewport()->height() * 12 / 100; // the first row lies just below the head
+    QTest::mouseClick(page->viewport(), Qt::LeftButton, {}, QPoint(40, y));
+    EXPECT_EQ(banc.Texte("NoFicheLab"), QStringLiteral(" Fiche N° 1 "));
+    EXPECT_EQ(banc.Lignes("ListeLog")[0],
+              QStringLiteral("1      : F6ABCDEFGH:12/05/02:18:30      "));
+    EXPECT_EQ(banc.Texte("TxtField_1"), QStringLiteral("F6ABCDEFGHIJ/P"));
+    EXPECT_EQ(banc.Texte("TxtField_13"), QStringLiteral("ANTENNE YAGI 3"));
+    EXPECT_EQ(banc.Texte("TxtField_17"), QStringLiteral("F5XYZ"));
+    EXPECT_EQ(banc.Texte("LabDept"), QStringLiteral("Aisne"));
+    EXPECT_EQ(banc.Texte("LabDist"), QStringLiteral("1275.5 Km "));
+    EXPECT_EQ(banc.Texte("LabAzim"), QStringLiteral("321°"));
+    EXPECT_TRUE(page->toPlainText().contains(QStringLiteral("Besançon             Éloïse")));
+}
+
+} // namespace
+} // namespace orvalis::essais
