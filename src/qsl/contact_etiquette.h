@@ -1,0 +1,48 @@
+// Which contact of the logbook a label belongs to, and the mark that the contact carries for it.
+// Contacts are read and written as records of their own: the card on show and the working slots
+// stay as they are.
+#pragma once
+
+#include "core/session.h"
+#include "qsl/feuille_qsl.h"
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace orvalis {
+
+/// MQSL of a contact that stands on the sheet.
+inline constexpr std::string_view kEnCours = "En cours";
+
+/// What was found for a label. Only a single contact is ever touched for it.
+struct ContactTrouve {
+    std::int32_t fiche = 0;  ///< record number; 0 when there is none, or more than one
+    std::int32_t nombre = 0; ///< contacts that came into question
+};
+
+/// The contacts that the labels stand for, one answer for each label. The number on a label goes
+/// stale when the log is sorted or a contact deleted, so it is believed only when that contact is
+/// "En cours" and has the label's callsign, or its date and time. Otherwise the one contact "En
+/// cours" with the label's callsign, date and time is taken. Reads the logbook once at most.
+[[nodiscard]] std::vector<ContactTrouve> TrouverContacts(const Session& session,
+                                                         std::span<const QslSlotRecord> etiquettes);
+
+/// The same for one label.
+[[nodiscard]] ContactTrouve TrouverContact(const Session& session, const QslSlotRecord& etiquette);
+
+/// The contact that a label just written is for: the one it numbers, whatever its MQSL, when that
+/// has the label's callsign, or its date and time; else 0.
+[[nodiscard]] std::int32_t ContactNumerote(const Session& session, const QslSlotRecord& etiquette);
+
+/// The place (1 to 16) of a prepared label that was written for contact `k` while the contact was
+/// never marked (the program was killed in between); 0 when there is none. Such a label has the
+/// contact's date and time, and its callsign or number, and no contact "En cours" to it.
+[[nodiscard]] int EtiquetteSansMarque(const Session& session, const FeuilleQSL& feuille,
+                                      std::int32_t k);
+
+/// Sets MQSL of contact `k`, cut to 8 characters; its other bytes stay. The caller flushes.
+void MarquerContact(Session& session, std::int32_t k, std::string_view maQsl);
+
+} // namespace orvalis

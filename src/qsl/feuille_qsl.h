@@ -1,0 +1,129 @@
+// The sheet of sixteen QSL labels: its file, the state of each place, the label editor's boxes,
+// and what the captions say. The window paints this state and changes it only through the
+// procedures here and in flux_etiquettes.h. File operations throw ErreurFichier.
+#pragma once
+
+#include "core/fichier.h"
+#include "qsl/qsl_slot_record.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace orvalis {
+
+/// Places are numbered 1 to 16, as they lie on the paper: two columns, eight rows.
+inline constexpr int kNbEtiquettes = 16;
+
+inline constexpr std::string_view kVoieBureau = "BUREAU";
+inline constexpr std::string_view kVoieDirect = "DIRECT";
+inline constexpr std::string_view kPlusDEtiquette = " Plus d'étiquette disponible ! ";
+
+/// Captions of the two buttons that lie beside the sheet.
+inline constexpr std::string_view kLegendeImprimer = "Imprimer";
+inline constexpr std::string_view kLegendeRestaurer = "Restaurer";
+
+/// Back colour of the choice button of a prepared label (blue, green, red from the high byte).
+inline constexpr std::uint32_t kJauneEtiquette = 65535;
+
+enum class EtatEtiquette : unsigned char {
+    Libre,    ///< free and available
+    Preparee, ///< holds a label
+    Retiree   ///< withdrawn: missing from the paper, not used; never written to the file
+};
+
+/// The route options of the label editor.
+enum class VoieQSL : unsigned char { Aucune, Bureau, Direct };
+
+/// Entry boxes FLdText 1 to 11; element 0 is unused.
+inline constexpr std::size_t kNbBoitesEtiquette = 11;
+using BoitesEtiquette = std::array<std::string, kNbBoitesEtiquette + 1>;
+
+inline constexpr std::size_t kBoiteIndicatif = 1;
+inline constexpr std::size_t kBoiteDate = 2;
+inline constexpr std::size_t kBoiteHeure = 3;
+inline constexpr std::size_t kBoiteFrequence = 4;
+inline constexpr std::size_t kBoiteMode = 5;
+inline constexpr std::size_t kBoiteReport = 6;
+inline constexpr std::size_t kBoiteLigne1 = 7;
+inline constexpr std::size_t kBoiteLigne2 = 8;
+inline constexpr std::size_t kBoiteManager = 9;
+inline constexpr std::size_t kBoiteRappel = 10; ///< second display of the callsign
+inline constexpr std::size_t kBoiteNumeroFiche = 11;
+
+/// What is on show.
+struct VueFeuille {
+    bool panneau = false;   ///< PictFeuilleQSL
+    bool valider = false;   ///< BtValidQSL
+    bool supprimer = false; ///< BtDelQSL
+    bool laisser = false;   ///< BtLeaveQSL
+    bool quitter = true;    ///< BtQuitQSL
+    bool imprimer = false;  ///< BtPrintQSL
+    bool restaurer = false; ///< BtRestore
+    bool controle = false;  ///< PictCtrlImpression; meanwhile only its two buttons act
+    std::string nrTag;      ///< caption NrTag
+};
+
+struct FeuilleQSL {
+    std::filesystem::path chemin;
+    Fichier fichier;
+    bool ouverte = false; ///< the QSL service is active
+    std::array<EtatEtiquette, kNbEtiquettes> etats{};
+    std::array<std::string, kNbEtiquettes> indicatifs; ///< callsigns of the prepared labels
+    QslSlotRecord tampon;                              ///< label last read or written
+    BoitesEtiquette boites;
+    VoieQSL voie = VoieQSL::Aucune;
+    bool fraiche = false;       ///< the boxes hold a label that was never on the sheet
+    int etiquetteEnCours = 0;   ///< place under edit; 0 while there is none
+    std::string ligneMemorisee; ///< first text line of the last label validated in this run
+    VueFeuille vue;
+
+    [[nodiscard]] EtatEtiquette Etat(int k) const { return etats[Rang(k)]; }
+    /// Element of the arrays for place `k` (1 to 16).
+    [[nodiscard]] static constexpr std::size_t Rang(int k) {
+        return static_cast<std::size_t>(k) - 1;
+    }
+};
+
+/// The two buttons of one place.
+struct VuePlace {
+    std::string legendeChoix; ///< BtChoix: "Effacer", "Retirer" or "Libérer"
+    std::string legendeTag;   ///< BtTag
+    bool jaune = false;       ///< BtChoix has kJauneEtiquette, else the form's ordinary colour
+    bool tagActif = true;     ///< BtTag is enabled
+};
+[[nodiscard]] VuePlace VoirPlace(const FeuilleQSL& feuille, int k);
+
+/// "Etiquette N° " and the number.
+[[nodiscard]] std::string LegendeEtiquette(int k);
+
+/// Closes the sheet file if it is open and opens it again; creates it, empty, when it is missing.
+void OuvrirFeuilleQSL(FeuilleQSL& feuille);
+
+/// Opens the sheet of the program folder `dossier` and sets the state of every place from it. A
+/// missing file is created with sixteen free records; a short or damaged one is only read: what
+/// it lacks counts as blank. Empties the boxes; places withdrawn before are free again.
+void ChargerFeuilleQSL(FeuilleQSL& feuille, const std::filesystem::path& dossier);
+
+/// The record of place `k`, blank beyond the end of the file. For the printer and for checks:
+/// changes nothing.
+[[nodiscard]] QslSlotRecord LireEnregistrement(const FeuilleQSL& feuille, int k);
+
+/// Reads place `k` into the boxes and the route option; NrTag names it.
+void LireEtiquette(FeuilleQSL& feuille, int k);
+
+/// Opens the sheet again and writes place `k` from the boxes and the route option. The caller
+/// flushes (feuille.fichier.Synchroniser()).
+void EcrireEtiquette(FeuilleQSL& feuille, int k);
+
+/// From place `k` upward, the first free one, or 16 when there is none. NrTag names it; when 16
+/// was reached and is withdrawn, NrTag says that there is no label left and BtValidQSL goes.
+void ProchaineEtiquetteLibre(FeuilleQSL& feuille, int& k);
+
+/// Empties boxes 1 to `derniere` and turns both route options off.
+void ViderBoites(FeuilleQSL& feuille, std::size_t derniere = kNbBoitesEtiquette);
+
+} // namespace orvalis

@@ -1,0 +1,42 @@
+# Debian packages that ./run, ./check and the scripts of tools/ need; to be sourced.
+# shellcheck shell=bash disable=SC2034
+
+# Building and starting the program. Qt speaks French through its own translations and shows the
+# program's icon through its SVG plug-in; both are loaded at run time, so no link asks for them.
+PAQUETS_PROGRAMME=(g++ cmake ninja-build ccache qt6-base-dev libqt6svg6 qt6-translations-l10n
+                   libxcb-cursor0 fonts-dejavu-core fonts-liberation)
+# Running it without a screen, and taking its picture.
+PAQUETS_ECRAN=(xvfb x11-utils imagemagick openbox)
+# Tests, checks and the Debian package.
+PAQUETS_CONTROLE=(libgtest-dev libgmock-dev lld clang-format-14 clang-tidy-14 python3
+                  git poppler-utils xdotool desktop-file-utils appstream dpkg-dev file)
+PAQUETS_MESURES=(libbenchmark-dev)
+
+# Prints the packages among the arguments that are not installed.
+paquets_absents() {
+    local paquet
+    for paquet in "$@"; do
+        dpkg-query -W -f='${db:Status-Status}' "$paquet" 2>/dev/null | grep -qx installed ||
+            printf '%s\n' "$paquet"
+    done
+}
+
+# Installs the packages among the arguments that are missing, when this account may; otherwise
+# prints the one line to type and returns 1.
+installer_paquets() {
+    local absents prefixe=()
+    mapfile -t absents < <(paquets_absents "$@")
+    ((${#absents[@]})) || return 0
+    if ((EUID != 0)); then
+        if ! sudo -n true 2>/dev/null; then
+            printf '%s\n' "Il manque des paquets. Tapez cette ligne, puis recommencez :" \
+                "sudo apt-get update && sudo apt-get install -y --no-install-recommends ${absents[*]}" >&2
+            return 1
+        fi
+        prefixe=(sudo -n)
+    fi
+    printf 'Installation de : %s\n' "${absents[*]}"
+    "${prefixe[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -q </dev/null &&
+        "${prefixe[@]}" env DEBIAN_FRONTEND=noninteractive \
+            apt-get install -q -y --no-install-recommends "${absents[@]}" </dev/null
+}
