@@ -82,6 +82,7 @@ void EnregistrerEtTerminer(Plateau& p) {
     p.menu.show();
     p.liste.setEnabled(true);
     RemplirListe(p);
+    p.menu.ActiverSupprimer(p.session.nbFiches != 0);
     p.rech.setVisible(p.session.nbFiches != 0);
     AbandonnerModification(p);
     SelectionnerDerniereLigne(p);

@@ -10,7 +10,9 @@
 #include <QListWidget>
 #include <QTest>
 
+#include <algorithm>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <sstream>
 
 namespace orvalis::essais {
@@ -137,7 +139,9 @@ bool Banc::Visible(const char* nom) const {
 }
 
 void Banc::Cliquer(const char* nom) const {
-    QTest::mouseClick(Controle<QWidget>(nom), Qt::LeftButton);
+    auto* controle = Controle<QWidget>(nom);
+    ASSERT_TRUE(controle != nullptr && controle->isVisible() && controle->isEnabled()) << nom;
+    QTest::mouseClick(controle, Qt::LeftButton);
     QCoreApplication::processEvents();
 }
 
