@@ -4,6 +4,7 @@
 #include "qsl/contact_etiquette.h"
 
 #include <algorithm>
+#include <array>
 
 namespace orvalis {
 namespace {
@@ -285,6 +286,7 @@ ReponseQSL ToutEstParfait(Session& session, FeuilleQSL& feuille, std::string_vie
     }
     const std::vector<int> places = EtiquettesAImprimer(feuille);
     std::vector<QslSlotRecord> etiquettes;
+    etiquettes.reserve(places.size());
     for (const int k : places)
         etiquettes.push_back(LireEnregistrement(feuille, k));
     const std::vector<ContactTrouve> trouves = TrouverContacts(session, etiquettes);
