@@ -1,10 +1,12 @@
 // What the panels and menus report, and the flow that answers it.
+#include "core/commandes.h"
 #include "geo/dlg2.h"
 #include "ui/a_propos.h"
 #include "ui/chang_locator.h"
 #include "ui/feuille_log.h"
 #include "ui/flux_demarrage.h"
 #include "ui/flux_locator.h"
+#include "ui/flux_maintenance.h"
 #include "ui/flux_modification.h"
 #include "ui/flux_navigation.h"
 #include "ui/flux_recherche.h"
@@ -16,6 +18,7 @@
 #include "ui/panneau_enrs.h"
 #include "ui/panneau_fiche.h"
 #include "ui/panneau_horloge.h"
+#include "ui/panneau_jumelage.h"
 #include "ui/panneau_liste.h"
 #include "ui/panneau_menu.h"
 #include "ui/panneau_rech.h"
@@ -31,6 +34,12 @@ void Orvalis::BrancherMenus() {
     const std::map<std::string_view, Commande> commandes = {
         {"MnuDoublons", [this] { MontrerDoublons(p_); }},
         {"MnuChangerLocator", [this] { ChangerDeLocator(p_); }},
+        {"MnuCourantF", [this] { OuvrirJournalCourant(p_); }},
+        {"MnuAutreF", [this] { OuvrirAutre(p_); }},
+        {"MnuJumeler", [this] { OuvrirJumelage(p_); }},
+        {"MnuCopieSurDisque", [this] { CopierSurDisque(p_); }},
+        {"MnuClasser", [this] { Classer(p_); }},
+        {"MnuSauver", [this] { Sauvegarder(p_); }},
         {"MnuCreateMDB", [this] { CreerBaseDeDonnees(p_); }},
         {"MnuEditLocator", [this] { Dlg2(this).exec(); }},
         {"MnuVoir", [this] { APropos(p_.systeme, this).exec(); }},
@@ -42,9 +51,22 @@ void Orvalis::BrancherMenus() {
         }
         const auto trouve = commandes.find(S(action.objectName()));
         action.setEnabled(trouve != commandes.end());
+        action.setData(trouve != commandes.end());
         if (trouve != commandes.end())
             Brancher(&action, &QAction::triggered, [flux = trouve->second](bool) { flux(); });
     });
+}
+
+void Orvalis::ActualiserMenus() {
+    for (const RegleCommande& regle : kReglesCommandes)
+        if (auto* action = findChild<QAction*>(Q(regle.nom)); action && action->data().toBool())
+            action->setEnabled(!p_.gel && CommandePermise(regle.commande, session_));
+}
+
+void Orvalis::BrancherMaintenance() {
+    Brancher(&p_.jumelage, &PJumelage::jumeler, [this] { Jumeler(p_); });
+    Brancher(&p_.jumelage, &PJumelage::sauvegarder, [this] { SauvegarderAvantJumelage(p_); });
+    Brancher(&p_.jumelage, &PJumelage::annuler, [this] { FermerJumelage(p_); });
 }
 
 void Orvalis::BrancherPanneaux() {

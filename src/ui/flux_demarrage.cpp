@@ -9,10 +9,12 @@
 #include "ui/effets.h"
 #include "ui/flux_navigation.h"
 #include "ui/msg_fiche.h"
+#include "ui/panneau_classer.h"
 #include "ui/panneau_contacts.h"
 #include "ui/panneau_enrs.h"
 #include "ui/panneau_fiche.h"
 #include "ui/panneau_horloge.h"
+#include "ui/panneau_jumelage.h"
 #include "ui/panneau_menu.h"
 #include "ui/panneau_rech.h"
 #include "ui/systeme.h"
@@ -38,6 +40,8 @@ void CacherPanneaux(Plateau& p) {
     p.contacts.hide();
     p.msgFiche.hide();
     p.changLocator.hide();
+    p.classer.hide();
+    p.jumelage.hide();
 }
 
 Demarrage ChargerParametres(Plateau& p) {

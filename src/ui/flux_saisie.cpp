@@ -11,6 +11,7 @@
 #include "ui/panneau_contacts.h"
 #include "ui/panneau_enrs.h"
 #include "ui/panneau_fiche.h"
+#include "ui/panneau_jumelage.h"
 #include "ui/panneau_menu.h"
 #include "ui/panneau_rech.h"
 #include "ui/systeme.h"
@@ -24,6 +25,7 @@ void OuvrirFicheVierge(Plateau& p) {
     p.rech.hide();
     p.contacts.hide();
     p.changLocator.hide();
+    p.jumelage.hide();
     p.enrs.ActiverAnnuler(false);
     p.enrs.ArmerSuivant(false);
     p.liste.setEnabled(true);

@@ -5,10 +5,12 @@
 #include "ui/feuille_log.h"
 #include "ui/flux_demarrage.h"
 #include "ui/msg_fiche.h"
+#include "ui/panneau_classer.h"
 #include "ui/panneau_contacts.h"
 #include "ui/panneau_enrs.h"
 #include "ui/panneau_fiche.h"
 #include "ui/panneau_horloge.h"
+#include "ui/panneau_jumelage.h"
 #include "ui/panneau_liste.h"
 #include "ui/panneau_menu.h"
 #include "ui/panneau_rech.h"
@@ -91,7 +93,9 @@ Orvalis::Orvalis(Systeme& systeme, QWidget* parent)
                               *new PictRech(this),
                               *new PictContacts(this),
                               *new FraMsgFiche(this),
-                              *new PictChangLocator(this)},
+                              *new PictChangLocator(this),
+                              *new PictClasser(this),
+                              *new PJumelage(this)},
       timer1_(new QTimer(this)) {
     ChargerRessources();
     setObjectName(QStringLiteral("Orvalis"));
@@ -105,6 +109,8 @@ Orvalis::Orvalis(Systeme& systeme, QWidget* parent)
     BrancherNavigation();
     BrancherFiche();
     BrancherSaisie();
+    BrancherMaintenance();
+    ActualiserMenus();
     qApp->installEventFilter(this);
 }
 
@@ -165,6 +171,8 @@ QWidget* Orvalis::ColonneDroite() {
     auto* reponses = new QVBoxLayout;
     reponses->addWidget(&p_.msgFiche);
     reponses->addWidget(&p_.changLocator);
+    reponses->addWidget(&p_.classer);
+    reponses->addWidget(&p_.jumelage);
     reponses->addWidget(&p_.contacts, 1);
     reponses->addStretch(0);
     bas->addLayout(reponses);
@@ -184,6 +192,7 @@ void Orvalis::Executer(const Commande& flux) {
         p_.systeme.Avertir(this, Q(MessageErreur(echec)));
         QuitterProgramme(p_, 1);
     }
+    ActualiserMenus();
 }
 
 bool Orvalis::event(QEvent* evenement) {
@@ -228,8 +237,8 @@ void Orvalis::closeEvent(QCloseEvent* evenement) {
 }
 
 // Enter on a button, or its mnemonic, presses it at once: the usual animation would let the next
-// keystrokes go to the control that is about to lose the focus. While the window is frozen, what the operator
-// does reaches only what quits.
+// keystrokes go to the control that is about to lose the focus. While the window is frozen, what
+// the operator does reaches only what quits.
 bool Orvalis::eventFilter(QObject* objet, QEvent* evenement) {
     if (p_.gel && EstUnGeste(evenement->type()) && objet->isWidgetType()) {
         const auto* controle = static_cast<QWidget*>(objet);

@@ -37,6 +37,9 @@ class Orvalis : public QMainWindow {
     [[nodiscard]] QWidget* ColonneGauche();
     [[nodiscard]] QWidget* ColonneDroite();
     void BrancherMenus();
+    /// Enables the menu entries whose command may run now.
+    void ActualiserMenus();
+    void BrancherMaintenance();
     void BrancherPanneaux();
     void BrancherNavigation();
     void BrancherFiche();

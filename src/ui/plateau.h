@@ -8,8 +8,10 @@ namespace orvalis {
 
 class FeuilleLog;
 class FraMsgFiche;
+class PJumelage;
 class PanneauHorloge;
 class PictChangLocator;
+class PictClasser;
 class PictContacts;
 class PictEnrs;
 class PictFiche;
@@ -33,6 +35,8 @@ struct Plateau {
     PictContacts& contacts;
     FraMsgFiche& msgFiche;
     PictChangLocator& changLocator;
+    PictClasser& classer;
+    PJumelage& jumelage;
 
     bool gel = false;   ///< keyboard and mouse act on nothing but quitting
     bool arret = false; ///< the program is ending: no flow goes on

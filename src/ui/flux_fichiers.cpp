@@ -1,0 +1,178 @@
+// Other logbooks, backup, copy and pairing: the commands of flux_maintenance.h that ask for a
+// file. When the other file fails, the operator is told and the program goes on, since the open
+// logbook is as it was; a failure of the open logbook itself ends the program as everywhere.
+#include "core/commandes.h"
+#include "core/dossier.h"
+#include "core/fiches.h"
+#include "core/messages.h"
+#include "maint/copie.h"
+#include "maint/jumelage.h"
+#include "maint/ouverture.h"
+#include "ui/effets.h"
+#include "ui/flux_demarrage.h"
+#include "ui/flux_maintenance.h"
+#include "ui/flux_modification.h"
+#include "ui/flux_navigation.h"
+#include "ui/panneau_enrs.h"
+#include "ui/panneau_jumelage.h"
+#include "ui/panneau_liste.h"
+#include "ui/systeme.h"
+#include "ui/texte_qt.h"
+
+#include <QMainWindow>
+#include <QStandardPaths>
+#include <QStorageInfo>
+
+#include <functional>
+
+namespace orvalis {
+namespace {
+
+// Runs `action`; a failure that does not concern the open logbook is told. Returns success.
+bool Essayer(Plateau& p, const std::function<void()>& action) {
+    try {
+        const Sablier sablier;
+        action();
+        return true;
+    } catch (const ErreurFichier& echec) {
+        if (echec.Chemin() == p.session.cheminJournal)
+            throw;
+        p.systeme.Avertir(&p.fenetre, Q(MessageErreur(echec)));
+    } catch (const ErreurVerrou& echec) {
+        p.systeme.Avertir(&p.fenetre, Q(MessageErreur(echec)));
+    }
+    return false;
+}
+
+QString NomDuFichier(const Session& session) {
+    return Q(session.cheminJournal.filename().string());
+}
+
+bool CopierVers(Plateau& p, const DemandeFichier& demande) {
+    const QString cible = p.systeme.ChoisirFichier(&p.fenetre, demande);
+    return !cible.isEmpty() &&
+           Essayer(p, [&] { CopierJournal(p.session, std::filesystem::path(S(cible))); });
+}
+
+// Returns whether a backup was made.
+bool Sauvegarde(Plateau& p) {
+    std::filesystem::path dossier;
+    if (!Essayer(p, [&] { dossier = CheminSauvegardes(p.session.lecteur); }))
+        return false;
+    return CopierVers(p, {true, Q(dossier.string()), NomDuFichier(p.session),
+                          QStringLiteral("Sauvegarder le cahier")});
+}
+
+QString DossierAmovible() {
+    constexpr std::array<const char*, 4> kRacines = {"/media/", "/run/media/", "/mnt/",
+                                                     "/Volumes/"};
+    for (const QStorageInfo& volume : QStorageInfo::mountedVolumes())
+        for (const char* racine : kRacines)
+            if (volume.isReady() && !volume.isReadOnly() &&
+                volume.rootPath().startsWith(QLatin1String(racine)))
+                return volume.rootPath();
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+void PrevenirSiIncomplet(Plateau& p, const EtatJournal& etat) {
+    QStringList defauts;
+    if (!etat.finPresente)
+        defauts << QStringLiteral("il n'a pas d'enregistrement de fin");
+    if (!etat.longueurEntiere)
+        defauts << QStringLiteral("sa longueur n'est pas un nombre entier de fiches");
+    if (!defauts.isEmpty())
+        p.systeme.Avertir(&p.fenetre, QStringLiteral("Le cahier « %1 » est peut-être abîmé : %2.")
+                                          .arg(Q(p.session.cheminJournal.string()),
+                                               defauts.join(QStringLiteral(" et "))));
+}
+
+} // namespace
+
+void OuvrirJumelage(Plateau& p) {
+    if (!CommandePermise(Commande::MnuJumeler, p.session))
+        return;
+    LacherFoyer();
+    AbandonnerModification(p);
+    RemplirListe(p);
+    SelectionnerDerniereLigne(p);
+    p.liste.setEnabled(false);
+    p.jumelage.Ouvrir(p.session.cheminJournal.filename().string());
+}
+
+void Jumeler(Plateau& p) {
+    if (!CommandePermise(Commande::BtPjumeler, p.session))
+        return;
+    const QString source = p.systeme.ChoisirFichier(
+        &p.fenetre,
+        {false, Q(TexteLecteur(p.session.lecteur)), {}, QStringLiteral("Cahier à ajouter")});
+    if (source.isEmpty())
+        return;
+    Essayer(p, [&] { JumelerJournal(p.session, std::filesystem::path(S(source))); });
+    RemplirListe(p);
+    SelectionnerDerniereLigne(p);
+}
+
+void SauvegarderAvantJumelage(Plateau& p) {
+    if (CommandePermise(Commande::BtPjSauvegarder, p.session) && Sauvegarde(p)) {
+        LacherFoyer();
+        p.jumelage.ActiverSauvegarde(false);
+    }
+}
+
+void FermerJumelage(Plateau& p) {
+    LacherFoyer();
+    p.jumelage.hide();
+    p.liste.setEnabled(true);
+    p.liste.DonnerFoyer();
+}
+
+void OuvrirJournalCourant(Plateau& p) {
+    if (!CommandePermise(Commande::MnuCourantF, p.session))
+        return;
+    AbandonnerModification(p);
+    p.jumelage.hide();
+    p.liste.setEnabled(true);
+    Demarrage suite = Demarrage::Recommencer;
+    while (suite == Demarrage::Recommencer)
+        suite = ChargerParametres(p);
+    if (suite == Demarrage::Arreter) {
+        p.arret = true;
+        QuitterProgramme(p, 0);
+    }
+}
+
+void OuvrirAutre(Plateau& p) {
+    if (!CommandePermise(Commande::MnuAutreF, p.session))
+        return;
+    AbandonnerModification(p);
+    p.jumelage.hide();
+    p.liste.setEnabled(true);
+    p.enrs.hide();
+    const QString choisi = p.systeme.ChoisirFichier(
+        &p.fenetre,
+        {false, Q(TexteLecteur(p.session.lecteur)), {}, QStringLiteral("Ouvrir un autre cahier")});
+    if (choisi.isEmpty())
+        return;
+    BilanOuverture bilan;
+    if (!Essayer(p, [&] { bilan = OuvrirAutreJournal(p.session, S(choisi)); }) || !bilan.ouvert)
+        return;
+    InitialiserFenetre(p);
+    PrevenirSiIncomplet(p, bilan.etat);
+}
+
+void Sauvegarder(Plateau& p) {
+    if (!CommandePermise(Commande::MnuSauver, p.session))
+        return;
+    Sauvegarde(p);
+    p.liste.DonnerFoyer();
+}
+
+void CopierSurDisque(Plateau& p) {
+    if (!CommandePermise(Commande::MnuCopieSurDisque, p.session))
+        return;
+    CopierVers(
+        p, {true, DossierAmovible(), NomDuFichier(p.session), QStringLiteral("Copier le cahier")});
+    p.session.lecteur = p.systeme.Lecteur();
+}
+
+} // namespace orvalis
