@@ -45,7 +45,12 @@ TexteEdite FiltrerEdition(Touches touches, std::size_t longueur, std::string_vie
                           const TexteEdite& nouveau) {
     const std::string_view avantCurseur = Gauche(nouveau.texte, nouveau.curseur);
     const std::string_view suite = std::string_view(nouveau.texte).substr(avantCurseur.size());
-    const std::size_t garde = PrefixeCommun(ancien, avantCurseur, nouveau.curseur);
+    // What follows the cursor stood in the box too; a prefix that reached into it would take an
+    // inserted text that repeats it for the old one, and let it pass unfiltered.
+    const std::size_t avant = Longueur(ancien);
+    const std::size_t limite = avant - std::min(avant, Longueur(suite));
+    const std::size_t garde =
+        PrefixeCommun(ancien, avantCurseur, std::min(limite, nouveau.curseur));
     const std::string_view debut = Gauche(nouveau.texte, garde);
     const std::string insere = FiltrerTouches(touches, avantCurseur.substr(debut.size()));
     const std::size_t occupe = Longueur(debut) + Longueur(suite);

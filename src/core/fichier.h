@@ -1,4 +1,5 @@
-// Positioned reads and writes on one open file. The operating system's calls appear only here.
+// Positioned reads and writes on one open file. The operating system's calls appear only here and
+// in projection.h.
 #pragma once
 
 #include <cstddef>

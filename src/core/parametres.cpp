@@ -3,7 +3,7 @@
 #include "core/fichier.h"
 #include "core/texte.h"
 
-#include <array>
+#include <algorithm>
 #include <vector>
 
 namespace orvalis {

@@ -108,9 +108,9 @@ void Appliquer(Session& session, const Reponse& reponse);
 [[nodiscard]] Reponse PresserBoite(const Session& session, std::size_t boite,
                                    std::string_view texte);
 
-/// The blank card of the next contact, for an N that is up to date: slots emptied, own locator in
-/// slot and box 16, entry flags reset, all seventeen boxes and the three labels shown anew, focus
-/// in box 1. Appliquer() also sets no record number: the caller shows session.prochaineFiche.
+/// The blank card of the next contact: slots emptied, own locator in slot and box 16, entry flags
+/// reset, all seventeen boxes and the three labels shown anew, focus in box 1. The record number
+/// is not its business: the caller has counted and shows session.prochaineFiche.
 [[nodiscard]] Reponse PreparerSaisie(const Session& session);
 
 /// What ends a contact: BtEnrSuivant or BtEnrTerminer.

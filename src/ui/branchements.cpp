@@ -54,6 +54,7 @@ void Orvalis::BrancherPanneaux() {
     connect(&p_.menu, &PictMenu::fermetureDemandee, this, &QWidget::close);
     Brancher(&p_.menu, &PictMenu::nouveauDemande, [this] { NouveauQso(p_); });
     Brancher(&p_.menu, &PictMenu::suppressionDemandee, [this] { DemanderSuppression(p_); });
+    connect(&p_.msgFiche, &FraMsgFiche::visibleChange, &p_.menu, &PictMenu::CederAltN);
     Brancher(&p_.msgFiche, &FraMsgFiche::oui, [this] { RepondreOuiAuCadre(p_); });
     Brancher(&p_.msgFiche, &FraMsgFiche::non, [this] { RepondreNonAuCadre(p_); });
     Brancher(&p_.rech, &PictRech::rechercheDemandee, [this] { Rechercher(p_); });

@@ -184,13 +184,19 @@ void FeuilleLog::changeEvent(QEvent* evenement) {
         Ajuster();
 }
 
+QRect FeuilleLog::RectDeRangee(int rang) const {
+    return {-horizontalScrollBar()->value(),
+            mesures_.tete + rang * mesures_.ligne - verticalScrollBar()->value(), mesures_.largeur,
+            mesures_.ligne};
+}
+
 void FeuilleLog::mousePressEvent(QMouseEvent* evenement) {
-    const int y = evenement->pos().y() + verticalScrollBar()->value() - mesures_.tete;
-    if (y < 0 || mesures_.ligne == 0)
-        return;
-    const auto rang = static_cast<std::size_t>(y / mesures_.ligne);
-    if (rang < rangees_.size())
+    for (std::size_t rang = 0; rang < rangees_.size(); ++rang) {
+        if (!RectDeRangee(static_cast<int>(rang)).contains(evenement->pos()))
+            continue;
         Q_EMIT rangeeChoisie(rangees_[rang].numero);
+        return;
+    }
 }
 
 } // namespace orvalis

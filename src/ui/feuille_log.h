@@ -23,6 +23,8 @@ class FeuilleLog : public QAbstractScrollArea {
     void Montrer(std::vector<RangeePage> rangees);
     /// Marks the row of the record on the card; 0 for none.
     void Marquer(std::int32_t numero);
+    /// Where row `rang` (from 0) lies in the viewport.
+    [[nodiscard]] QRect RectDeRangee(int rang) const;
     /// The sheet as fixed-pitch text, a line per row.
     [[nodiscard]] QString toPlainText() const;
 

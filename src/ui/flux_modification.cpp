@@ -61,8 +61,8 @@ void DemanderSuppression(Plateau& p) {
         ChoisirFiche(p, s.ficheCourante);
     const TextesCadre cadre = CadreEffacer(s);
     p.msgFiche.Demander(cadre.legende, cadre.numero, cadre.indicatif);
-    p.msgFiche.DonnerFoyerNon();
     p.menu.setEnabled(false);
+    p.msgFiche.DonnerFoyerNon();
 }
 
 void RepondreOuiAuCadre(Plateau& p) {

@@ -25,6 +25,16 @@ void FraMsgFiche::Demander(std::string_view question, std::string_view numero,
     show();
 }
 
+void FraMsgFiche::showEvent(QShowEvent* evenement) {
+    QGroupBox::showEvent(evenement);
+    Q_EMIT visibleChange(true);
+}
+
+void FraMsgFiche::hideEvent(QHideEvent* evenement) {
+    QGroupBox::hideEvent(evenement);
+    Q_EMIT visibleChange(false);
+}
+
 void FraMsgFiche::DonnerFoyerNon() {
     ui_->FraCmdNon->setFocus();
 }

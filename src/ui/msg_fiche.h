@@ -23,8 +23,13 @@ class FraMsgFiche : public QGroupBox {
     void DonnerFoyerNon();
 
   Q_SIGNALS:
+    void visibleChange(bool visible);
     void oui();
     void non();
+
+  protected:
+    void showEvent(QShowEvent* evenement) override;
+    void hideEvent(QHideEvent* evenement) override;
 
   private:
     std::unique_ptr<Ui::FraMsgFiche> ui_;

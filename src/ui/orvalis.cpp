@@ -58,6 +58,16 @@ bool EstUnGeste(QEvent::Type type) {
     }
 }
 
+// Enter on a button, or its mnemonic.
+bool Presse(const QEvent& evenement) {
+    if (evenement.type() == QEvent::Shortcut)
+        return !static_cast<const QShortcutEvent&>(evenement).isAmbiguous();
+    if (evenement.type() != QEvent::KeyPress)
+        return false;
+    const int touche = static_cast<const QKeyEvent&>(evenement).key();
+    return touche == Qt::Key_Return || touche == Qt::Key_Enter;
+}
+
 // A layout without margins of its own.
 template<typename Disposition> Disposition* SansMarges(QWidget* parent) {
     auto* disposition = new Disposition(parent);
@@ -111,6 +121,7 @@ void Orvalis::Disposer() {
     auto* defilement = new QScrollArea(this);
     defilement->setFrameShape(QFrame::NoFrame);
     defilement->setWidgetResizable(true);
+    defilement->setFocusPolicy(Qt::NoFocus);
     defilement->setWidget(centre);
     setCentralWidget(defilement);
     const QSize voulue(1320, 740);
@@ -216,7 +227,8 @@ void Orvalis::closeEvent(QCloseEvent* evenement) {
     QuitterProgramme(p_, 0);
 }
 
-// Enter on a button presses it, wherever it stands. While the window is frozen, what the operator
+// Enter on a button, or its mnemonic, presses it at once: the usual animation would let the next
+// keystrokes go to the control that is about to lose the focus. While the window is frozen, what the operator
 // does reaches only what quits.
 bool Orvalis::eventFilter(QObject* objet, QEvent* evenement) {
     if (p_.gel && EstUnGeste(evenement->type()) && objet->isWidgetType()) {
@@ -226,14 +238,11 @@ bool Orvalis::eventFilter(QObject* objet, QEvent* evenement) {
         if (controle->window() == this && !quitte)
             return true;
     }
-    if (evenement->type() == QEvent::KeyPress) {
-        const int touche = static_cast<QKeyEvent*>(evenement)->key();
-        auto* bouton = qobject_cast<QAbstractButton*>(objet);
-        if (bouton != nullptr && bouton->window() == this && bouton->isEnabled() &&
-            (touche == Qt::Key_Return || touche == Qt::Key_Enter)) {
-            bouton->click();
-            return true;
-        }
+    auto* bouton = qobject_cast<QAbstractButton*>(objet);
+    if (bouton != nullptr && bouton->window() == this && bouton->isEnabled() &&
+        Presse(*evenement)) {
+        bouton->click();
+        return true;
     }
     return QMainWindow::eventFilter(objet, evenement);
 }

@@ -18,6 +18,10 @@ PictMenu::~PictMenu() = default;
 void PictMenu::ActiverNouveau(bool actif) {
     ui_->BtNewQSO->setEnabled(actif);
 }
+void PictMenu::CederAltN(bool cede) {
+    ui_->BtNewQSO->setShortcut(cede ? QKeySequence() : QKeySequence(Qt::ALT | Qt::Key_N));
+}
+
 void PictMenu::ActiverSupprimer(bool actif) {
     ui_->BtKillFiche->setEnabled(actif);
 }

@@ -18,6 +18,8 @@ class PictMenu : public QWidget {
     ~PictMenu() override;
 
     void ActiverNouveau(bool actif);
+    /// Leaves Alt+N to the No button while a question waits.
+    void CederAltN(bool cede);
     void ActiverSupprimer(bool actif);
     void ActiverFermer(bool actif);
 

@@ -101,7 +101,13 @@ std::string Banc::Lire(const std::string& nom) const {
 void Banc::Ouvrir() {
     fenetre = std::make_unique<Orvalis>(systeme);
     fenetre->show();
-    Activer();
+    fenetre->activateWindow();
+    static_cast<void>(QTest::qWaitFor([this] {
+        return systeme.codeDeFin ||
+               fenetre->windowTitle().startsWith(QStringLiteral(" Cahier de Trafic de "));
+    }));
+    if (!systeme.codeDeFin)
+        Activer();
 }
 
 void Banc::Activer() {
@@ -141,7 +147,12 @@ void Banc::Menu(const char* nom) const {
 }
 
 void Banc::Touche(int touche, Qt::KeyboardModifiers modificateurs) const {
-    QTest::keyClick(fenetre->windowHandle(), static_cast<Qt::Key>(touche), modificateurs);
+    QWidget* foyer = QApplication::focusWidget();
+    // Only the overload for widgets tries mnemonics; only that for windows follows the focus.
+    if (modificateurs.testFlag(Qt::AltModifier) && foyer != nullptr)
+        QTest::keyClick(foyer, static_cast<Qt::Key>(touche), modificateurs);
+    else
+        QTest::keyClick(fenetre->windowHandle(), static_cast<Qt::Key>(touche), modificateurs);
     QCoreApplication::processEvents();
 }
 
@@ -157,6 +168,20 @@ void Banc::Taper(const std::string& utf8) const {
             return;
         QTest::sendKeyEvent(QTest::Click, foyer, Qt::Key_unknown, QString(c), Qt::NoModifier);
     }
+}
+
+std::string Difference(const std::string& obtenu, const std::string& attendu) {
+    if (obtenu == attendu)
+        return {};
+    const std::size_t octet = static_cast<std::size_t>(
+        std::mismatch(obtenu.begin(), obtenu.end(), attendu.begin(), attendu.end()).first -
+        obtenu.begin());
+    const std::size_t debut = octet - octet % kTailleFiche;
+    const auto fiche = [debut](const std::string& octets) {
+        return debut < octets.size() ? octets.substr(debut, kTailleFiche) : "<end>";
+    };
+    return "byte " + std::to_string(octet) + ", sizes " + std::to_string(obtenu.size()) + "/" +
+           std::to_string(attendu.size()) + "\n  " + fiche(obtenu) + "\n  " + fiche(attendu);
 }
 
 QStringList Banc::Lignes(const char* liste) const {

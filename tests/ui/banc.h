@@ -48,6 +48,9 @@ class SystemeDEssai : public Systeme {
 /// The end-of-log record with the own locator in MLOC.
 [[nodiscard]] std::string Fin(std::string_view monLocator = "JN04SD");
 
+/// First record in which two logbooks differ, for a failed test; empty when they are equal.
+[[nodiscard]] std::string Difference(const std::string& obtenu, const std::string& attendu);
+
 class Banc {
   public:
     Banc();

@@ -18,10 +18,15 @@ namespace {
 void DansLaCreation(const std::function<void(QDialog&)>& suite) {
     QTimer::singleShot(0, [suite] {
         auto* dialogue = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(dialogue, nullptr);
+        if (dialogue == nullptr) {
+            DansLaCreation(suite);
+            return;
+        }
         dialogue->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(dialogue));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(dialogue));
         suite(*dialogue);
+        if (dialogue->isVisible())
+            dialogue->reject(); // the suite failed to close it
     });
 }
 

@@ -107,8 +107,7 @@ TEST(Navigation, CarteListeEtFeuilleMontrentLesOctets) {
     EXPECT_EQ(banc.Texte("LabDist").trimmed(), QStringLiteral("0 Km")) << "both locators empty";
     EXPECT_EQ(banc.Texte("LabAzim"), QStringLiteral("... "));
     auto* page = banc.Controle<FeuilleLog>("PageText1");
-    const int y = page->viewport()->height() * 12 / 100; // the first row lies just below the head
-    QTest::mouseClick(page->viewport(), Qt::LeftButton, {}, QPoint(40, y));
+    QTest::mouseClick(page->viewport(), Qt::LeftButton, {}, page->RectDeRangee(0).center());
     EXPECT_EQ(banc.Texte("NoFicheLab"), QStringLiteral(" Fiche N° 1 "));
     EXPECT_EQ(banc.Lignes("ListeLog")[0],
               QStringLiteral("1      : F6ABCDEFGH:12/05/02:18:30      "));

@@ -1,0 +1,64 @@
+#include "core/projection.h"
+
+#include <cerrno>
+#include <cstring>
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace orvalis {
+namespace {
+
+char* Projeter(int descripteur, std::size_t taille) {
+    void* adresse = ::mmap(nullptr, taille, PROT_READ | PROT_WRITE, MAP_SHARED, descripteur, 0);
+    return adresse == MAP_FAILED ? nullptr : static_cast<char*>(adresse);
+}
+
+} // namespace
+
+Projection::Projection(const Fichier& fichier, std::int64_t taille)
+    : fichier_(fichier), taille_(static_cast<std::size_t>(taille)),
+      octets_(Projeter(fichier.Descripteur(), taille_)) {
+    if (octets_ != nullptr)
+        page_ = ::memfd_create("orvalis-atelier", MFD_CLOEXEC);
+    if (page_ >= 0 && ::ftruncate(page_, static_cast<off_t>(kPlusGrandePiece)) == 0)
+        atelier_ = Projeter(page_, kPlusGrandePiece);
+    if (atelier_ == nullptr) {
+        const ErreurFichier echec = Echec();
+        Liberer();
+        throw echec;
+    }
+}
+
+Projection::~Projection() {
+    Liberer();
+}
+
+void Projection::Liberer() noexcept {
+    if (atelier_ != nullptr)
+        ::munmap(atelier_, kPlusGrandePiece);
+    if (page_ >= 0)
+        ::close(page_);
+    if (octets_ != nullptr)
+        ::munmap(octets_, taille_);
+}
+
+ErreurFichier Projection::Echec() const {
+    // The kernel says "bad address" for a page that the disk does not take.
+    const int raison = errno == EFAULT || errno == 0 ? EIO : errno;
+    return {ActionFichier::Ecrire, fichier_.Chemin(), {raison, std::generic_category()}};
+}
+
+void Projection::Remplacer(std::int64_t position, std::size_t nombre) {
+    char* ici = octets_ + position;
+    std::memcpy(anciens_.data(), ici, nombre);
+    errno = 0;
+    const auto copies = ::pread(page_, ici, nombre, 0);
+    if (copies == static_cast<ssize_t>(nombre))
+        return;
+    const ErreurFichier echec = Echec();
+    if (copies > 0)
+        std::memcpy(ici, anciens_.data(), static_cast<std::size_t>(copies));
+    throw echec;
+}
+
+} // namespace orvalis

@@ -1,0 +1,43 @@
+#include "maint/copie.h"
+
+#include "core/dossier.h"
+#include "core/fiches.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace orvalis {
+
+std::filesystem::path CheminSauvegardes(const std::filesystem::path& lecteur) {
+    std::filesystem::path dossier = TrouverFichier(DossierProgramme(lecteur), kNomSauvegardes);
+    std::error_code raison;
+    std::filesystem::create_directories(dossier, raison);
+    if (!raison && !std::filesystem::is_directory(dossier, raison) && !raison)
+        raison = std::make_error_code(std::errc::not_a_directory);
+    if (raison)
+        throw ErreurFichier(ActionFichier::Creer, dossier, raison);
+    return dossier;
+}
+
+void CopierJournal(const Session& session, const std::filesystem::path& cible) {
+    const Journal& journal = session.journal;
+    if (journal.Support().EstLeMeme(cible))
+        return;
+    Journal copie(cible, ModeFichier::Creation);
+    if (!copie.Support().Verrouiller())
+        throw ErreurVerrou(cible.string());
+    std::vector<QsoRecord> bloc(kFichesParBloc);
+    const std::int32_t derniere = session.nbFiches + 1;
+    for (std::int32_t k = 1; k <= derniere;) {
+        const auto n = std::min(kFichesParBloc, static_cast<std::size_t>(derniere - k + 1));
+        const auto fiches = std::span(bloc).first(n);
+        static_cast<void>(journal.Lire(k, fiches));
+        k += static_cast<std::int32_t>(n);
+        if (k > derniere && !EstFinDeLog(fiches.back()))
+            fiches.back() = FicheFinDeLog(session.monLocator);
+        copie.Ecrire(k - static_cast<std::int32_t>(n), fiches);
+    }
+    copie.Support().Synchroniser();
+}
+
+} // namespace orvalis

@@ -1,0 +1,67 @@
+#include "maint/jumelage.h"
+
+#include "core/fiches.h"
+#include "core/projection.h"
+#include "core/texte.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace orvalis {
+namespace {
+
+void RognerIndicatif(QsoRecord& fiche) {
+    constexpr DescriptionChamp kIndicatif = Description(Champ::CSGN);
+    char* debut = fiche.octets.data() + kIndicatif.decalage;
+    char* fin = debut + kIndicatif.largeur;
+    char* texte = std::find_if(debut, fin, [](char c) { return c != ' '; });
+    std::fill(std::copy(texte, fin, debut), fin, ' ');
+}
+
+/// Reads records `k` on of `source` into `bloc`, at most up to record `nombre`.
+std::span<const QsoRecord> LireBloc(const Journal& source, std::int32_t k, std::int32_t nombre,
+                                    std::vector<QsoRecord>& bloc) {
+    const auto n = std::min(kFichesParBloc, static_cast<std::size_t>(nombre - k + 1));
+    const auto fiches = std::span(bloc).first(n);
+    static_cast<void>(source.Lire(k, fiches));
+    std::for_each(fiches.begin(), fiches.end(), RognerIndicatif);
+    return fiches;
+}
+
+/// Puts the first appended contact over the old end-of-log record, in one indivisible piece.
+void RemplacerFinDeLog(Journal& journal, std::int32_t k, const QsoRecord& fiche) {
+    constexpr auto kTaille = static_cast<std::int64_t>(kTailleFiche);
+    Projection projection(journal.Support(), k * kTaille);
+    std::copy(fiche.octets.begin(), fiche.octets.end(), projection.Atelier().begin());
+    projection.Remplacer((k - 1) * kTaille, kTailleFiche);
+    journal.Support().Synchroniser();
+}
+
+} // namespace
+
+std::int32_t JumelerJournal(Session& session, const std::filesystem::path& source) {
+    const Journal autre(source, ModeFichier::Lecture);
+    const std::int32_t nombre = autre.Compter();
+    Journal& journal = session.journal;
+    const std::int32_t suivante = session.nbFiches + 1;
+    const QsoRecord fin = FicheFinDeLog(session.monLocator);
+    std::vector<QsoRecord> bloc(kFichesParBloc);
+
+    // A logbook that had no end-of-log record gets one before anything is written behind it.
+    if (nombre == 0 || !EstFinDeLog(journal.Lire(suivante)))
+        journal.Ecrire(suivante, fin);
+    for (std::int32_t k = 2; k <= nombre;) {
+        const auto fiches = LireBloc(autre, k, nombre, bloc);
+        journal.Ecrire(session.nbFiches + k, fiches);
+        k += static_cast<std::int32_t>(fiches.size());
+    }
+    if (nombre > 0)
+        journal.Ecrire(suivante + nombre, fin);
+    journal.Support().Synchroniser();
+    if (nombre > 0)
+        RemplacerFinDeLog(journal, suivante, LireBloc(autre, 1, 1, bloc).front());
+    CompterFiches(session);
+    return nombre;
+}
+
+} // namespace orvalis

@@ -1,0 +1,80 @@
+// QSL labels: a sheet of sixteen on A4 portrait, in two columns of eight.
+#pragma once
+
+#include "print/imprimante.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace orvalis {
+
+inline constexpr std::int16_t kNbEtiquettes = 16;
+
+/// The nine texts of a label, in the order of the label sheet's fields 1 to 9. Their padding is
+/// no matter: the drawing trims them in place.
+struct DonneesEtiquette {
+    std::string indicatif; ///< 1: callsign of the correspondent
+    std::string texte1;    ///< 2: first free line; begins the heading
+    std::string texte2;    ///< 3: second free line; printed as the QSL manager
+    std::string route;     ///< 4: "BUREAU", "DIRECT" or a manager's callsign
+    std::string date;      ///< 5
+    std::string heure;     ///< 6: UTC
+    std::string frequence; ///< 7
+    std::string report;    ///< 8
+    std::string mode;      ///< 9
+};
+
+/// Headings of the last labels drawn. They outlive a label on purpose: a blank label takes the
+/// size of its first font from the last filled one.
+struct EnTetesEtiquettes {
+    std::string remplie; ///< of the last filled label
+    std::string vierge;  ///< of the last blank label
+};
+
+enum class GenreEtiquette : std::uint8_t { Remplie = 1, Vierge = 2 };
+
+/// Column (1 or 2) and row (1 to 8) of a label on the sheet.
+struct PlaceEtiquette {
+    int colonne = 1;
+    int rangee = 1;
+    friend bool operator==(const PlaceEtiquette&, const PlaceEtiquette&) = default;
+};
+
+struct OrigineEtiquette {
+    int x = 0; ///< twips
+    int y = 0;
+    friend bool operator==(const OrigineEtiquette&, const OrigineEtiquette&) = default;
+};
+
+/// Place of slot `numero` (1 to 16): odd slots left, even slots right, row by row.
+[[nodiscard]] PlaceEtiquette PlaceDeEtiquette(std::int16_t numero);
+
+/// Top-left corner of a label; a row outside 1 to 8 gives y = 0.
+[[nodiscard]] OrigineEtiquette OrigineDeEtiquette(PlaceEtiquette place);
+
+/// Draws one label at its place and leaves the document open for the others.
+/// Remplie: draws and trims `donnees`, and keeps its heading in `enTetes`. Vierge: `donnees` is
+/// left alone; `station`, the own callsign, makes the heading. Nothing is cut: a value too long
+/// for its cell overflows it on both sides. The font is left bold.
+void ImprimerEtiquette(Imprimante& imprimante, PlaceEtiquette place, GenreEtiquette genre,
+                       DonneesEtiquette& donnees, std::string_view station,
+                       EnTetesEtiquettes& enTetes);
+
+/// A label of the sheet and the slot (1 to 16) whose place it takes.
+struct EtiquettePlacee {
+    std::int16_t numero = 1;
+    DonneesEtiquette donnees;
+};
+
+/// Prints filled labels on one A4 sheet, each at its place, and ends the document. Prints nothing
+/// at all when there is no label.
+void ImprimerPlanche(Imprimante& imprimante, std::span<EtiquettePlacee> etiquettes,
+                     EnTetesEtiquettes& enTetes);
+
+/// Prints a sheet of sixteen blank labels and ends the document.
+void ImprimerPlancheVierge(Imprimante& imprimante, std::string_view station,
+                           EnTetesEtiquettes& enTetes);
+
+} // namespace orvalis

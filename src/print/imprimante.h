@@ -1,0 +1,66 @@
+// The few operations that the printed pages and labels need of a printer.
+//
+// Coordinates are whole twips (1/1440 inch) from the top-left corner of the printable area, x to
+// the right and y downwards. Font sizes are in points, of 20 twips. A text is placed by its
+// top-left corner and never wrapped. Lines and rectangles are thin and black, texts are black.
+#pragma once
+
+#include <stdexcept>
+#include <string_view>
+
+namespace orvalis {
+
+/// No printer, a printer that fails, or a PDF file that cannot be written; what() is a French
+/// sentence for the operator.
+class ErreurImpression : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+enum class Papier { A4 };
+enum class Orientation { Portrait, Paysage };
+
+/// Where the text that follows goes: below, at the left edge, or on the same line.
+enum class Suite { NouvelleLigne, MemeLigne };
+
+/// A document begins with the first drawing and is sent by TerminerDocument(). A document that
+/// is not ended is not printed.
+class Imprimante {
+  public:
+    virtual ~Imprimante() = default;
+
+    /// Paper of the document to come; to be called before its first drawing.
+    virtual void ChoisirPapier(Papier papier, Orientation orientation) = 0;
+
+    /// Font of the texts to come. A family that the system lacks is substituted.
+    virtual void ChoisirPolice(std::string_view famille) = 0;
+    virtual void ChoisirTaille(int points) = 0;
+    virtual void ChoisirGras(bool gras) = 0;
+
+    /// Sets the current position.
+    virtual void Placer(int x, int y) = 0;
+    /// Prints a text (UTF-8) at the current position and moves it: to the end of the text with
+    /// MemeLigne, to the left edge below the text otherwise.
+    virtual void Ecrire(std::string_view utf8, Suite suite) = 0;
+    /// Prints a text at a place, and no more on its line.
+    void EcrireEn(int x, int y, std::string_view utf8) {
+        Placer(x, y);
+        Ecrire(utf8, Suite::NouvelleLigne);
+    }
+    /// Width of a text in the current font, in twips.
+    [[nodiscard]] virtual int LargeurTexte(std::string_view utf8) const = 0;
+
+    virtual void TracerLigne(int x1, int y1, int x2, int y2) = 0;
+    /// An unfilled rectangle between two opposite corners.
+    virtual void TracerRectangle(int x1, int y1, int x2, int y2) = 0;
+
+    /// Sends the document. Throws ErreurImpression.
+    virtual void TerminerDocument() = 0;
+
+  protected:
+    Imprimante() = default;
+    Imprimante(const Imprimante&) = default;
+    Imprimante& operator=(const Imprimante&) = default;
+};
+
+} // namespace orvalis
