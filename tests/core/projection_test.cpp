@@ -1,37 +1,80 @@
 #include "core/projection.h"
 
 #include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <string>
 #include <sys/mman.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace orvalis {
 namespace {
 
-TEST(Projection, RemplaceToutOuRien) {
+constexpr std::size_t kTaille = 8192;
+constexpr std::size_t kIci = 2048; // a piece from here lies over the border of two pages
+constexpr std::size_t kPiece = kPlusGrandePiece;
+
+Fichier FichierDe(char octet) {
     std::string chemin = (std::filesystem::temp_directory_path() / "orvalisXXXXXX").string();
     ::close(::mkstemp(chemin.data()));
     Fichier fichier(chemin, ModeFichier::LectureEcriture);
-    ASSERT_EQ(::unlink(chemin.c_str()), 0);
-    const std::string avant(8192, 'a');
-    fichier.Ecrire(0, avant);
-    Projection projection(fichier, 8192);
-    std::fill(projection.Atelier().begin(), projection.Atelier().end(), 'b');
-    projection.Remplacer(4000, 330); // over the border of two pages
+    ::unlink(chemin.c_str());
+    const std::string page(kTaille / 2, octet); // each page by itself, or they are kept as one
+    fichier.Ecrire(0, page);
+    fichier.Ecrire(kTaille / 2, page);
+    return fichier;
+}
 
-    std::string attendu = avant;
-    attendu.replace(4000, 330, std::string(330, 'b'));
-    std::string lu(8192, '\0');
-    ASSERT_EQ(fichier.Lire(0, lu), lu.size());
+void Remplir(Projection& projection, char octet) {
+    std::fill(projection.Atelier().begin(), projection.Atelier().end(), octet);
+}
+
+TEST(Projection, RemplaceToutOuRien) {
+    Fichier fichier = FichierDe('a');
+    Projection projection(fichier, kTaille);
+    Remplir(projection, 'b');
+    projection.Remplacer(kIci, kPiece);
+    const std::string attendu = std::string(kTaille, 'a').replace(kIci, kPiece, kPiece, 'b');
+    std::string lu(kTaille, '\0');
+    ASSERT_EQ(fichier.Lire(0, lu), kTaille);
     EXPECT_EQ(lu, attendu);
 
     // The second page no longer takes anything: the part before it is put back.
-    ASSERT_EQ(::mprotect(const_cast<char*>(projection.Octets()) + 4096, 4096, PROT_READ), 0);
-    std::fill(projection.Atelier().begin(), projection.Atelier().end(), 'c');
-    EXPECT_THROW(projection.Remplacer(4000, 330), ErreurFichier);
-    EXPECT_EQ(std::string(projection.Octets(), 8192), attendu);
+    ASSERT_EQ(
+        ::mprotect(const_cast<char*>(projection.Octets()) + kTaille / 2, kTaille / 2, PROT_READ),
+        0);
+    Remplir(projection, 'c');
+    EXPECT_THROW(projection.Remplacer(kIci, kPiece), ErreurFichier);
+    EXPECT_EQ(std::string(projection.Octets(), kTaille), attendu);
+}
+
+TEST(Projection, TueePendantUnRemplacement) {
+    Fichier fichier = FichierDe('a');
+    for (int essais = 0; essais < 100; ++essais) {
+        int tube[2] = {};
+        ASSERT_EQ(::pipe(tube), 0);
+        const pid_t enfant = ::fork();
+        if (enfant == 0) {
+            Projection projection(fichier, kTaille);
+            for (int i = 0;; ++i) {
+                Remplir(projection, i % 2 == 0 ? 'a' : 'b');
+                projection.Remplacer(kIci, kPiece);
+                if (i == essais && ::write(tube[1], ".", 1) != 1)
+                    ::_exit(1);
+            }
+        }
+        char signe = 0;
+        EXPECT_EQ(::read(tube[0], &signe, 1), 1);
+        ::kill(enfant, SIGKILL);
+        ::waitpid(enfant, nullptr, 0);
+        ::close(tube[0]);
+        ::close(tube[1]);
+        std::string lu(kPiece, '\0');
+        ASSERT_EQ(fichier.Lire(kIci, lu), kPiece);
+        ASSERT_EQ(lu, std::string(kPiece, lu.front())) << "cut in two by kill " << essais;
+    }
 }
 
 } // namespace
