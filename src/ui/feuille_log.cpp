@@ -49,6 +49,10 @@ FeuilleLog::FeuilleLog(QWidget* parent) : QAbstractScrollArea(parent) {
     Ajuster();
 }
 
+int FeuilleLog::Mesures::Colonne(std::size_t rang) const {
+    return DemiLargeur(kColonnesPage[rang]) * caractere / 2 + appoint;
+}
+
 FeuilleLog::Mesures FeuilleLog::Mesurer(qreal points) const {
     Mesures m;
     m.police = PoliceFixe("Courier", font());
@@ -76,6 +80,9 @@ void FeuilleLog::Ajuster() {
         points = essai;
     }
     mesures_ = Mesurer(points);
+    constexpr int kNbColonnes = static_cast<int>(kColonnesPage.size());
+    mesures_.appoint = std::max(0, place.width() - 2 - mesures_.largeur) / kNbColonnes;
+    mesures_.largeur += mesures_.appoint * kNbColonnes;
     const auto regler = [](QScrollBar* barre, int etendue, int visible, int pas) {
         barre->setRange(0, std::max(0, etendue - visible));
         barre->setPageStep(visible);
@@ -122,7 +129,7 @@ void FeuilleLog::PeindreTete(QPainter& peintre) const {
     int x = 0;
     for (std::size_t i = 0; i < kColonnesPage.size(); ++i) {
         const ColonnePage& colonne = kColonnesPage[i];
-        const int large = DemiLargeur(colonne) * mesures_.caractere / 2;
+        const int large = mesures_.Colonne(i);
         peintre.setPen(encres.tete);
         if (colonne.groupe.empty()) {
             peintre.drawText(QRect(x, 0, large, mesures_.tete), Qt::AlignCenter, Q(colonne.titre));
@@ -130,7 +137,7 @@ void FeuilleLog::PeindreTete(QPainter& peintre) const {
             peintre.drawText(QRect(x, moitie, large, moitie), Qt::AlignCenter, Q(colonne.titre));
             const bool premiere = colonne.groupe != kColonnesPage[i - 1].groupe;
             if (premiere) {
-                const int deux = large + DemiLargeur(kColonnesPage[i + 1]) * mesures_.caractere / 2;
+                const int deux = large + mesures_.Colonne(i + 1);
                 peintre.drawText(QRect(x, 0, deux, moitie), Qt::AlignCenter, Q(colonne.groupe));
                 peintre.setPen(encres.filet);
                 peintre.drawLine(x + 4, moitie, x + deux - 4, moitie);
@@ -165,9 +172,10 @@ void FeuilleLog::PeindreRangees(QPainter& peintre) const {
             QFont police = mesures_.police;
             police.setBold(c == indicatif);
             peintre.setFont(police);
-            const int large = DemiLargeur(kColonnesPage[c]) * mesures_.caractere / 2;
-            peintre.drawText(QRect(x + mesures_.caractere / 2, y, large, mesures_.ligne),
-                             Qt::AlignLeft | Qt::AlignVCenter, Q(rangees_[rang].cellules[c]));
+            const int large = mesures_.Colonne(c);
+            peintre.drawText(
+                QRect(x + (mesures_.caractere + mesures_.appoint) / 2, y, large, mesures_.ligne),
+                Qt::AlignLeft | Qt::AlignVCenter, Q(rangees_[rang].cellules[c]));
             x += large;
         }
     }

@@ -45,6 +45,9 @@ class FeuilleLog : public QAbstractScrollArea {
         int tete = 0;      ///< height of the head
         int largeur = 0;   ///< whole sheet
         int hauteur = 0;
+        int appoint = 0; ///< what each column gets of the width that is left over
+
+        [[nodiscard]] int Colonne(std::size_t rang) const;
     };
     [[nodiscard]] Mesures Mesurer(qreal points) const;
     void Ajuster();

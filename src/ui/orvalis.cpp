@@ -21,6 +21,7 @@
 #include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
+#include <QGridLayout>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QKeyEvent>
@@ -148,8 +149,8 @@ QWidget* Orvalis::ColonneGauche() {
     return colonne;
 }
 
-// The card, the buttons under it, then the sheet; whatever asks or answers something appears at
-// the right of the sheet, under the card, and moves nothing.
+// The card, the buttons under it, then the sheet; whatever asks or answers something lies over the
+// right of the sheet, under the card, and moves nothing.
 QWidget* Orvalis::ColonneDroite() {
     auto* colonne = new QWidget;
     auto* pile = SansMarges<QVBoxLayout>(colonne);
@@ -162,20 +163,22 @@ QWidget* Orvalis::ColonneDroite() {
     rangee->addWidget(&p_.rech);
     boutons->setMinimumHeight(p_.menu.sizeHint().height());
     pile->addWidget(boutons);
-    auto* bas = new QHBoxLayout;
-    bas->setSpacing(8);
     auto* feuille = new QWidget(colonne);
     feuille->setObjectName(QStringLiteral("PictPage"));
     SansMarges<QVBoxLayout>(feuille)->addWidget(&p_.page);
-    bas->addWidget(feuille, 1);
     auto* reponses = new QVBoxLayout;
-    reponses->addWidget(&p_.msgFiche);
-    reponses->addWidget(&p_.changLocator);
-    reponses->addWidget(&p_.classer);
-    reponses->addWidget(&p_.jumelage);
-    reponses->addWidget(&p_.contacts, 1);
+    reponses->setContentsMargins(0, 0, 1, 0);
+    for (QWidget* panneau : std::initializer_list<QWidget*>{
+             &p_.msgFiche, &p_.changLocator, &p_.classer, &p_.jumelage, &p_.contacts}) {
+        reponses->addWidget(panneau, panneau == &p_.contacts ? 1 : 0);
+        panneau->setAutoFillBackground(true);
+        panneau->raise();
+    }
     reponses->addStretch(0);
-    bas->addLayout(reponses);
+    auto* bas = new QGridLayout;
+    bas->addWidget(feuille, 0, 0, 1, 2);
+    bas->addLayout(reponses, 0, 1);
+    bas->setColumnStretch(0, 1);
     pile->addLayout(bas, 1);
     return colonne;
 }
