@@ -2,6 +2,7 @@
 
 #include "ui/texte_qt.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -30,6 +31,11 @@ constexpr std::array<std::string_view, kNbBoites> kNomsAccessibles = {
     "Département", "Prénom",     "Informations",   "Ma QSL",       "Sa QSL",
     "Mon locator", "QSL manager"};
 
+QFont PetitePolice(QFont police) {
+    police.setPointSizeF(police.pointSizeF() * 0.85);
+    return police;
+}
+
 QLabel* FaireLabel(const char* nom, QWidget* parent) {
     auto* label = new QLabel(parent);
     label->setObjectName(QString::fromLatin1(nom));
@@ -42,8 +48,6 @@ QLabel* FaireLabel(const char* nom, QWidget* parent) {
 PictFiche::PictFiche(QWidget* parent) : QFrame(parent) {
     setObjectName(QStringLiteral("PictFiche"));
     setFrameShape(QFrame::StyledPanel);
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::AlternateBase);
     auto* pile = new QVBoxLayout(this);
     pile->setContentsMargins(10, 6, 10, 8);
     pile->setSpacing(4);
@@ -56,7 +60,7 @@ PictFiche::PictFiche(QWidget* parent) : QFrame(parent) {
         for (const Cellule& cellule : rangee)
             ligne->addWidget(FaireCellule(cellule.premiere, cellule.derniere));
         if (&rangee == &kRangees.back())
-            ligne->addWidget(FaireResultats(), 1, Qt::AlignBottom);
+            ligne->addWidget(FaireResultats(), 1);
         ligne->addStretch(1);
         pile->addLayout(ligne);
     }
@@ -97,10 +101,9 @@ void PictFiche::FaireEntete(QHBoxLayout& entete) {
 ZoneSaisie* PictFiche::FaireBoite(const DescriptionBoite& boite) {
     auto* zone = new ZoneSaisie(boite, this);
     zone->setAccessibleName(Q(kNomsAccessibles[boite.index - 1]));
-    const int caractere = QFontMetrics(zone->font()).horizontalAdvance(QLatin1Char('W'));
-    const auto n = static_cast<int>(boite.longueur);
-    // Wide letters count in full in short fields, three quarters in long ones.
-    zone->setMinimumWidth((n <= 8 ? n * caractere * 8 / 10 : n * caractere * 3 / 4) + 14);
+    const int chiffre = QFontMetrics(zone->font()).horizontalAdvance(QLatin1Char('0'));
+    constexpr int kBords = 14;
+    zone->setMinimumWidth(static_cast<int>(boite.longueur) * chiffre + kBords);
     boites_[boite.index - 1] = zone;
     return zone;
 }
@@ -114,9 +117,9 @@ QWidget* PictFiche::FaireCellule(std::size_t premiere, std::size_t derniere) {
     auto* legende = FaireLabel("", cellule);
     legende->setObjectName(Q(tete.etiquette));
     legende->setText(Q(tete.legende));
-    QFont petite = legende->font();
-    petite.setPointSizeF(petite.pointSizeF() * 0.85);
-    legende->setFont(petite);
+    legende->setFont(PetitePolice(font()));
+    // The underscores of a caption may be cut where the window is narrow, its box may not.
+    legende->setMinimumWidth(1);
     pile->addWidget(legende);
     auto* ligne = new QHBoxLayout;
     ligne->setSpacing(4);
@@ -137,24 +140,29 @@ QWidget* PictFiche::FaireCellule(std::size_t premiere, std::size_t derniere) {
 
 QWidget* PictFiche::FaireResultats() {
     auto* cadre = new QWidget(this);
-    auto* ligne = new QHBoxLayout(cadre);
-    ligne->setContentsMargins(12, 0, 0, 0);
+    auto* grille = new QGridLayout(cadre);
+    grille->setContentsMargins(0, 0, 0, 0);
+    grille->setHorizontalSpacing(10);
+    grille->setVerticalSpacing(1);
     QFont grasse = font();
     grasse.setBold(true);
     grasse.setPointSizeF(grasse.pointSizeF() * 1.15);
-    const auto ajouter = [&](const char* titre, const char* nom, const QString& modele) {
-        ligne->addWidget(new QLabel(QString::fromUtf8(titre), cadre));
+    const auto ajouter = [&](int colonne, const char* titre, const char* nom,
+                             const QString& modele) {
+        auto* legende = new QLabel(QString::fromUtf8(titre), cadre);
+        legende->setFont(PetitePolice(font()));
+        grille->addWidget(legende, 0, colonne);
         QLabel* label = FaireLabel(nom, cadre);
         label->setAccessibleName(QString::fromUtf8(titre));
         label->setFont(grasse);
         label->setMinimumWidth(QFontMetrics(grasse).horizontalAdvance(modele));
-        ligne->addWidget(label);
+        label->setMinimumHeight(Boite(1).sizeHint().height());
+        grille->addWidget(label, 1, colonne);
         return label;
     };
-    labDist_ = ajouter("Distance", "LabDist", QStringLiteral("12345.6 Km "));
-    labAzim_ = ajouter("Azimut", "LabAzim", QStringLiteral("000° "));
-    ligne->addStretch(1);
-    cadre->setMinimumHeight(Boite(1).sizeHint().height());
+    labDist_ = ajouter(0, "Distance", "LabDist", QStringLiteral("12345.6 Km"));
+    labAzim_ = ajouter(1, "Azimut", "LabAzim", QStringLiteral("000° "));
+    grille->setColumnStretch(2, 1);
     return cadre;
 }
 

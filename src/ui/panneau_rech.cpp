@@ -6,6 +6,7 @@
 #include "ui_panneau_rech.h"
 
 #include <QKeyEvent>
+#include <QPalette>
 
 namespace orvalis {
 
@@ -20,6 +21,12 @@ PictRech::PictRech(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::
     ui_->RechText->installEventFilter(this);
     ui_->RechText->setMinimumWidth(QFontMetrics(font()).averageCharWidth() * 18);
     ui_->RechText->setClearButtonEnabled(true);
+    // Some dark palettes leave the placeholder black.
+    QPalette palette = ui_->RechText->palette();
+    QColor discret = palette.color(QPalette::Text);
+    discret.setAlpha(140);
+    palette.setColor(QPalette::PlaceholderText, discret);
+    ui_->RechText->setPalette(palette);
 }
 
 PictRech::~PictRech() = default;
