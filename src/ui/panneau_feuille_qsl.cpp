@@ -108,8 +108,6 @@ PictFeuilleQSL::PictFeuilleQSL(QWidget* parent)
     ui_->setupUi(this);
     ui_->planche->setAutoFillBackground(true);
     ui_->planche->setBackgroundRole(QPalette::Base);
-    ui_->PictTag->setAutoFillBackground(true);
-    ui_->PictTag->setBackgroundRole(QPalette::AlternateBase);
     QFont titre = font();
     titre.setBold(true);
     titre.setPointSizeF(titre.pointSizeF() * 1.2);
@@ -134,14 +132,15 @@ PictFeuilleQSL::Place PictFeuilleQSL::FairePlace(int k) {
     place.cadre->setObjectName(Nom("PictBtEtiq", k, 2));
     place.cadre->setFrameShape(QFrame::Box);
     place.cadre->setFrameShadow(QFrame::Plain);
+    place.cadre->setForegroundRole(QPalette::WindowText);
     place.tag = new QPushButton(QStringLiteral("Etiquette [%1] libre").arg(k), place.cadre);
     place.tag->setObjectName(Nom("BtTag_", k));
     place.tag->setToolTip(QStringLiteral("Préparer une étiquette sans partir d'une fiche"));
     place.choix = new QPushButton(QStringLiteral("Retirer"), place.cadre);
     place.choix->setObjectName(Nom("BtChoix_", k));
     auto* pile = new QVBoxLayout(place.cadre);
-    pile->setContentsMargins(5, 4, 5, 4);
-    pile->setSpacing(3);
+    pile->setContentsMargins(5, 2, 5, 2);
+    pile->setSpacing(2);
     pile->addStretch(1);
     pile->addWidget(place.tag);
     pile->addWidget(place.choix, 0, Qt::AlignRight);
@@ -172,8 +171,9 @@ void PictFeuilleQSL::FaireBoite(std::size_t rang, QHBoxLayout& rangee) {
     boite.texte->setAccessibleName(QString::fromUtf8(d.legende));
     boite.texte->setToolTip(QString::fromUtf8(d.bulle));
     boite.legende->setBuddy(boite.texte);
-    const int caractere = boite.texte->fontMetrics().horizontalAdvance(QLatin1Char('W'));
-    boite.texte->setMinimumWidth(static_cast<int>(d.longueur) * caractere * 3 / 4 + 14);
+    const int chiffre = boite.texte->fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    constexpr int kBords = 14;
+    boite.texte->setMinimumWidth(static_cast<int>(d.longueur) * chiffre + kBords);
     if (EstUnRappel(d.boite)) {
         boite.texte->setFrame(false);
         boite.texte->setReadOnly(true);
@@ -184,6 +184,7 @@ void PictFeuilleQSL::FaireBoite(std::size_t rang, QHBoxLayout& rangee) {
     }
     auto* cellule = new QVBoxLayout;
     cellule->setSpacing(1);
+    cellule->addStretch(1);
     cellule->addWidget(boite.legende);
     cellule->addWidget(boite.texte);
     rangee.addLayout(cellule, static_cast<int>(d.longueur));
@@ -209,6 +210,7 @@ void PictFeuilleQSL::BrancherBoutons() {
     for (QPushButton* bouton : {ui_->BtValidQSL, ui_->BtDelQSL, ui_->BtLeaveQSL, ui_->BtPrintQSL,
                                 ui_->BtRestore, ui_->BtQuitQSL})
         GarderPlace(*bouton);
+    GarderPlace(*ui_->LabAide);
     connect(ui_->BtValidQSL, &QPushButton::clicked, this, &PictFeuilleQSL::valider);
     connect(ui_->BtDelQSL, &QPushButton::clicked, this, &PictFeuilleQSL::supprimer);
     connect(ui_->BtLeaveQSL, &QPushButton::clicked, this, &PictFeuilleQSL::laisser);
@@ -294,6 +296,7 @@ void PictFeuilleQSL::MontrerBoites(const FeuilleQSL& feuille) {
     Boite(kBoiteMode).legende->setText(legende(echanges ? kBoiteReport : kBoiteMode));
     Boite(kBoiteReport).legende->setText(legende(echanges ? kBoiteMode : kBoiteReport));
     ui_->OptVia->setEnabled(feuille.fraiche);
+    ui_->LabAide->setVisible(feuille.boites[kBoiteIndicatif].empty());
 }
 
 void PictFeuilleQSL::MontrerVoie(VoieQSL voie) {
@@ -317,12 +320,12 @@ void PictFeuilleQSL::MontrerBoutons(const VueFeuille& vue) {
     ui_->BtRestore->setVisible(vue.restaurer);
 }
 
-// A box that takes no text looks like the card behind it.
+// A box that takes no text looks like the panel behind it.
 void PictFeuilleQSL::PeindreFonds() {
     for (BoiteEditeur& boite : boites_) {
         QPalette palette;
         if (boite.texte->isReadOnly())
-            palette.setColor(QPalette::Base, palette.color(QPalette::AlternateBase));
+            palette.setColor(QPalette::Base, palette.color(QPalette::Window));
         boite.texte->setPalette(palette);
     }
 }
