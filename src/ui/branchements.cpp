@@ -70,6 +70,9 @@ void Orvalis::ActualiserMenus() {
             // Every command of the table waits while the label sheet is on show.
             action->setEnabled(!p_.gel && !feuille_.vue.panneau &&
                                CommandePermise(regle.commande, session_));
+    for (const char* nom : {"MnuEditLocator", "MnuVoir"})
+        if (auto* action = findChild<QAction*>(QString::fromLatin1(nom)))
+            action->setEnabled(!p_.gel && !feuille_.vue.controle);
 }
 
 void Orvalis::BrancherMaintenance() {
