@@ -296,7 +296,7 @@ void PictFeuilleQSL::MontrerBoites(const FeuilleQSL& feuille) {
     Boite(kBoiteMode).legende->setText(legende(echanges ? kBoiteReport : kBoiteMode));
     Boite(kBoiteReport).legende->setText(legende(echanges ? kBoiteMode : kBoiteReport));
     ui_->OptVia->setEnabled(feuille.fraiche);
-    ui_->LabAide->setVisible(feuille.boites[kBoiteIndicatif].empty());
+    ui_->LabAide->setVisible(feuille.boites[kBoiteIndicatif].empty() && !feuille.vue.controle);
 }
 
 void PictFeuilleQSL::MontrerVoie(VoieQSL voie) {
