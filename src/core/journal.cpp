@@ -19,11 +19,6 @@ std::span<const char> Octets(std::span<const QsoRecord> fiches) {
 
 } // namespace
 
-std::int32_t Journal::NbEnregistrements() const {
-    constexpr auto kTaille = static_cast<std::int64_t>(kTailleFiche);
-    return static_cast<std::int32_t>((fichier_.Taille() + kTaille - 1) / kTaille);
-}
-
 QsoRecord Journal::Lire(std::int32_t k) const {
     QsoRecord fiche;
     static_cast<void>(Lire(k, std::span(&fiche, 1)));

@@ -22,8 +22,6 @@ class Journal {
     [[nodiscard]] Fichier& Support() noexcept { return fichier_; }
     [[nodiscard]] const Fichier& Support() const noexcept { return fichier_; }
 
-    /// Records in the file, whole or short, the end-of-log record and what lies behind it included.
-    [[nodiscard]] std::int32_t NbEnregistrements() const;
     /// Record `k` (from 1); blank beyond the end of the file.
     [[nodiscard]] QsoRecord Lire(std::int32_t k) const;
     /// Fills `fiches` from record `k` on, with blanks beyond the end; returns how many records

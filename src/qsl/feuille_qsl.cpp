@@ -85,8 +85,7 @@ void OuvrirFeuilleQSL(FeuilleQSL& feuille) {
 
 void ChargerFeuilleQSL(FeuilleQSL& feuille, const std::filesystem::path& dossier) {
     feuille.chemin = TrouverFichier(dossier, kNomFeuilleQSL);
-    std::error_code erreur;
-    const bool presente = std::filesystem::exists(feuille.chemin, erreur);
+    const bool presente = Present(feuille.chemin);
     ViderBoites(feuille);
     feuille.vue = {};
     feuille.fraiche = false;

@@ -30,10 +30,12 @@
 #include <QMenuBar>
 #include <QTimer>
 
+#include <map>
+
 namespace orvalis {
 
 void Orvalis::BrancherMenus() {
-    const std::map<std::string_view, Commande> commandes = {
+    const std::map<std::string_view, Action> commandes = {
         {"MnuDoublons", [this] { MontrerDoublons(p_); }},
         {"MnuChangerLocator", [this] { ChangerDeLocator(p_); }},
         {"MnuCourantF", [this] { OuvrirJournalCourant(p_); }},
@@ -67,12 +69,19 @@ void Orvalis::BrancherMenus() {
 void Orvalis::ActualiserMenus() {
     for (const RegleCommande& regle : kReglesCommandes)
         if (auto* action = findChild<QAction*>(Q(regle.nom)); action && action->data().toBool())
-            // Every command of the table waits while the label sheet is on show.
-            action->setEnabled(!p_.gel && !feuille_.vue.panneau &&
+            action->setEnabled(!Attend(regle.commande) &&
                                CommandePermise(regle.commande, session_));
     for (const char* nom : {"MnuEditLocator", "MnuVoir"})
         if (auto* action = findChild<QAction*>(QString::fromLatin1(nom)))
             action->setEnabled(!p_.gel && !feuille_.vue.controle);
+}
+
+// While the label sheet is on show every command waits for it, but the printer can be chosen from
+// there; before the logbook is on show none has anything to work on.
+bool Orvalis::Attend(Commande commande) const {
+    const VueFeuille& vue = feuille_.vue;
+    const bool feuille = vue.panneau && (vue.controle || commande != Commande::MnuConfigImp);
+    return p_.gel || temoinDemarrage_ != 0 || feuille;
 }
 
 void Orvalis::BrancherMaintenance() {
@@ -84,8 +93,10 @@ void Orvalis::BrancherMaintenance() {
 void Orvalis::BrancherPanneaux() {
     // The clock runs on while the window is frozen.
     connect(timer1_, &QTimer::timeout, this, [this] { AfficherHeure(p_); });
-    Brancher(&p_.horloge, &PanneauHorloge::miseALHeureDemandee,
-             [this] { LancerCompagnon(p_, "Chronel.exe"); });
+    Brancher(&p_.horloge, &PanneauHorloge::miseALHeureDemandee, [this] {
+        if (!feuille_.vue.controle)
+            LancerCompagnon(p_, "Chronel.exe");
+    });
     connect(&p_.menu, &PictMenu::fermetureDemandee, this, &QWidget::close);
     Brancher(&p_.menu, &PictMenu::nouveauDemande, [this] { NouveauQso(p_); });
     Brancher(&p_.menu, &PictMenu::suppressionDemandee, [this] { DemanderSuppression(p_); });

@@ -108,7 +108,7 @@ void Dlg1::Valider() {
     try {
         if (!CreerCahier(lecteur_, {indicatif_, nomFichier_, monLocator_}))
             return;
-    } catch (const ErreurFichier& echec) {
+    } catch (const std::exception& echec) {
         systeme_.Avertir(this, Q(MessageErreur(echec)));
         return;
     }

@@ -23,6 +23,7 @@
 #include <QStandardPaths>
 #include <QStorageInfo>
 
+#include <array>
 #include <functional>
 
 namespace orvalis {
@@ -116,6 +117,7 @@ void SauvegarderAvantJumelage(Plateau& p) {
     if (CommandePermise(Commande::BtPjSauvegarder, p.session) && Sauvegarde(p)) {
         LacherFoyer();
         p.jumelage.ActiverSauvegarde(false);
+        p.jumelage.DonnerFoyerJumeler();
     }
 }
 
@@ -129,12 +131,21 @@ void FermerJumelage(Plateau& p) {
 void OuvrirJournalCourant(Plateau& p) {
     if (!CommandePermise(Commande::MnuCourantF, p.session))
         return;
+    LacherFoyer();
     AbandonnerModification(p);
     p.jumelage.hide();
     p.liste.setEnabled(true);
     Demarrage suite = Demarrage::Recommencer;
-    while (suite == Demarrage::Recommencer)
-        suite = ChargerParametres(p);
+    try {
+        while (suite == Demarrage::Recommencer)
+            suite = ChargerParametres(p);
+    } catch (const ErreurVerrou& echec) {
+        // The logbook on show is still open and whole.
+        p.systeme.Avertir(&p.fenetre, Q(MessageErreur(echec)));
+        AfficherFiche(p);
+        p.liste.DonnerFoyer();
+        return;
+    }
     if (suite == Demarrage::Arreter) {
         p.arret = true;
         QuitterProgramme(p, 0);
@@ -144,8 +155,6 @@ void OuvrirJournalCourant(Plateau& p) {
 void OuvrirAutre(Plateau& p) {
     if (!CommandePermise(Commande::MnuAutreF, p.session))
         return;
-    AbandonnerModification(p);
-    p.jumelage.hide();
     p.liste.setEnabled(true);
     p.enrs.hide();
     const QString choisi = p.systeme.ChoisirFichier(
@@ -156,6 +165,9 @@ void OuvrirAutre(Plateau& p) {
     BilanOuverture bilan;
     if (!Essayer(p, [&] { bilan = OuvrirAutreJournal(p.session, S(choisi)); }) || !bilan.ouvert)
         return;
+    LacherFoyer();
+    AbandonnerModification(p);
+    p.jumelage.hide();
     InitialiserFenetre(p);
     PrevenirSiIncomplet(p, bilan.etat);
 }

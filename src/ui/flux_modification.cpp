@@ -87,7 +87,7 @@ void RepondreNonAuCadre(Plateau& p) {
     if (modifiee)
         AfficherFiche(p);
     else
-        p.liste.setEnabled(true);
+        RendreListe(p);
     p.menu.setEnabled(true);
     ReactiverBoutons(p);
     p.liste.DonnerFoyer();

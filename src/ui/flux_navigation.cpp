@@ -107,7 +107,7 @@ void ChoisirFiche(Plateau& p, std::int32_t k) {
 }
 
 void AfficherFiche(Plateau& p) {
-    if (p.enrs.isVisible())
+    if (!p.enrs.isHidden())
         return;
     Session& s = p.session;
     const std::int32_t k = s.ficheCourante;
@@ -123,7 +123,7 @@ void AfficherFiche(Plateau& p) {
     p.fiche.MontrerAzimut(textes.azimut);
     p.fiche.MontrerDepartement(textes.departement);
     if (textes.indicatifPresent)
-        p.fiche.MontrerActiveRech(!p.contacts.isVisible());
+        p.fiche.MontrerActiveRech(p.contacts.isHidden());
 }
 
 void SurBoutonPage(Plateau& p, BoutonPage bouton) {

@@ -2,6 +2,7 @@
 
 #include "core/messages.h"
 #include "ui/chang_locator.h"
+#include "ui/effets.h"
 #include "ui/feuille_log.h"
 #include "ui/flux_demarrage.h"
 #include "ui/msg_fiche.h"
@@ -70,8 +71,9 @@ bool Presse(const QEvent& evenement) {
         return !static_cast<const QShortcutEvent&>(evenement).isAmbiguous();
     if (evenement.type() != QEvent::KeyPress)
         return false;
-    const int touche = static_cast<const QKeyEvent&>(evenement).key();
-    return touche == Qt::Key_Return || touche == Qt::Key_Enter;
+    const auto& frappe = static_cast<const QKeyEvent&>(evenement);
+    return (frappe.key() == Qt::Key_Return || frappe.key() == Qt::Key_Enter) &&
+           !frappe.isAutoRepeat();
 }
 
 // A layout without margins of its own.
@@ -112,6 +114,7 @@ Orvalis::Orvalis(Systeme& systeme, QWidget* parent)
     setWindowIcon(QIcon(QStringLiteral(":/orvalis.svg")));
     timer1_->setObjectName(QStringLiteral("Timer1"));
     Disposer();
+    p_.actualiserMenus = [this] { ActualiserMenus(); };
     CacherPanneaux(p_);
     BrancherMenus();
     BrancherPanneaux();
@@ -125,7 +128,12 @@ Orvalis::Orvalis(Systeme& systeme, QWidget* parent)
     qApp->installEventFilter(this);
 }
 
-Orvalis::~Orvalis() = default;
+Orvalis::~Orvalis() {
+    // The panels go while the session they report to is still there, and nobody listens any more.
+    qApp->removeEventFilter(this);
+    p_.arret = true;
+    delete takeCentralWidget();
+}
 
 void Orvalis::Disposer() {
     auto* centre = new QWidget;
@@ -196,7 +204,7 @@ QWidget* Orvalis::ColonneDroite() {
     return colonne;
 }
 
-void Orvalis::Executer(const Commande& flux) {
+void Orvalis::Executer(const Action& flux) {
     if (p_.arret || p_.gel)
         return;
     try {
@@ -216,7 +224,7 @@ bool Orvalis::event(QEvent* evenement) {
     // The first activation starts the program; where no window manager activates windows, being
     // shown must do.
     if (evenement->type() == QEvent::WindowActivate)
-        Demarrer();
+        QTimer::singleShot(0, this, &Orvalis::Demarrer);
     else if (evenement->type() == QEvent::Show && temoinDemarrage_ == kDemarrageAFaire)
         QTimer::singleShot(kDureeTic, this, &Orvalis::Demarrer);
     return traite;
@@ -228,7 +236,10 @@ void Orvalis::Demarrer() {
     demarrageEnCours_ = true;
     Executer([this] {
         for (auto suite = Demarrage::Recommencer; suite == Demarrage::Recommencer && !p_.arret;) {
-            p_.systeme.Pause(1);
+            {
+                const Gel gel(p_);
+                p_.systeme.Pause(1);
+            }
             if (p_.arret)
                 return;
             suite = ChargerParametres(p_);

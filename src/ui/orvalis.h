@@ -2,6 +2,7 @@
 // report to the flows. Nothing else is decided here.
 #pragma once
 
+#include "core/commandes.h"
 #include "core/session.h"
 #include "print/etiquette.h"
 #include "qsl/feuille_qsl.h"
@@ -11,7 +12,6 @@
 
 #include <exception>
 #include <functional>
-#include <map>
 #include <string_view>
 
 class QAction;
@@ -33,7 +33,7 @@ class Orvalis : public QMainWindow {
     bool eventFilter(QObject* objet, QEvent* evenement) override;
 
   private:
-    using Commande = std::function<void()>;
+    using Action = std::function<void()>;
 
     void Disposer();
     [[nodiscard]] QWidget* ColonneGauche();
@@ -41,6 +41,7 @@ class Orvalis : public QMainWindow {
     void BrancherMenus();
     /// Enables the menu entries whose command may run now.
     void ActualiserMenus();
+    [[nodiscard]] bool Attend(Commande commande) const;
     void BrancherMaintenance();
     void BrancherQsl();
     void BrancherImpression();
@@ -50,7 +51,7 @@ class Orvalis : public QMainWindow {
     void BrancherSaisie();
     void Demarrer();
     /// Runs a flow; a failure is told in French and ends the program with an error status.
-    void Executer(const Commande& flux);
+    void Executer(const Action& flux);
     /// Connects a signal to a flow run under Executer.
     template<typename Emetteur, typename Signal, typename Flux>
     void Brancher(Emetteur* emetteur, Signal signal, Flux flux) {

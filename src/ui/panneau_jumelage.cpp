@@ -21,6 +21,10 @@ void PJumelage::Ouvrir(std::string_view nomFichier) {
     ui_->BtPjSauvegarder->setFocus();
 }
 
+void PJumelage::DonnerFoyerJumeler() {
+    ui_->BtPjumeler->setFocus();
+}
+
 void PJumelage::ActiverSauvegarde(bool active) {
     ui_->BtPjSauvegarder->setEnabled(active);
 }

@@ -2,6 +2,8 @@
 // flows (flux_*.h) are free procedures over it; panels never see it and do not know each other.
 #pragma once
 
+#include <functional>
+
 class QMainWindow;
 class QStackedWidget;
 
@@ -48,8 +50,9 @@ struct Plateau {
     PictFeuilleQSL& feuilleQSL;
     PictCtrlImpression& ctrlImpression;
 
-    bool gel = false;   ///< keyboard and mouse act on nothing but quitting
-    bool arret = false; ///< the program is ending: no flow goes on
+    std::function<void()> actualiserMenus = {}; ///< enables the entries that may act now
+    bool gel = false;                           ///< keyboard and mouse act on nothing but quitting
+    bool arret = false;                         ///< the program is ending: no flow goes on
 };
 
 } // namespace orvalis

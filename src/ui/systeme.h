@@ -21,7 +21,7 @@ class Imprimante;
 /// A file dialog as a command asks for it.
 struct DemandeFichier {
     bool enregistrer = false; ///< save dialog, which confirms overwriting; else open dialog
-    QString dossier;          ///< starting folder; empty for the program folder
+    QString dossier;          ///< starting folder; the program folder when empty
     QString nomPropose;
     QString titre;
 };

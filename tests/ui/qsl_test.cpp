@@ -230,6 +230,40 @@ TEST(Qsl, VieDUneEtiquette) {
     EXPECT_EQ(banc.systeme.avertissements.size(), 1U);
 }
 
+// After a deletion the numbers on the labels point one contact too far.
+TEST(Qsl, NumeroPerimeNeToucheQueSonContact) {
+    const auto contact = [](std::string_view csgn, std::string_view maQsl) {
+        return Octets({{Champ::CSGN, csgn},
+                       {Champ::DQSO, "01/02/26"},
+                       {Champ::HDEB, "12:00"},
+                       {Champ::MQSL, maQsl}});
+    };
+    const auto etiquette = [](std::string_view csgn, std::string_view numero) {
+        return Cote({{csgn, 60}, {"01/02/26", 8}, {"12:00", 28}, {numero, 10}});
+    };
+    const std::string feuille = Feuille({etiquette("F1AAA", "2"), etiquette("F1BBB", "3")});
+    const std::string bbb = contact("F1BBB", "En cours");
+    struct Cas {
+        std::string avant, apres;
+        std::size_t messages;
+    };
+    const std::vector<Cas> cas = {
+        {contact("F1AAA", "En cours") + bbb, contact("F1AAA", "") + bbb, 0},
+        {contact("F1ZZZ", "") + bbb, contact("F1ZZZ", "") + bbb, 1},
+    };
+    for (const Cas& c : cas) {
+        Banc banc;
+        banc.Installer(c.avant + Fin());
+        banc.Ecrire("FeuilleQSL.txt", feuille);
+        banc.Ouvrir();
+        banc.Menu("MnuGestionFeuilleQSL");
+        banc.Cliquer("BtChoix_1");
+        banc.Cliquer("BtDelQSL");
+        EXPECT_EQ(Difference(banc.Journal(), c.apres + Fin()), "");
+        EXPECT_EQ(banc.systeme.avertissements.size(), c.messages);
+    }
+}
+
 TEST(Qsl, LeServiceAttend) {
     struct Cas {
         const char* nom;
@@ -258,6 +292,15 @@ TEST(Qsl, LeServiceAttend) {
              b.Menu("MnuAutreF");
          },
          true, false, false},
+        {"a copy of the own logbook",
+         [](Banc& b) {
+             std::filesystem::create_directory(b.Dossier() / "VekSave");
+             b.Ecrire("VekSave/F5ABC.Vek", b.Journal());
+             b.systeme.fichierChoisi =
+                 QString::fromStdString((b.Dossier() / "VekSave/F5ABC.Vek").string());
+             b.Menu("MnuAutreF");
+         },
+         true, false, true},
     };
     for (const Cas& c : cas) {
         for (const bool parMenu : {true, false}) {
@@ -282,8 +325,9 @@ TEST(Qsl, LeServiceAttend) {
                 banc.Touche(Qt::Key_Q, Qt::AltModifier);
                 EXPECT_FALSE(FeuilleMontree(banc));
             }
-            if (!parMenu && !banc.Visible("PictEnrs")) {
-                EXPECT_EQ(banc.Controle<QAction>("MnuGestionFeuilleQSL")->isEnabled(), !c.modifiee);
+            if (!parMenu) {
+                const QPalette palette = banc.Controle<QLineEdit>("TxtField_14")->palette();
+                EXPECT_EQ(palette.color(QPalette::Base) == QColor(255, 192, 192), c.modifiee);
             }
             EXPECT_EQ(Difference(banc.Journal(), avant), "");
             EXPECT_EQ(banc.Lire("FeuilleQSL.txt"), Feuille({}));
