@@ -18,6 +18,9 @@ namespace {
 
 using essais::Banc;
 
+// As on a laptop's screen; the offscreen one is smaller, and what lies outside it is painted too.
+constexpr QSize kFenetre{1320, 740};
+
 // A drive whose program folder holds the generated logbook.
 void Garnir(const Banc& banc, const Carnet& carnet) {
     std::filesystem::create_directory(banc.Dossier());
@@ -29,10 +32,22 @@ struct BancOuvert : Banc {
     explicit BancOuvert(const Carnet& carnet) {
         Garnir(*this, carnet);
         Ouvrir();
+        fenetre->resize(kFenetre);
+        QCoreApplication::processEvents();
     }
-    void Foyer(const char* nom) const { Controle<QWidget>(nom)->setFocus(); }
-    using Banc::Foyer;
 };
+
+// Paints what waits to be painted: the offscreen screen would do so when its next refresh comes.
+void Peindre(const Banc& banc) {
+    QEvent demande(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(banc.fenetre.get(), &demande);
+}
+
+// A key or click with all that follows from it, painting included.
+void Presser(const Banc& banc, int touche) {
+    banc.Touche(touche);
+    Peindre(banc);
+}
 
 bool CarteMontree(const Banc& banc, const Carnet& carnet) {
     return banc.Texte("TxtField_1").toStdString() ==
@@ -46,9 +61,11 @@ void Demarrer(benchmark::State& etat, const Carnet& carnet) {
         Garnir(banc, carnet);
         etat.ResumeTiming();
         banc.fenetre = std::make_unique<Orvalis>(banc.systeme);
+        banc.fenetre->resize(kFenetre);
         banc.fenetre->show();
         banc.fenetre->activateWindow();
         QCoreApplication::processEvents();
+        Peindre(banc);
         etat.PauseTiming();
         if (!CarteMontree(banc, carnet))
             etat.SkipWithError("no card");
@@ -103,8 +120,9 @@ double TaperContact(benchmark::State& etat, const Banc& banc, int boite) {
             return 1;
         }
         Remplir(banc, b.texte);
+        Peindre(banc);
         const auto debut = std::chrono::steady_clock::now();
-        banc.Touche(Qt::Key_Return);
+        Presser(banc, Qt::Key_Return);
         if (b.boite == boite)
             secondes =
                 std::chrono::duration<double>(std::chrono::steady_clock::now() - debut).count();
@@ -127,7 +145,7 @@ void Suivant(benchmark::State& etat, const Carnet& carnet) {
     const BancOuvert banc(carnet);
     banc.Cliquer("BtNewQSO");
     Chronometrer(
-        etat, [&] { TaperContact(etat, banc, 0); }, [&] { banc.Touche(Qt::Key_Return); });
+        etat, [&] { TaperContact(etat, banc, 0); }, [&] { Presser(banc, Qt::Key_Return); });
     if (banc.Foyer() != QStringLiteral("TxtField_1"))
         etat.SkipWithError("no next card");
 }
@@ -138,7 +156,7 @@ void TournerPage(benchmark::State& etat, const Carnet& carnet) {
     bool arriere = true;
     const QString avant = banc.Texte("LabPage");
     for ([[maybe_unused]] auto _ : etat) {
-        banc.Touche(arriere ? Qt::Key_PageUp : Qt::Key_PageDown);
+        Presser(banc, arriere ? Qt::Key_PageUp : Qt::Key_PageDown);
         arriere = !arriere;
         if (!arriere && banc.Texte("LabPage") == avant)
             etat.SkipWithError("the page did not turn");
@@ -152,10 +170,10 @@ void Chercher(benchmark::State& etat, const Carnet& carnet, const std::string& t
         [&] {
             if (banc.Visible("BtContactsFermer"))
                 banc.Cliquer("BtContactsFermer");
-            banc.Foyer("RechText");
+            banc.Controle<QWidget>("RechText")->setFocus();
             banc.Taper(texte);
         },
-        [&] { banc.Touche(Qt::Key_Return); });
+        [&] { Presser(banc, Qt::Key_Return); });
     etat.counters["found"] = banc.Controle<QListWidget>("ContactsListe")->count();
 }
 
@@ -175,7 +193,10 @@ void Doublons(benchmark::State& etat, const Carnet& carnet) {
             if (banc.Visible("BtContactsFermer"))
                 banc.Cliquer("BtContactsFermer");
         },
-        [&] { banc.Menu("MnuDoublons"); });
+        [&] {
+            banc.Menu("MnuDoublons");
+            Peindre(banc);
+        });
 }
 
 // Every round deletes one contact; there are far fewer rounds than contacts.
@@ -187,7 +208,10 @@ void Supprimer(benchmark::State& etat, const Carnet& carnet) {
             banc.Cliquer("CmdSensHaut");
             banc.Cliquer("BtKillFiche");
         },
-        [&] { banc.Cliquer("FraCmdOui"); });
+        [&] {
+            banc.Cliquer("FraCmdOui");
+            Peindre(banc);
+        });
 }
 
 QString Imprime(const Carnet& carnet) {
@@ -242,9 +266,11 @@ int DemarrerSeul(const char* lecteur) {
     essais::SystemeDEssai systeme;
     systeme.lecteur = lecteur;
     Orvalis fenetre(systeme);
+    fenetre.resize(kFenetre);
     fenetre.show();
     fenetre.activateWindow();
     QCoreApplication::processEvents();
+    fenetre.repaint();
     const auto* indicatif = fenetre.findChild<QLineEdit*>(QStringLiteral("TxtField_1"));
     return indicatif->text().isEmpty() ? 1 : 0;
 }
@@ -265,6 +291,7 @@ int Principal(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_LOGGING_RULES", "*.warning=false"); // what the offscreen screen cannot do
     // The drives too lie in memory: the flush to the disk is measured apart.
     qputenv("TMPDIR", orvalis::bench::Dossier(orvalis::bench::Lieu::Memoire).c_str());
     const QApplication application(argc, argv);

@@ -58,8 +58,11 @@ void Orvalis::BrancherMenus() {
 }
 
 void Orvalis::ActualiserMenus() {
+    // Looked for in the menu bar alone: through all controls of the window, this after each flow
+    // took half of what Enter in a box costs.
     for (const RegleCommande& regle : kReglesCommandes)
-        if (auto* action = findChild<QAction*>(Q(regle.nom)); action && action->data().toBool())
+        if (auto* action = menuBar()->findChild<QAction*>(Q(regle.nom));
+            action && action->data().toBool())
             action->setEnabled(!p_.gel && CommandePermise(regle.commande, session_));
 }
 
