@@ -1,6 +1,7 @@
 // A generated logbook in a folder of its own, gone with the object.
 #pragma once
 
+#include "core/fiches.h"
 #include "core/journal.h"
 #include "core/qso_record.h"
 
@@ -9,6 +10,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
+#include <span>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -43,21 +45,36 @@ inline QsoRecord FicheGeneree(std::int32_t i) {
     return fiche;
 }
 
+/// Bytes of a logbook of `nbFiches` generated contacts and its end-of-log record.
+inline std::vector<QsoRecord> FichesGenerees(std::int64_t nbFiches) {
+    std::vector<QsoRecord> fiches;
+    fiches.reserve(static_cast<std::size_t>(nbFiches) + 1);
+    for (std::int32_t i = 0; i < nbFiches; ++i)
+        fiches.push_back(FicheGeneree(i));
+    fiches.push_back(FicheFinDeLog("JN18DU"));
+    return fiches;
+}
+
+/// Where a logbook lies: in memory, where a flush costs nothing and what is left is the program's
+/// own work and the system calls; or on the disk.
+enum class Lieu { Memoire, Disque };
+
+inline std::filesystem::path Dossier(Lieu lieu) {
+    const std::filesystem::path memoire = "/dev/shm";
+    return lieu == Lieu::Memoire && std::filesystem::is_directory(memoire)
+               ? memoire
+               : std::filesystem::temp_directory_path();
+}
+
 class Carnet {
   public:
-    /// A logbook of `nbFiches` contacts and its end-of-log record.
-    explicit Carnet(std::int64_t nbFiches) : nbFiches_(static_cast<std::int32_t>(nbFiches)) {
-        std::string modele =
-            (std::filesystem::temp_directory_path() / "orvalis-bench-XXXXXX").string();
+    explicit Carnet(std::int64_t nbFiches, Lieu lieu = Lieu::Memoire)
+        : fiches_(FichesGenerees(nbFiches)), nbFiches_(static_cast<std::int32_t>(nbFiches)) {
+        std::string modele = (bench::Dossier(lieu) / "orvalis-bench-XXXXXX").string();
         if (mkdtemp(modele.data()) == nullptr)
             throw std::system_error(errno, std::generic_category(), modele);
         dossier_ = modele;
-        std::vector<QsoRecord> fiches;
-        fiches.reserve(static_cast<std::size_t>(nbFiches) + 1);
-        for (std::int32_t i = 0; i < nbFiches_; ++i)
-            fiches.push_back(FicheGeneree(i));
-        fiches.push_back(FicheFinDeLog("JN18DU"));
-        Journal(Chemin(), ModeFichier::Creation).Ecrire(1, fiches);
+        Ecrire(fiches_);
     }
     Carnet(const Carnet&) = delete;
     Carnet& operator=(const Carnet&) = delete;
@@ -66,12 +83,32 @@ class Carnet {
         std::filesystem::remove_all(dossier_, erreur);
     }
 
+    /// Makes the file hold exactly these records.
+    void Ecrire(std::span<const QsoRecord> fiches) const {
+        Journal journal(Chemin(), ModeFichier::Creation);
+        journal.Ecrire(1, fiches);
+        std::filesystem::resize_file(Chemin(), fiches.size_bytes());
+    }
+    /// A session on this logbook, as the window has it after start-up.
+    [[nodiscard]] Session Ouvrir() const {
+        Session session;
+        session.indicatif = "BENCH";
+        session.monLocator = "JN18DU";
+        OuvrirJournal(session, Chemin());
+        CompterFiches(session);
+        return session;
+    }
+
     [[nodiscard]] std::filesystem::path Dossier() const { return dossier_; }
     [[nodiscard]] std::filesystem::path Chemin() const { return dossier_ / "BENCH.Vek"; }
     [[nodiscard]] std::int32_t NbFiches() const { return nbFiches_; }
+    [[nodiscard]] std::size_t NbOctets() const { return fiches_.size() * kTailleFiche; }
+    /// The records it was made with, the end-of-log record included.
+    [[nodiscard]] const std::vector<QsoRecord>& Fiches() const { return fiches_; }
 
   private:
     std::filesystem::path dossier_;
+    std::vector<QsoRecord> fiches_;
     std::int32_t nbFiches_;
 };
 

@@ -1,97 +1,108 @@
-// What opening and browsing a logbook cost, beside a plain read of the same file as the floor.
-#include "carnet.h"
-#include "core/journal.h"
+// What opening, browsing and searching a logbook cost.
+#include "core/page_texte.h"
 #include "core/pages.h"
+#include "core/recherche.h"
+#include "mesures.h"
+#include "print/page_journal.h"
 
-#include <benchmark/benchmark.h>
-#include <fcntl.h>
-#include <unistd.h>
-
-namespace orvalis {
+namespace orvalis::bench {
 namespace {
 
-using bench::Carnet;
-
-constexpr std::size_t kTailleLecture = 256UL * 1024;
-
-void Tailles(benchmark::internal::Benchmark* b) {
-    for (const std::int64_t taille : bench::kTailles)
-        b->Arg(taille);
-    b->Unit(benchmark::kMicrosecond);
+void Compter(benchmark::State& etat, const Carnet& carnet) {
+    Session session = carnet.Ouvrir();
+    for ([[maybe_unused]] auto _ : etat)
+        CompterFiches(session);
 }
 
-void CompterOctets(benchmark::State& etat, const Carnet& carnet) {
-    etat.SetBytesProcessed(etat.iterations() *
-                           static_cast<std::int64_t>(std::filesystem::file_size(carnet.Chemin())));
-}
-
-// The floor: the file through the system's read, 256 KiB at a time, nothing looked at.
-void PlancherLecture(benchmark::State& etat) {
-    const Carnet carnet(etat.range(0));
-    std::vector<char> tampon(kTailleLecture);
+void OuvrirEtCompter(benchmark::State& etat, const Carnet& carnet) {
     for ([[maybe_unused]] auto _ : etat) {
-        const int fichier = open(carnet.Chemin().c_str(), O_RDONLY | O_CLOEXEC);
-        while (read(fichier, tampon.data(), tampon.size()) > 0)
-            benchmark::DoNotOptimize(tampon.data());
-        close(fichier);
+        Session session;
+        OuvrirJournal(session, carnet.Chemin());
+        CompterFiches(session);
+        benchmark::DoNotOptimize(session.nbFiches);
     }
-    CompterOctets(etat, carnet);
 }
-BENCHMARK(PlancherLecture)->Apply(Tailles);
 
-// Open and count: what start-up and every recount do.
-void OuvrirEtCompter(benchmark::State& etat) {
-    const Carnet carnet(etat.range(0));
-    for ([[maybe_unused]] auto _ : etat) {
-        const Journal journal(carnet.Chemin(), ModeFichier::Lecture);
-        benchmark::DoNotOptimize(journal.Compter());
-    }
-    CompterOctets(etat, carnet);
-}
-BENCHMARK(OuvrirEtCompter)->Apply(Tailles);
-
-// Every record handed out one after the other, as the scans for a callsign or for duplicates get
-// them.
-void Parcourir(benchmark::State& etat) {
-    const Carnet carnet(etat.range(0));
+// The last page, as lines of the list and as cells of the sheet.
+void Page(benchmark::State& etat, const Carnet& carnet) {
     const Journal journal(carnet.Chemin(), ModeFichier::Lecture);
+    const std::int32_t premiere = carnet.NbFiches() - kFichesParPage + 1;
+    std::array<QsoRecord, kFichesParPage> fiches;
     for ([[maybe_unused]] auto _ : etat) {
-        LecteurFiches lecteur(journal);
-        for (std::int32_t k = 1; k <= carnet.NbFiches(); ++k)
-            benchmark::DoNotOptimize(lecteur.Lire(k).octets.data());
+        static_cast<void>(journal.Lire(premiere, fiches));
+        std::int32_t k = premiere;
+        for (const QsoRecord& fiche : fiches) {
+            benchmark::DoNotOptimize(LigneListe(k, fiche));
+            benchmark::DoNotOptimize(CellulesDeFiche(k++, fiche));
+        }
     }
-    CompterOctets(etat, carnet);
 }
-BENCHMARK(Parcourir)->Apply(Tailles);
 
-// The 25 lines of the last page; it must not depend on the size of the logbook.
-void LignesDUnePage(benchmark::State& etat) {
-    const Carnet carnet(etat.range(0));
+void Chercher(benchmark::State& etat, const Carnet& carnet, std::string_view texte) {
     const Journal journal(carnet.Chemin(), ModeFichier::Lecture);
-    for ([[maybe_unused]] auto _ : etat) {
-        const PlagePage plage = CalculerPlage(CalculerPages(carnet.NbFiches()), carnet.NbFiches());
-        std::array<QsoRecord, kFichesParPage> fiches;
-        static_cast<void>(journal.Lire(plage.premiere, fiches));
-        for (std::int32_t k = plage.premiere; k <= plage.derniere; ++k)
-            benchmark::DoNotOptimize(
-                LigneListe(k, fiches[static_cast<std::size_t>(k - plage.premiere)]));
-    }
+    std::size_t trouves = 0;
+    for ([[maybe_unused]] auto _ : etat)
+        trouves = ChercherContacts(journal, carnet.NbFiches(), texte).lignes.size();
+    etat.counters["found"] = static_cast<double>(trouves);
 }
-BENCHMARK(LignesDUnePage)->Apply(Tailles);
 
-// The floor of a page: its 25 records in one read of the system.
-void PlancherPage(benchmark::State& etat) {
-    const Carnet carnet(etat.range(0));
-    const int fichier = open(carnet.Chemin().c_str(), O_RDONLY | O_CLOEXEC);
-    const off_t position = static_cast<off_t>(kTailleFiche) * (carnet.NbFiches() - kFichesParPage);
-    std::array<char, kTailleFiche * kFichesParPage> tampon{};
-    for ([[maybe_unused]] auto _ : etat) {
-        benchmark::DoNotOptimize(pread(fichier, tampon.data(), tampon.size(), position));
-        benchmark::DoNotOptimize(tampon.data());
-    }
-    close(fichier);
+void ParIndicatif(benchmark::State& etat, const Carnet& carnet) {
+    Chercher(etat, carnet, TexteRogne(FicheGeneree(500), Champ::CSGN));
 }
-BENCHMARK(PlancherPage)->Apply(Tailles);
+
+// A date without contacts: the scan alone.
+void ParDateVide(benchmark::State& etat, const Carnet& carnet) {
+    Chercher(etat, carnet, "31/12/99");
+}
+
+// A contest day: a thousand contacts or more become lines.
+void ParDate(benchmark::State& etat, const Carnet& carnet) {
+    Chercher(etat, carnet, "01/01/20");
+}
+
+void Doublons(benchmark::State& etat, const Carnet& carnet) {
+    const Journal journal(carnet.Chemin(), ModeFichier::Lecture);
+    for ([[maybe_unused]] auto _ : etat)
+        benchmark::DoNotOptimize(ChercherDoublons(journal, carnet.NbFiches()).lignes.data());
+}
+
+// A printer that only receives.
+class ImprimanteNulle : public Imprimante {
+  public:
+    void ChoisirPapier(Papier /*papier*/, Orientation /*orientation*/) override {}
+    void ChoisirPolice(std::string_view /*famille*/) override {}
+    void ChoisirTaille(int /*points*/) override {}
+    void ChoisirGras(bool /*gras*/) override {}
+    void Placer(int /*x*/, int /*y*/) override {}
+    void Ecrire(std::string_view utf8, Suite /*suite*/) override {
+        benchmark::DoNotOptimize(utf8.data());
+    }
+    [[nodiscard]] int LargeurTexte(std::string_view utf8) const override {
+        return static_cast<int>(utf8.size());
+    }
+    void TracerLigne(int /*x1*/, int /*y1*/, int /*x2*/, int /*y2*/) override {}
+    void TracerRectangle(int /*x1*/, int /*y1*/, int /*x2*/, int /*y2*/) override {}
+    void TerminerDocument() override {}
+};
+
+void Imprimer(benchmark::State& etat, const Carnet& carnet) {
+    Session session = carnet.Ouvrir();
+    session.premiereAffichee = carnet.NbFiches() - kFichesParPage + 1;
+    ImprimanteNulle imprimante;
+    for ([[maybe_unused]] auto _ : etat)
+        ImprimerPage(imprimante, session, session.premiereAffichee);
+}
+
+[[maybe_unused]] const int kInscrites = Inscrire({
+    {"Count", Compter, LireTout},
+    {"Open and count", OuvrirEtCompter, LireTout},
+    {"Page: lines and cells", Page, LireUnePage},
+    {"Search by callsign", ParIndicatif, LireTout},
+    {"Search by date, none found", ParDateVide, LireTout},
+    {"Search by date, contest day", ParDate, LireTout},
+    {"Duplicates", Doublons, LireTout},
+    {"Print a page, drawing only", Imprimer, LireUnePage},
+});
 
 } // namespace
-} // namespace orvalis
+} // namespace orvalis::bench

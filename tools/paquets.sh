@@ -10,7 +10,7 @@ PAQUETS_ECRAN=(xvfb x11-utils imagemagick openbox)
 # Tests, checks and the Debian package.
 PAQUETS_CONTROLE=(libgtest-dev libgmock-dev lld clang-format-14 clang-tidy-14 python3
                   git poppler-utils xdotool desktop-file-utils appstream dpkg-dev file)
-PAQUETS_MESURES=(libbenchmark-dev)
+PAQUETS_MESURES=(libbenchmark-dev libgtest-dev python3)
 PAQUETS_FUZZ=(clang-14 libclang-rt-14-dev lld)
 
 # Prints the packages among the arguments that are not installed.

@@ -28,7 +28,9 @@ void MettreChamp(QsoRecord& fiche, Champ champ, std::string_view utf8) {
 }
 
 bool EstFinDeLog(const QsoRecord& fiche) {
-    return Rogner(OctetsChamp(fiche, Champ::CSGN)) == "\\";
+    // Asked of every record of every count: the first byte answers for nearly all of them.
+    const std::string_view indicatif = OctetsChamp(fiche, Champ::CSGN);
+    return (indicatif.front() == '\\' || indicatif.front() == ' ') && Rogner(indicatif) == "\\";
 }
 
 QsoRecord FicheFinDeLog(std::string_view monLocator) {

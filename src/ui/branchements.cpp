@@ -67,12 +67,15 @@ void Orvalis::BrancherMenus() {
 }
 
 void Orvalis::ActualiserMenus() {
+    // Looked for in the menu bar alone: through all controls of the window, this after each flow
+    // took half of what Enter in a box costs.
     for (const RegleCommande& regle : kReglesCommandes)
-        if (auto* action = findChild<QAction*>(Q(regle.nom)); action && action->data().toBool())
+        if (auto* action = menuBar()->findChild<QAction*>(Q(regle.nom));
+            action && action->data().toBool())
             action->setEnabled(!Attend(regle.commande) &&
                                CommandePermise(regle.commande, session_));
     for (const char* nom : {"MnuEditLocator", "MnuVoir"})
-        if (auto* action = findChild<QAction*>(QString::fromLatin1(nom)))
+        if (auto* action = menuBar()->findChild<QAction*>(QString::fromLatin1(nom)))
             action->setEnabled(!p_.gel && !feuille_.vue.controle);
 }
 

@@ -1,0 +1,299 @@
+// What the operator waits for: from a key or a click in the real window to everything it changes
+// being computed and painted, on the offscreen screen. Questions and pauses are answered at once.
+#include "mesures.h"
+#include "print/imprimante_qt.h"
+#include "print/page_journal.h"
+#include "ui/banc.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QProcess>
+
+#include <chrono>
+#include <cstring>
+
+namespace orvalis::bench {
+namespace {
+
+using essais::Banc;
+
+// As on a laptop's screen; the offscreen one is smaller, and what lies outside it is painted too.
+constexpr QSize kFenetre{1320, 740};
+
+// A drive whose program folder holds the generated logbook.
+void Garnir(const Banc& banc, const Carnet& carnet) {
+    std::filesystem::create_directory(banc.Dossier());
+    banc.Ecrire("Parvel.cfg", "\"F5ABC\",\"F5ABC.Vek\",\"JN18DU\"\r\n");
+    std::filesystem::copy_file(carnet.Chemin(), banc.Dossier() / "F5ABC.Vek");
+}
+
+struct BancOuvert : Banc {
+    explicit BancOuvert(const Carnet& carnet) {
+        Garnir(*this, carnet);
+        Ouvrir();
+        fenetre->resize(kFenetre);
+        QCoreApplication::processEvents();
+    }
+};
+
+// Paints what waits to be painted: the offscreen screen would do so when its next refresh comes.
+void Peindre(const Banc& banc) {
+    QEvent demande(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(banc.fenetre.get(), &demande);
+}
+
+// A key or click with all that follows from it, painting included.
+void Presser(const Banc& banc, int touche) {
+    banc.Touche(touche);
+    Peindre(banc);
+}
+
+bool CarteMontree(const Banc& banc, const Carnet& carnet) {
+    return banc.Texte("TxtField_1").toStdString() ==
+           TexteRogne(carnet.Fiches()[carnet.Fiches().size() - 2], Champ::CSGN);
+}
+
+void Demarrer(benchmark::State& etat, const Carnet& carnet) {
+    for ([[maybe_unused]] auto _ : etat) {
+        etat.PauseTiming();
+        Banc banc;
+        Garnir(banc, carnet);
+        etat.ResumeTiming();
+        banc.fenetre = std::make_unique<Orvalis>(banc.systeme);
+        banc.fenetre->resize(kFenetre);
+        banc.fenetre->show();
+        banc.fenetre->activateWindow();
+        QCoreApplication::processEvents();
+        Peindre(banc);
+        etat.PauseTiming();
+        if (!CarteMontree(banc, carnet))
+            etat.SkipWithError("no card");
+        banc.fenetre.reset();
+        etat.ResumeTiming();
+    }
+}
+
+// A process of its own, from its first instruction to the shown card and out again.
+void LancerProgramme(benchmark::State& etat, const Carnet& carnet) {
+    const Banc banc;
+    Garnir(banc, carnet);
+    const QString lecteur = QString::fromStdString(banc.systeme.lecteur.string());
+    for ([[maybe_unused]] auto _ : etat)
+        if (QProcess::execute(QCoreApplication::applicationFilePath(),
+                              {QStringLiteral("--start"), lecteur}) != 0)
+            etat.SkipWithError("no card");
+}
+
+// What is typed into the boxes of one contact, in the order of Enter.
+struct BoiteTapee {
+    int boite;
+    const char* texte;
+};
+constexpr std::array<BoiteTapee, 13> kSaisie = {{{1, "f6abc"},
+                                                 {5, "14.210"},
+                                                 {6, "ssb"},
+                                                 {7, "59"},
+                                                 {8, "57+"},
+                                                 {12, "jean-pierre"},
+                                                 {9, "besançon"},
+                                                 {11, "25"},
+                                                 {10, "jn37xa"},
+                                                 {13, "beam 3 el"},
+                                                 {14, "oui"},
+                                                 {15, "oui"},
+                                                 {17, "f5xyz"}}};
+
+// Empties the box that has the focus, as an operator would, and types into it.
+void Remplir(const Banc& banc, const char* texte) {
+    banc.Touche(Qt::Key_A, Qt::ControlModifier);
+    banc.Taper(texte);
+}
+
+// Types a contact and leaves the focus on "Suivant"; returns the seconds that the Enter of box
+// `boite` took, 0 when there is none.
+double TaperContact(benchmark::State& etat, const Banc& banc, int boite) {
+    double secondes = 0;
+    for (const BoiteTapee& b : kSaisie) {
+        if (banc.Foyer() != QStringLiteral("TxtField_%1").arg(b.boite)) {
+            etat.SkipWithError("the focus went elsewhere");
+            return 1;
+        }
+        Remplir(banc, b.texte);
+        Peindre(banc);
+        const auto debut = std::chrono::steady_clock::now();
+        Presser(banc, Qt::Key_Return);
+        if (b.boite == boite)
+            secondes =
+                std::chrono::duration<double>(std::chrono::steady_clock::now() - debut).count();
+    }
+    if (banc.Foyer() != QStringLiteral("BtEnrSuivant"))
+        etat.SkipWithError("the contact cannot be stored");
+    return secondes;
+}
+
+template<int boite> void Entree(benchmark::State& etat, const Carnet& carnet) {
+    const BancOuvert banc(carnet);
+    banc.Cliquer("BtNewQSO");
+    for ([[maybe_unused]] auto _ : etat) {
+        etat.SetIterationTime(TaperContact(etat, banc, boite));
+        banc.Cliquer("BtEnrAnnuler");
+    }
+}
+
+void Suivant(benchmark::State& etat, const Carnet& carnet) {
+    const BancOuvert banc(carnet);
+    banc.Cliquer("BtNewQSO");
+    Chronometrer(
+        etat, [&] { TaperContact(etat, banc, 0); }, [&] { Presser(banc, Qt::Key_Return); });
+    if (banc.Foyer() != QStringLiteral("TxtField_1"))
+        etat.SkipWithError("no next card");
+}
+
+// Back and forth between the last two pages, each with the card of its first or last line.
+void TournerPage(benchmark::State& etat, const Carnet& carnet) {
+    const BancOuvert banc(carnet);
+    bool arriere = true;
+    const QString avant = banc.Texte("LabPage");
+    for ([[maybe_unused]] auto _ : etat) {
+        Presser(banc, arriere ? Qt::Key_PageUp : Qt::Key_PageDown);
+        arriere = !arriere;
+        if (!arriere && banc.Texte("LabPage") == avant)
+            etat.SkipWithError("the page did not turn");
+    }
+}
+
+void Chercher(benchmark::State& etat, const Carnet& carnet, const std::string& texte) {
+    const BancOuvert banc(carnet);
+    Chronometrer(
+        etat,
+        [&] {
+            if (banc.Visible("BtContactsFermer"))
+                banc.Cliquer("BtContactsFermer");
+            banc.Controle<QWidget>("RechText")->setFocus();
+            banc.Taper(texte);
+        },
+        [&] { Presser(banc, Qt::Key_Return); });
+    etat.counters["found"] = banc.Controle<QListWidget>("ContactsListe")->count();
+}
+
+void ChercherIndicatif(benchmark::State& etat, const Carnet& carnet) {
+    Chercher(etat, carnet, TexteRogne(FicheGeneree(500), Champ::CSGN));
+}
+
+void ChercherDate(benchmark::State& etat, const Carnet& carnet) {
+    Chercher(etat, carnet, "01/01/20");
+}
+
+void Doublons(benchmark::State& etat, const Carnet& carnet) {
+    const BancOuvert banc(carnet);
+    Chronometrer(
+        etat,
+        [&] {
+            if (banc.Visible("BtContactsFermer"))
+                banc.Cliquer("BtContactsFermer");
+        },
+        [&] {
+            banc.Menu("MnuDoublons");
+            Peindre(banc);
+        });
+}
+
+// Every round deletes one contact; there are far fewer rounds than contacts.
+void Supprimer(benchmark::State& etat, const Carnet& carnet) {
+    const BancOuvert banc(carnet);
+    Chronometrer(
+        etat,
+        [&] {
+            banc.Cliquer("CmdSensHaut");
+            banc.Cliquer("BtKillFiche");
+        },
+        [&] {
+            banc.Cliquer("FraCmdOui");
+            Peindre(banc);
+        });
+}
+
+QString Imprime(const Carnet& carnet) {
+    return QString::fromStdString((carnet.Dossier() / "page.pdf").string());
+}
+
+void ImprimerPdf(benchmark::State& etat, const Carnet& carnet) {
+    Session session = carnet.Ouvrir();
+    session.premiereAffichee = carnet.NbFiches() - 24;
+    for ([[maybe_unused]] auto _ : etat) {
+        QPrinter pdf(QPrinter::HighResolution);
+        pdf.setOutputFormat(QPrinter::PdfFormat);
+        pdf.setOutputFileName(Imprime(carnet));
+        ImprimanteQt imprimante(pdf);
+        ImprimerPage(imprimante, session, session.premiereAffichee);
+    }
+}
+
+// As many bytes as such a PDF has.
+void EcrirePdf(benchmark::State& etat, const Carnet& carnet) {
+    constexpr std::size_t kOctetsPdf = 40000;
+    for ([[maybe_unused]] auto _ : etat) {
+        const Brut fichier(Imprime(carnet).toStdString());
+        ParBlocs(kOctetsPdf, [&](auto position, auto octets) { fichier.Ecrire(position, octets); });
+    }
+}
+
+[[maybe_unused]] const int kInscrites = Inscrire({
+    {"Window: start-up to the shown card", Demarrer, LireTout},
+    {"Process: launch to the shown card and exit", LancerProgramme, LireTout},
+    {"Window: Suivant to the next card", Suivant, LireTout},
+    {"Window: turn a page", TournerPage, LireUnePage},
+    {"Window: search by callsign", ChercherIndicatif, LireTout},
+    {"Window: search by date, contest day", ChercherDate, LireTout},
+    {"Window: duplicates", Doublons, LireTout},
+    {"Window: delete record 1", Supprimer, LireEtRecrire},
+    {"Print a page to PDF", ImprimerPdf, EcrirePdf},
+});
+
+template<std::size_t... i> int InscrireEntrees(std::index_sequence<i...> /*boites*/) {
+    for (const auto& [boite, corps] :
+         {std::pair<int, Corps>{kSaisie[i].boite, Entree<kSaisie[i].boite>}...})
+        InscrireUne("Window: Enter in box " + std::to_string(boite), corps, {})
+            ->UseManualTime()
+            ->Iterations(5);
+    return 0;
+}
+[[maybe_unused]] const int kEntrees = InscrireEntrees(std::make_index_sequence<kSaisie.size()>{});
+
+// The child of LancerProgramme.
+int DemarrerSeul(const char* lecteur) {
+    essais::SystemeDEssai systeme;
+    systeme.lecteur = lecteur;
+    Orvalis fenetre(systeme);
+    fenetre.resize(kFenetre);
+    fenetre.show();
+    fenetre.activateWindow();
+    QCoreApplication::processEvents();
+    fenetre.repaint();
+    const auto* indicatif = fenetre.findChild<QLineEdit*>(QStringLiteral("TxtField_1"));
+    return indicatif->text().isEmpty() ? 1 : 0;
+}
+
+} // namespace
+
+int Principal(int argc, char** argv) {
+    if (argc == 3 && std::strcmp(argv[1], "--start") == 0)
+        return DemarrerSeul(argv[2]);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
+
+} // namespace orvalis::bench
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_LOGGING_RULES", "*.warning=false"); // what the offscreen screen cannot do
+    // The drives too lie in memory: the flush to the disk is measured apart.
+    qputenv("TMPDIR", orvalis::bench::Dossier(orvalis::bench::Lieu::Memoire).c_str());
+    const QApplication application(argc, argv);
+    return orvalis::bench::Principal(argc, argv);
+}
