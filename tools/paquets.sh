@@ -10,6 +10,8 @@ PAQUETS_ECRAN=(xvfb x11-utils imagemagick openbox)
 # Tests, checks and the Debian package.
 PAQUETS_CONTROLE=(libgtest-dev libgmock-dev lld clang-format-14 clang-tidy-14 python3
                   git poppler-utils xdotool desktop-file-utils appstream dpkg-dev file)
+# The pictures of the guide. The look-alike of the labels' handwriting shows on one of them.
+PAQUETS_CAPTURES=(xdotool pngquant optipng poppler-utils fonts-comic-neue)
 PAQUETS_MESURES=(libbenchmark-dev)
 
 # Prints the packages among the arguments that are not installed.

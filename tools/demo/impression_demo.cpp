@@ -42,10 +42,10 @@ std::vector<EtiquettePlacee> EtiquettesPreparees(const fs::path& dossier) {
         const QslSlotRecord fiche = LireEnregistrement(feuille, k);
         const auto texte = [&fiche](ChampEtiquette champ) { return TexteRogne(fiche, champ); };
         using enum ChampEtiquette;
-        etiquettes.push_back({static_cast<std::int16_t>(k),
-                              {texte(Indicatif), texte(Ligne1), texte(Ligne2), texte(Voie),
-                               texte(Date), texte(Heure), texte(Frequence), texte(Report),
-                               texte(Mode)}});
+        etiquettes.push_back(
+            {static_cast<std::int16_t>(k),
+             {texte(Indicatif), texte(Ligne1), texte(Ligne2), texte(Voie), texte(Date),
+              texte(Heure), texte(Frequence), texte(Report), texte(Mode)}});
     }
     return etiquettes;
 }
@@ -73,9 +73,8 @@ int main(int nbArguments, char** arguments) try {
     });
     EnTetesEtiquettes enTetes;
     std::vector<EtiquettePlacee> etiquettes = EtiquettesPreparees(dossier);
-    ImprimerPdf(sortie / "etiquettes.pdf", [&](Imprimante& imprimante) {
-        ImprimerPlanche(imprimante, etiquettes, enTetes);
-    });
+    ImprimerPdf(sortie / "etiquettes.pdf",
+                [&](Imprimante& imprimante) { ImprimerPlanche(imprimante, etiquettes, enTetes); });
     ImprimerPdf(sortie / "vierges.pdf", [&](Imprimante& imprimante) {
         ImprimerPlancheVierge(imprimante, session.indicatif, enTetes);
     });
