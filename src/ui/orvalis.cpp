@@ -181,6 +181,7 @@ QWidget* Orvalis::ColonneDroite() {
     SansMarges<QVBoxLayout>(feuille)->addWidget(&p_.page);
     auto* reponses = new QVBoxLayout;
     reponses->setContentsMargins(0, 0, 1, 0);
+    reponses->setSpacing(0);
     for (QWidget* panneau : std::initializer_list<QWidget*>{
              &p_.msgFiche, &p_.changLocator, &p_.classer, &p_.jumelage, &p_.contacts}) {
         // The list takes the height there is; the others are as high as what they say.
