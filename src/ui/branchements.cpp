@@ -28,6 +28,7 @@
 
 #include <QAction>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QTimer>
 
 #include <map>
@@ -64,6 +65,10 @@ void Orvalis::BrancherMenus() {
         if (trouve != commandes.end())
             Brancher(&action, &QAction::triggered, [flux = trouve->second](bool) { flux(); });
     });
+    // The captions have no mnemonics: this key leads into the menus from anywhere.
+    auto* versLesMenus = new QShortcut(QKeySequence(Qt::Key_F10), this);
+    connect(versLesMenus, &QShortcut::activated, this,
+            [this] { menuBar()->setActiveAction(menuBar()->actions().front()); });
 }
 
 void Orvalis::ActualiserMenus() {

@@ -114,11 +114,8 @@ void Jumeler(Plateau& p) {
 }
 
 void SauvegarderAvantJumelage(Plateau& p) {
-    if (CommandePermise(Commande::BtPjSauvegarder, p.session) && Sauvegarde(p)) {
-        LacherFoyer();
+    if (CommandePermise(Commande::BtPjSauvegarder, p.session) && Sauvegarde(p))
         p.jumelage.ActiverSauvegarde(false);
-        p.jumelage.DonnerFoyerJumeler();
-    }
 }
 
 void FermerJumelage(Plateau& p) {

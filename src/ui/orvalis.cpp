@@ -189,9 +189,14 @@ QWidget* Orvalis::ColonneDroite() {
     SansMarges<QVBoxLayout>(feuille)->addWidget(&p_.page);
     auto* reponses = new QVBoxLayout;
     reponses->setContentsMargins(0, 0, 1, 0);
+    reponses->setSpacing(0);
     for (QWidget* panneau : std::initializer_list<QWidget*>{
              &p_.msgFiche, &p_.changLocator, &p_.classer, &p_.jumelage, &p_.contacts}) {
-        reponses->addWidget(panneau, panneau == &p_.contacts ? 1 : 0);
+        // The list takes the height there is; the others are as high as what they say.
+        const bool haut = panneau == &p_.contacts;
+        reponses->addWidget(panneau, haut ? 1 : 0);
+        if (!haut)
+            panneau->setSizePolicy(panneau->sizePolicy().horizontalPolicy(), QSizePolicy::Maximum);
         panneau->setAutoFillBackground(true);
         panneau->raise();
     }

@@ -21,11 +21,9 @@ void PJumelage::Ouvrir(std::string_view nomFichier) {
     ui_->BtPjSauvegarder->setFocus();
 }
 
-void PJumelage::DonnerFoyerJumeler() {
-    ui_->BtPjumeler->setFocus();
-}
-
 void PJumelage::ActiverSauvegarde(bool active) {
+    if (!active && ui_->BtPjSauvegarder->hasFocus())
+        ui_->BtPjumeler->setFocus(); // what comes next
     ui_->BtPjSauvegarder->setEnabled(active);
 }
 

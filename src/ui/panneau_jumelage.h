@@ -20,7 +20,6 @@ class PJumelage : public QFrame {
 
     /// Shows the panel for the logbook file of this name; its backup button is usable.
     void Ouvrir(std::string_view nomFichier);
-    void DonnerFoyerJumeler();
     void ActiverSauvegarde(bool active);
 
   Q_SIGNALS:
