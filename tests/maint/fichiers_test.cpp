@@ -13,33 +13,20 @@ namespace {
 namespace fs = std::filesystem;
 using namespace essai;
 
-/// Lets no file grow beyond `octets` while it lives: a disk that fills up.
-class DisquePlein {
-  public:
-    explicit DisquePlein(rlim_t octets) : signal_(::signal(SIGXFSZ, SIG_IGN)) {
-        ::getrlimit(RLIMIT_FSIZE, &avant_);
-        const rlimit limite = {octets, avant_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limite);
-    }
-    DisquePlein(const DisquePlein&) = delete;
-    DisquePlein& operator=(const DisquePlein&) = delete;
-    ~DisquePlein() {
-        ::setrlimit(RLIMIT_FSIZE, &avant_);
-        ::signal(SIGXFSZ, signal_);
-    }
-
-  private:
-    rlimit avant_ = {};
-    sighandler_t signal_;
-};
-
-template<class Operation> fs::path FichierFautif(Operation operation) {
+/// The file that an operation fails on; no file grows beyond `place` meanwhile, as on a full disk.
+template<class Operation> fs::path Fautif(Operation operation, rlim_t place = RLIM_INFINITY) {
+    rlimit avant = {};
+    ::getrlimit(RLIMIT_FSIZE, &avant);
+    const rlimit limite = {place, avant.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &limite);
+    fs::path fautif;
     try {
         operation();
     } catch (const ErreurFichier& erreur) {
-        return erreur.Chemin();
+        fautif = erreur.Chemin();
     }
-    return {};
+    ::setrlimit(RLIMIT_FSIZE, &avant);
+    return fautif;
 }
 
 TEST(Jumelage, OctetParOctet) {
@@ -80,13 +67,13 @@ TEST(Jumelage, EchecLaisseLeCahierTelQuel) {
     const auto cible = dossier.Poser("F5ABC.Vek", avant + Contact("X"));
     const auto source = dossier.Poser("S.Vek", Contact("B") + Contact("C") + Contact("D") + Fin());
     Session session = Ouvrir(cible);
+    ::signal(SIGXFSZ, SIG_IGN);
     for (const rlim_t place : {3U * 165U, 4U * 165U}) { // contacts, then the end-of-log record
-        const DisquePlein plein(place);
-        EXPECT_EQ(FichierFautif([&] { JumelerJournal(session, source); }), cible);
+        EXPECT_EQ(Fautif([&] { JumelerJournal(session, source); }, place), cible);
         EXPECT_EQ(Lire(cible).substr(0, avant.size()), avant);
     }
     const auto absente = dossier / "Absente.Vek";
-    EXPECT_EQ(FichierFautif([&] { JumelerJournal(session, absente); }), absente);
+    EXPECT_EQ(Fautif([&] { JumelerJournal(session, absente); }), absente);
     CompterFiches(session);
     EXPECT_EQ(session.nbFiches, 1);
 }
@@ -125,10 +112,9 @@ TEST(Copie, CiblesRefusees) {
     EXPECT_THROW(CopierJournal(session, prise), ErreurVerrou);
     EXPECT_EQ(Lire(prise), Fin("JN33AA"));
 
-    for (const auto& cible : {dossier / "absent/C.Vek", dossier / ".", dossier / "Pleine.Vek"}) {
-        const DisquePlein plein(200);
-        EXPECT_EQ(FichierFautif([&] { CopierJournal(session, cible); }), cible);
-    }
+    ::signal(SIGXFSZ, SIG_IGN);
+    for (const auto& cible : {dossier / "absent/C.Vek", dossier / ".", dossier / "Pleine.Vek"})
+        EXPECT_EQ(Fautif([&] { CopierJournal(session, cible); }, 200), cible);
     EXPECT_EQ(Lire(chemin), octets);
 }
 
@@ -140,7 +126,7 @@ TEST(Copie, DossierDesSauvegardes) {
     EXPECT_EQ(CheminSauvegardes(lecteur / ""), lecteur / "Orvalis/veksave");
     fs::remove(lecteur / "Orvalis/veksave");
     const auto intrus = lecteur.Poser("Orvalis/VekSave", "");
-    EXPECT_EQ(FichierFautif([&] { static_cast<void>(CheminSauvegardes(lecteur / "")); }), intrus);
+    EXPECT_EQ(Fautif([&] { static_cast<void>(CheminSauvegardes(lecteur / "")); }), intrus);
 }
 
 TEST(Ouverture, AutreJournal) {
@@ -183,7 +169,7 @@ TEST(Ouverture, EchecOuMemeFichierNeChangeRien) {
     const Session autreProgramme = Ouvrir(prise);
     EXPECT_THROW(OuvrirAutreJournal(session, prise), ErreurVerrou);
     for (const auto& chemin : {dossier / "Absent.Vek", dossier / "."})
-        EXPECT_EQ(FichierFautif([&] { OuvrirAutreJournal(session, chemin); }), chemin);
+        EXPECT_EQ(Fautif([&] { OuvrirAutreJournal(session, chemin); }), chemin);
     EXPECT_FALSE(OuvrirAutreJournal(session, station).ouvert);
     EXPECT_EQ(session.cheminJournal, station);
     EXPECT_EQ(session.autreJournal, "");
