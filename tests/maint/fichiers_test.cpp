@@ -63,21 +63,20 @@ TEST(Jumelage, OctetParOctet) {
 
 TEST(Copie, OctetParOctet) {
     const std::string a = Contact("A"), x = Contact("X"), f = Fin(), autre = Fin("IN00AA");
-    const struct {
-        std::string journal, cible, attendu; // an empty target: there is none
-    } cas[] = {
+    const std::array<std::string, 3> cas[] = {
+        // logbook, target before and after
         {a + a + autre + x, "", a + a + autre},
         {f, "", f},
         {a + f, x + x + x + x, a + f + x + x},
         {a + a, "", a + a + f}, // no end of log
     };
-    for (const auto& c : cas) {
+    for (const auto& [journal, avant, apres] : cas) {
         const Dossier dossier;
-        const auto chemin = dossier.Poser("F5ABC.Vek", c.journal);
-        const auto cible = c.cible.empty() ? dossier / "C.Vek" : dossier.Poser("C.Vek", c.cible);
+        const auto chemin = dossier.Poser("F5ABC.Vek", journal);
+        const auto cible = avant.empty() ? dossier / "C.Vek" : dossier.Poser("C.Vek", avant);
         CopierJournal(Ouvrir(chemin), cible);
-        EXPECT_EQ(Lire(cible), c.attendu);
-        EXPECT_EQ(Lire(chemin), c.journal);
+        EXPECT_EQ(Lire(cible), apres);
+        EXPECT_EQ(Lire(chemin), journal);
     }
 }
 
