@@ -5,8 +5,8 @@
 #include "core/saisie.h"
 
 #include <gtest/gtest.h>
-#include <span>
 #include <sstream>
+#include <tuple>
 
 namespace orvalis::essai {
 
@@ -14,13 +14,9 @@ namespace orvalis::essai {
 /// rest by name. In that order, separated by blanks.
 inline std::string Decrire(const Session& avant, const Reponse& r) {
     std::ostringstream sortie;
-    const auto change = [&sortie](std::string_view nom, const auto& ancien, const auto& nouveau) {
+    const auto change = [&sortie](const std::string& nom, const auto& ancien, const auto& nouveau) {
         if (ancien != nouveau)
             sortie << ' ' << nom << '=' << nouveau;
-    };
-    const auto drapeau = [&sortie](std::string_view nom, bool ancien, bool nouveau) {
-        if (ancien != nouveau)
-            sortie << (nouveau ? " +" : " -") << nom;
     };
     for (std::size_t i = 0; i < kNbZones; ++i)
         change('z' + std::to_string(i), avant.zones[i], r.zones[i]);
@@ -28,29 +24,31 @@ inline std::string Decrire(const Session& avant, const Reponse& r) {
         sortie << " t" << t.boite << '=' << t.texte;
     for (const CouleurDeBoite& c : r.couleurs)
         sortie << " c" << c.boite << '=' << static_cast<int>(c.couleur);
-    const EtatSaisie& e = avant.saisie;
-    change("texte", e.TexteSaisi, r.saisie.TexteSaisi);
-    change("date", e.DerniereDate, r.saisie.DerniereDate);
-    change("freq", e.DerniereFreq, r.saisie.DerniereFreq);
-    change("mode", e.DernierMode, r.saisie.DernierMode);
-    change("zone", e.DerniereZone, r.saisie.DerniereZone);
-    const bool comptee =
-        r.saisie.NbModifs == e.NbModifs + 1 && e.EnModification > r.saisie.EnModification;
+    const EtatSaisie &a = avant.saisie, &n = r.saisie;
+    change("texte", a.TexteSaisi, n.TexteSaisi);
+    change("date", a.DerniereDate, n.DerniereDate);
+    change("freq", a.DerniereFreq, n.DerniereFreq);
+    change("mode", a.DernierMode, n.DernierMode);
+    change("zone", a.DerniereZone, n.DerniereZone);
+    const bool comptee = n.NbModifs == a.NbModifs + 1 && a.EnModification && !n.EnModification;
     if (comptee)
         sortie << " *";
     else
-        change("modifs", e.NbModifs, r.saisie.NbModifs);
-    drapeau("QsoCommence", e.QsoCommence, r.saisie.QsoCommence);
-    drapeau("EnModification", e.EnModification && !comptee, r.saisie.EnModification);
-    drapeau("EnSaisie", e.EnSaisie, r.saisie.EnSaisie);
-    change("dist", std::string{"-"}, r.labDist.value_or("-"));
-    change("azim", std::string{"-"}, r.labAzim.value_or("-"));
-    change("dept", std::string{"-"}, r.labDept.value_or("-"));
-    drapeau("ActiveRech", false, r.montrerActiveRech);
-    drapeau("Annuler", false, r.activerAnnuler);
-    drapeau("Suivant", false, r.activerSuivant);
-    drapeau("Cadre", false, r.montrerCadre);
-    drapeau("Locator", false, r.ouvrirLocator);
+        change("modifs", a.NbModifs, n.NbModifs);
+    for (const auto& [nom, ancien, nouveau] :
+         {std::tuple{"QsoCommence", a.QsoCommence, n.QsoCommence},
+          {"EnModification", a.EnModification && !comptee, n.EnModification},
+          {"EnSaisie", a.EnSaisie, n.EnSaisie},
+          {"ActiveRech", false, r.montrerActiveRech},
+          {"Annuler", false, r.activerAnnuler},
+          {"Suivant", false, r.activerSuivant},
+          {"Cadre", false, r.montrerCadre},
+          {"Locator", false, r.ouvrirLocator}})
+        if (ancien != nouveau)
+            sortie << (nouveau ? " +" : " -") << nom;
+    for (const auto& [nom, label] :
+         {std::pair{"dist", r.labDist}, {"azim", r.labAzim}, {"dept", r.labDept}})
+        change(nom, std::string{"-"}, label.value_or("-"));
     change("sel", std::size_t{0}, r.selection);
     change("ERREUR", std::size_t{0}, r.boiteEnErreur);
     if (r.foyer != kFoyerInchange)
@@ -58,18 +56,21 @@ inline std::string Decrire(const Session& avant, const Reponse& r) {
     return sortie.str().erase(0, 1);
 }
 
-/// One event of a box: the state before (letters, see each test), the text typed, what comes of it.
-struct Cas {
-    std::size_t boite;
-    const char *etat, *texte, *attendu;
-};
-
+/// Events of boxes, each "box state 'text' what comes of it;": the state before as letters that
+/// `scene` knows, the text that is typed, and what Decrire says, nothing at all when it is missing.
 template<class Scene, class Regle>
-void Derouler(Scene scene, Regle regle, std::span<const Cas> table) {
-    for (const Cas& c : table) {
-        const Session session = scene(c.etat, c.texte);
-        EXPECT_EQ(Decrire(session, regle(session, c)), c.attendu) << c.boite << ' ' << c.texte;
+void Derouler(Scene scene, Regle regle, const std::string& table) {
+    std::istringstream cas(table);
+    std::size_t boite = 0;
+    for (std::string etat, texte, attendu; cas >> boite;) {
+        std::getline(cas >> std::ws, etat, '\'');
+        std::getline(cas, texte, '\'');
+        std::getline(cas, attendu, ';');
+        const Session session = scene(etat, texte);
+        const std::string dit = Decrire(session, regle(session, boite, texte));
+        EXPECT_EQ(dit.empty() ? "" : ' ' + dit, attendu) << boite << ' ' << etat << texte;
     }
+    EXPECT_TRUE(cas.eof()) << "table cut short behind box " << boite;
 }
 
 } // namespace orvalis::essai

@@ -28,9 +28,14 @@ class Dlg2Test : public testing::Test {
     void Touche(Qt::Key touche, Qt::KeyboardModifiers modificateurs = Qt::NoModifier) {
         QTest::keyClick(dialogue.windowHandle(), touche, modificateurs);
     }
+    // Control characters are their keys: \r Enter, \t Tab, \b Backspace, \x7F Delete.
     void Taper(const char* texte) {
         for (; *texte != '\0'; ++texte)
             QTest::keyClick(dialogue.windowHandle(), *texte);
+    }
+    void Taper(const char* nom, const char* texte) {
+        Cliquer(nom);
+        Taper(texte);
     }
     void Coller(const char* nom, const char* texte) {
         QApplication::clipboard()->setText(QString::fromUtf8(texte));
@@ -47,9 +52,8 @@ class Dlg2Test : public testing::Test {
         std::string tout;
         for (const char* nom : {"Fr1DegText1", "Fr1MinText1", "Fr1SecText1", "Fr1LatSgnText",
                                 "Fr1DegText2", "Fr1MinText2", "Fr1SecText2", "Fr1LonSgnText",
-                                "Fr1LatCent", "Fr1LonCent", "Fr1TextLocator"}) {
+                                "Fr1LatCent", "Fr1LonCent", "Fr1TextLocator"})
             tout += Texte(nom) + " ";
-        }
         return tout;
     }
 
@@ -64,9 +68,7 @@ TEST_F(Dlg2Test, SeRemplitUneFoisParOuverture) {
     EXPECT_EQ(Focus(), "Fr1CmdFermer");
     EXPECT_EQ(dialogue.LocatorModifie(), std::nullopt);
 
-    Cliquer("Fr1TextLocator");
-    Taper("fn31pr");
-    Touche(Qt::Key_Return);
+    Taper("Fr1TextLocator", "fn31pr\r");
     EXPECT_EQ(Tout(), kNewYork);
     EXPECT_EQ(Focus(), "Fr1CmdFermer");
     {
@@ -103,9 +105,7 @@ TEST_F(Dlg2Test, LesDegresMinutesSecondesEntrainentLeReste) {
     EXPECT_EQ(Tout(), "33 52 12 S 151 12 34 E -33.8720 -151.2056 QF56OD ");
     EXPECT_EQ(dialogue.LocatorModifie(), "QF56OD");
 
-    Cliquer("Fr1LatSgnText");
-    Taper("x");
-    Touche(Qt::Key_Backspace);
+    Taper("Fr1LatSgnText", "x\b");
     EXPECT_EQ(Texte("Fr1LatSgnText"), "S");
     Touche(Qt::Key_Delete); // no letter counts as North
     EXPECT_EQ(Texte("Fr1LatCent"), "33.8720");
@@ -118,12 +118,10 @@ TEST_F(Dlg2Test, UneValeurTropGrandeDevientZero) {
         {"Fr1SecText1", "59", "95", "00"}, {"Fr1DegText2", "179", "180", "000"},
         {"Fr1MinText2", "59", "60", "00"}, {"Fr1SecText2", "59", "99", "00"}};
     for (const auto& [champ, admis, refuse, zero] : cas) {
-        Cliquer(champ);
-        Taper(admis);
+        Taper(champ, admis);
         EXPECT_EQ(Texte(champ), admis);
         EXPECT_NE(Focus(), champ);
-        Cliquer(champ);
-        Taper(refuse);
+        Taper(champ, refuse);
         EXPECT_EQ(Champ(champ)->selectedText().toStdString(), zero);
         EXPECT_EQ(Focus(), champ);
     }
@@ -131,8 +129,7 @@ TEST_F(Dlg2Test, UneValeurTropGrandeDevientZero) {
 }
 
 TEST_F(Dlg2Test, LesDegresDecimauxEntrainentLeReste) {
-    Cliquer("Fr1LatCent");
-    Taper("-33.872");
+    Taper("Fr1LatCent", "-33.872");
     EXPECT_EQ(Tout(), "33 52 12 S 001 32 10 E -33.872 -1.5417 JF06SD ");
     Touche(Qt::Key_Tab); // the same notation: entering the next box is enough
     Taper("18a0,");
@@ -140,24 +137,18 @@ TEST_F(Dlg2Test, LesDegresDecimauxEntrainentLeReste) {
     EXPECT_EQ(Texte("Fr1DegText2"), "018"); // 180 itself is out of range
     Touche(Qt::Key_Backspace);
     EXPECT_EQ(Tout(), "33 52 12 S 018 00 00 O -33.872 18 IF16AD ");
-    Cliquer("Fr1LatCent");
-    Taper("99999999999999999999999999999999999999999999");
+    Taper("Fr1LatCent", "99999999999999999999999999999999999999999999");
     EXPECT_EQ(Texte("Fr1TextLocator"), "IJ18AX"); // of 9, in single precision
 }
 
 TEST_F(Dlg2Test, LeLocatorIncompletRevient) {
-    Cliquer("Fr1LatCent");
-    Taper("44.1375");
+    Taper("Fr1LatCent", "44.1375");
     EXPECT_EQ(Texte("Fr1SecText1"), "45");
-    Cliquer("Fr1TextLocator");
-    Taper("jn05");
-    Touche(Qt::Key_Return); // not complete: nothing happens
+    Taper("Fr1TextLocator", "jn05\r");
     EXPECT_EQ(Focus(), "Fr1TextLocator");
     Touche(Qt::Key_Tab);
     EXPECT_EQ(Tout(), kOuverture);
-    Cliquer("Fr1TextLocator");
-    Taper("JS04SD");
-    Touche(Qt::Key_Return);
+    Taper("Fr1TextLocator", "JS04SD\r");
     EXPECT_EQ(Focus(), "Fr1TextLocator");
     EXPECT_EQ(dialogue.LocatorModifie(), "JN04SD");
     Touche(Qt::Key_A, Qt::ControlModifier);

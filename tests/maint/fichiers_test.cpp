@@ -61,61 +61,23 @@ TEST(Jumelage, OctetParOctet) {
     }
 }
 
-TEST(Jumelage, EchecLaisseLeCahierTelQuel) {
-    const Dossier dossier;
-    const std::string avant = Contact("A") + Fin();
-    const auto cible = dossier.Poser("F5ABC.Vek", avant + Contact("X"));
-    const auto source = dossier.Poser("S.Vek", Contact("B") + Contact("C") + Contact("D") + Fin());
-    Session session = Ouvrir(cible);
-    ::signal(SIGXFSZ, SIG_IGN);
-    for (const rlim_t place : {3U * 165U, 4U * 165U}) { // contacts, then the end-of-log record
-        EXPECT_EQ(Fautif([&] { JumelerJournal(session, source); }, place), cible);
-        EXPECT_EQ(Lire(cible).substr(0, avant.size()), avant);
-    }
-    const auto absente = dossier / "Absente.Vek";
-    EXPECT_EQ(Fautif([&] { JumelerJournal(session, absente); }), absente);
-    CompterFiches(session);
-    EXPECT_EQ(session.nbFiches, 1);
-}
-
 TEST(Copie, OctetParOctet) {
     const std::string a = Contact("A"), x = Contact("X"), f = Fin(), autre = Fin("IN00AA");
-    const struct {
-        std::string journal, cible, attendu; // an empty target: there is none
-    } cas[] = {
+    const std::array<std::string, 3> cas[] = {
+        // logbook, target before and after
         {a + a + autre + x, "", a + a + autre},
         {f, "", f},
         {a + f, x + x + x + x, a + f + x + x},
         {a + a, "", a + a + f}, // no end of log
     };
-    for (const auto& c : cas) {
+    for (const auto& [journal, avant, apres] : cas) {
         const Dossier dossier;
-        const auto chemin = dossier.Poser("F5ABC.Vek", c.journal);
-        const auto cible = c.cible.empty() ? dossier / "C.Vek" : dossier.Poser("C.Vek", c.cible);
+        const auto chemin = dossier.Poser("F5ABC.Vek", journal);
+        const auto cible = avant.empty() ? dossier / "C.Vek" : dossier.Poser("C.Vek", avant);
         CopierJournal(Ouvrir(chemin), cible);
-        EXPECT_EQ(Lire(cible), c.attendu);
-        EXPECT_EQ(Lire(chemin), c.journal);
+        EXPECT_EQ(Lire(cible), apres);
+        EXPECT_EQ(Lire(chemin), journal);
     }
-}
-
-TEST(Copie, CiblesRefusees) {
-    const Dossier dossier;
-    const std::string octets = Contact("A") + Fin() + Contact("X");
-    const auto chemin = dossier.Poser("F5ABC.Vek", octets);
-    const Session session = Ouvrir(chemin);
-    fs::create_symlink(chemin, dossier / "Lien.Vek");
-    CopierJournal(session, dossier / "Lien.Vek");
-    EXPECT_EQ(Lire(chemin), octets);
-
-    const auto prise = dossier.Poser("Prise.Vek", Fin("JN33AA"));
-    const Session autreProgramme = Ouvrir(prise);
-    EXPECT_THROW(CopierJournal(session, prise), ErreurVerrou);
-    EXPECT_EQ(Lire(prise), Fin("JN33AA"));
-
-    ::signal(SIGXFSZ, SIG_IGN);
-    for (const auto& cible : {dossier / "absent/C.Vek", dossier / ".", dossier / "Pleine.Vek"})
-        EXPECT_EQ(Fautif([&] { CopierJournal(session, cible); }, 200), cible);
-    EXPECT_EQ(Lire(chemin), octets);
 }
 
 TEST(Copie, DossierDesSauvegardes) {
@@ -161,18 +123,43 @@ TEST(Ouverture, AutreJournal) {
     }
 }
 
-TEST(Ouverture, EchecOuMemeFichierNeChangeRien) {
-    const Dossier dossier;
-    const auto station = dossier.Poser("F5ABC.Vek", Contact("A") + Fin());
-    Session session = Ouvrir(station);
-    const auto prise = dossier.Poser("Prise.Vek", Fin("JN33AA"));
-    const Session autreProgramme = Ouvrir(prise);
+struct Echecs : ::testing::Test {
+    Dossier dossier;
+    const std::string octets = Contact("A") + Fin(), deux = Contact("B") + Contact("C") + Fin();
+    const fs::path station = dossier.Poser("F5ABC.Vek", octets + Contact("X"));
+    const fs::path prise = dossier.Poser("Prise.Vek", deux), absente = dossier / "Absente.Vek";
+    Session session = Ouvrir(station), autreProgramme = Ouvrir(prise);
+
+    Echecs() { ::signal(SIGXFSZ, SIG_IGN); }
+};
+
+TEST_F(Echecs, JumelageLaisseLeCahierTelQuel) {
+    const auto source = dossier.Poser("S.Vek", deux.substr(0, 165) + deux);
+    for (const rlim_t place : {3U * 165U, 4U * 165U}) { // contacts, then the end-of-log record
+        EXPECT_EQ(Fautif([&] { JumelerJournal(session, source); }, place), station);
+        EXPECT_EQ(Lire(station).substr(0, octets.size()), octets);
+    }
+    EXPECT_EQ(Fautif([&] { JumelerJournal(session, absente); }), absente);
+    CompterFiches(session);
+    EXPECT_EQ(session.nbFiches, 1);
+}
+
+TEST_F(Echecs, CiblesDeCopieRefusees) {
+    const std::string avant = Lire(station) + deux;
+    fs::create_symlink(station, dossier / "Lien.Vek");
+    CopierJournal(session, dossier / "Lien.Vek");
+    EXPECT_THROW(CopierJournal(session, prise), ErreurVerrou);
+    for (const auto& cible : {dossier / "absent/C.Vek", dossier / ".", dossier / "Pleine.Vek"})
+        EXPECT_EQ(Fautif([&] { CopierJournal(session, cible); }, 200), cible);
+    EXPECT_EQ(Lire(station) + Lire(prise), avant);
+}
+
+TEST_F(Echecs, OuvertureOuMemeFichierNeChangeRien) {
     EXPECT_THROW(OuvrirAutreJournal(session, prise), ErreurVerrou);
-    for (const auto& chemin : {dossier / "Absent.Vek", dossier / "."})
+    for (const auto& chemin : {absente, dossier / "."})
         EXPECT_EQ(Fautif([&] { OuvrirAutreJournal(session, chemin); }), chemin);
     EXPECT_FALSE(OuvrirAutreJournal(session, station).ouvert);
-    EXPECT_EQ(session.cheminJournal, station);
-    EXPECT_EQ(session.autreJournal, "");
+    EXPECT_TRUE(session.cheminJournal == station && session.autreJournal.empty());
     EXPECT_EQ(session.monLocator, "JN18AA");
     EXPECT_TRUE(session.journal.Support().EstLeMeme(station));
 }

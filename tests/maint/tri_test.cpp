@@ -20,18 +20,20 @@ std::vector<std::string> Decouper(const std::string& octets) {
 }
 
 /// Contacts with few distinct dates and times, some of them irregular; each callsign is unique.
-std::string Melange(int n) {
+std::string Melange(unsigned n) {
+    constexpr std::array kJours = {"01/", "02/", "2/", " 1/", "x"};
+    constexpr std::array kMois = {"01/", "02/", "03/"};
+    constexpr std::array kAnnees = {"98", "99", "00", "01", "59", "60"};
+    constexpr std::array kHeures = {"08:10", "08:11", "09:11", " 9:5", "10:10", "10:5"};
     unsigned graine = 7;
-    const auto tirer = [&graine](const std::vector<std::string>& textes) {
+    const auto tirer = [&graine](const auto& textes) {
         graine = graine * 1664525U + 1013904223U;
-        return textes[(graine >> 16U) % textes.size()];
+        return std::string{textes[(graine >> 16U) % textes.size()]};
     };
     std::string octets;
-    for (int i = 0; i < n; ++i)
-        octets += Contact("N" + std::to_string(i),
-                          tirer({"01/", "02/", "2/", " 1/", "x"}) + tirer({"01/", "02/", "03/"}) +
-                              tirer({"98", "99", "00", "01", "59", "60"}),
-                          tirer({"08:", "09:", " 9:", "10:"}) + tirer({"10", "11", "5"}));
+    while (octets.size() < n * std::size_t{165})
+        octets += Contact("N" + std::to_string(octets.size()),
+                          tirer(kJours) + tirer(kMois) + tirer(kAnnees), tirer(kHeures));
     return octets;
 }
 
