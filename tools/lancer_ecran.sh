@@ -52,7 +52,7 @@ demarrer_ecran() {
     HOME=$travail openbox --sm-disable >/dev/null 2>&1 </dev/null &
     enfants=($! "${enfants[@]}")
     local essai
-    for ((essai = 0; essai < 100; ++essai)); do
+    for ((essai = 0; essai < 300; ++essai)); do
         [[ $(xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null) != *"window id"* ]] || return 0
         sleep 0.1
     done
