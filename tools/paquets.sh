@@ -11,6 +11,9 @@ PAQUETS_ECRAN=(xvfb x11-utils imagemagick openbox)
 PAQUETS_CONTROLE=(libgtest-dev libgmock-dev lld clang-format-14 clang-tidy-14 python3
                   git poppler-utils xdotool desktop-file-utils appstream dpkg-dev file)
 PAQUETS_MESURES=(libbenchmark-dev libgtest-dev python3)
+PAQUETS_FUZZ=(clang-14 libclang-rt-14-dev lld)
+# The pictures of the guide. The look-alike of the labels' handwriting shows on one of them.
+PAQUETS_CAPTURES=(xdotool pngquant optipng poppler-utils fonts-comic-neue)
 
 # Prints the packages among the arguments that are not installed.
 paquets_absents() {

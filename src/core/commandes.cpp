@@ -20,7 +20,7 @@ unsigned ConditionsRemplies(const Session& session) {
            si(!session.EnEdition(), kHorsEdition) |
            si(session.autreJournal.empty(), kJournalPropre) |
            si(!session.LectureSeule(), kModifiable) | si(session.nbFiches > 0, kAuMoinsUn) |
-           si(session.nbFiches > 1, kAuMoinsDeux) |
+           si(session.nbFiches > 1, kAuMoinsDeux) | si(session.saisie.NbModifs == 0, kSansReponse) |
            si(session.journal.Support().EstOuvert(), kJournalOuvert);
 }
 

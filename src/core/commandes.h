@@ -43,7 +43,8 @@ enum Condition : unsigned {
     kModifiable = 1U << 4U,    ///< the logbook on show is not read-only
     kAuMoinsUn = 1U << 5U,     ///< N is not 0
     kAuMoinsDeux = 1U << 6U,   ///< N is above 1
-    kJournalOuvert = 1U << 7U  ///< a logbook is open
+    kJournalOuvert = 1U << 7U, ///< a logbook is open
+    kSansReponse = 1U << 8U    ///< no modification waits for its answer
 };
 
 struct RegleCommande {
@@ -71,8 +72,9 @@ inline constexpr std::array<RegleCommande, kNbCommandes> kReglesCommandes = {{
     {Commande::MnuImpPage, "MnuImpPage", kHorsSaisie | kAuMoinsUn},
     {Commande::MnuImpPageVierge, "MnuImpPageVierge", kHorsSaisie},
     {Commande::MnuChangerLocator, "MnuChangerLocator", kEnSaisie},
-    {Commande::MnuVirginTags, "MnuVirginTags", kHorsEdition},
-    {Commande::MnuGestionFeuilleQSL, "MnuGestionFeuilleQSL", kHorsEdition | kJournalOuvert},
+    {Commande::MnuVirginTags, "MnuVirginTags", kHorsSaisie | kSansReponse},
+    {Commande::MnuGestionFeuilleQSL, "MnuGestionFeuilleQSL",
+     kHorsSaisie | kSansReponse | kJournalOuvert},
     {Commande::BtNewQSO, "BtNewQSO", kHorsSaisie | kModifiable},
     {Commande::BtKillFiche, "BtKillFiche", kHorsSaisie | kModifiable | kAuMoinsUn},
     {Commande::ModifierFiche, "", kHorsSaisie | kModifiable | kAuMoinsUn},

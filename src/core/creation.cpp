@@ -11,7 +11,7 @@ namespace {
 // The Settings file keeps whatever name it has; a new one gets the name with the capital V.
 fs::path CheminParametres(const fs::path& dossier) {
     const fs::path present = TrouverFichier(dossier, kNomParametres);
-    return fs::exists(present) ? present : dossier / fs::path{kNomParametresEcrits};
+    return Present(present) ? present : dossier / fs::path{kNomParametresEcrits};
 }
 
 } // namespace

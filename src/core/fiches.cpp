@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <vector>
 
 namespace orvalis {
 namespace {
@@ -77,29 +76,54 @@ void EcrireFiche(Session& session, std::int32_t k) {
 }
 
 void AjouterFiche(Session& session, const QsoRecord& fin) {
+    Journal& journal = session.journal;
+    const std::int32_t k = session.prochaineFiche;
+    // Room first, behind the end of the log, where nothing counts: then both records replace
+    // bytes that are there, in one piece.
+    if (!EstFinDeLog(journal.Lire(k)))
+        journal.Ecrire(k, fin);
+    if (journal.Support().Taille() < PositionFiche(k + 2))
+        journal.Ecrire(k + 1, fin);
     const std::array<QsoRecord, 2> fiches = {FicheDesZones(session.zones), fin};
-    session.journal.Ecrire(session.prochaineFiche, fiches);
-    session.journal.Support().Synchroniser();
+    journal.Ecrire(k, fiches);
+    journal.Support().Synchroniser();
     session.tampon = fin;
     ++session.nbFiches;
     ++session.prochaineFiche;
 }
 
+namespace {
+
+/// Moves records `k` + 1 to `derniere` down one place and the blank record `k` behind them, in
+/// pieces that are replaced whole: at every instant the file holds each record exactly once.
+void DescendreFiches(Journal& journal, std::int32_t k, std::int32_t derniere) {
+    if (journal.Support().Taille() < PositionFiche(derniere + 1))
+        journal.Ecrire(derniere, journal.Lire(derniere));
+    EcritureEntiere ecriture(journal.Support(), PositionFiche(derniere + 1));
+    LecteurFiches lecteur(journal); // of records that are not moved yet
+    std::array<QsoRecord, kFichesParPiece> piece;
+    while (k < derniere) {
+        const auto n = std::min(kFichesParPiece - 1, static_cast<std::size_t>(derniere - k));
+        const std::int32_t debut = k;
+        for (std::size_t i = 0; i < n; ++i)
+            piece[i] = lecteur.Lire(++k);
+        piece[n] = QsoRecord{};
+        ecriture.Poser(PositionFiche(debut), OctetsFiches(std::span(piece).first(n + 1)));
+    }
+}
+
+} // namespace
+
 void SupprimerFiche(Session& session, std::int32_t k) {
     Journal& journal = session.journal;
-    if (k < session.nbFiches && !Rogner(OctetsChamp(journal.Lire(k), Champ::CSGN)).empty())
-        journal.Ecrire(k, QsoRecord{});
-    // Blocks of whole records, each written before the next is read: between two writes every
-    // record that moves is in the file at least once.
-    std::vector<QsoRecord> bloc(kFichesParBloc);
-    while (k < session.nbFiches) {
-        const auto n = std::min(kFichesParBloc, static_cast<std::size_t>(session.nbFiches - k));
-        static_cast<void>(journal.Lire(k + 1, std::span(bloc).first(n)));
-        journal.Ecrire(k, std::span<const QsoRecord>(bloc).first(n));
-        k += static_cast<std::int32_t>(n);
+    const std::int32_t derniere = session.nbFiches;
+    if (k < derniere) {
+        if (!Rogner(OctetsChamp(journal.Lire(k), Champ::CSGN)).empty())
+            journal.Ecrire(k, QsoRecord{});
+        DescendreFiches(journal, k, derniere);
     }
     session.tampon = FicheFinDeLog(session.monLocator);
-    journal.Ecrire(k, session.tampon);
+    journal.Ecrire(derniere, session.tampon);
     journal.Support().Synchroniser();
     ViderZones(session.zones);
     --session.nbFiches;

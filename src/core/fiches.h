@@ -39,12 +39,13 @@ void EcrireFiche(Session& session, std::int32_t k);
 [[nodiscard]] Zones ZonesDeFiche(const QsoRecord& fiche);
 
 /// Writes the contact in the working slots at the next record number and `fin`, the end-of-log
-/// record, behind it, in one write that has reached the disk on return. N grows by one.
+/// record, behind it, in one indivisible write that has reached the disk on return. N grows by one.
 void AjouterFiche(Session& session, const QsoRecord& fin);
 
 /// Deletes record `k` (1 to N): every later record moves down one place and an end-of-log record
-/// takes the place of the last. Killed at any instant, the file holds every other contact. The
-/// file keeps its length; the working slots are emptied, N shrinks by one.
+/// takes the place of the last. Killed at any instant, the file holds every other contact exactly
+/// once, with the deleted one or a blank record somewhere until the end. The file keeps its length;
+/// the working slots are emptied, N shrinks by one.
 void SupprimerFiche(Session& session, std::int32_t k);
 
 /// Whether the logbook holds an end-of-log record and a whole number of records.

@@ -33,7 +33,8 @@ ErreurFichier::ErreurFichier(ActionFichier action, std::filesystem::path chemin,
                              std::error_code raison)
     : std::system_error(raison, chemin.string()), action_(action), chemin_(std::move(chemin)) {}
 
-Fichier::Fichier(std::filesystem::path chemin, ModeFichier mode) : chemin_(std::move(chemin)) {
+Fichier::Fichier(std::filesystem::path chemin, ModeFichier mode)
+    : protege_(mode == ModeFichier::Lecture), chemin_(std::move(chemin)) {
     constexpr mode_t kDroits = 0666;
     const auto action =
         mode == ModeFichier::Creation ? ActionFichier::Creer : ActionFichier::Ouvrir;
@@ -48,12 +49,14 @@ Fichier::Fichier(std::filesystem::path chemin, ModeFichier mode) : chemin_(std::
 }
 
 Fichier::Fichier(Fichier&& autre) noexcept
-    : descripteur_(std::exchange(autre.descripteur_, -1)), chemin_(std::move(autre.chemin_)) {}
+    : descripteur_(std::exchange(autre.descripteur_, -1)), protege_(autre.protege_),
+      chemin_(std::move(autre.chemin_)) {}
 
 Fichier& Fichier::operator=(Fichier&& autre) noexcept {
     if (this != &autre) {
         Fermer();
         descripteur_ = std::exchange(autre.descripteur_, -1);
+        protege_ = autre.protege_;
         chemin_ = std::move(autre.chemin_);
     }
     return *this;

@@ -45,6 +45,8 @@ class Fichier {
     [[nodiscard]] bool EstOuvert() const noexcept { return descripteur_ >= 0; }
     [[nodiscard]] const std::filesystem::path& Chemin() const noexcept { return chemin_; }
     [[nodiscard]] int Descripteur() const noexcept { return descripteur_; }
+    /// Opened for reading only.
+    [[nodiscard]] bool EstProtege() const noexcept { return protege_; }
     void Fermer() noexcept;
 
     /// Size in bytes.
@@ -65,6 +67,7 @@ class Fichier {
 
   private:
     int descripteur_ = -1;
+    bool protege_ = false;
     std::filesystem::path chemin_;
 };
 

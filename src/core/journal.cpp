@@ -5,23 +5,14 @@
 namespace orvalis {
 namespace {
 
-constexpr std::int64_t Position(std::int32_t k) {
-    return (static_cast<std::int64_t>(k) - 1) * static_cast<std::int64_t>(kTailleFiche);
-}
-
-std::span<char> Octets(std::span<QsoRecord> fiches) {
-    return {fiches.data()->octets.data(), fiches.size_bytes()};
-}
-
-std::span<const char> Octets(std::span<const QsoRecord> fiches) {
+std::span<char> Tampon(std::span<QsoRecord> fiches) {
     return {fiches.data()->octets.data(), fiches.size_bytes()};
 }
 
 } // namespace
 
-std::int32_t Journal::NbEnregistrements() const {
-    constexpr auto kTaille = static_cast<std::int64_t>(kTailleFiche);
-    return static_cast<std::int32_t>((fichier_.Taille() + kTaille - 1) / kTaille);
+std::span<const char> OctetsFiches(std::span<const QsoRecord> fiches) {
+    return {reinterpret_cast<const char*>(fiches.data()), fiches.size_bytes()};
 }
 
 QsoRecord Journal::Lire(std::int32_t k) const {
@@ -33,15 +24,14 @@ QsoRecord Journal::Lire(std::int32_t k) const {
 std::size_t Journal::Lire(std::int32_t k, std::span<QsoRecord> fiches) const {
     if (fiches.empty())
         return 0;
-    const std::span<char> octets = Octets(fiches);
-    const std::size_t lus = fichier_.Lire(Position(k), octets);
+    const std::span<char> octets = Tampon(fiches);
+    const std::size_t lus = fichier_.Lire(PositionFiche(k), octets);
     std::fill(octets.begin() + static_cast<std::ptrdiff_t>(lus), octets.end(), ' ');
     return (lus + kTailleFiche - 1) / kTailleFiche;
 }
 
 void Journal::Ecrire(std::int32_t k, std::span<const QsoRecord> fiches) {
-    if (!fiches.empty())
-        fichier_.Ecrire(Position(k), Octets(fiches));
+    EcrireEntier(fichier_, PositionFiche(k), OctetsFiches(fiches));
 }
 
 std::int32_t Journal::Compter() const {

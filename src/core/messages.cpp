@@ -28,7 +28,7 @@ constexpr std::array<Raison, 15> kRaisons = {{
     {ENAMETOOLONG, "le nom est trop long"},
     {EEXIST, "un fichier de ce nom existe déjà"},
     {EMFILE, "trop de fichiers sont ouverts"},
-    {ENODEV, "le support n'est plus là"},
+    {ENODEV, "le support ne permet pas cette opération"},
     {EBUSY, "le fichier est utilisé par un autre programme"},
 }};
 

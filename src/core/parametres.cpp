@@ -80,7 +80,9 @@ Parametres LireParametres(const fs::path& chemin) {
 
 void EcrireParametres(const fs::path& chemin, const Parametres& parametres) {
     std::error_code erreur;
-    const fs::path reel = fs::exists(chemin, erreur) ? fs::canonical(chemin) : chemin;
+    fs::path reel = fs::canonical(chemin, erreur);
+    if (erreur)
+        reel = chemin; // not there yet
     const fs::path provisoire = fs::path(reel) += ".tmp";
     const std::string ligne = Guillemets(parametres.indicatif) + "," +
                               Guillemets(parametres.nomFichier) + "," +

@@ -1,5 +1,6 @@
 #include "core/projection.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <sys/mman.h>
@@ -59,6 +60,28 @@ void Projection::Remplacer(std::int64_t position, std::size_t nombre) {
     if (copies > 0)
         std::memcpy(ici, anciens_.data(), static_cast<std::size_t>(copies));
     throw echec;
+}
+
+EcritureEntiere::EcritureEntiere(Fichier& fichier, std::int64_t taille) : fichier_(fichier) {
+    try {
+        projection_.emplace(fichier, taille);
+    } catch (const ErreurFichier&) { // NOLINT(bugprone-empty-catch)
+        // Better a write that a kill might cut than none.
+    }
+}
+
+void EcritureEntiere::Poser(std::int64_t position, std::span<const char> octets) {
+    if (!projection_)
+        return fichier_.Ecrire(position, octets);
+    std::copy(octets.begin(), octets.end(), projection_->Atelier().begin());
+    projection_->Remplacer(position, octets.size());
+}
+
+void EcrireEntier(Fichier& fichier, std::int64_t position, std::span<const char> octets) {
+    const auto fin = position + static_cast<std::int64_t>(octets.size());
+    if (octets.empty() || octets.size() > kPlusGrandePiece || fichier.Taille() < fin)
+        return fichier.Ecrire(position, octets);
+    EcritureEntiere(fichier, fin).Poser(position, octets);
 }
 
 } // namespace orvalis

@@ -14,6 +14,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 
 namespace orvalis {
@@ -52,5 +53,24 @@ class Projection {
     char* atelier_ = nullptr; ///< its mapping
     std::array<char, kPlusGrandePiece> anciens_ = {};
 };
+
+/// Replaces bytes that a file already has, in pieces that are there wholly or not at all. Where
+/// files cannot be mapped (some network file systems), plain writes take over.
+class EcritureEntiere {
+  public:
+    /// For pieces within the first `taille` bytes (1 to the file's size) of `fichier`, which must
+    /// outlive this object and must not be shortened meanwhile.
+    EcritureEntiere(Fichier& fichier, std::int64_t taille);
+    /// Puts `octets`, at most kPlusGrandePiece, at byte `position`. Throws ErreurFichier.
+    void Poser(std::int64_t position, std::span<const char> octets);
+
+  private:
+    Fichier& fichier_;
+    std::optional<Projection> projection_;
+};
+
+/// Writes `octets` at byte `position`: in one indivisible piece when the file already has those
+/// bytes and they are no more than kPlusGrandePiece, else as a plain write. Throws ErreurFichier.
+void EcrireEntier(Fichier& fichier, std::int64_t position, std::span<const char> octets);
 
 } // namespace orvalis

@@ -61,6 +61,8 @@ struct Session {
     [[nodiscard]] bool EnEdition() const {
         return saisie.EnSaisie || saisie.EnModification || saisie.NbModifs != 0;
     }
+    /// The station's own logbook is on show, not one opened as "another", whatever its name.
+    [[nodiscard]] bool JournalPropre() const { return autreJournal.empty(); }
     /// Another logbook whose name is not the station's callsign may only be looked at.
     [[nodiscard]] bool LectureSeule() const {
         return !autreJournal.empty() && autreJournal != indicatif;

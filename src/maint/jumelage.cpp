@@ -1,7 +1,6 @@
 #include "maint/jumelage.h"
 
 #include "core/fiches.h"
-#include "core/projection.h"
 #include "core/texte.h"
 
 #include <algorithm>
@@ -28,15 +27,6 @@ std::span<const QsoRecord> LireBloc(const Journal& source, std::int32_t k, std::
     return fiches;
 }
 
-/// Puts the first appended contact over the old end-of-log record, in one indivisible piece.
-void RemplacerFinDeLog(Journal& journal, std::int32_t k, const QsoRecord& fiche) {
-    constexpr auto kTaille = static_cast<std::int64_t>(kTailleFiche);
-    Projection projection(journal.Support(), k * kTaille);
-    std::copy(fiche.octets.begin(), fiche.octets.end(), projection.Atelier().begin());
-    projection.Remplacer((k - 1) * kTaille, kTailleFiche);
-    journal.Support().Synchroniser();
-}
-
 } // namespace
 
 std::int32_t JumelerJournal(Session& session, const std::filesystem::path& source) {
@@ -58,8 +48,10 @@ std::int32_t JumelerJournal(Session& session, const std::filesystem::path& sourc
     if (nombre > 0)
         journal.Ecrire(suivante + nombre, fin);
     journal.Support().Synchroniser();
-    if (nombre > 0)
-        RemplacerFinDeLog(journal, suivante, LireBloc(autre, 1, 1, bloc).front());
+    if (nombre > 0) {
+        journal.Ecrire(suivante, LireBloc(autre, 1, 1, bloc));
+        journal.Support().Synchroniser();
+    }
     CompterFiches(session);
     return nombre;
 }

@@ -44,6 +44,74 @@ std::int32_t Numero(const Session& session, const QslSlotRecord& etiquette) {
     return numero <= session.nbFiches ? numero : 0;
 }
 
+bool Exact(const QsoRecord& fiche, const QslSlotRecord& etiquette) {
+    return MemeIndicatif(fiche, etiquette) && MemeMoment(fiche, etiquette);
+}
+
+/// From the surest answer to the least: a contact that one label has taken is no other's.
+struct Recherche {
+    Recherche(const Session& s, std::span<const QslSlotRecord> e)
+        : session(s), etiquettes(e), trouves(e.size()) {}
+
+    /// The numbered contact, when callsign, date and time agree.
+    void CroireLesNumeros() {
+        for (std::size_t i = 0; i < etiquettes.size(); ++i) {
+            const std::int32_t k = Numero(session, etiquettes[i]);
+            if (k == 0 || EstPris(k))
+                continue;
+            const QsoRecord fiche = session.journal.Lire(k);
+            if (EstEnCours(fiche) && Exact(fiche, etiquettes[i]))
+                trouves[i] = {k, 1};
+        }
+    }
+
+    /// The one contact anywhere of the same callsign, date and time.
+    void ChercherLesExacts() {
+        std::vector<std::size_t> reste;
+        for (std::size_t i = 0; i < etiquettes.size(); ++i)
+            if (trouves[i].nombre == 0 && !Vide(etiquettes[i], ChampEtiquette::Indicatif))
+                reste.push_back(i);
+        std::vector<std::int32_t> pris;
+        for (const ContactTrouve& trouve : trouves)
+            pris.push_back(trouve.fiche);
+        LecteurFiches lecteur(session.journal);
+        for (std::int32_t k = 1; k <= session.nbFiches && !reste.empty(); ++k) {
+            const QsoRecord& fiche = lecteur.Lire(k);
+            if (!EstEnCours(fiche) || std::find(pris.begin(), pris.end(), k) != pris.end())
+                continue;
+            for (const std::size_t i : reste)
+                if (Exact(fiche, etiquettes[i]))
+                    trouves[i] = {trouves[i].nombre == 0 ? k : 0, trouves[i].nombre + 1};
+        }
+    }
+
+    /// The numbered contact, when its callsign or its date and time were corrected since and it
+    /// is not the contact of another label.
+    void AdmettreLesRetouches() {
+        for (std::size_t i = 0; i < etiquettes.size(); ++i) {
+            const std::int32_t k =
+                trouves[i].nombre == 0 ? ContactNumerote(session, etiquettes[i]) : 0;
+            if (k == 0 || EstPris(k))
+                continue;
+            const QsoRecord fiche = session.journal.Lire(k);
+            const bool reclame =
+                std::any_of(etiquettes.begin(), etiquettes.end(),
+                            [&fiche](const QslSlotRecord& e) { return Exact(fiche, e); });
+            if (EstEnCours(fiche) && !reclame)
+                trouves[i] = {k, 1};
+        }
+    }
+
+    [[nodiscard]] bool EstPris(std::int32_t k) const {
+        return std::any_of(trouves.begin(), trouves.end(),
+                           [k](const ContactTrouve& trouve) { return trouve.fiche == k; });
+    }
+
+    const Session& session;
+    std::span<const QslSlotRecord> etiquettes;
+    std::vector<ContactTrouve> trouves;
+};
+
 } // namespace
 
 std::int32_t ContactNumerote(const Session& session, const QslSlotRecord& etiquette) {
@@ -58,29 +126,19 @@ std::int32_t ContactNumerote(const Session& session, const QslSlotRecord& etique
 
 std::vector<ContactTrouve> TrouverContacts(const Session& session,
                                            std::span<const QslSlotRecord> etiquettes) {
-    std::vector<ContactTrouve> trouves(etiquettes.size());
-    std::vector<std::size_t> aChercher;
-    for (std::size_t i = 0; i < etiquettes.size(); ++i) {
-        const std::int32_t k = ContactNumerote(session, etiquettes[i]);
-        if (k != 0 && EstEnCours(session.journal.Lire(k)))
-            trouves[i] = {k, 1};
-        else if (!Vide(etiquettes[i], ChampEtiquette::Indicatif))
-            aChercher.push_back(i);
-    }
-    LecteurFiches lecteur(session.journal);
-    for (std::int32_t k = 1; k <= session.nbFiches && !aChercher.empty(); ++k) {
-        const QsoRecord& fiche = lecteur.Lire(k);
-        if (!EstEnCours(fiche))
-            continue;
-        for (const std::size_t i : aChercher)
-            if (MemeIndicatif(fiche, etiquettes[i]) && MemeMoment(fiche, etiquettes[i]))
-                trouves[i] = {trouves[i].nombre == 0 ? k : 0, trouves[i].nombre + 1};
-    }
-    return trouves;
+    Recherche recherche(session, etiquettes);
+    recherche.CroireLesNumeros();
+    recherche.ChercherLesExacts();
+    recherche.AdmettreLesRetouches();
+    return std::move(recherche.trouves);
 }
 
-ContactTrouve TrouverContact(const Session& session, const QslSlotRecord& etiquette) {
-    return TrouverContacts(session, std::span(&etiquette, 1)).front();
+ContactTrouve ContactDeLaPlace(const Session& session, const FeuilleQSL& feuille, int place) {
+    std::vector<QslSlotRecord> etiquettes = {LireEnregistrement(feuille, place)};
+    for (int k = 1; k <= kNbEtiquettes; ++k)
+        if (k != place && feuille.Etat(k) == EtatEtiquette::Preparee)
+            etiquettes.push_back(LireEnregistrement(feuille, k));
+    return TrouverContacts(session, etiquettes).front();
 }
 
 int EtiquetteSansMarque(const Session& session, const FeuilleQSL& feuille, std::int32_t k) {

@@ -23,14 +23,17 @@ struct ContactTrouve {
 };
 
 /// The contacts that the labels stand for, one answer for each label. The number on a label goes
-/// stale when the log is sorted or a contact deleted, so it is believed only when that contact is
-/// "En cours" and has the label's callsign, or its date and time. Otherwise the one contact "En
-/// cours" with the label's callsign, date and time is taken. Reads the logbook once at most.
+/// stale when the log is sorted or a contact deleted, so it is believed at once only when that
+/// contact is "En cours" and has the label's callsign, date and time. Otherwise the one contact
+/// "En cours" with all three is taken; failing that, the numbered one with the callsign, or the
+/// date and time, unless it is another of these labels'. Reads the logbook once at most.
 [[nodiscard]] std::vector<ContactTrouve> TrouverContacts(const Session& session,
                                                          std::span<const QslSlotRecord> etiquettes);
 
-/// The same for one label.
-[[nodiscard]] ContactTrouve TrouverContact(const Session& session, const QslSlotRecord& etiquette);
+/// The same for the prepared label at `place`, which must not take the contact of another
+/// prepared label of the sheet.
+[[nodiscard]] ContactTrouve ContactDeLaPlace(const Session& session, const FeuilleQSL& feuille,
+                                             int place);
 
 /// The contact that a label just written is for: the one it numbers, whatever its MQSL, when that
 /// has the label's callsign, or its date and time; else 0.

@@ -1,6 +1,7 @@
 #include "qsl/feuille_qsl.h"
 
 #include "core/dossier.h"
+#include "core/projection.h"
 #include "core/texte.h"
 
 #include <algorithm>
@@ -49,9 +50,15 @@ void CreerFeuille(FeuilleQSL& feuille) {
     std::array<QslSlotRecord, kNbEtiquettes> etiquettes;
     for (QslSlotRecord& etiquette : etiquettes)
         MettreChamp(etiquette, ChampEtiquette::Indicatif, kMarqueLibre);
-    // One write for all: a sheet cut short would show its missing places as blank labels.
-    feuille.fichier.Ecrire(0, {etiquettes.front().octets.data(), sizeof etiquettes});
-    feuille.fichier.Synchroniser();
+    // One write for all, or no sheet: one cut short would show its missing places as blank labels.
+    try {
+        feuille.fichier.Ecrire(0, {etiquettes.front().octets.data(), sizeof etiquettes});
+        feuille.fichier.Synchroniser();
+    } catch (const ErreurFichier&) {
+        std::error_code erreur;
+        std::filesystem::remove(feuille.chemin, erreur);
+        throw;
+    }
     feuille.boites[kBoiteIndicatif] = kMarqueLibre;
 }
 
@@ -85,8 +92,7 @@ void OuvrirFeuilleQSL(FeuilleQSL& feuille) {
 
 void ChargerFeuilleQSL(FeuilleQSL& feuille, const std::filesystem::path& dossier) {
     feuille.chemin = TrouverFichier(dossier, kNomFeuilleQSL);
-    std::error_code erreur;
-    const bool presente = std::filesystem::exists(feuille.chemin, erreur);
+    const bool presente = Present(feuille.chemin);
     ViderBoites(feuille);
     feuille.vue = {};
     feuille.fraiche = false;
@@ -130,7 +136,7 @@ void EcrireEtiquette(FeuilleQSL& feuille, int k) {
     for (const LienBoite& lien : kLiens)
         MettreChamp(feuille.tampon, lien.champ, feuille.boites[lien.ecrite]);
     MettreChamp(feuille.tampon, ChampEtiquette::Voie, TexteVoie(feuille));
-    feuille.fichier.Ecrire(Position(k), feuille.tampon.octets);
+    EcrireEntier(feuille.fichier, Position(k), feuille.tampon.octets);
 }
 
 void ProchaineEtiquetteLibre(FeuilleQSL& feuille, int& k) {

@@ -67,7 +67,7 @@ void LibererPlace(FeuilleQSL& feuille, int k, std::size_t derniere) {
 /// Why the boxes may not become a label now; empty when they may.
 std::string_view RefusDeValider(const Session& session, const FeuilleQSL& feuille) {
     const std::string_view indicatif = Rogner(feuille.boites[kBoiteIndicatif]);
-    if (session.LectureSeule())
+    if (!session.JournalPropre())
         return kConsultation;
     if (indicatif.empty() || indicatif == kMarqueLibre)
         return kSansIndicatif;
@@ -114,7 +114,7 @@ void OuvrirPanneau(FeuilleQSL& feuille) {
 }
 
 ReponseClic PreparerEtiquette(Session& session, FeuilleQSL& feuille, std::int32_t k) {
-    if (!feuille.ouverte || feuille.vue.controle || session.LectureSeule() || k < 1 ||
+    if (!feuille.ouverte || feuille.vue.controle || !session.JournalPropre() || k < 1 ||
         k > session.nbFiches)
         return {};
     const QsoRecord fiche = session.journal.Lire(k);
@@ -219,12 +219,12 @@ ReponseQSL Supprimer(Session& session, FeuilleQSL& feuille) {
     const int k = feuille.etiquetteEnCours;
     if (feuille.vue.controle || !feuille.vue.supprimer)
         return reponse;
-    if (session.LectureSeule()) {
+    if (!session.JournalPropre()) {
         reponse.message = kMessageConsultation;
         return reponse;
     }
     LireEtiquette(feuille, k);
-    Marquer(session, TrouverContact(session, feuille.tampon).fiche, "", k, feuille.tampon, reponse);
+    Marquer(session, ContactDeLaPlace(session, feuille, k).fiche, "", k, feuille.tampon, reponse);
     session.journal.Support().Synchroniser();
     // Kept on purpose: box 11 is not emptied, so that the free place keeps the contact's number.
     LibererPlace(feuille, k, kBoiteRappel);
@@ -279,7 +279,7 @@ ReponseQSL ToutEstParfait(Session& session, FeuilleQSL& feuille, std::string_vie
     ReponseQSL reponse;
     if (!feuille.vue.controle)
         return reponse;
-    if (session.LectureSeule()) {
+    if (!session.JournalPropre()) {
         RevoirEtiquettes(feuille);
         reponse.message = kMessageConsultation;
         return reponse;

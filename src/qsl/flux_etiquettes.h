@@ -6,7 +6,8 @@
 // The sheet and the contact are two files. A label is placed before its contact is marked, and a
 // contact is marked before its label is freed, each flushed before the next: a program killed in
 // between leaves a label too many, which PreparerEtiquette or Supprimer repairs, never a contact
-// "En cours" without its label. On a logbook that may only be looked at nothing is written.
+// "En cours" without its label. On a logbook opened as "another", a
+// copy of the own one included, nothing is written.
 #pragma once
 
 #include "core/session.h"

@@ -5,10 +5,12 @@
 #include "ui/chang_locator.h"
 #include "ui/feuille_log.h"
 #include "ui/flux_demarrage.h"
+#include "ui/flux_impression.h"
 #include "ui/flux_locator.h"
 #include "ui/flux_maintenance.h"
 #include "ui/flux_modification.h"
 #include "ui/flux_navigation.h"
+#include "ui/flux_qsl.h"
 #include "ui/flux_recherche.h"
 #include "ui/flux_saisie.h"
 #include "ui/menus.h"
@@ -26,12 +28,15 @@
 
 #include <QAction>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QTimer>
+
+#include <map>
 
 namespace orvalis {
 
 void Orvalis::BrancherMenus() {
-    const std::map<std::string_view, Commande> commandes = {
+    const std::map<std::string_view, Action> commandes = {
         {"MnuDoublons", [this] { MontrerDoublons(p_); }},
         {"MnuChangerLocator", [this] { ChangerDeLocator(p_); }},
         {"MnuCourantF", [this] { OuvrirJournalCourant(p_); }},
@@ -41,6 +46,11 @@ void Orvalis::BrancherMenus() {
         {"MnuClasser", [this] { Classer(p_); }},
         {"MnuSauver", [this] { Sauvegarder(p_); }},
         {"MnuCreateMDB", [this] { CreerBaseDeDonnees(p_); }},
+        {"MnuConfigImp", [this] { ConfigurerImprimante(p_); }},
+        {"MnuImpPage", [this] { ImprimerPageAffichee(p_); }},
+        {"MnuImpPageVierge", [this] { ImprimerPageVierge(p_); }},
+        {"MnuVirginTags", [this] { ImprimerEtiquettesVierges(p_); }},
+        {"MnuGestionFeuilleQSL", [this] { GererFeuille(p_); }},
         {"MnuEditLocator", [this] { Dlg2(this).exec(); }},
         {"MnuVoir", [this] { APropos(p_.systeme, this).exec(); }},
     };
@@ -55,6 +65,10 @@ void Orvalis::BrancherMenus() {
         if (trouve != commandes.end())
             Brancher(&action, &QAction::triggered, [flux = trouve->second](bool) { flux(); });
     });
+    // The captions have no mnemonics: this key leads into the menus from anywhere.
+    auto* versLesMenus = new QShortcut(QKeySequence(Qt::Key_F10), this);
+    connect(versLesMenus, &QShortcut::activated, this,
+            [this] { menuBar()->setActiveAction(menuBar()->actions().front()); });
 }
 
 void Orvalis::ActualiserMenus() {
@@ -63,7 +77,19 @@ void Orvalis::ActualiserMenus() {
     for (const RegleCommande& regle : kReglesCommandes)
         if (auto* action = menuBar()->findChild<QAction*>(Q(regle.nom));
             action && action->data().toBool())
-            action->setEnabled(!p_.gel && CommandePermise(regle.commande, session_));
+            action->setEnabled(!Attend(regle.commande) &&
+                               CommandePermise(regle.commande, session_));
+    for (const char* nom : {"MnuEditLocator", "MnuVoir"})
+        if (auto* action = menuBar()->findChild<QAction*>(QString::fromLatin1(nom)))
+            action->setEnabled(!p_.gel && !feuille_.vue.controle);
+}
+
+// While the label sheet is on show every command waits for it, but the printer can be chosen from
+// there; before the logbook is on show none has anything to work on.
+bool Orvalis::Attend(Commande commande) const {
+    const VueFeuille& vue = feuille_.vue;
+    const bool feuille = vue.panneau && (vue.controle || commande != Commande::MnuConfigImp);
+    return p_.gel || temoinDemarrage_ != 0 || feuille;
 }
 
 void Orvalis::BrancherMaintenance() {
@@ -75,8 +101,10 @@ void Orvalis::BrancherMaintenance() {
 void Orvalis::BrancherPanneaux() {
     // The clock runs on while the window is frozen.
     connect(timer1_, &QTimer::timeout, this, [this] { AfficherHeure(p_); });
-    Brancher(&p_.horloge, &PanneauHorloge::miseALHeureDemandee,
-             [this] { LancerCompagnon(p_, "Chronel.exe"); });
+    Brancher(&p_.horloge, &PanneauHorloge::miseALHeureDemandee, [this] {
+        if (!feuille_.vue.controle)
+            LancerCompagnon(p_, "Chronel.exe");
+    });
     connect(&p_.menu, &PictMenu::fermetureDemandee, this, &QWidget::close);
     Brancher(&p_.menu, &PictMenu::nouveauDemande, [this] { NouveauQso(p_); });
     Brancher(&p_.menu, &PictMenu::suppressionDemandee, [this] { DemanderSuppression(p_); });
@@ -99,7 +127,7 @@ void Orvalis::BrancherNavigation() {
     Brancher(&p_.page, &FeuilleLog::rangeeChoisie, [this](std::int32_t k) {
         if (session_.saisie.EnSaisie)
             return;
-        p_.liste.Selectionner(k - session_.premiereAffichee);
+        p_.liste.Selectionner(LigneDeFiche(p_, k));
         ChoisirFiche(p_, k);
     });
 }

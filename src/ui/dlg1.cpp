@@ -14,6 +14,8 @@
 
 #include <QKeyEvent>
 
+#include <algorithm>
+
 namespace orvalis {
 namespace {
 
@@ -91,6 +93,9 @@ void Dlg1::AccepterLocator() {
     monLocator_ = texte;
     ui_->Dlg1Fra3Lab2->setText(Q(CheminProgrammeTexte(lecteur_, nomFichier_) + " va être créé "));
     ui_->Dlg1Fra3->show();
+    // A long path takes a second line, which must not come out of the text above.
+    layout()->activate();
+    resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
     ui_->Dlg1Fra3CmdValider->setFocus();
 }
 
@@ -108,7 +113,7 @@ void Dlg1::Valider() {
     try {
         if (!CreerCahier(lecteur_, {indicatif_, nomFichier_, monLocator_}))
             return;
-    } catch (const ErreurFichier& echec) {
+    } catch (const std::exception& echec) {
         systeme_.Avertir(this, Q(MessageErreur(echec)));
         return;
     }

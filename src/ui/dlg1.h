@@ -18,9 +18,6 @@ class Systeme;
 class Dlg1 : public QDialog {
     Q_OBJECT
   public:
-    /// Result codes beside QDialog::Accepted: everything is written.
-    enum Issue { Arreter = QDialog::Rejected };
-
     Dlg1(std::filesystem::path lecteur, Systeme& systeme, QWidget* parent);
     ~Dlg1() override;
 

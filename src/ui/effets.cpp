@@ -1,12 +1,15 @@
 #include "ui/effets.h"
 
 #include "core/modification.h"
+#include "qsl/feuille_qsl.h"
 #include "ui/chang_locator.h"
 #include "ui/flux_locator.h"
 #include "ui/msg_fiche.h"
 #include "ui/panneau_contacts.h"
 #include "ui/panneau_enrs.h"
 #include "ui/panneau_fiche.h"
+#include "ui/panneau_jumelage.h"
+#include "ui/panneau_liste.h"
 #include "ui/panneau_menu.h"
 #include "ui/systeme.h"
 
@@ -83,8 +86,12 @@ void Cacher(QWidget& panneau) {
     panneau.hide();
 }
 
+void RendreListe(Plateau& p) {
+    p.liste.setEnabled(!p.jumelage.isVisible() && !p.feuille.vue.panneau);
+}
+
 void ReactiverBoutons(Plateau& p) {
-    if (p.contacts.isVisible())
+    if (!p.contacts.isHidden())
         return;
     const Session& s = p.session;
     p.menu.ActiverNouveau(!s.LectureSeule());
@@ -94,7 +101,9 @@ void ReactiverBoutons(Plateau& p) {
 
 Gel::Gel(Plateau& p) : p_(p), avant_(p.gel) {
     p_.gel = true;
+    p_.actualiserMenus();
 }
+
 Gel::~Gel() {
     p_.gel = avant_;
 }

@@ -23,6 +23,9 @@ void LacherFoyer();
 /// Hides a panel; a focus inside it goes nowhere, that elsewhere stays where it is.
 void Cacher(QWidget& panneau);
 
+/// Gives back the log list, unless a panel that wants it quiet is on show.
+void RendreListe(Plateau& p);
+
 /// Gives back the idle buttons that a contacts list had disabled, once none is on show.
 void ReactiverBoutons(Plateau& p);
 

@@ -199,6 +199,8 @@ QRect FeuilleLog::RectDeRangee(int rang) const {
 }
 
 void FeuilleLog::mousePressEvent(QMouseEvent* evenement) {
+    if (evenement->button() != Qt::LeftButton)
+        return;
     for (std::size_t rang = 0; rang < rangees_.size(); ++rang) {
         if (!RectDeRangee(static_cast<int>(rang)).contains(evenement->pos()))
             continue;

@@ -23,6 +23,7 @@
 #include <QStandardPaths>
 #include <QStorageInfo>
 
+#include <array>
 #include <functional>
 
 namespace orvalis {
@@ -113,10 +114,8 @@ void Jumeler(Plateau& p) {
 }
 
 void SauvegarderAvantJumelage(Plateau& p) {
-    if (CommandePermise(Commande::BtPjSauvegarder, p.session) && Sauvegarde(p)) {
-        LacherFoyer();
+    if (CommandePermise(Commande::BtPjSauvegarder, p.session) && Sauvegarde(p))
         p.jumelage.ActiverSauvegarde(false);
-    }
 }
 
 void FermerJumelage(Plateau& p) {
@@ -129,12 +128,21 @@ void FermerJumelage(Plateau& p) {
 void OuvrirJournalCourant(Plateau& p) {
     if (!CommandePermise(Commande::MnuCourantF, p.session))
         return;
+    LacherFoyer();
     AbandonnerModification(p);
     p.jumelage.hide();
     p.liste.setEnabled(true);
     Demarrage suite = Demarrage::Recommencer;
-    while (suite == Demarrage::Recommencer)
-        suite = ChargerParametres(p);
+    try {
+        while (suite == Demarrage::Recommencer)
+            suite = ChargerParametres(p);
+    } catch (const ErreurVerrou& echec) {
+        // The logbook on show is still open and whole.
+        p.systeme.Avertir(&p.fenetre, Q(MessageErreur(echec)));
+        AfficherFiche(p);
+        p.liste.DonnerFoyer();
+        return;
+    }
     if (suite == Demarrage::Arreter) {
         p.arret = true;
         QuitterProgramme(p, 0);
@@ -144,8 +152,6 @@ void OuvrirJournalCourant(Plateau& p) {
 void OuvrirAutre(Plateau& p) {
     if (!CommandePermise(Commande::MnuAutreF, p.session))
         return;
-    AbandonnerModification(p);
-    p.jumelage.hide();
     p.liste.setEnabled(true);
     p.enrs.hide();
     const QString choisi = p.systeme.ChoisirFichier(
@@ -156,6 +162,9 @@ void OuvrirAutre(Plateau& p) {
     BilanOuverture bilan;
     if (!Essayer(p, [&] { bilan = OuvrirAutreJournal(p.session, S(choisi)); }) || !bilan.ouvert)
         return;
+    LacherFoyer();
+    AbandonnerModification(p);
+    p.jumelage.hide();
     InitialiserFenetre(p);
     PrevenirSiIncomplet(p, bilan.etat);
 }

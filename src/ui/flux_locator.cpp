@@ -1,12 +1,16 @@
 #include "ui/flux_locator.h"
 
 #include "core/locator_station.h"
+#include "core/messages.h"
 #include "core/texte.h"
 #include "ui/chang_locator.h"
 #include "ui/effets.h"
 #include "ui/panneau_contacts.h"
 #include "ui/panneau_fiche.h"
 #include "ui/systeme.h"
+#include "ui/texte_qt.h"
+
+#include <QMainWindow>
 
 namespace orvalis {
 namespace {
@@ -66,7 +70,13 @@ void SurEntreeLocator(Plateau& p) {
 }
 
 void ValiderLocator(Plateau& p) {
-    ChangerLocatorStation(p.session, p.changLocator.Texte(), p.changLocator.Garder());
+    try {
+        ChangerLocatorStation(p.session, p.changLocator.Texte(), p.changLocator.Garder());
+    } catch (const std::exception& echec) {
+        // The contact under entry is worth more than the Settings file: told, and nothing changed.
+        p.systeme.Avertir(&p.fenetre, Q(MessageErreur(echec)));
+        return;
+    }
     FermerChangLocator(p);
 }
 

@@ -11,9 +11,11 @@
 #include "ui/panneau_fiche.h"
 #include "ui/panneau_jumelage.h"
 #include "ui/panneau_rech.h"
+#include "ui/systeme.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QMainWindow>
 
 namespace orvalis {
 namespace {
@@ -45,11 +47,17 @@ bool Trier(Plateau& p) {
 void Classer(Plateau& p) {
     if (!CommandePermise(Commande::MnuClasser, p.session))
         return;
+    if (p.session.journal.Support().EstProtege()) {
+        p.systeme.Avertir(&p.fenetre,
+                          QStringLiteral("Ce cahier est protégé en écriture : il ne peut pas être "
+                                         "classé."));
+        return;
+    }
     LacherFoyer();
+    Cacher(p.contacts);
     AbandonnerModification(p);
     p.liste.setEnabled(false);
     p.fiche.setEnabled(false);
-    Cacher(p.contacts);
     p.fiche.MontrerActiveRech(false);
     p.rech.hide();
     p.jumelage.hide();

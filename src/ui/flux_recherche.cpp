@@ -91,7 +91,7 @@ void FermerContacts(Plateau& p) {
     }
     p.rech.Vider();
     ReactiverBoutons(p);
-    p.liste.setEnabled(true);
+    RendreListe(p);
     p.liste.DonnerFoyer();
 }
 

@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QLibraryInfo>
-#include <QLocale>
 #include <QTranslator>
 
 int main(int argc, char** argv) {

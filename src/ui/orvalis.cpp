@@ -2,12 +2,15 @@
 
 #include "core/messages.h"
 #include "ui/chang_locator.h"
+#include "ui/effets.h"
 #include "ui/feuille_log.h"
 #include "ui/flux_demarrage.h"
 #include "ui/msg_fiche.h"
 #include "ui/panneau_classer.h"
 #include "ui/panneau_contacts.h"
+#include "ui/panneau_ctrl_impression.h"
 #include "ui/panneau_enrs.h"
+#include "ui/panneau_feuille_qsl.h"
 #include "ui/panneau_fiche.h"
 #include "ui/panneau_horloge.h"
 #include "ui/panneau_jumelage.h"
@@ -29,6 +32,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
+#include <QStackedWidget>
 #include <QTimer>
 
 // Resources of a static library are linked only where they are asked for.
@@ -67,8 +71,9 @@ bool Presse(const QEvent& evenement) {
         return !static_cast<const QShortcutEvent&>(evenement).isAmbiguous();
     if (evenement.type() != QEvent::KeyPress)
         return false;
-    const int touche = static_cast<const QKeyEvent&>(evenement).key();
-    return touche == Qt::Key_Return || touche == Qt::Key_Enter;
+    const auto& frappe = static_cast<const QKeyEvent&>(evenement);
+    return (frappe.key() == Qt::Key_Return || frappe.key() == Qt::Key_Enter) &&
+           !frappe.isAutoRepeat();
 }
 
 // A layout without margins of its own.
@@ -96,7 +101,12 @@ Orvalis::Orvalis(Systeme& systeme, QWidget* parent)
                               *new FraMsgFiche(this),
                               *new PictChangLocator(this),
                               *new PictClasser(this),
-                              *new PJumelage(this)},
+                              *new PJumelage(this),
+                              feuille_,
+                              enTetes_,
+                              *new QStackedWidget(this),
+                              *new PictFeuilleQSL(this),
+                              *new PictCtrlImpression(this)},
       timer1_(new QTimer(this)) {
     ChargerRessources();
     setObjectName(QStringLiteral("Orvalis"));
@@ -104,6 +114,7 @@ Orvalis::Orvalis(Systeme& systeme, QWidget* parent)
     setWindowIcon(QIcon(QStringLiteral(":/orvalis.svg")));
     timer1_->setObjectName(QStringLiteral("Timer1"));
     Disposer();
+    p_.actualiserMenus = [this] { ActualiserMenus(); };
     CacherPanneaux(p_);
     BrancherMenus();
     BrancherPanneaux();
@@ -111,11 +122,18 @@ Orvalis::Orvalis(Systeme& systeme, QWidget* parent)
     BrancherFiche();
     BrancherSaisie();
     BrancherMaintenance();
+    BrancherQsl();
+    BrancherImpression();
     ActualiserMenus();
     qApp->installEventFilter(this);
 }
 
-Orvalis::~Orvalis() = default;
+Orvalis::~Orvalis() {
+    // The panels go while the session they report to is still there, and nobody listens any more.
+    qApp->removeEventFilter(this);
+    p_.arret = true;
+    delete takeCentralWidget();
+}
 
 void Orvalis::Disposer() {
     auto* centre = new QWidget;
@@ -123,7 +141,10 @@ void Orvalis::Disposer() {
     ligne->setContentsMargins(8, 6, 8, 6);
     ligne->setSpacing(10);
     ligne->addWidget(ColonneGauche());
-    ligne->addWidget(ColonneDroite(), 1);
+    p_.droite.addWidget(ColonneDroite());
+    p_.droite.addWidget(&p_.feuilleQSL);
+    p_.feuilleQSL.Accueillir(p_.ctrlImpression);
+    ligne->addWidget(&p_.droite, 1);
     // On a screen too small for the window, its parts stay within reach.
     auto* defilement = new QScrollArea(this);
     defilement->setFrameShape(QFrame::NoFrame);
@@ -168,9 +189,14 @@ QWidget* Orvalis::ColonneDroite() {
     SansMarges<QVBoxLayout>(feuille)->addWidget(&p_.page);
     auto* reponses = new QVBoxLayout;
     reponses->setContentsMargins(0, 0, 1, 0);
+    reponses->setSpacing(0);
     for (QWidget* panneau : std::initializer_list<QWidget*>{
              &p_.msgFiche, &p_.changLocator, &p_.classer, &p_.jumelage, &p_.contacts}) {
-        reponses->addWidget(panneau, panneau == &p_.contacts ? 1 : 0);
+        // The list takes the height there is; the others are as high as what they say.
+        const bool haut = panneau == &p_.contacts;
+        reponses->addWidget(panneau, haut ? 1 : 0);
+        if (!haut)
+            panneau->setSizePolicy(panneau->sizePolicy().horizontalPolicy(), QSizePolicy::Maximum);
         panneau->setAutoFillBackground(true);
         panneau->raise();
     }
@@ -183,7 +209,7 @@ QWidget* Orvalis::ColonneDroite() {
     return colonne;
 }
 
-void Orvalis::Executer(const Commande& flux) {
+void Orvalis::Executer(const Action& flux) {
     if (p_.arret || p_.gel)
         return;
     try {
@@ -203,7 +229,7 @@ bool Orvalis::event(QEvent* evenement) {
     // The first activation starts the program; where no window manager activates windows, being
     // shown must do.
     if (evenement->type() == QEvent::WindowActivate)
-        Demarrer();
+        QTimer::singleShot(0, this, &Orvalis::Demarrer);
     else if (evenement->type() == QEvent::Show && temoinDemarrage_ == kDemarrageAFaire)
         QTimer::singleShot(kDureeTic, this, &Orvalis::Demarrer);
     return traite;
@@ -215,7 +241,10 @@ void Orvalis::Demarrer() {
     demarrageEnCours_ = true;
     Executer([this] {
         for (auto suite = Demarrage::Recommencer; suite == Demarrage::Recommencer && !p_.arret;) {
-            p_.systeme.Pause(1);
+            {
+                const Gel gel(p_);
+                p_.systeme.Pause(1);
+            }
             if (p_.arret)
                 return;
             suite = ChargerParametres(p_);

@@ -2,14 +2,16 @@
 // report to the flows. Nothing else is decided here.
 #pragma once
 
+#include "core/commandes.h"
 #include "core/session.h"
+#include "print/etiquette.h"
+#include "qsl/feuille_qsl.h"
 #include "ui/plateau.h"
 
 #include <QMainWindow>
 
 #include <exception>
 #include <functional>
-#include <map>
 #include <string_view>
 
 class QAction;
@@ -31,7 +33,7 @@ class Orvalis : public QMainWindow {
     bool eventFilter(QObject* objet, QEvent* evenement) override;
 
   private:
-    using Commande = std::function<void()>;
+    using Action = std::function<void()>;
 
     void Disposer();
     [[nodiscard]] QWidget* ColonneGauche();
@@ -39,14 +41,17 @@ class Orvalis : public QMainWindow {
     void BrancherMenus();
     /// Enables the menu entries whose command may run now.
     void ActualiserMenus();
+    [[nodiscard]] bool Attend(Commande commande) const;
     void BrancherMaintenance();
+    void BrancherQsl();
+    void BrancherImpression();
     void BrancherPanneaux();
     void BrancherNavigation();
     void BrancherFiche();
     void BrancherSaisie();
     void Demarrer();
     /// Runs a flow; a failure is told in French and ends the program with an error status.
-    void Executer(const Commande& flux);
+    void Executer(const Action& flux);
     /// Connects a signal to a flow run under Executer.
     template<typename Emetteur, typename Signal, typename Flux>
     void Brancher(Emetteur* emetteur, Signal signal, Flux flux) {
@@ -55,6 +60,8 @@ class Orvalis : public QMainWindow {
     }
 
     Session session_;
+    FeuilleQSL feuille_;
+    EnTetesEtiquettes enTetes_;
     Plateau p_;
     QTimer* timer1_ = nullptr;
     int temoinDemarrage_ = 4; ///< start-up marker: 4 until the window is initialised

@@ -128,7 +128,6 @@ QWidget* PictFiche::FaireCellule(std::size_t premiere, std::size_t derniere) {
     legende->setBuddy(&Boite(premiere));
     if (premiere == 11) {
         labDept_ = FaireLabel("LabDept", cellule);
-        labDept_->setAccessibleName(QStringLiteral("Nom du département"));
         labDept_->setMinimumWidth(
             QFontMetrics(font()).horizontalAdvance(QStringLiteral("Territoire-de-Belfort ")));
         Boite(11).setFixedWidth(Boite(11).minimumWidth());
@@ -153,7 +152,6 @@ QWidget* PictFiche::FaireResultats() {
         legende->setFont(PetitePolice(font()));
         grille->addWidget(legende, 0, colonne);
         QLabel* label = FaireLabel(nom, cadre);
-        label->setAccessibleName(QString::fromUtf8(titre));
         label->setFont(grasse);
         label->setMinimumWidth(QFontMetrics(grasse).horizontalAdvance(modele));
         label->setMinimumHeight(Boite(1).sizeHint().height());
@@ -180,10 +178,12 @@ void PictFiche::MontrerNumero(std::string_view texte) {
 
 void PictFiche::MontrerDistance(std::string_view texte) {
     labDist_->setText(Q(texte));
+    labDist_->setAccessibleName(QStringLiteral("Distance : ") + Q(texte));
 }
 
 void PictFiche::MontrerAzimut(std::string_view texte) {
     labAzim_->setText(Q(texte));
+    labAzim_->setAccessibleName(QStringLiteral("Azimut : ") + Q(texte));
 }
 
 void PictFiche::MontrerDepartement(std::string_view nom) {

@@ -22,6 +22,8 @@ void PJumelage::Ouvrir(std::string_view nomFichier) {
 }
 
 void PJumelage::ActiverSauvegarde(bool active) {
+    if (!active && ui_->BtPjSauvegarder->hasFocus())
+        ui_->BtPjumeler->setFocus(); // what comes next
     ui_->BtPjSauvegarder->setEnabled(active);
 }
 

@@ -84,11 +84,6 @@ void PictListe::Remplir(std::span<const std::string> lignes, std::int32_t page,
     ui_->LabPage->setText(QStringLiteral("Page %1 / %2").arg(page).arg(nbPages));
 }
 
-void PictListe::RemplacerLigne(int ligne, const std::string& texte) {
-    if (QListWidgetItem* element = ui_->ListeLog->item(ligne))
-        element->setText(Q(texte));
-}
-
 void PictListe::ReglerDefilement(std::int32_t nbFiches, std::int32_t valeur) {
     const QSignalBlocker silence(ui_->VScroll1);
     ui_->VScroll1->setRange(nbFiches > 0 ? 1 : 0, nbFiches);

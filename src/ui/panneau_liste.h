@@ -25,8 +25,6 @@ class PictListe : public QWidget {
 
     /// Puts a page into the list; no line is selected.
     void Remplir(std::span<const std::string> lignes, std::int32_t page, std::int32_t nbPages);
-    /// Replaces one line (from 0), for instance after a modification.
-    void RemplacerLigne(int ligne, const std::string& texte);
     /// Range and value of the scroll bar, without its change being reported.
     void ReglerDefilement(std::int32_t nbFiches, std::int32_t valeur);
     void ActiverPagination(bool actif);

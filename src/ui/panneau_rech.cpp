@@ -13,10 +13,10 @@ namespace orvalis {
 
 PictRech::PictRech(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::PictRech>()) {
     ui_->setupUi(this);
-    const auto longueur = static_cast<std::size_t>(ui_->RechText->maxLength());
+    constexpr std::size_t kLongueur = 40;
     ui_->RechText->setValidator(new FiltreEdition(
-        [longueur](const TexteEdite& nouveau) {
-            return FiltrerEdition(Touches::Majuscules, longueur, "", nouveau);
+        [](const TexteEdite& nouveau) {
+            return FiltrerEdition(Touches::Majuscules, kLongueur, "", nouveau);
         },
         this));
     ui_->RechText->installEventFilter(this);

@@ -63,8 +63,10 @@ void SystemeReel::Avertir(QWidget* parent, const QString& texte) {
 }
 
 QString SystemeReel::ChoisirFichier(QWidget* parent, const DemandeFichier& demande) {
-    QFileDialog dialogue(parent, demande.titre, demande.dossier,
-                         QStringLiteral("Fichier (*.Vek *.vek *.VEK)"));
+    const QString dossier = demande.dossier.isEmpty()
+                                ? QString::fromStdString(DossierProgramme(Lecteur()).string())
+                                : demande.dossier;
+    QFileDialog dialogue(parent, demande.titre, dossier, QStringLiteral("Fichier (*.Vek)"));
     dialogue.setDefaultSuffix(QStringLiteral("Vek"));
     dialogue.setAcceptMode(demande.enregistrer ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialogue.setFileMode(demande.enregistrer ? QFileDialog::AnyFile : QFileDialog::ExistingFile);

@@ -1,10 +1,8 @@
+#include "aides.h"
 #include "core/projection.h"
 
 #include <algorithm>
 #include <csignal>
-#include <cstdlib>
-#include <gtest/gtest.h>
-#include <string>
 #include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -17,10 +15,7 @@ constexpr std::size_t kIci = 2048; // a piece from here lies over the border of 
 constexpr std::size_t kPiece = kPlusGrandePiece;
 
 Fichier FichierDe(char octet) {
-    std::string chemin = (std::filesystem::temp_directory_path() / "orvalisXXXXXX").string();
-    ::close(::mkstemp(chemin.data()));
-    Fichier fichier(chemin, ModeFichier::LectureEcriture);
-    ::unlink(chemin.c_str());
+    Fichier fichier(essai::Dossier() / "essai", ModeFichier::Creation);
     const std::string page(kTaille / 2, octet); // each page by itself, or they are kept as one
     fichier.Ecrire(0, page);
     fichier.Ecrire(kTaille / 2, page);

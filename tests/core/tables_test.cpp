@@ -1,39 +1,82 @@
-// Dates, departments, pages and the filters of the boxes.
+// Texts, dates, departments, pages and the filters of the boxes.
+#include "aides.h"
 #include "core/boites.h"
 #include "core/dates.h"
 #include "core/departements.h"
 #include "core/pages.h"
-
-#include <gtest/gtest.h>
+#include "core/texte.h"
 
 namespace orvalis {
 namespace {
 
-TEST(Dates, ControleDesDates) {
-    const struct {
-        std::string_view saisie, normale; // an empty text: refused
-    } cas[] = {
+using namespace essai;
+
+TEST(Texte, ChaqueOctetSurvitALaLectureEtALEcriture) {
+    std::string octets;
+    for (int o = 0; o < 256; ++o)
+        octets.push_back(static_cast<char>(o));
+    EXPECT_EQ(Longueur(DepuisCp1252(octets)), 256U);
+    EXPECT_EQ(VersCp1252(DepuisCp1252(octets)), octets);
+    EXPECT_EQ(DepuisCp1252("\x80\xE9\x9F"), "€éŸ");
+}
+
+TEST(Texte, CeQuiNEstPasEnregistrableDevientUnPointDInterrogation) {
+    const Textes cas = {{"Éric €", "Éric €"},
+                        {"Łódź 漢 😀", "?ód? ? ?"},
+                        {{"a\0b\tc\r\nd\x7F", 9}, "abcd"},
+                        {"a\xC2\x81z", "az"},
+                        {"a\xFFz\xC3", "a?z?"}};
+    Verifier(NettoyerSaisie, cas);
+    EXPECT_EQ(VersCp1252("Łódź 漢 😀 a\xFFz\xC3"), "?\xF3"
+                                                  "d? ? ? a?z?");
+}
+
+TEST(Texte, LesLargeursComptentDesCaracteres) {
+    EXPECT_EQ(Cadrer("été", 5) + Cadrer("étéà", 3) + Cadrer("", 2), "été  été  ");
+    EXPECT_EQ(Gauche("éàü", 2), "éà");
+    EXPECT_EQ(Droite("éàü", 2), "àü");
+    EXPECT_EQ(Droite("é", 2), "é");
+    EXPECT_EQ(Milieu("éàüo", 2, 2), "àü");
+    EXPECT_EQ(Milieu("éà", 3, 1), "");
+    const Textes cas = {{"  à b  ", "à b"}, {"   ", ""}, {"\t a", "\t a"}};
+    Verifier(Rogner, cas);
+}
+
+TEST(Texte, CasseDesLettresAccentuees) {
+    EXPECT_EQ(Majuscules("f6abc é ç ÿ œ ž ß µ ÷ 漢"), "F6ABC É Ç Ÿ Œ Ž ß µ ÷ 漢");
+    const Textes cas = {{"jean-PIERRE pAUL", "Jean-Pierre Paul"},
+                        {"ÉLODIE", "Élodie"},
+                        {"éRIC  ŒUF", "Éric  Œuf"},
+                        {"", ""}};
+    Verifier(NomPropre, cas);
+}
+
+TEST(Texte, ValeurDesPremiersChiffres) {
+    const Table<int> cas = {
+        {"", 0},   {"A1", 0},   {"2A", 2}, {"007", 7},
+        {" 5", 0}, {"12/", 12}, {"-3", 0}, {"99999999999999999999", 999'999'999}};
+    Verifier(ValeurNumerique, cas);
+}
+
+TEST(Dates, Controles) { // an empty text: refused
+    const auto date = [](std::string_view saisie) {
+        const Controle controle = ControlerDate(saisie);
+        EXPECT_EQ(controle.ValiditeOK, !controle.texte.empty()) << saisie;
+        return controle.texte;
+    };
+    const Textes dates = {
         {"29/02/00", "29/02/00"}, {"29/02/01", ""},         {"29/02/60", "29/02/60"},
         {"31/04/02", ""},         {"30/04/02", "30/04/02"}, {"31/12/99", "31/12/99"},
         {"00/05/02", ""},         {"15/13/02", ""},         {"15/00/02", ""},
-        {"01.05.02", "01/05/02"}, {"ab/05/02", ""},         {"", ""},
-    };
-    for (const auto& c : cas) {
-        const Controle controle = ControlerDate(c.saisie);
-        EXPECT_EQ(controle.ValiditeOK, !c.normale.empty()) << c.saisie;
-        EXPECT_EQ(controle.texte, c.normale) << c.saisie;
-    }
+        {"01.05.02", "01/05/02"}, {"ab/05/02", ""},         {"", ""}};
+    Verifier(date, dates);
     EXPECT_EQ(AnneeComplete(59), 2059);
     EXPECT_EQ(AnneeComplete(60), 1960);
-}
-
-TEST(Dates, ControleDesHeures) {
-    const struct {
-        std::string_view saisie, normale;
-    } cas[] = {{"18:30", "18:30"}, {"00:00", "00:00"}, {"23:59", "23:59"}, {"24:00", ""},
-               {"12:60", ""},      {"9:.5/", "09:05"}, {"1.../", "01:00"}, {"xx:yy", "00:00"}};
-    for (const auto& c : cas)
-        EXPECT_EQ(ControlerHeure(c.saisie).texte, c.normale) << c.saisie;
+    const auto heure = [](std::string_view saisie) { return ControlerHeure(saisie).texte; };
+    const Textes heures = {{"18:30", "18:30"}, {"00:00", "00:00"}, {"23:59", "23:59"},
+                           {"24:00", ""},      {"12:60", ""},      {"9:.5/", "09:05"},
+                           {"1.../", "01:00"}, {"xx:yy", "00:00"}};
+    Verifier(heure, heures);
 }
 
 TEST(Dates, TextesDeLHorloge) {
@@ -41,52 +84,44 @@ TEST(Dates, TextesDeLHorloge) {
     EXPECT_EQ(DateLongue(instant), "Dimanche 02 Août 2026");
     EXPECT_EQ(DateLongue({2000, 2, 29}), "Mardi 29 Février 2000");
     EXPECT_EQ(DateCourte(instant), "02/08/26");
-    EXPECT_EQ(HeureCourte(instant), "07:05");
     EXPECT_EQ(HeureLongue(instant), "07:05:09");
 }
 
 TEST(Departements, NomDuCode) {
-    const struct {
-        std::string_view code, nom;
-    } cas[] = {{"", ""},
-               {"75", "Ville-de-Paris"},
-               {"075", "Ville-de-Paris"},
-               {"2A", "Aisne"},
-               {"02A", "Aisne"},
-               {"5", " Hautes-Alpes"},
-               {"20", "Corse"},
-               {"22", "Côtes-D'Armor"},
-               {"971", "Guadeloupe"},
-               {"974", "Réunion"},
-               {"96", ""},
-               {"976", ""},
-               {"AB", ""},
-               {"0", ""},
-               {"95", "Val-d'Oise"}};
-    for (const auto& c : cas)
-        EXPECT_EQ(NomDepartement(c.code), c.nom) << c.code;
+    const Textes cas = {{"", ""},
+                        {"75", "Ville-de-Paris"},
+                        {"2A", "Aisne"},
+                        {"02A", "Aisne"},
+                        {"5", " Hautes-Alpes"},
+                        {"20", "Corse"},
+                        {"22", "Côtes-D'Armor"},
+                        {"971", "Guadeloupe"},
+                        {"974", "Réunion"},
+                        {"96", ""},
+                        {"976", ""},
+                        {"AB", ""},
+                        {"0", ""},
+                        {"95", "Val-d'Oise"}};
+    Verifier(NomDepartement, cas);
 }
 
 TEST(Pages, NombreEtPlages) {
-    const struct {
-        std::int32_t nb, pages, premiere, derniere; // range of the last page
-    } cas[] = {{0, 1, 1, 0},    {1, 1, 1, 1},    {25, 1, 1, 25},
-               {26, 2, 26, 26}, {50, 2, 26, 50}, {51, 3, 51, 51}};
-    for (const auto& c : cas) {
-        EXPECT_EQ(CalculerPages(c.nb), c.pages) << c.nb;
-        const PlagePage plage = CalculerPlage(c.pages, c.nb);
-        EXPECT_EQ(plage.premiere, c.premiere) << c.nb;
-        EXPECT_EQ(plage.derniere, c.derniere) << c.nb;
+    const std::int32_t cas[][4] = {// contacts, pages, range of the last page
+                                   {0, 1, 1, 0},    {1, 1, 1, 1},    {25, 1, 1, 25},
+                                   {26, 2, 26, 26}, {50, 2, 26, 50}, {51, 3, 51, 51}};
+    for (const auto& [nb, pages, premiere, derniere] : cas) {
+        const PlagePage plage = CalculerPlage(pages, nb);
+        EXPECT_EQ(CalculerPages(nb), pages) << nb;
+        EXPECT_TRUE(plage.premiere == premiere && plage.derniere == derniere) << nb;
     }
     EXPECT_EQ(CalculerPlage(CalculerPages(32767), 40000).derniere, 32767);
 }
 
 TEST(Pages, LigneDeLaListe) {
     QsoRecord fiche;
-    MettreChamp(fiche, Champ::CSGN, "F5XYZ");
     MettreChamp(fiche, Champ::DQSO, "12/05/02");
     MettreChamp(fiche, Champ::HDEB, "18:30");
-    EXPECT_EQ(LigneListe(7, fiche), "7      : F5XYZ     :12/05/02:18:30      ");
+    EXPECT_EQ(LigneListe(7, fiche), "7      :           :12/05/02:18:30      ");
     MettreChamp(fiche, Champ::CSGN, "VP2/F5XYZ/MM");
     EXPECT_EQ(LigneListe(32767, fiche), "32767  : VP2/F5XYZ/:12/05/02:18:30      ");
     EXPECT_EQ(NumeroDeLigne("32767  : VP2/F5XYZ/"), 32767);
@@ -94,61 +129,52 @@ TEST(Pages, LigneDeLaListe) {
 
 TEST(Boites, TouchesDeChaqueBoite) {
     const struct {
-        Touches touches;
+        std::size_t boite;
         std::string_view saisie, pris;
-    } cas[] = {
-        {Boite(1).touches, "f6é-\t\n", "F6É-"},    {Boite(2).touches, "-./09:;+a 漢", "./09:"},
-        {Boite(5).touches, "14.250,5", "14.2505"}, {Boite(7).touches, "5+9a-*,", "5+9"},
-        {Boite(11).touches, "2A./:+b", "2"},       {Boite(12).touches, "jean €漢", "jean €?"},
-    };
+    } cas[] = {{1, "f6é-\t\n", "F6É-"}, {2, "-./09:;+a 漢", "./09:"}, {5, "14.250,5", "14.2505"},
+               {7, "5+9a-*,", "5+9"},   {11, "2A./:+b", "2"},         {12, "jean €漢", "jean €?"}};
     for (const auto& c : cas)
-        EXPECT_EQ(FiltrerTouches(c.touches, c.saisie), c.pris);
-    const std::string_view chiffresMajuscules = "MAAAAMBBMMCFMFFMM"; // boxes 1 to 17
-    for (const DescriptionBoite& boite : kBoites) {
-        const std::string pris = FiltrerTouches(boite.touches, "a+:1");
-        const char attendu = chiffresMajuscules[boite.index - 1];
-        EXPECT_EQ(pris, attendu == 'M'   ? "A+:1"
-                        : attendu == 'A' ? ":1"
-                        : attendu == 'B' ? "+:1"
-                        : attendu == 'C' ? "1"
-                                         : "a+:1")
-            << boite.index;
-    }
+        EXPECT_EQ(FiltrerTouches(Boite(c.boite).touches, c.saisie), c.pris);
+    std::string genres; // what each box makes of "a+:1"
+    for (const DescriptionBoite& boite : kBoites)
+        genres += FiltrerTouches(boite.touches, "a+:1") + " ";
+    EXPECT_EQ(genres, "A+:1 :1 :1 :1 :1 A+:1 +:1 +:1 A+:1 A+:1 1 a+:1 A+:1 a+:1 a+:1 A+:1 A+:1 ");
 }
 
 TEST(Boites, UneEditionNeFiltreQueCeQuElleApporte) {
+    constexpr auto L = Touches::Libres, M = Touches::Majuscules, C = Touches::Chiffres;
     const std::string enorme(10'000, 'z');
     const struct {
         Touches touches;
         std::size_t longueur;
-        std::string_view ancien, nouveau;
-        std::size_t curseur;
+        std::string_view ancien;
+        TexteEdite nouveau;
         std::string_view texte;
-        std::size_t curseurApres;
+        std::size_t curseur;
     } cas[] = {
-        {Touches::Chiffres, 3, "", "7a5b12", 6, "751", 3},
-        {Touches::Chiffres, 3, "2A", "2A7x", 4, "2A7", 3}, // a stored letter stays
-        {Touches::Majuscules, 15, "abc", "abxyc", 4, "abXYc", 4},
-        {Touches::Majuscules, 15, "ab", "abab", 2, "ABab", 2}, // pasted before its like
-        {Touches::Majuscules, 6, "JN18AA", "JN18AAx", 7, "JN18AA", 6},
-        {Touches::Majuscules, 6, "éa",
-         "é\xC3\xA9"
-         "a",
-         2, "éÉa", 2},
-        {Touches::Libres, 15, "Jean", "Jea", 3, "Jea", 3}, // Backspace
-        {Touches::Libres, 15, "Jean", "", 0, "", 0},
-        {Touches::Majuscules, 15, "F", enorme, 10'000, "ZZZZZZZZZZZZZZZ", 15},
-        {Touches::Libres, 8, "",
-         std::string_view{"a\0\x1B"
-                          "b",
-                          4},
-         4, "ab", 2},
+        {C, 3, "", {"7a5b12", 6}, "751", 3},
+        {C, 3, "2A", {"2A7x", 4}, "2A7", 3}, // a stored letter stays
+        {M, 15, "abc", {"abxyc", 4}, "abXYc", 4},
+        {M, 15, "ab", {"abab", 2}, "ABab", 2}, // pasted before its like
+        {M, 6, "JN18AA", {"JN18AAx", 7}, "JN18AA", 6},
+        {M, 6, "éa", {"ééa", 2}, "éÉa", 2},
+        {L, 15, "Jean", {"Jea", 3}, "Jea", 3}, // Backspace
+        {L, 15, "Jean", {"", 0}, "", 0},
+        {M, 15, "F", {enorme, 10'000}, "ZZZZZZZZZZZZZZZ", 15},
+        {L,
+         8,
+         "",
+         {{"a\0\x1B"
+           "b",
+           4},
+          4},
+         "ab",
+         2},
     };
     for (const auto& c : cas) {
-        const TexteEdite edite =
-            FiltrerEdition(c.touches, c.longueur, c.ancien, {std::string{c.nouveau}, c.curseur});
+        const TexteEdite edite = FiltrerEdition(c.touches, c.longueur, c.ancien, c.nouveau);
         EXPECT_EQ(edite.texte, c.texte);
-        EXPECT_EQ(edite.curseur, c.curseurApres) << c.texte;
+        EXPECT_EQ(edite.curseur, c.curseur) << c.texte;
     }
 }
 

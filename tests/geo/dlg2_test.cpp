@@ -29,9 +29,8 @@ class Dlg2Test : public testing::Test {
         QTest::keyClick(dialogue.windowHandle(), touche, modificateurs);
     }
     void Taper(const char* texte) {
-        for (; *texte != '\0'; ++texte) {
+        for (; *texte != '\0'; ++texte)
             QTest::keyClick(dialogue.windowHandle(), *texte);
-        }
     }
     void Coller(const char* nom, const char* texte) {
         QApplication::clipboard()->setText(QString::fromUtf8(texte));
@@ -40,9 +39,8 @@ class Dlg2Test : public testing::Test {
     }
     std::string Texte(const char* nom) { return Champ(nom)->text().toStdString(); }
     std::string Focus() {
-        return QApplication::focusWidget() == nullptr
-                   ? std::string()
-                   : QApplication::focusWidget()->objectName().toStdString();
+        const QWidget* foyer = QApplication::focusWidget();
+        return foyer == nullptr ? "" : foyer->objectName().toStdString();
     }
     // Every box in the order of the screen.
     std::string Tout() {
@@ -115,21 +113,19 @@ TEST_F(Dlg2Test, LesDegresMinutesSecondesEntrainentLeReste) {
 }
 
 TEST_F(Dlg2Test, UneValeurTropGrandeDevientZero) {
-    struct {
-        const char *champ, *admis, *refuse, *zero;
-    } const cas[] = {{"Fr1DegText1", "89", "90", "00"}, {"Fr1MinText1", "59", "60", "00"},
-                     {"Fr1SecText1", "59", "95", "00"}, {"Fr1DegText2", "179", "180", "000"},
-                     {"Fr1MinText2", "59", "60", "00"}, {"Fr1SecText2", "59", "99", "00"}};
-    for (const auto& c : cas) {
-        Cliquer(c.champ);
-        Taper(c.admis);
-        EXPECT_EQ(Texte(c.champ), c.admis);
-        EXPECT_NE(Focus(), c.champ);
-        Cliquer(c.champ);
-        Taper(c.refuse);
-        EXPECT_EQ(Texte(c.champ), c.zero);
-        EXPECT_EQ(Champ(c.champ)->selectedText().toStdString(), c.zero);
-        EXPECT_EQ(Focus(), c.champ);
+    const std::array<const char*, 4> cas[] = {
+        {"Fr1DegText1", "89", "90", "00"}, {"Fr1MinText1", "59", "60", "00"},
+        {"Fr1SecText1", "59", "95", "00"}, {"Fr1DegText2", "179", "180", "000"},
+        {"Fr1MinText2", "59", "60", "00"}, {"Fr1SecText2", "59", "99", "00"}};
+    for (const auto& [champ, admis, refuse, zero] : cas) {
+        Cliquer(champ);
+        Taper(admis);
+        EXPECT_EQ(Texte(champ), admis);
+        EXPECT_NE(Focus(), champ);
+        Cliquer(champ);
+        Taper(refuse);
+        EXPECT_EQ(Champ(champ)->selectedText().toStdString(), zero);
+        EXPECT_EQ(Focus(), champ);
     }
     EXPECT_EQ(Tout(), "00 00 00 N 000 00 00 E 0.0000 0.0000 JJ00AA ");
 }

@@ -10,15 +10,11 @@ namespace {
 using namespace orvalis;
 
 TEST(Notations, DegresMinutesSecondes) {
-    struct {
-        Dms dms;
-        const char* decimal;
-    } const cas[] = {{{44, 8, 45}, "44.1375"}, {{0, 0, 0}, "0.0000"},  {{0, 0, 1}, "0.0001"},
-                     {{0, 1, 0}, "0.0200"},    {{1, 30, 3}, "1.5005"}, {{179, 59, 59}, "179.9898"},
-                     {{44, 60, 0}, "45.0000"}};
-    for (const auto& c : cas) {
-        EXPECT_EQ(FormaterDecimal(DmsVersDecimal(c.dms)), c.decimal);
-    }
+    const std::pair<Dms, const char*> cas[] = {
+        {{44, 8, 45}, "44.1375"}, {{0, 0, 1}, "0.0001"},       {{0, 1, 0}, "0.0200"},
+        {{1, 30, 3}, "1.5005"},   {{179, 59, 59}, "179.9898"}, {{44, 60, 0}, "45.0000"}};
+    for (const auto& [dms, decimal] : cas)
+        EXPECT_EQ(FormaterDecimal(DmsVersDecimal(dms)), decimal);
     const std::pair<float, std::array<int, 3>> inverse[] = {
         {44.1458F, {44, 8, 35}},
         {-1.5417F, {1, 32, 10}},
@@ -36,9 +32,8 @@ TEST(Notations, TexteDecimal) {
         {44.145832F, "44.1458"}, {-1.5416666F, "-1.5417"},  {0.03125F, "0.0313"},
         {-0.03125F, "-0.0313"},  {-0.00001F, "0.0000"},     {-0.0F, "0.0000"},
         {0.99996F, "1.0000"},    {-179.95833F, "-179.9583"}};
-    for (const auto& [valeur, attendu] : formats) {
+    for (const auto& [valeur, attendu] : formats)
         EXPECT_EQ(FormaterDecimal(valeur), attendu);
-    }
     const std::pair<float, std::vector<std::string>> lectures[] = {
         {44, {"44", "44/5", "44-4", "44.", "44.0.2", "44e5", "044"}},
         {-0.5F, {"-.5", "-0.5", "-.5.5"}},
@@ -46,9 +41,8 @@ TEST(Notations, TexteDecimal) {
         {1000, {"99999", std::string(400, '9')}},
         {-1000, {"-" + std::string(400, '9')}}};
     for (const auto& [attendu, textes] : lectures) {
-        for (const std::string& texte : textes) {
+        for (const std::string& texte : textes)
             EXPECT_EQ(LireDecimal(texte), attendu) << texte;
-        }
     }
 }
 
@@ -67,9 +61,8 @@ TEST(Notations, CaracteresAcceptes) {
     const std::pair<char16_t, char16_t> locator[] = {
         {u'j', u'J'}, {u'0', u'0'},   {u'-', u'-'}, {u'\u00E9', u'\u00C9'},
         {u'\n', 0},   {u'\u0085', 0}, {0x7F, 0},    {u'\u20AC', 0}};
-    for (const auto& [tape, attendu] : locator) {
+    for (const auto& [tape, attendu] : locator)
         EXPECT_EQ(FiltrerCaractere(GenreBoite::Locator, tape), attendu);
-    }
 }
 
 TEST(Notations, TexteInsere) {

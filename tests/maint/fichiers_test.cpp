@@ -1,228 +1,179 @@
 // Pairing, copy, backup folder and opening of another logbook.
-#include "essai.h"
+#include "aides.h"
 #include "maint/copie.h"
 #include "maint/jumelage.h"
 #include "maint/ouverture.h"
 
 #include <csignal>
-#include <gtest/gtest.h>
 #include <sys/resource.h>
-#include <vector>
 
 namespace orvalis {
 namespace {
 
 namespace fs = std::filesystem;
-using essai::Fiche;
-using essai::Fin;
-using essai::Octets;
+using namespace essai;
 
-/// Lets no file grow beyond `octets` while it lives: a disk that fills up.
-class DisquePlein {
-  public:
-    explicit DisquePlein(rlim_t octets) : signal_(::signal(SIGXFSZ, SIG_IGN)) {
-        ::getrlimit(RLIMIT_FSIZE, &avant_);
-        const rlimit limite = {octets, avant_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limite);
-    }
-    DisquePlein(const DisquePlein&) = delete;
-    DisquePlein& operator=(const DisquePlein&) = delete;
-    ~DisquePlein() {
-        ::setrlimit(RLIMIT_FSIZE, &avant_);
-        ::signal(SIGXFSZ, signal_);
-    }
-
-  private:
-    rlimit avant_ = {};
-    sighandler_t signal_;
-};
-
-template<class Operation> fs::path FichierFautif(Operation operation) {
+/// The file that an operation fails on; no file grows beyond `place` meanwhile, as on a full disk.
+template<class Operation> fs::path Fautif(Operation operation, rlim_t place = RLIM_INFINITY) {
+    rlimit avant = {};
+    ::getrlimit(RLIMIT_FSIZE, &avant);
+    const rlimit limite = {place, avant.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &limite);
+    fs::path fautif;
     try {
         operation();
     } catch (const ErreurFichier& erreur) {
-        return erreur.Chemin();
+        fautif = erreur.Chemin();
     }
-    return {};
+    ::setrlimit(RLIMIT_FSIZE, &avant);
+    return fautif;
 }
 
 TEST(Jumelage, OctetParOctet) {
-    struct Cas {
-        const char* nom;
-        std::string cible;
-        std::string source;
-        std::string attendu;
-        std::int32_t n;
-    };
-    const std::string a = Fiche("A");
-    const std::string b = Fiche("B");
-    const std::string blanche(165, ' ');
-    std::string courte = b.substr(0, 70);
-    courte.resize(165, ' ');
-    const std::vector<Cas> cas = {
-        {"indicatif rogné", a + Fin(), Fiche("  F 1  ") + b + Fin("JN33AA"),
-         a + Fiche("F 1") + b + Fin(), 3},
-        {"source vide", a + Fin("IN00AA"), Fin("JN33AA") + b, a + Fin(), 1},
-        {"cible vide", Fin(), a + b + Fin(), a + b + Fin(), 2},
-        {"restes derrière la fin", a + Fin() + Fiche("X") + Fiche("Y") + Fiche("Z") + Fiche("T"),
-         b + b + Fin(), a + b + b + Fin() + Fiche("Z") + Fiche("T"), 3},
-        {"source sans fin, dernière courte", a + Fin(), blanche + b.substr(0, 70),
-         a + blanche + courte + Fin(), 3},
-        {"cible sans fin, dernière courte", b.substr(0, 70), a + a + Fin(), courte + a + a + Fin(),
-         3},
-    };
-    for (const Cas& c : cas) {
-        SCOPED_TRACE(c.nom);
-        const essai::Dossier dossier;
-        const auto cible = dossier.Poser("F5ABC.Vek", c.cible);
-        const auto source = dossier.Poser("Source.Vek", c.source);
-        Session session = essai::Ouvrir(cible);
-        const std::int32_t avant = session.nbFiches;
-        EXPECT_EQ(JumelerJournal(session, source), c.n - avant);
-        EXPECT_EQ(Octets(cible), c.attendu);
-        EXPECT_EQ(Octets(source), c.source);
-        EXPECT_EQ(session.nbFiches, c.n);
-        EXPECT_EQ(session.prochaineFiche, c.n + 1);
-    }
-}
-
-TEST(Jumelage, AvecSoiMemeEnPlusieursBlocs) {
-    const essai::Dossier dossier;
-    std::string contacts;
+    const std::string a = Contact("A"), b = Contact("B"), f = Fin(), blanche = Brute({});
+    const std::string bref = b.substr(0, 70), courte = bref + std::string(95, ' ');
+    std::string longue;
     for (int i = 0; i < 2 * static_cast<int>(kFichesParBloc) + 2; ++i)
-        contacts += Fiche(std::to_string(i));
-    const auto chemin = dossier.Poser("F5ABC.Vek", contacts + Fin());
-    Session session = essai::Ouvrir(chemin);
-    JumelerJournal(session, chemin);
-    EXPECT_EQ(Octets(chemin), contacts + contacts + Fin());
+        longue += Contact(std::to_string(i));
+    const struct {
+        std::string cible, source, attendu; // no source: the logbook with itself
+    } cas[] = {
+        {a + f, Contact("  F 1  ") + b + Fin("JN33AA"), a + Contact("F 1") + b + f},
+        {a + Fin("IN00AA"), Fin("JN33AA") + b, a + f},
+        {f, a + b + f, a + b + f},
+        {a + f + a + a + b + a, b + b + f, a + b + b + f + b + a}, // remains behind the end
+        {a + f, blanche + bref, a + blanche + courte + f},
+        {bref, a + a + f, courte + a + a + f},
+        {longue + f, "", longue + longue + f},
+    };
+    for (const auto& c : cas) {
+        const Dossier dossier;
+        const auto cible = dossier.Poser("F5ABC.Vek", c.cible);
+        const auto source = c.source.empty() ? cible : dossier.Poser("Source.Vek", c.source);
+        Session session = Ouvrir(cible);
+        const std::int32_t avant = session.nbFiches;
+        const std::int32_t ajoutes = JumelerJournal(session, source);
+        EXPECT_EQ(Lire(cible), c.attendu);
+        EXPECT_EQ(Lire(source), c.source.empty() ? c.attendu : c.source);
+        EXPECT_EQ(session.nbFiches, avant + ajoutes);
+        EXPECT_EQ(session.nbFiches, c.attendu.find('\\') / 165);
+        EXPECT_EQ(session.prochaineFiche, session.nbFiches + 1);
+    }
 }
 
 TEST(Jumelage, EchecLaisseLeCahierTelQuel) {
-    const essai::Dossier dossier;
-    const std::string avant = Fiche("A") + Fin();
-    const auto cible = dossier.Poser("F5ABC.Vek", avant + Fiche("X"));
-    const auto source = dossier.Poser("S.Vek", Fiche("B") + Fiche("C") + Fiche("D") + Fin());
-    Session session = essai::Ouvrir(cible);
+    const Dossier dossier;
+    const std::string avant = Contact("A") + Fin();
+    const auto cible = dossier.Poser("F5ABC.Vek", avant + Contact("X"));
+    const auto source = dossier.Poser("S.Vek", Contact("B") + Contact("C") + Contact("D") + Fin());
+    Session session = Ouvrir(cible);
+    ::signal(SIGXFSZ, SIG_IGN);
     for (const rlim_t place : {3U * 165U, 4U * 165U}) { // contacts, then the end-of-log record
-        const DisquePlein plein(place);
-        EXPECT_EQ(FichierFautif([&] { JumelerJournal(session, source); }), cible);
-        EXPECT_EQ(Octets(cible).substr(0, avant.size()), avant);
+        EXPECT_EQ(Fautif([&] { JumelerJournal(session, source); }, place), cible);
+        EXPECT_EQ(Lire(cible).substr(0, avant.size()), avant);
     }
     const auto absente = dossier / "Absente.Vek";
-    EXPECT_EQ(FichierFautif([&] { JumelerJournal(session, absente); }), absente);
+    EXPECT_EQ(Fautif([&] { JumelerJournal(session, absente); }), absente);
     CompterFiches(session);
     EXPECT_EQ(session.nbFiches, 1);
 }
 
 TEST(Copie, OctetParOctet) {
-    struct Cas {
-        const char* nom;
-        std::string journal;
-        std::string cible; ///< what the target held; "-": there was none
-        std::string attendu;
+    const std::string a = Contact("A"), x = Contact("X"), f = Fin(), autre = Fin("IN00AA");
+    const struct {
+        std::string journal, cible, attendu; // an empty target: there is none
+    } cas[] = {
+        {a + a + autre + x, "", a + a + autre},
+        {f, "", f},
+        {a + f, x + x + x + x, a + f + x + x},
+        {a + a, "", a + a + f}, // no end of log
     };
-    const std::string a = Fiche("A");
-    const std::string x = Fiche("X");
-    const std::vector<Cas> cas = {
-        {"neuve", a + a + Fin("IN00AA") + x, "-", a + a + Fin("IN00AA")},
-        {"fin seule", Fin(), "-", Fin()},
-        {"plus longue avant", a + Fin(), x + x + x + x, a + Fin() + x + x},
-        {"sans fin de log", a + a, "-", a + a + Fin()},
-    };
-    for (const Cas& c : cas) {
-        SCOPED_TRACE(c.nom);
-        const essai::Dossier dossier;
+    for (const auto& c : cas) {
+        const Dossier dossier;
         const auto chemin = dossier.Poser("F5ABC.Vek", c.journal);
-        const auto cible = dossier / "Copie.Vek";
-        if (c.cible != "-")
-            static_cast<void>(dossier.Poser("Copie.Vek", c.cible));
-        const Session session = essai::Ouvrir(chemin);
-        CopierJournal(session, cible);
-        EXPECT_EQ(Octets(cible), c.attendu);
-        EXPECT_EQ(Octets(chemin), c.journal);
+        const auto cible = c.cible.empty() ? dossier / "C.Vek" : dossier.Poser("C.Vek", c.cible);
+        CopierJournal(Ouvrir(chemin), cible);
+        EXPECT_EQ(Lire(cible), c.attendu);
+        EXPECT_EQ(Lire(chemin), c.journal);
     }
 }
 
 TEST(Copie, CiblesRefusees) {
-    const essai::Dossier dossier;
-    const std::string octets = Fiche("A") + Fin() + Fiche("X");
+    const Dossier dossier;
+    const std::string octets = Contact("A") + Fin() + Contact("X");
     const auto chemin = dossier.Poser("F5ABC.Vek", octets);
-    const Session session = essai::Ouvrir(chemin);
+    const Session session = Ouvrir(chemin);
     fs::create_symlink(chemin, dossier / "Lien.Vek");
     CopierJournal(session, dossier / "Lien.Vek");
-    EXPECT_EQ(Octets(chemin), octets);
+    EXPECT_EQ(Lire(chemin), octets);
 
     const auto prise = dossier.Poser("Prise.Vek", Fin("JN33AA"));
-    const Session autreProgramme = essai::Ouvrir(prise);
+    const Session autreProgramme = Ouvrir(prise);
     EXPECT_THROW(CopierJournal(session, prise), ErreurVerrou);
-    EXPECT_EQ(Octets(prise), Fin("JN33AA"));
+    EXPECT_EQ(Lire(prise), Fin("JN33AA"));
 
-    for (const auto& cible : {dossier / "absent/C.Vek", dossier / ".", dossier / "Pleine.Vek"}) {
-        const DisquePlein plein(200);
-        EXPECT_EQ(FichierFautif([&] { CopierJournal(session, cible); }), cible);
-    }
-    EXPECT_EQ(Octets(chemin), octets);
+    ::signal(SIGXFSZ, SIG_IGN);
+    for (const auto& cible : {dossier / "absent/C.Vek", dossier / ".", dossier / "Pleine.Vek"})
+        EXPECT_EQ(Fautif([&] { CopierJournal(session, cible); }, 200), cible);
+    EXPECT_EQ(Lire(chemin), octets);
 }
 
 TEST(Copie, DossierDesSauvegardes) {
-    const essai::Dossier lecteur;
+    const Dossier lecteur;
     EXPECT_EQ(CheminSauvegardes(lecteur / ""), lecteur / "Orvalis/VekSave");
     EXPECT_TRUE(fs::is_directory(lecteur / "Orvalis/VekSave"));
     fs::rename(lecteur / "Orvalis/VekSave", lecteur / "Orvalis/veksave");
     EXPECT_EQ(CheminSauvegardes(lecteur / ""), lecteur / "Orvalis/veksave");
     fs::remove(lecteur / "Orvalis/veksave");
     const auto intrus = lecteur.Poser("Orvalis/VekSave", "");
-    EXPECT_EQ(FichierFautif([&] { static_cast<void>(CheminSauvegardes(lecteur / "")); }), intrus);
+    EXPECT_EQ(Fautif([&] { static_cast<void>(CheminSauvegardes(lecteur / "")); }), intrus);
 }
 
 TEST(Ouverture, AutreJournal) {
-    struct Cas {
+    const std::string a = Contact("A"), f = Fin("JN33AA");
+    const struct {
         const char* fichier;
         std::string octets;
-        const char* nom;
-        const char* locator;
+        const char *nom, *locator;
         std::int32_t n;
-        const char* drapeaux; ///< L: read-only, F: end-of-log record, E: whole records
-    };
-    const std::string a = Fiche("A");
-    const std::vector<Cas> tous = {
-        {"Été.Vek", a + Fin("JN33AA") + a, "Été", "JN33AA", 1, "LFE"},
+        const char* drapeaux; // L: read-only, F: end-of-log record, E: whole records
+    } cas[] = {
+        {"Été.Vek", a + f + a, "Été", "JN33AA", 1, "LFE"},
         {"court.VEK", Fin(" JN3  "), "court", "JN3   ", 0, "LFE"},
-        {"F5ABC.Vek", a + a + Fin("IN00AA"), "F5ABC", "IN00AA", 2, "FE"},
-        {"Sans.Vek", a + a, "Sans", "JN18EU", 2, "LE"},
-        {"Coupe.Vek", a + Fin("JN33AA") + "abc", "Coupe", "JN33AA", 1, "LF"},
-        {".Vek", Fin("JN33AA"), ".Vek", "JN33AA", 0, "LFE"},
+        {"F5ABC.Vek", a + a + f, "F5ABC", "JN33AA", 2, "FE"},
+        {"Sans.Vek", a + a, "Sans", "JN18AA", 2, "LE"},
+        {"Coupe.Vek", a + f + "abc", "Coupe", "JN33AA", 1, "LF"},
+        {".Vek", f, ".Vek", "JN33AA", 0, "LFE"},
     };
-    for (const Cas& cas : tous) {
-        SCOPED_TRACE(cas.fichier);
-        const essai::Dossier dossier;
-        Session session = essai::Ouvrir(dossier.Poser("Station.Vek", a + a + a + Fin()));
-        const auto chemin = dossier.Poser(cas.fichier, cas.octets);
-        const BilanOuverture bilan = OuvrirAutreJournal(session, chemin);
-        EXPECT_TRUE(bilan.ouvert);
-        EXPECT_EQ(std::string(session.LectureSeule() ? "L" : "") +
-                      (bilan.etat.finPresente ? "F" : "") + (bilan.etat.longueurEntiere ? "E" : ""),
-                  cas.drapeaux);
-        EXPECT_EQ(session.cheminJournal, chemin);
-        EXPECT_EQ(session.autreJournal, cas.nom);
-        EXPECT_EQ(session.monLocator, cas.locator);
-        EXPECT_EQ(session.nbFiches, cas.n);
+    for (const auto& c : cas) {
+        SCOPED_TRACE(c.fichier);
+        const Dossier dossier;
+        Session session = Ouvrir(dossier.Poser("Station.Vek", a + a + a + f));
+        const auto chemin = dossier.Poser(c.fichier, c.octets);
+        const auto [ouvert, etat] = OuvrirAutreJournal(session, chemin);
+        EXPECT_TRUE(ouvert && session.cheminJournal == chemin);
+        EXPECT_EQ(std::string(session.LectureSeule() ? "L" : "") + (etat.finPresente ? "F" : "") +
+                      (etat.longueurEntiere ? "E" : ""),
+                  c.drapeaux);
+        EXPECT_EQ(session.autreJournal, c.nom);
+        EXPECT_EQ(session.monLocator, c.locator);
+        EXPECT_EQ(session.nbFiches, c.n);
     }
 }
 
 TEST(Ouverture, EchecOuMemeFichierNeChangeRien) {
-    const essai::Dossier dossier;
-    const auto station = dossier.Poser("F5ABC.Vek", Fiche("A") + Fin());
-    Session session = essai::Ouvrir(station);
+    const Dossier dossier;
+    const auto station = dossier.Poser("F5ABC.Vek", Contact("A") + Fin());
+    Session session = Ouvrir(station);
     const auto prise = dossier.Poser("Prise.Vek", Fin("JN33AA"));
-    const Session autreProgramme = essai::Ouvrir(prise);
+    const Session autreProgramme = Ouvrir(prise);
     EXPECT_THROW(OuvrirAutreJournal(session, prise), ErreurVerrou);
     for (const auto& chemin : {dossier / "Absent.Vek", dossier / "."})
-        EXPECT_EQ(FichierFautif([&] { OuvrirAutreJournal(session, chemin); }), chemin);
+        EXPECT_EQ(Fautif([&] { OuvrirAutreJournal(session, chemin); }), chemin);
     EXPECT_FALSE(OuvrirAutreJournal(session, station).ouvert);
     EXPECT_EQ(session.cheminJournal, station);
     EXPECT_EQ(session.autreJournal, "");
-    EXPECT_EQ(session.monLocator, "JN18EU");
+    EXPECT_EQ(session.monLocator, "JN18AA");
     EXPECT_TRUE(session.journal.Support().EstLeMeme(station));
 }
 

@@ -1,16 +1,14 @@
-#include "essai.h"
+#include "aides.h"
 #include "maint/tri.h"
 
 #include <algorithm>
-#include <gtest/gtest.h>
+#include <numeric>
 #include <set>
-#include <vector>
 
 namespace orvalis {
 namespace {
 
-using essai::Fiche;
-using essai::Octets;
+using namespace essai;
 
 constexpr std::int64_t kToutDroit = 1'000'000'000;
 
@@ -30,10 +28,10 @@ std::string Melange(int n) {
     };
     std::string octets;
     for (int i = 0; i < n; ++i)
-        octets += Fiche("N" + std::to_string(i),
-                        tirer({"01/", "02/", "2/", " 1/", "x"}) + tirer({"01/", "02/", "03/"}) +
-                            tirer({"98", "99", "00", "01", "59", "60"}),
-                        tirer({"08:", "09:", " 9:", "10:"}) + tirer({"10", "11", "5"}));
+        octets += Contact("N" + std::to_string(i),
+                          tirer({"01/", "02/", "2/", " 1/", "x"}) + tirer({"01/", "02/", "03/"}) +
+                              tirer({"98", "99", "00", "01", "59", "60"}),
+                          tirer({"08:", "09:", " 9:", "10:"}) + tirer({"10", "11", "5"}));
     return octets;
 }
 
@@ -76,20 +74,15 @@ std::string TrierAutrement(const std::string& octets) {
             });
             debut = fin;
         }
-    std::string tries;
-    for (const std::string& fiche : fiches)
-        tries += fiche;
-    return tries;
+    return std::accumulate(fiches.begin(), fiches.end(), std::string{});
 }
 
 TEST(Tri, PetitesMarches) {
-    struct Cas {
-        std::vector<std::string> debuts; ///< date and start; contacts are named A, B, C, D
-        const char* ordre;
-        std::int64_t pas;
-        std::int64_t echanges;
-    };
-    const std::vector<Cas> tous = {
+    const struct {
+        std::vector<std::string> debuts; // date and start; contacts are named A, B, C, D
+        std::string ordre;
+        std::int64_t pas, echanges;
+    } cas[] = {
         {{}, "", 0, 0},
         {{"01/01/01"}, "A", 0, 0},
         {{"01/01/01", "01/01/02"}, "AB", 5, 0},
@@ -102,60 +95,60 @@ TEST(Tri, PetitesMarches) {
         {{"01/03/02 9:30", "01/03/0209:01"}, "AB", 5, 0}, // minutes of "9:30 " are 0
         {{"01/01/01", "xx/yy/zz"}, "BA", 6, 1},           // no number: year 2000
     };
-    for (const Cas& cas : tous) {
+    for (const auto& c : cas) {
         std::string octets;
-        for (std::size_t i = 0; i < cas.debuts.size(); ++i)
-            octets += Fiche(std::string(1, "ABCD"[i]), cas.debuts[i], "").replace(33, 1, "*");
-        const essai::Dossier dossier;
-        const auto chemin = dossier.Poser("J.Vek", octets + essai::Fin());
-        Session session = essai::Ouvrir(chemin);
+        for (const std::string& debut : c.debuts)
+            octets += Contact(std::string(1, "ABCD"[octets.size() / 165]), debut);
+        const Dossier dossier;
+        const auto chemin = dossier.Poser("J.Vek", octets + Fin());
+        Session session = Ouvrir(chemin);
         Tri tri(session.journal, session.nbFiches);
         tri.Avancer(kToutDroit);
         std::string ordre;
-        for (const std::string& fiche : Decouper(Octets(chemin)))
+        for (const std::string& fiche : Decouper(Lire(chemin)))
             ordre += fiche[0];
-        EXPECT_EQ(ordre, cas.ordre + std::string("\\"));
-        EXPECT_EQ(tri.Etat().pas, cas.pas) << cas.ordre;
-        EXPECT_EQ(tri.Etat().echanges, cas.echanges) << cas.ordre;
+        EXPECT_EQ(ordre, c.ordre + "\\");
+        EXPECT_EQ(tri.Etat().pas, c.pas) << c.ordre;
+        EXPECT_EQ(tri.Etat().echanges, c.echanges) << c.ordre;
         EXPECT_TRUE(tri.Etat().termine && tri.Etat().position == 1);
     }
 }
 
 TEST(Tri, EgaleUnTriStableEtNePerdRienEnRoute) {
     const std::string depart = Melange(90);
-    const std::string suite = essai::Fin() + Fiche("PERIME", "01/01/70");
+    const std::string suite = Fin() + Contact("PERIME", "01/01/70");
     std::vector<std::string> contacts = Decouper(depart);
     std::sort(contacts.begin(), contacts.end());
     std::set<std::pair<std::int64_t, std::int64_t>> comptes;
     for (const std::int64_t tranche : {std::int64_t{1}, std::int64_t{37}, kToutDroit}) {
-        const essai::Dossier dossier;
+        const Dossier dossier;
         const auto chemin = dossier.Poser("J.Vek", depart + suite);
-        Session session = essai::Ouvrir(chemin);
+        Session session = Ouvrir(chemin);
         Tri tri(session.journal, session.nbFiches);
         for (std::int64_t vus = 0; !tri.Etat().termine;) {
             tri.Avancer(tranche);
             if (std::exchange(vus, tri.Etat().echanges) == tri.Etat().echanges)
                 continue;
-            std::vector<std::string> fiches = Decouper(Octets(chemin).substr(0, depart.size()));
+            std::vector<std::string> fiches = Decouper(Lire(chemin).substr(0, depart.size()));
             std::sort(fiches.begin(), fiches.end());
             ASSERT_EQ(fiches, contacts);
         }
-        EXPECT_EQ(Octets(chemin), TrierAutrement(depart) + suite);
+        EXPECT_EQ(Lire(chemin), TrierAutrement(depart) + suite);
         comptes.emplace(tri.Etat().pas, tri.Etat().echanges);
     }
     EXPECT_EQ(comptes.size(), 1) << "slices change the walk";
 }
 
 TEST(Tri, DerniereFicheCourteEtLectureSeule) {
-    const essai::Dossier dossier;
-    std::string courte = Fiche("B", "01/01/01").substr(0, 28);
-    const auto chemin = dossier.Poser("J.Vek", Fiche("A", "01/01/02") + courte);
+    const Dossier dossier;
+    std::string courte = Contact("B", "01/01/01").substr(0, 28);
+    const auto chemin = dossier.Poser("J.Vek", Contact("A", "01/01/02") + courte);
     Journal lecture(chemin, ModeFichier::Lecture);
     EXPECT_THROW(Tri(lecture, 2).Avancer(kToutDroit), ErreurFichier);
-    Session session = essai::Ouvrir(chemin);
+    Session session = Ouvrir(chemin);
     Tri(session.journal, session.nbFiches).Avancer(kToutDroit);
     courte.resize(165, ' ');
-    EXPECT_EQ(Octets(chemin), courte + Fiche("A", "01/01/02"));
+    EXPECT_EQ(Lire(chemin), courte + Contact("A", "01/01/02"));
 }
 
 } // namespace

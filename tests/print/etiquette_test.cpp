@@ -51,21 +51,19 @@ TEST(EtiquetteTest, Vierge) {
 }
 
 TEST(EtiquetteTest, CorpsDeLEnTete) {
-    const struct {
-        const char* texte1;
-        const char* operation; ///< the heading and its place
-    } cas[] = {
+    const std::pair<const char*, const char*> cas[] = {
+        // first line, heading and its place
         {"ÉSALUT DE 13 C", "T 720 20 8g ÉSALUT DE 13 C  Confirming QSO with  HB9/F4ABCP"},
         {"ÉSALUT DE 13C", "T 300 20 10g ÉSALUT DE 13C  Confirming QSO with  HB9/F4ABCP"},
     };
-    for (const auto& c : cas) {
+    for (const auto& [texte1, operation] : cas) {
         Enregistreur imprimante("Comic sans MS", 300, 400);
         DonneesEtiquette donnees = Exemple();
         donnees.indicatif = "HB9/F4ABCP";
-        donnees.texte1 = c.texte1;
+        donnees.texte1 = texte1;
         EnTetesEtiquettes enTetes;
         ImprimerEtiquette(imprimante, {1, 1}, GenreEtiquette::Remplie, donnees, {}, enTetes);
-        EXPECT_EQ(imprimante.Compter(c.operation), 1) << c.operation;
+        EXPECT_EQ(imprimante.Compter(operation), 1) << operation;
         EXPECT_EQ(imprimante.Compter("T 2100 300"), 0) << "no manager";
     }
 }
@@ -75,7 +73,7 @@ TEST(EtiquetteTest, Places) {
                                         {300, 4360},  {6100, 4360},  {300, 6340},  {6100, 6340},
                                         {300, 8320},  {6100, 8320},  {300, 10300}, {6100, 10300},
                                         {300, 12280}, {6100, 12280}, {300, 14260}, {6100, 14260}};
-    for (std::int16_t k = 1; k <= kNbEtiquettes; ++k)
+    for (std::int16_t k = 1; k <= kEtiquettesParPlanche; ++k)
         EXPECT_EQ(OrigineDeEtiquette(PlaceDeEtiquette(k)), attendu[k - 1]) << k;
     EXPECT_EQ(OrigineDeEtiquette({2, 9}), (OrigineEtiquette{6100, 0}));
     EXPECT_EQ(OrigineDeEtiquette({1, 0}), (OrigineEtiquette{300, 0}));
@@ -83,25 +81,20 @@ TEST(EtiquetteTest, Places) {
 
 TEST(PlancheTest, UneSeuleFeuille) {
     EnTetesEtiquettes enTetes;
-    Enregistreur vide;
+    Enregistreur vide, deux, seize;
     ImprimerPlanche(vide, {}, enTetes);
     EXPECT_TRUE(vide.operations.empty());
-
-    Enregistreur deux;
     std::vector<EtiquettePlacee> etiquettes = {{3, Exemple()}, {16, Exemple()}};
     ImprimerPlanche(deux, etiquettes, enTetes);
-    EXPECT_EQ(deux.operations.front(), "P A4 portrait");
-    EXPECT_EQ(deux.operations.back(), "FIN");
-    EXPECT_EQ(deux.Compter("FIN"), 1);
-    EXPECT_EQ(deux.Compter("R "), 2);
     EXPECT_EQ(deux.Compter("R 300 2380 5500 4160") + deux.Compter("R 6100 14260 11300 16040"), 2);
-
-    Enregistreur seize;
+    EXPECT_EQ(deux.Compter("R "), 2);
     ImprimerPlancheVierge(seize, "F5XYZ", enTetes);
-    EXPECT_EQ(seize.operations.front(), "P A4 portrait");
-    EXPECT_EQ(seize.operations.back(), "FIN");
     EXPECT_EQ(seize.Compter("R "), 16);
-    EXPECT_EQ(seize.Compter("FIN"), 1);
+    for (const Enregistreur& feuille : {deux, seize}) {
+        EXPECT_EQ(feuille.operations.front(), "P A4 portrait");
+        EXPECT_EQ(feuille.operations.back(), "FIN");
+        EXPECT_EQ(feuille.Compter("FIN"), 1);
+    }
 }
 
 } // namespace

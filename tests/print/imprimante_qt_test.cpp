@@ -1,3 +1,4 @@
+#include "aides.h"
 #include "print/etiquette.h"
 #include "print/imprimante_qt.h"
 #include "print/page_journal.h"
@@ -63,17 +64,11 @@ struct ImprimanteQtTest : testing::Test {
 };
 
 TEST_F(ImprimanteQtTest, PageDuCahier) {
-    const QString journal = dossier.filePath(u"essai.Vek"_s);
-    Session session;
+    const essai::Dossier autre;
+    const std::string fiche = essai::Brute({{0, "HB9\xC9\xC0"}, {151, "12/05/02"}});
+    Session session = essai::Ouvrir(autre.Poser("F5ABC.Vek", fiche + fiche));
     session.indicatif = "F5XYZ";
     session.pageAffichee = 3;
-    session.nbFiches = 2;
-    session.journal = Journal(journal.toStdString(), ModeFichier::Creation);
-    QsoRecord fiche;
-    MettreChamp(fiche, Champ::CSGN, "HB9ÉÀ");
-    MettreChamp(fiche, Champ::SQSL, "12/05/02");
-    session.journal.Ecrire(1, fiche);
-    session.journal.Ecrire(2, fiche);
     ImprimanteQt imprimante(pdf);
     ImprimerPage(imprimante, session, 1);
 
@@ -90,8 +85,8 @@ TEST_F(ImprimanteQtTest, PageDuCahier) {
 }
 
 TEST_F(ImprimanteQtTest, PlancheDEtiquettes) {
-    std::vector<EtiquettePlacee> etiquettes(kNbEtiquettes);
-    for (std::int16_t k = 1; k <= kNbEtiquettes; ++k)
+    std::vector<EtiquettePlacee> etiquettes(kEtiquettesParPlanche);
+    for (std::int16_t k = 1; k <= kEtiquettesParPlanche; ++k)
         etiquettes[static_cast<std::size_t>(k - 1)] = {
             k,
             {"F4A" + std::to_string(k), "", "", "BUREAU", "12/05/02", "18:30", "7", "599", "CW"}};

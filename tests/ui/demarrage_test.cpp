@@ -110,7 +110,7 @@ TEST(Demarrage, UnSecondProgrammeEstRefuse) {
     Orvalis autre(second);
     autre.show();
     autre.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&autre));
+    ASSERT_TRUE(QTest::qWaitFor([&second] { return second.codeDeFin.has_value(); }));
     ASSERT_EQ(second.avertissements.size(), 1U);
     EXPECT_TRUE(second.avertissements[0].contains(QStringLiteral("déjà ouvert")));
     EXPECT_EQ(second.codeDeFin, 1);

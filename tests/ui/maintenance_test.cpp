@@ -68,6 +68,14 @@ TEST(Maintenance, AutreCahierEnLectureSeulePuisRetour) {
     banc.Ouvrir();
     banc.Ecrire("F6XYZ.Vek", Contacts(30) + Fin("IN88AA"));
     banc.systeme.fichierChoisi = QString::fromStdString((banc.Dossier() / "F6XYZ.Vek").string());
+    // Cancelled, the dialog leaves even a question that waits as it was.
+    const QString choisi = std::exchange(banc.systeme.fichierChoisi, QString());
+    banc.Cliquer("TxtField_12");
+    banc.Taper("luc\n");
+    banc.Menu("MnuAutreF");
+    EXPECT_TRUE(banc.Visible("FraMsgFiche"));
+    banc.Cliquer("FraCmdNon");
+    banc.systeme.fichierChoisi = choisi;
     banc.Menu("MnuAutreF");
     EXPECT_EQ(banc.Texte("LabJournal"), QStringLiteral("F6XYZ (lecture seule) : 30 contacts"));
     EXPECT_FALSE(banc.Controle<QWidget>("BtNewQSO")->isEnabled());

@@ -68,7 +68,6 @@ constexpr std::array<ChampDeColonne, 14> kChampsDesColonnes = {{
     {MaQsl, Champ::MQSL},
     {SaQsl, Champ::SQSL},
 }};
-const std::string kMerci = "MERCI DU QSO 73"; // first line of the labels
 constexpr std::size_t kDemiInfo = 15;
 
 Ligne Decouper(const std::string& texte) {
@@ -142,7 +141,8 @@ std::vector<QslSlotRecord> Etiquettes(const std::vector<QsoRecord>& fiches) {
         copier(ChampEtiquette::Frequence, Champ::FREQ);
         copier(ChampEtiquette::Report, Champ::SRST);
         copier(ChampEtiquette::Mode, Champ::MODE);
-        MettreChamp(etiquette, ChampEtiquette::Ligne1, kMerci);
+        // The heading reads "F4YZX  Confirming QSO with  ...".
+        MettreChamp(etiquette, ChampEtiquette::Ligne1, kIndicatif);
         MettreChamp(etiquette, ChampEtiquette::Ligne2,
                     Rogner(Gauche(TexteChamp(fiche, Champ::INFO), kDemiInfo)));
         MettreChamp(etiquette, ChampEtiquette::Voie, kVoieBureau);

@@ -1,0 +1,85 @@
+// Prints what the guide shows of paper: orvalis_impression <drive> <folder>. From the logbook and
+// the label sheet of the drive, writes page.pdf (the last full page), etiquettes.pdf (the labels
+// prepared) and vierges.pdf (a sheet of blank labels) into the folder.
+#include "core/dossier.h"
+#include "core/fiches.h"
+#include "core/pages.h"
+#include "core/parametres.h"
+#include "print/etiquette.h"
+#include "print/imprimante_qt.h"
+#include "print/page_journal.h"
+#include "qsl/feuille_qsl.h"
+#include "qsl/flux_etiquettes.h"
+
+#include <QGuiApplication>
+#include <QPrinter>
+
+#include <algorithm>
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+#include <functional>
+#include <vector>
+
+using namespace orvalis;
+namespace fs = std::filesystem;
+
+namespace {
+
+void ImprimerPdf(const fs::path& chemin, const std::function<void(Imprimante&)>& dessin) {
+    QPrinter sortie(QPrinter::HighResolution);
+    sortie.setOutputFormat(QPrinter::PdfFormat);
+    sortie.setOutputFileName(QString::fromStdString(chemin.string()));
+    ImprimanteQt imprimante(sortie);
+    dessin(imprimante);
+}
+
+std::vector<EtiquettePlacee> EtiquettesPreparees(const fs::path& dossier) {
+    FeuilleQSL feuille;
+    ChargerFeuilleQSL(feuille, dossier);
+    std::vector<EtiquettePlacee> etiquettes;
+    for (const int k : EtiquettesAImprimer(feuille)) {
+        const QslSlotRecord fiche = LireEnregistrement(feuille, k);
+        const auto texte = [&fiche](ChampEtiquette champ) { return TexteRogne(fiche, champ); };
+        using enum ChampEtiquette;
+        etiquettes.push_back(
+            {static_cast<std::int16_t>(k),
+             {texte(Indicatif), texte(Ligne1), texte(Ligne2), texte(Voie), texte(Date),
+              texte(Heure), texte(Frequence), texte(Report), texte(Mode)}});
+    }
+    return etiquettes;
+}
+
+} // namespace
+
+int main(int nbArguments, char** arguments) try {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(nbArguments, arguments);
+    if (nbArguments != 3) {
+        std::fputs("usage: orvalis_impression <drive> <folder>\n", stderr);
+        return 2;
+    }
+    const fs::path dossier = DossierProgramme(arguments[1]);
+    const fs::path sortie = arguments[2];
+    const Parametres parametres = LireParametres(TrouverFichier(dossier, kNomParametres));
+    Session session;
+    session.indicatif = parametres.indicatif;
+    OuvrirJournal(session, TrouverFichier(dossier, parametres.nomFichier));
+    CompterFiches(session);
+    session.pageAffichee = std::max(1, session.nbFiches / kFichesParPage);
+    session.premiereAffichee = CalculerPlage(session.pageAffichee, session.nbFiches).premiere;
+    ImprimerPdf(sortie / "page.pdf", [&](Imprimante& imprimante) {
+        ImprimerPage(imprimante, session, session.premiereAffichee);
+    });
+    EnTetesEtiquettes enTetes;
+    std::vector<EtiquettePlacee> etiquettes = EtiquettesPreparees(dossier);
+    ImprimerPdf(sortie / "etiquettes.pdf",
+                [&](Imprimante& imprimante) { ImprimerPlanche(imprimante, etiquettes, enTetes); });
+    ImprimerPdf(sortie / "vierges.pdf", [&](Imprimante& imprimante) {
+        ImprimerPlancheVierge(imprimante, session.indicatif, enTetes);
+    });
+    return 0;
+} catch (const std::exception& erreur) {
+    std::fprintf(stderr, "orvalis_impression: %s\n", erreur.what());
+    return 1;
+}
