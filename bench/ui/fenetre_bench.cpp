@@ -232,7 +232,7 @@ void ImprimerPdf(benchmark::State& etat, const Carnet& carnet) {
 
 // As many bytes as such a PDF has.
 void EcrirePdf(benchmark::State& etat, const Carnet& carnet) {
-    constexpr std::size_t kOctetsPdf = 40000;
+    constexpr std::size_t kOctetsPdf = 18500;
     for ([[maybe_unused]] auto _ : etat) {
         const Brut fichier(Imprime(carnet).toStdString());
         ParBlocs(kOctetsPdf, [&](auto position, auto octets) { fichier.Ecrire(position, octets); });
