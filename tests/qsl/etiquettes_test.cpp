@@ -154,12 +154,6 @@ TEST(FluxEtiquettes, WholeLifeOfALabel) {
     EXPECT_EQ(TexteBoite14(validee, 1), std::nullopt);
     EXPECT_EQ(banc.Sheet(), prete);
     EXPECT_EQ(banc.Cahier(), cahier("En cours"));
-    CliquerChoix(feuille, 1);
-    EXPECT_EQ(TexteBoite14(banc.Retirer(), 2), "");
-    EXPECT_EQ(banc.Cahier(), cahier(""));
-    banc.Preparer(2);
-    ChoisirVoie(feuille, VoieQSL::Direct);
-    EXPECT_TRUE(banc.Placer().fait && feuille.vue.imprimer);
     EXPECT_FALSE(ToutEstParfait(banc.session, feuille, "22/11/26").fait);
     EXPECT_EQ(banc.Sheet(), prete);
     EXPECT_EQ(TexteBoite14(banc.Finir("22/11/26"), 2), "22/11/26");
