@@ -41,8 +41,7 @@ TEST_F(Recherche, ParIndicatif) {
         {"éTÉ", "9 | 1 Contact réalisé | "},
         {"F5AB", "| 0 Contact réalisé | "},
         {"18:30", "| 0 Contact réalisé | "}, // too short for a date or a time: a callsign
-        {"   ", "| 0 Contact réalisé | "},
-    };
+        {"   ", "| 0 Contact réalisé | "}};
     Verifier(dire, cas);
     const auto lignes = Chercher("F5ABC").lignes;
     EXPECT_EQ(lignes[0], "1     Le 12/05/02 à 18:30 sur 14.250 Mhz      ");

@@ -29,13 +29,10 @@ TEST(Texte, CeQuiNEstPasEnregistrableDevientUnPointDInterrogation) {
 
 TEST(Texte, LesLargeursComptentDesCaracteres) {
     EXPECT_EQ(Cadrer("été", 5) + Cadrer("étéà", 3) + Cadrer("", 2), "été  été  ");
-    EXPECT_EQ(Gauche("éàü", 2), "éà");
-    EXPECT_EQ(Droite("éàü", 2), "àü");
-    EXPECT_EQ(Droite("é", 2), "é");
+    EXPECT_EQ(std::string{Droite("éàü", 2)} + std::string{Droite("é", 2)}, "àüé");
     EXPECT_EQ(Milieu("éàüo", 2, 2), "àü");
     EXPECT_EQ(Milieu("éà", 3, 1), "");
-    const Textes cas = {{"  à b  ", "à b"}, {"   ", ""}, {"\t a", "\t a"}};
-    Verifier(Rogner, cas);
+    EXPECT_EQ(Rogner("  \tà b  "), "\tà b");
 }
 
 TEST(Texte, CasseDesLettresAccentuees) {
@@ -44,9 +41,8 @@ TEST(Texte, CasseDesLettresAccentuees) {
 }
 
 TEST(Texte, ValeurDesPremiersChiffres) {
-    const Table<int> cas = {
-        {"", 0},   {"A1", 0},   {"2A", 2}, {"007", 7},
-        {" 5", 0}, {"12/", 12}, {"-3", 0}, {"99999999999999999999", 999'999'999}};
+    const Table<int> cas = {{"A1", 0}, {"2A", 2}, {"007", 7},
+                            {" 5", 0}, {"-3", 0}, {std::string(20, '9'), 999'999'999}};
     Verifier(ValeurNumerique, cas);
 }
 
@@ -90,13 +86,16 @@ TEST(Departements, NomDuCode) {
 }
 
 TEST(Pages, NombreEtPlages) {
-    const std::int32_t cas[][4] = {// contacts, pages, range of the last page
-                                   {0, 1, 1, 0},    {1, 1, 1, 1},    {25, 1, 1, 25},
-                                   {26, 2, 26, 26}, {50, 2, 26, 50}, {51, 3, 51, 51}};
-    for (const auto& [nb, pages, premiere, derniere] : cas) {
-        const PlagePage plage = CalculerPlage(pages, nb);
-        EXPECT_EQ(CalculerPages(nb), pages) << nb;
-        EXPECT_TRUE(plage.premiere == premiere && plage.derniere == derniere) << nb;
+    // contacts, pages, range of the last page
+    for (const auto& [nb, pages, premiere, derniere] : {std::array{0, 1, 1, 0},
+                                                        {1, 1, 1, 1},
+                                                        {25, 1, 1, 25},
+                                                        {26, 2, 26, 26},
+                                                        {50, 2, 26, 50},
+                                                        {51, 3, 51, 51}}) {
+        EXPECT_EQ(CalculerPages(nb), pages);
+        EXPECT_EQ(CalculerPlage(pages, nb).premiere, premiere) << nb;
+        EXPECT_EQ(CalculerPlage(pages, nb).derniere, derniere) << nb;
     }
     EXPECT_EQ(CalculerPlage(CalculerPages(32767), 40000).derniere, 32767);
 }
@@ -112,13 +111,11 @@ TEST(Pages, LigneDeLaListe) {
 }
 
 TEST(Boites, TouchesDeChaqueBoite) {
-    const struct {
-        std::size_t boite;
-        std::string_view saisie, pris;
-    } cas[] = {{1, "f6é-\t\n", "F6É-"}, {2, "-./09:;+a 漢", "./09:"}, {5, "14.250,5", "14.2505"},
-               {7, "5+9a-*,", "5+9"},   {11, "2A./:+b", "2"},         {12, "jean €漢", "jean €?"}};
-    for (const auto& c : cas)
-        EXPECT_EQ(FiltrerTouches(Boite(c.boite).touches, c.saisie), c.pris);
+    EXPECT_EQ(FiltrerTouches(Touches::Majuscules, "f6é-\t\n"), "F6É-");
+    EXPECT_EQ(FiltrerTouches(Touches::DateHeureFreq, "-./09:;+a 漢,"), "./09:");
+    EXPECT_EQ(FiltrerTouches(Touches::Report, "5+9a-*,"), "5+9");
+    EXPECT_EQ(FiltrerTouches(Touches::Chiffres, "2A./:+b"), "2");
+    EXPECT_EQ(FiltrerTouches(Touches::Libres, "jean €漢"), "jean €?");
     std::string genres; // what each box makes of "a+:1"
     for (const DescriptionBoite& boite : kBoites)
         genres += FiltrerTouches(boite.touches, "a+:1") + " ";

@@ -40,10 +40,9 @@ TEST(Notations, TexteDecimal) {
         {0, {"", "-", ".", "--5", "/5", "inf", "nan", "0." + std::string(400, '0') + "1"}},
         {1000, {"99999", std::string(400, '9')}},
         {-1000, {"-" + std::string(400, '9')}}};
-    for (const auto& [attendu, textes] : lectures) {
+    for (const auto& [attendu, textes] : lectures)
         for (const std::string& texte : textes)
             EXPECT_EQ(LireDecimal(texte), attendu) << texte;
-    }
 }
 
 TEST(Notations, CaracteresAcceptes) {
@@ -52,10 +51,8 @@ TEST(Notations, CaracteresAcceptes) {
                                                          {GenreBoite::Cote, u"EOeo"},
                                                          {GenreBoite::Decimal, u"-./0123456789"}};
     for (const auto& [genre, acceptes] : cas) {
-        for (char16_t c = 1; c < 0x180; ++c) {
-            const bool accepte = acceptes.find(c) != std::u16string::npos;
-            EXPECT_EQ(FiltrerCaractere(genre, c) != 0, accepte) << static_cast<int>(c);
-        }
+        for (char16_t c = 1; c < 0x180; ++c)
+            EXPECT_EQ(FiltrerCaractere(genre, c) != 0, acceptes.find(c) != acceptes.npos) << +c;
     }
     EXPECT_EQ(FiltrerCaractere(GenreBoite::Cote, u'o'), u'O');
     const std::pair<char16_t, char16_t> locator[] = {
@@ -67,21 +64,14 @@ TEST(Notations, CaracteresAcceptes) {
 
 TEST(Notations, TexteInsere) {
     const RegleBoite chiffres{GenreBoite::Chiffres, 2, 90};
-    struct {
-        RegleBoite regle;
-        std::u16string texte;
-        std::size_t curseur;
-        std::u16string attendu;
-        std::size_t curseurAttendu;
-    } const cas[] = {{chiffres, u"4a5", 3, u"45", 2},   // dropped before the cut
-                     {chiffres, u"9x844", 3, u"44", 0}, // what stood behind the insertion stays
-                     {chiffres, u"4995", 3, u"45", 1},
-                     {{GenreBoite::Locator, 6, 0}, u"jn04\tsd!", 8, u"JN04SD", 6}};
-    for (const auto& c : cas) {
-        const auto filtre = FiltrerTexte(c.regle, c.texte, c.curseur);
-        EXPECT_EQ(filtre.texte, c.attendu);
-        EXPECT_EQ(filtre.curseur, c.curseurAttendu);
-    }
+    const auto filtrer = [&](const std::u16string& texte) {
+        const auto filtre = FiltrerTexte(chiffres, texte, 3);
+        return std::pair{filtre.texte, static_cast<unsigned>(filtre.curseur)};
+    };
+    EXPECT_EQ(filtrer(u"4a5"), (std::pair{std::u16string{u"45"}, 2U})); // dropped before the cut
+    EXPECT_EQ(filtrer(u"9x844"),
+              (std::pair{std::u16string{u"44"}, 0U})); // what stood behind the insertion stays
+    EXPECT_EQ(filtrer(u"4995"), (std::pair{std::u16string{u"45"}, 1U}));
 }
 
 } // namespace

@@ -23,14 +23,21 @@ DonneesEtiquette Exemple() {
             "14.250    ",      "599     ",        "CW   "};
 }
 
+/// Prints one label as the tests see it: from the corner of its place.
+Enregistreur Imprimer(std::int16_t numero, GenreEtiquette genre, DonneesEtiquette& donnees,
+                      EnTetesEtiquettes& enTetes) {
+    const OrigineEtiquette o = OrigineDeEtiquette(PlaceDeEtiquette(numero));
+    Enregistreur imprimante("Comic sans MS", o.x, o.y);
+    ImprimerEtiquette(imprimante, PlaceDeEtiquette(numero), genre, donnees, "F5XYZ", enTetes);
+    return imprimante;
+}
+
 TEST(EtiquetteTest, Remplie) {
-    Enregistreur imprimante("Comic sans MS", 6100, 2380);
     DonneesEtiquette donnees = Exemple();
     donnees.texte2 = " F6KQV ";
     EnTetesEtiquettes enTetes{"", "d'avant"};
-    ImprimerEtiquette(imprimante, PlaceDeEtiquette(4), GenreEtiquette::Remplie, donnees, "F5XYZ",
-                      enTetes);
-    EXPECT_THAT(imprimante.operations, UnorderedElementsAreArray(Liste(kCommun + R"(
+    const auto page = Imprimer(4, GenreEtiquette::Remplie, donnees, enTetes);
+    EXPECT_THAT(page.operations, UnorderedElementsAreArray(Liste(kCommun + R"(
  T 950 20 10g SALUT  Confirming QSO with  F4ABC; T 2100 300 10g Via QSL Manager F6KQV;
  T 620 920 8g Courrier F4ABC; T 1566 920 8g Courrier 12/05/02; T 2315 920 8g Courrier 18:30;
  T 3007 920 8g Courrier 14.250; T 3996 920 8g Courrier 599; T 4704 920 8g Courrier CW;
@@ -40,31 +47,25 @@ TEST(EtiquetteTest, Remplie) {
 }
 
 TEST(EtiquetteTest, Vierge) {
-    Enregistreur imprimante("Comic sans MS", 300, 14260);
     DonneesEtiquette rien = Exemple();
     EnTetesEtiquettes enTetes{std::string(47, 'x'), ""};
-    ImprimerEtiquette(imprimante, PlaceDeEtiquette(15), GenreEtiquette::Vierge, rien, "F5XYZ",
-                      enTetes);
-    EXPECT_THAT(imprimante.operations, UnorderedElementsAreArray(Liste(kCommun + R"(
+    const auto page = Imprimer(15, GenreEtiquette::Vierge, rien, enTetes);
+    EXPECT_THAT(page.operations, UnorderedElementsAreArray(Liste(kCommun + R"(
  T 200 20 10g  F5XYZ   Confirming QSO with; T 400 1250 8g Courrier Pse / Tnx  QSL via  ;)")));
     EXPECT_EQ(enTetes.remplie, std::string(47, 'x'));
 }
 
 TEST(EtiquetteTest, CorpsDeLEnTete) {
-    const std::pair<const char*, const char*> cas[] = {
-        // first line, heading and its place
-        {"ÉSALUT DE 13 C", "T 720 20 8g ÉSALUT DE 13 C  Confirming QSO with  HB9/F4ABCP"},
-        {"ÉSALUT DE 13C", "T 300 20 10g ÉSALUT DE 13C  Confirming QSO with  HB9/F4ABCP"},
-    };
-    for (const auto& [texte1, operation] : cas) {
-        Enregistreur imprimante("Comic sans MS", 300, 400);
+    for (const auto& [texte1, debut] :
+         {std::pair{"ÉSALUT DE 13 C", "T 720 20 8g "}, {"ÉSALUT DE 13C", "T 300 20 10g "}}) {
         DonneesEtiquette donnees = Exemple();
         donnees.indicatif = "HB9/F4ABCP";
         donnees.texte1 = texte1;
         EnTetesEtiquettes enTetes;
-        ImprimerEtiquette(imprimante, {1, 1}, GenreEtiquette::Remplie, donnees, {}, enTetes);
-        EXPECT_EQ(imprimante.Compter(operation), 1) << operation;
-        EXPECT_EQ(imprimante.Compter("T 2100 300"), 0) << "no manager";
+        const auto page = Imprimer(1, GenreEtiquette::Remplie, donnees, enTetes);
+        const std::string enTete = std::string{texte1} + "  Confirming QSO with  HB9/F4ABCP";
+        EXPECT_EQ(page.Compter(debut + enTete), 1) << texte1;
+        EXPECT_EQ(page.Compter("T 2100 300"), 0) << "no manager";
     }
 }
 
