@@ -52,7 +52,10 @@ TexteEdite FiltrerEdition(Touches touches, std::size_t longueur, std::string_vie
     const std::size_t garde =
         PrefixeCommun(ancien, avantCurseur, std::min(limite, nouveau.curseur));
     const std::string_view debut = Gauche(nouveau.texte, garde);
-    const std::string insere = FiltrerTouches(touches, avantCurseur.substr(debut.size()));
+    const std::string_view tape = avantCurseur.substr(debut.size());
+    const std::string insere = FiltrerTouches(touches, tape);
+    if (insere.empty() && !tape.empty())
+        return {std::string{ancien}, avant};
     const std::size_t occupe = Longueur(debut) + Longueur(suite);
     const std::size_t place = longueur > occupe ? longueur - occupe : 0;
     const std::string_view pris = Gauche(insere, place);

@@ -74,7 +74,8 @@ struct TexteEdite {
 
 /// What a box of `longueur` characters holds when an edit turned `ancien` into `nouveau`, leaving
 /// the cursor behind the inserted part: that part alone is filtered by `touches`, then cut to the
-/// room that is left. What stood in the box before is never touched.
+/// room that is left. What stood in the box before is never touched; where nothing of an inserted
+/// part passes, the edit is undone, so that a refused paste does not erase what was selected.
 [[nodiscard]] TexteEdite FiltrerEdition(Touches touches, std::size_t longueur,
                                         std::string_view ancien, const TexteEdite& nouveau);
 

@@ -1,5 +1,6 @@
 #include "core/dossier.h"
 
+#include "core/fichier.h"
 #include "core/texte.h"
 
 #include <array>
@@ -34,7 +35,19 @@ bool Convient(const PointDeMontage& point, const std::vector<fs::path>& composan
            (point.debut[1].empty() || composants[1] == point.debut[1]);
 }
 
+bool EstAbsence(const std::error_code& erreur) {
+    return erreur == std::errc::no_such_file_or_directory || erreur == std::errc::not_a_directory;
+}
+
 } // namespace
+
+bool Present(const fs::path& chemin) {
+    std::error_code erreur;
+    const fs::file_status etat = fs::status(chemin, erreur);
+    if (erreur && !EstAbsence(erreur))
+        throw ErreurFichier(ActionFichier::Ouvrir, chemin, erreur);
+    return fs::exists(etat);
+}
 
 fs::path CalculerLecteur(const fs::path& courant, const fs::path& maison) {
     const std::string texte = courant.string();
@@ -65,14 +78,16 @@ fs::path DossierProgramme(const fs::path& lecteur) {
 
 fs::path TrouverFichier(const fs::path& dossier, std::string_view nom) {
     const fs::path exact = dossier / fs::path{nom};
-    std::error_code erreur;
-    if (fs::exists(exact, erreur))
+    if (Present(exact))
         return exact;
+    std::error_code erreur;
     const std::string cherche = Majuscules(nom);
     for (auto it = fs::directory_iterator(dossier, erreur);
          !erreur && it != fs::directory_iterator(); it.increment(erreur))
         if (Majuscules(it->path().filename().string()) == cherche)
             return it->path();
+    if (erreur && !EstAbsence(erreur))
+        throw ErreurFichier(ActionFichier::Ouvrir, dossier, erreur);
     return exact;
 }
 

@@ -70,7 +70,8 @@ void Orvalis::BrancherMaintenance() {
 }
 
 void Orvalis::BrancherPanneaux() {
-    Brancher(timer1_, &QTimer::timeout, [this](auto&&...) { AfficherHeure(p_); });
+    // The clock runs on while the window is frozen.
+    connect(timer1_, &QTimer::timeout, this, [this] { AfficherHeure(p_); });
     Brancher(&p_.horloge, &PanneauHorloge::miseALHeureDemandee,
              [this] { LancerCompagnon(p_, "Chronel.exe"); });
     connect(&p_.menu, &PictMenu::fermetureDemandee, this, &QWidget::close);
@@ -93,6 +94,8 @@ void Orvalis::BrancherNavigation() {
     Brancher(&p_.liste, &PictListe::touche,
              [this](ToucheListe touche, bool* prise) { *prise = SurToucheListe(p_, touche); });
     Brancher(&p_.page, &FeuilleLog::rangeeChoisie, [this](std::int32_t k) {
+        if (session_.saisie.EnSaisie)
+            return;
         p_.liste.Selectionner(k - session_.premiereAffichee);
         ChoisirFiche(p_, k);
     });

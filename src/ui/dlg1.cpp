@@ -36,7 +36,8 @@ Dlg1::Dlg1(std::filesystem::path lecteur, Systeme& systeme, QWidget* parent)
     place.setRetainSizeWhenHidden(true);
     ui_->Dlg1Fra3->setSizePolicy(place);
     ui_->Dlg1Fra3->hide();
-    FiltrerMajuscules(*ui_->Dlg1Fra2Text1, Boite(1).longueur);
+    constexpr std::size_t kLongueurIndicatif = 20;
+    FiltrerMajuscules(*ui_->Dlg1Fra2Text1, kLongueurIndicatif);
     FiltrerMajuscules(*ui_->Dlg1Fra2Text2, 6);
     for (QLineEdit* boite : {ui_->Dlg1Fra2Text1, ui_->Dlg1Fra2Text2}) {
         boite->installEventFilter(this);

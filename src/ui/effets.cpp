@@ -4,8 +4,10 @@
 #include "ui/chang_locator.h"
 #include "ui/flux_locator.h"
 #include "ui/msg_fiche.h"
+#include "ui/panneau_contacts.h"
 #include "ui/panneau_enrs.h"
 #include "ui/panneau_fiche.h"
+#include "ui/panneau_menu.h"
 #include "ui/systeme.h"
 
 #include <QApplication>
@@ -72,6 +74,22 @@ void DonnerFoyer(Plateau& p, std::size_t index) {
 void LacherFoyer() {
     if (QWidget* foyer = QApplication::focusWidget())
         foyer->clearFocus();
+}
+
+void Cacher(QWidget& panneau) {
+    QWidget* foyer = QApplication::focusWidget();
+    if (foyer != nullptr && panneau.isAncestorOf(foyer))
+        foyer->clearFocus();
+    panneau.hide();
+}
+
+void ReactiverBoutons(Plateau& p) {
+    if (p.contacts.isVisible())
+        return;
+    const Session& s = p.session;
+    p.menu.ActiverNouveau(!s.LectureSeule());
+    p.menu.ActiverFermer(true);
+    p.menu.ActiverSupprimer(s.nbFiches > 0 && !s.LectureSeule());
 }
 
 Gel::Gel(Plateau& p) : p_(p), avant_(p.gel) {

@@ -6,6 +6,8 @@
 
 #include <cstddef>
 
+class QWidget;
+
 namespace orvalis {
 
 /// Stores the state of `reponse` in the session and shows its effects: texts, colours, labels,
@@ -17,6 +19,12 @@ void DonnerFoyer(Plateau& p, std::size_t index);
 
 /// Takes the focus away, so that hiding or disabling controls does not push it into a box.
 void LacherFoyer();
+
+/// Hides a panel; a focus inside it goes nowhere, that elsewhere stays where it is.
+void Cacher(QWidget& panneau);
+
+/// Gives back the idle buttons that a contacts list had disabled, once none is on show.
+void ReactiverBoutons(Plateau& p);
 
 /// While one lives, keyboard and mouse act on nothing but quitting.
 class Gel {

@@ -44,7 +44,7 @@ constexpr int DemiLargeur(const ColonnePage& colonne) {
 FeuilleLog::FeuilleLog(QWidget* parent) : QAbstractScrollArea(parent) {
     setObjectName(QStringLiteral("PageText1"));
     setAccessibleName(QStringLiteral("Page du cahier papier"));
-    setFocusPolicy(Qt::ClickFocus);
+    setFocusPolicy(Qt::NoFocus);
     setFrameShape(QFrame::StyledPanel);
     Ajuster();
 }

@@ -49,7 +49,7 @@ Demarrage ChargerParametres(Plateau& p) {
     s.lecteur = p.systeme.Lecteur();
     const fs::path dossier = DossierProgramme(s.lecteur);
     const fs::path chemin = TrouverFichier(dossier, kNomParametres);
-    if (!fs::is_directory(dossier) || !fs::exists(chemin)) {
+    if (!Present(dossier) || !Present(chemin)) {
         Dlg1 creation(s.lecteur, p.systeme, &p.fenetre);
         return creation.exec() == QDialog::Accepted ? Demarrage::Recommencer : Demarrage::Arreter;
     }
@@ -77,7 +77,10 @@ void InitialiserFenetre(Plateau& p) {
     p.menu.ActiverFermer(true);
     p.rech.setVisible(s.nbFiches != 0 && !s.EnEdition());
     p.liste.ReglerDefilement(s.nbFiches, s.nbFiches);
-    p.liste.DonnerFoyer();
+    if (s.nbFiches != 0)
+        p.liste.DonnerFoyer();
+    else
+        p.menu.DonnerFoyerNouveau();
     p.fenetre.setWindowTitle(Q(Titre(s)));
 }
 

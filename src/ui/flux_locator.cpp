@@ -26,7 +26,7 @@ void ChangerDeLocator(Plateau& p) {
     if (!p.session.saisie.EnSaisie)
         return;
     p.fiche.MontrerActiveRech(false);
-    p.contacts.hide();
+    Cacher(p.contacts);
     OuvrirChangLocator(p);
 }
 
@@ -57,8 +57,10 @@ void SurEntreeLocator(Plateau& p) {
             const Gel gel(p);
             p.systeme.Pause(1);
         }
-        if (!p.arret)
-            p.changLocator.Montrer("");
+        if (p.arret)
+            break;
+        p.changLocator.DonnerFoyerTexte();
+        p.changLocator.Montrer("");
         break;
     }
 }

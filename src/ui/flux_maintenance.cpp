@@ -49,7 +49,7 @@ void Classer(Plateau& p) {
     AbandonnerModification(p);
     p.liste.setEnabled(false);
     p.fiche.setEnabled(false);
-    p.contacts.hide();
+    Cacher(p.contacts);
     p.fiche.MontrerActiveRech(false);
     p.rech.hide();
     p.jumelage.hide();

@@ -5,6 +5,7 @@
 #include "ui/effets.h"
 #include "ui/flux_navigation.h"
 #include "ui/msg_fiche.h"
+#include "ui/panneau_contacts.h"
 #include "ui/panneau_fiche.h"
 #include "ui/panneau_menu.h"
 #include "ui/panneau_rech.h"
@@ -24,9 +25,9 @@ void Supprimer(Plateau& p) {
     MontrerPage(p, std::min(page, s.pageAffichee));
     SelectionnerDerniereLigne(p);
     MontrerNomDuJournal(p);
-    p.menu.ActiverSupprimer(s.nbFiches > 0);
-    if (s.nbFiches == 0)
-        p.rech.hide();
+    // The numbers in a contacts list no longer hold.
+    Cacher(p.contacts);
+    p.rech.setVisible(s.nbFiches != 0);
 }
 
 void EnregistrerModification(Plateau& p) {
@@ -51,11 +52,13 @@ void AbandonnerModification(Plateau& p) {
     p.menu.setEnabled(true);
     for (std::size_t i = 1; i <= kNbBoites; ++i)
         ColorerZone(p.fiche, i, CouleurAuRepos(i));
+    ReactiverBoutons(p);
 }
 
 void DemanderSuppression(Plateau& p) {
     const Session& s = p.session;
-    if (s.saisie.EnSaisie || s.LectureSeule() || s.ficheCourante < 1)
+    if (s.saisie.EnSaisie || s.LectureSeule() || s.ficheCourante < 1 ||
+        s.ficheCourante > s.nbFiches)
         return;
     if (s.saisie.EnModification || s.saisie.NbModifs != 0)
         ChoisirFiche(p, s.ficheCourante);
@@ -73,6 +76,7 @@ void RepondreOuiAuCadre(Plateau& p) {
         Supprimer(p);
     else
         EnregistrerModification(p);
+    ReactiverBoutons(p);
     p.liste.DonnerFoyer();
 }
 
@@ -85,8 +89,9 @@ void RepondreNonAuCadre(Plateau& p) {
         AfficherFiche(p);
     else
         p.liste.setEnabled(true);
-    p.liste.DonnerFoyer();
     p.menu.setEnabled(true);
+    ReactiverBoutons(p);
+    p.liste.DonnerFoyer();
     // The callsign field of the buffer always holds fifteen characters: the button always comes.
     p.fiche.MontrerActiveRech(true);
 }

@@ -27,6 +27,7 @@ void AllerPage(Plateau& p, std::int32_t page, bool derniereLigne) {
 }
 
 void ViderCarte(Plateau& p) {
+    AbandonnerModification(p);
     p.session.zones = {};
     for (std::size_t i = 1; i <= kNbBoites; ++i)
         p.fiche.MontrerBoite(i, "");
@@ -92,7 +93,7 @@ void SelectionnerDerniereLigne(Plateau& p) {
 }
 
 void ChoisirFiche(Plateau& p, std::int32_t k) {
-    if (p.session.saisie.EnSaisie || k < 1)
+    if (p.session.saisie.EnSaisie || k < 1 || k > p.session.nbFiches)
         return;
     AbandonnerModification(p);
     p.session.ficheCourante = k;

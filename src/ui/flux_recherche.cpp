@@ -14,20 +14,21 @@ namespace {
 
 // Shows a result. Its first line is selected, which shows that contact's card unless one is being
 // entered or corrected.
-void MontrerResultat(Plateau& p, const ResultatRecherche& resultat) {
+void MontrerResultat(Plateau& p, const ResultatRecherche& resultat, bool selection) {
     p.contacts.Remplir(resultat.lignes);
     p.contacts.MontrerCompte(resultat.nbreContacts);
     if (resultat.contactsLab)
         p.contacts.MontrerNature(*resultat.contactsLab);
-    if (resultat.lignes.empty() || p.session.EnEdition())
+    if (resultat.lignes.empty() || !selection)
         return;
     p.contacts.Selectionner(0);
-    ChoisirFiche(p, p.contacts.NumeroDe(0));
+    if (!p.session.EnEdition())
+        ChoisirFiche(p, p.contacts.NumeroDe(0));
 }
 
-void ActiverBoutonsDuLog(Plateau& p, bool actifs) {
-    p.menu.ActiverNouveau(actifs && !p.session.LectureSeule());
-    p.menu.ActiverFermer(actifs);
+void DesactiverBoutonsDuLog(Plateau& p) {
+    p.menu.ActiverNouveau(false);
+    p.menu.ActiverFermer(false);
 }
 
 bool IndicatifSurLaCarte(const Plateau& p) {
@@ -40,16 +41,16 @@ void VoirContacts(Plateau& p) {
     const Sablier sablier;
     const std::string indicatif = p.fiche.TexteBoite(1);
     const bool enEdition = p.session.EnEdition();
-    LacherFoyer();
     p.fiche.MontrerActiveRech(false);
-    p.rech.hide();
+    Cacher(p.rech);
     if (!indicatif.empty())
-        MontrerResultat(p, ChercherContacts(p.session.journal, p.session.nbFiches, indicatif));
+        MontrerResultat(p, ChercherContacts(p.session.journal, p.session.nbFiches, indicatif),
+                        true);
     p.contacts.show();
     p.fiche.MontrerActiveRech(false);
     if (enEdition)
         p.menu.ActiverSupprimer(false);
-    ActiverBoutonsDuLog(p, false);
+    DesactiverBoutonsDuLog(p);
     if (enEdition)
         DonnerFoyer(p, static_cast<std::size_t>(p.session.saisie.DerniereZone));
     else
@@ -60,9 +61,8 @@ void Rechercher(Plateau& p) {
     const std::string texte = p.rech.Texte();
     if (texte.empty())
         return;
-    MontrerResultat(p, ChercherContacts(p.session.journal, p.session.nbFiches, texte));
-    LacherFoyer();
-    p.rech.hide();
+    MontrerResultat(p, ChercherContacts(p.session.journal, p.session.nbFiches, texte), true);
+    Cacher(p.rech);
     p.contacts.show();
     p.rech.Vider();
     if (IndicatifSurLaCarte(p))
@@ -75,13 +75,14 @@ void Rechercher(Plateau& p) {
 
 void CliquerRecherche(Plateau& p) {
     p.rech.Vider();
-    p.contacts.hide();
+    Cacher(p.contacts);
+    if (!p.session.EnEdition())
+        ReactiverBoutons(p);
 }
 
 void FermerContacts(Plateau& p) {
-    LacherFoyer();
-    p.contacts.hide();
-    p.rech.show();
+    Cacher(p.contacts);
+    p.rech.setVisible(p.session.nbFiches != 0);
     if (IndicatifSurLaCarte(p))
         p.fiche.MontrerActiveRech(true);
     if (p.session.EnEdition()) {
@@ -89,8 +90,7 @@ void FermerContacts(Plateau& p) {
         return;
     }
     p.rech.Vider();
-    ActiverBoutonsDuLog(p, true);
-    p.menu.ActiverSupprimer(p.session.nbFiches > 0 && !p.session.LectureSeule());
+    ReactiverBoutons(p);
     p.liste.setEnabled(true);
     p.liste.DonnerFoyer();
 }
@@ -99,15 +99,13 @@ void MontrerDoublons(Plateau& p) {
     const Sablier sablier;
     if (p.session.saisie.EnSaisie)
         p.liste.setEnabled(true);
-    LacherFoyer();
     p.fiche.MontrerActiveRech(false);
-    p.rech.hide();
+    Cacher(p.rech);
     p.contacts.show();
-    MontrerResultat(p, ChercherDoublons(p.session.journal, p.session.nbFiches));
-    ActiverBoutonsDuLog(p, false);
-    if (p.session.EnEdition())
-        DonnerFoyer(p, static_cast<std::size_t>(p.session.saisie.DerniereZone));
-    else
+    MontrerResultat(p, ChercherDoublons(p.session.journal, p.session.nbFiches),
+                    !p.session.EnEdition());
+    DesactiverBoutonsDuLog(p);
+    if (!p.session.EnEdition())
         p.contacts.DonnerFoyer();
 }
 

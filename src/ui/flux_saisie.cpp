@@ -23,7 +23,7 @@ namespace {
 void OuvrirFicheVierge(Plateau& p) {
     LacherFoyer();
     p.rech.hide();
-    p.contacts.hide();
+    Cacher(p.contacts);
     p.changLocator.hide();
     p.jumelage.hide();
     p.enrs.ActiverAnnuler(false);
@@ -78,13 +78,12 @@ void EnregistrerEtTerminer(Plateau& p) {
     LacherFoyer();
     p.session.saisie.EnSaisie = false;
     p.enrs.hide();
-    p.contacts.hide();
+    Cacher(p.contacts);
     p.changLocator.hide();
     p.fiche.MontrerNonEnregistre(false);
     p.menu.show();
     p.liste.setEnabled(true);
     RemplirListe(p);
-    p.menu.ActiverSupprimer(p.session.nbFiches != 0);
     p.rech.setVisible(p.session.nbFiches != 0);
     AbandonnerModification(p);
     SelectionnerDerniereLigne(p);
@@ -106,6 +105,10 @@ void SurEntree(Plateau& p, std::size_t boite) {
 
 void SurFocusPris(Plateau& p, std::size_t boite) {
     AppliquerReponse(p, PrendreFoyer(p.session, boite));
+    // On a stored card the box left behind has just shown its slot again, and that text must not
+    // be taken for this box's.
+    if (!p.session.saisie.EnSaisie)
+        p.session.saisie.TexteSaisi = p.fiche.TexteBoite(boite);
 }
 
 void SurFocusPerdu(Plateau& p, std::size_t boite) {

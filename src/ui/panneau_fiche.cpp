@@ -191,6 +191,8 @@ void PictFiche::MontrerDepartement(std::string_view nom) {
 }
 
 void PictFiche::MontrerActiveRech(bool visible) {
+    if (!visible)
+        btActiveRech_->clearFocus(); // hiding it would push the focus into a box
     btActiveRech_->setVisible(visible);
 }
 

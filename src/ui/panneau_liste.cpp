@@ -135,7 +135,8 @@ bool PictListe::eventFilter(QObject* objet, QEvent* evenement) {
                 continue;
             bool prise = false;
             Q_EMIT touche(ligne.sens, &prise);
-            if (prise)
+            // A page key that moves no page does nothing; the arrows walk within the page.
+            if (prise || code == Qt::Key_PageUp || code == Qt::Key_PageDown)
                 return true;
         }
     }

@@ -15,6 +15,9 @@ PictMenu::PictMenu(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::
 
 PictMenu::~PictMenu() = default;
 
+void PictMenu::DonnerFoyerNouveau() {
+    ui_->BtNewQSO->setFocus();
+}
 void PictMenu::ActiverNouveau(bool actif) {
     ui_->BtNewQSO->setEnabled(actif);
 }

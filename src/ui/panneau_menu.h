@@ -20,6 +20,7 @@ class PictMenu : public QWidget {
     void ActiverNouveau(bool actif);
     /// Leaves Alt+N to the No button while a question waits.
     void CederAltN(bool cede);
+    void DonnerFoyerNouveau();
     void ActiverSupprimer(bool actif);
     void ActiverFermer(bool actif);
 

@@ -6,6 +6,7 @@
 #include "ui_panneau_rech.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPalette>
 
 namespace orvalis {
@@ -40,7 +41,8 @@ void PictRech::Vider() {
 }
 
 bool PictRech::eventFilter(QObject* objet, QEvent* evenement) {
-    if (evenement->type() == QEvent::MouseButtonPress)
+    if (evenement->type() == QEvent::MouseButtonPress &&
+        static_cast<QMouseEvent*>(evenement)->button() == Qt::LeftButton)
         Q_EMIT cliquee();
     if (evenement->type() == QEvent::KeyPress) {
         const int touche = static_cast<QKeyEvent*>(evenement)->key();

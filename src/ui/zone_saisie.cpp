@@ -27,7 +27,7 @@ bool PaletteSombre(const QPalette& palette) {
 } // namespace
 
 ZoneSaisie::ZoneSaisie(const DescriptionBoite& boite, QWidget* parent)
-    : QLineEdit(parent), boite_(boite) {
+    : QLineEdit(parent), boite_(boite), couleur_(CouleurAuRepos(boite.index)) {
     const int index = static_cast<int>(boite.index);
     setObjectName(QStringLiteral("TxtField_%1").arg(index));
     if (boite.centre)
@@ -91,8 +91,19 @@ void ZoneSaisie::keyPressEvent(QKeyEvent* evenement) {
         Q_EMIT cliquee(index);
         return;
     default:
-        QLineEdit::keyPressEvent(evenement);
+        // A refused key is swallowed before it can replace what is selected.
+        if (Refusee(*evenement))
+            evenement->accept();
+        else
+            QLineEdit::keyPressEvent(evenement);
     }
+}
+
+bool ZoneSaisie::Refusee(const QKeyEvent& evenement) const {
+    const QString texte = evenement.text();
+    return !texte.isEmpty() && texte.front().isPrint() &&
+           !evenement.modifiers().testFlag(Qt::ControlModifier) &&
+           FiltrerTouches(boite_.touches, S(texte)).empty();
 }
 
 void ZoneSaisie::focusInEvent(QFocusEvent* evenement) {

@@ -38,12 +38,13 @@ class ZoneSaisie : public QLineEdit {
 
   private:
     void AppliquerCouleur();
+    [[nodiscard]] bool Refusee(const QKeyEvent& evenement) const;
 
     const DescriptionBoite& boite_;
     QString precedent_; ///< text before the edit that the filter looks at
     bool programme_ = false;
     bool pressionRecue_ = false;
-    Couleur couleur_ = Couleur::Repos;
+    Couleur couleur_;
 };
 
 } // namespace orvalis

@@ -51,7 +51,7 @@ TEST(Navigation, TaillesDeJournal) {
         EXPECT_EQ(vu.carte, QString::fromUtf8(c.carte));
         EXPECT_EQ(banc.Controle<QWidget>("CmdPageMoins")->isEnabled(), c.boutons);
         EXPECT_EQ(banc.Controle<QScrollBar>("VScroll1")->maximum(), c.n);
-        EXPECT_EQ(banc.Foyer(), QStringLiteral("ListeLog"));
+        EXPECT_EQ(banc.Foyer(), c.n == 0 ? QStringLiteral("BtNewQSO") : QStringLiteral("ListeLog"));
     }
 }
 
@@ -89,6 +89,33 @@ TEST(Navigation, TouchesEtBoutons) {
         EXPECT_EQ(vu.page, QString::fromUtf8(cas[i].page));
         EXPECT_EQ(vu.carte, QString::fromUtf8(cas[i].carte));
     }
+}
+
+// A list that takes the focus without a current line must not choose one by itself.
+TEST(Navigation, LaCarteNeChangePasToutSeule) {
+    Banc banc;
+    banc.Installer(Contacts(60) + Fin());
+    banc.Ouvrir();
+    banc.Cliquer("CmdPageMoins");
+    banc.Cliquer("CmdPagePlus");
+    ASSERT_EQ(banc.Texte("NoFicheLab"), QStringLiteral(" Fiche N° 26 "));
+    const std::vector<std::function<void()>> gestes = {
+        [&] { banc.Controle<QListWidget>("ListeLog")->setFocus(); },
+        [&] { banc.Cliquer("BtKillFiche"), banc.Cliquer("FraCmdNon"); },
+        [&] { banc.Cliquer("BtActiveRech"), banc.Cliquer("BtContactsFermer"); },
+        [&] {
+            banc.Cliquer("TxtField_12");
+            banc.Taper("Zoe\n");
+            banc.Cliquer("FraCmdOui");
+        },
+    };
+    for (std::size_t i = 0; i < gestes.size(); ++i) {
+        banc.Cliquer("CmdSensBas");
+        gestes[i]();
+        EXPECT_EQ(banc.Texte("NoFicheLab"), QStringLiteral(" Fiche N° 26 ")) << i;
+        EXPECT_TRUE(banc.Controle<QWidget>("BtNewQSO")->isEnabled()) << i;
+    }
+    EXPECT_EQ(banc.Journal().substr(25 * kTailleFiche + 98, 3), "Zoe");
 }
 
 TEST(Navigation, CarteListeEtFeuilleMontrentLesOctets) {

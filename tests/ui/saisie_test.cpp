@@ -127,6 +127,9 @@ TEST(Saisie, ContenusHostilesNAtteignentPasLeFichier) {
     EXPECT_EQ(coller("TxtField_1", QStringLiteral("f6\u0001a\u0000bc")), "F6ABC");
     banc.Taper("\n");
     EXPECT_EQ(coller("TxtField_5", QStringLiteral("x14,2.5")), "142.5");
+    banc.Controle<QLineEdit>("TxtField_5")->selectAll();
+    banc.Taper("x");
+    EXPECT_EQ(coller("TxtField_5", QStringLiteral("abc")), "142.5") << "refused, nothing is erased";
     EXPECT_EQ(coller("TxtField_12", QString(10000, QLatin1Char('n'))), std::string(15, 'n'));
     banc.Controle<QLineEdit>("TxtField_12")->clear();
     EXPECT_EQ(coller("TxtField_12", QString::fromUtf8("Ω e\u0301😀")), "? é?");
