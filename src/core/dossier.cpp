@@ -77,7 +77,7 @@ fs::path DossierProgramme(const fs::path& lecteur) {
 }
 
 fs::path TrouverFichier(const fs::path& dossier, std::string_view nom) {
-    const fs::path exact = dossier / fs::path{nom};
+    fs::path exact = dossier / fs::path{nom};
     if (Present(exact))
         return exact;
     std::error_code erreur;

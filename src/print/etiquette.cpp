@@ -152,7 +152,7 @@ void ImprimerPlancheVierge(Imprimante& imprimante, std::string_view station,
                            EnTetesEtiquettes& enTetes) {
     imprimante.ChoisirPapier(Papier::A4, Orientation::Portrait);
     DonneesEtiquette rien;
-    for (std::int16_t numero = 1; numero <= kNbEtiquettes; ++numero)
+    for (std::int16_t numero = 1; numero <= kEtiquettesParPlanche; ++numero)
         ImprimerEtiquette(imprimante, PlaceDeEtiquette(numero), GenreEtiquette::Vierge, rien,
                           station, enTetes);
     imprimante.TerminerDocument();

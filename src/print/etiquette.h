@@ -10,7 +10,7 @@
 
 namespace orvalis {
 
-inline constexpr std::int16_t kNbEtiquettes = 16;
+inline constexpr std::int16_t kEtiquettesParPlanche = 16;
 
 /// The nine texts of a label, in the order of the label sheet's fields 1 to 9. Their padding is
 /// no matter: the drawing trims them in place.

@@ -5,10 +5,12 @@
 #include "ui/chang_locator.h"
 #include "ui/feuille_log.h"
 #include "ui/flux_demarrage.h"
+#include "ui/flux_impression.h"
 #include "ui/flux_locator.h"
 #include "ui/flux_maintenance.h"
 #include "ui/flux_modification.h"
 #include "ui/flux_navigation.h"
+#include "ui/flux_qsl.h"
 #include "ui/flux_recherche.h"
 #include "ui/flux_saisie.h"
 #include "ui/menus.h"
@@ -41,6 +43,11 @@ void Orvalis::BrancherMenus() {
         {"MnuClasser", [this] { Classer(p_); }},
         {"MnuSauver", [this] { Sauvegarder(p_); }},
         {"MnuCreateMDB", [this] { CreerBaseDeDonnees(p_); }},
+        {"MnuConfigImp", [this] { ConfigurerImprimante(p_); }},
+        {"MnuImpPage", [this] { ImprimerPageAffichee(p_); }},
+        {"MnuImpPageVierge", [this] { ImprimerPageVierge(p_); }},
+        {"MnuVirginTags", [this] { ImprimerEtiquettesVierges(p_); }},
+        {"MnuGestionFeuilleQSL", [this] { GererFeuille(p_); }},
         {"MnuEditLocator", [this] { Dlg2(this).exec(); }},
         {"MnuVoir", [this] { APropos(p_.systeme, this).exec(); }},
     };
@@ -60,7 +67,12 @@ void Orvalis::BrancherMenus() {
 void Orvalis::ActualiserMenus() {
     for (const RegleCommande& regle : kReglesCommandes)
         if (auto* action = findChild<QAction*>(Q(regle.nom)); action && action->data().toBool())
-            action->setEnabled(!p_.gel && CommandePermise(regle.commande, session_));
+            // Every command of the table waits while the label sheet is on show.
+            action->setEnabled(!p_.gel && !feuille_.vue.panneau &&
+                               CommandePermise(regle.commande, session_));
+    for (const char* nom : {"MnuEditLocator", "MnuVoir"})
+        if (auto* action = findChild<QAction*>(QString::fromLatin1(nom)))
+            action->setEnabled(!p_.gel && !feuille_.vue.controle);
 }
 
 void Orvalis::BrancherMaintenance() {
@@ -96,7 +108,7 @@ void Orvalis::BrancherNavigation() {
     Brancher(&p_.page, &FeuilleLog::rangeeChoisie, [this](std::int32_t k) {
         if (session_.saisie.EnSaisie)
             return;
-        p_.liste.Selectionner(k - session_.premiereAffichee);
+        p_.liste.Selectionner(LigneDeFiche(p_, k));
         ChoisirFiche(p_, k);
     });
 }

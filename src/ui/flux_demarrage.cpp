@@ -8,9 +8,11 @@
 #include "ui/dlg1.h"
 #include "ui/effets.h"
 #include "ui/flux_navigation.h"
+#include "ui/flux_qsl.h"
 #include "ui/msg_fiche.h"
 #include "ui/panneau_classer.h"
 #include "ui/panneau_contacts.h"
+#include "ui/panneau_ctrl_impression.h"
 #include "ui/panneau_enrs.h"
 #include "ui/panneau_fiche.h"
 #include "ui/panneau_horloge.h"
@@ -22,6 +24,7 @@
 
 #include <QLabel>
 #include <QMainWindow>
+#include <QStackedWidget>
 
 namespace orvalis {
 namespace fs = std::filesystem;
@@ -42,6 +45,8 @@ void CacherPanneaux(Plateau& p) {
     p.changLocator.hide();
     p.classer.hide();
     p.jumelage.hide();
+    p.ctrlImpression.hide();
+    p.droite.setCurrentIndex(0);
 }
 
 Demarrage ChargerParametres(Plateau& p) {
@@ -71,6 +76,8 @@ void InitialiserFenetre(Plateau& p) {
     AfficherHeure(p);
     RemplirListe(p);
     SelectionnerDerniereLigne(p);
+    if (s.nbFiches != 0)
+        ChargerFeuille(p);
     const bool modifiable = !s.LectureSeule();
     p.menu.ActiverSupprimer(modifiable && s.nbFiches > 0 && !s.EnEdition());
     p.menu.ActiverNouveau(modifiable);
@@ -109,6 +116,7 @@ void CreerBaseDeDonnees(Plateau& p) {
 
 void QuitterProgramme(Plateau& p, int code) {
     p.session.journal = Journal();
+    p.feuille.fichier.Fermer();
     if (auto* adieu = p.fenetre.findChild<QLabel*>(QStringLiteral("OrvalisLab03")))
         adieu->setText(QStringLiteral(" Au revoir "));
     p.systeme.Quitter(code);

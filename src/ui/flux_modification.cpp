@@ -35,8 +35,7 @@ void EnregistrerModification(Plateau& p) {
     const std::int32_t k = s.ficheCourante;
     EcrireFiche(s, k);
     s.journal.Support().Synchroniser();
-    const std::int32_t ligne = k - s.premiereAffichee;
-    if (ligne >= 0 && ligne < p.liste.NbLignes()) {
+    if (const int ligne = LigneDeFiche(p, k); ligne >= 0) {
         MontrerPage(p, s.pageAffichee);
         p.liste.Selectionner(ligne);
     }

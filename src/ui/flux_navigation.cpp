@@ -77,6 +77,12 @@ void RemplirListe(Plateau& p) {
     MontrerNomDuJournal(p);
 }
 
+// The list itself is asked: a blank page printed leaves the first record of the page at 0.
+int LigneDeFiche(const Plateau& p, std::int32_t k) {
+    const std::int32_t ligne = k - p.liste.NumeroDe(0);
+    return ligne >= 0 && ligne < p.liste.NbLignes() ? ligne : -1;
+}
+
 void SelectionnerLigne(Plateau& p, int ligne) {
     p.liste.Selectionner(ligne);
     if (const std::int32_t k = p.liste.NumeroDe(ligne); k > 0)

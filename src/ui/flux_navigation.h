@@ -19,6 +19,9 @@ void MontrerNomDuJournal(Plateau& p);
 /// Recounts the logbook, sets the scroll bar's range and shows the last page.
 void RemplirListe(Plateau& p);
 
+/// Line (from 0) of record `k` in the list; -1 when the page on show does not hold it.
+[[nodiscard]] int LigneDeFiche(const Plateau& p, std::int32_t k);
+
 /// Selects a line of the list (from 0). Counts as a click on it, except during entry.
 void SelectionnerLigne(Plateau& p, int ligne);
 

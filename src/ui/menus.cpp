@@ -53,6 +53,8 @@ void FaireMenus(QMenuBar& barre, const std::function<void(QAction&)>& ajouter) {
             menu->setObjectName(Q(entree.nom));
             continue;
         }
+        if (menu == nullptr)
+            continue; // no head yet: the table begins with one
         QAction* action = menu->addAction(Q(entree.legende));
         action->setObjectName(Q(entree.nom));
         ajouter(*action);

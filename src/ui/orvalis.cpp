@@ -7,7 +7,9 @@
 #include "ui/msg_fiche.h"
 #include "ui/panneau_classer.h"
 #include "ui/panneau_contacts.h"
+#include "ui/panneau_ctrl_impression.h"
 #include "ui/panneau_enrs.h"
+#include "ui/panneau_feuille_qsl.h"
 #include "ui/panneau_fiche.h"
 #include "ui/panneau_horloge.h"
 #include "ui/panneau_jumelage.h"
@@ -29,6 +31,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
+#include <QStackedWidget>
 #include <QTimer>
 
 // Resources of a static library are linked only where they are asked for.
@@ -96,7 +99,12 @@ Orvalis::Orvalis(Systeme& systeme, QWidget* parent)
                               *new FraMsgFiche(this),
                               *new PictChangLocator(this),
                               *new PictClasser(this),
-                              *new PJumelage(this)},
+                              *new PJumelage(this),
+                              feuille_,
+                              enTetes_,
+                              *new QStackedWidget(this),
+                              *new PictFeuilleQSL(this),
+                              *new PictCtrlImpression(this)},
       timer1_(new QTimer(this)) {
     ChargerRessources();
     setObjectName(QStringLiteral("Orvalis"));
@@ -111,6 +119,8 @@ Orvalis::Orvalis(Systeme& systeme, QWidget* parent)
     BrancherFiche();
     BrancherSaisie();
     BrancherMaintenance();
+    BrancherQsl();
+    BrancherImpression();
     ActualiserMenus();
     qApp->installEventFilter(this);
 }
@@ -123,7 +133,10 @@ void Orvalis::Disposer() {
     ligne->setContentsMargins(8, 6, 8, 6);
     ligne->setSpacing(10);
     ligne->addWidget(ColonneGauche());
-    ligne->addWidget(ColonneDroite(), 1);
+    p_.droite.addWidget(ColonneDroite());
+    p_.droite.addWidget(&p_.feuilleQSL);
+    p_.feuilleQSL.Accueillir(p_.ctrlImpression);
+    ligne->addWidget(&p_.droite, 1);
     // On a screen too small for the window, its parts stay within reach.
     auto* defilement = new QScrollArea(this);
     defilement->setFrameShape(QFrame::NoFrame);

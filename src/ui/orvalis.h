@@ -3,6 +3,8 @@
 #pragma once
 
 #include "core/session.h"
+#include "print/etiquette.h"
+#include "qsl/feuille_qsl.h"
 #include "ui/plateau.h"
 
 #include <QMainWindow>
@@ -40,6 +42,8 @@ class Orvalis : public QMainWindow {
     /// Enables the menu entries whose command may run now.
     void ActualiserMenus();
     void BrancherMaintenance();
+    void BrancherQsl();
+    void BrancherImpression();
     void BrancherPanneaux();
     void BrancherNavigation();
     void BrancherFiche();
@@ -55,6 +59,8 @@ class Orvalis : public QMainWindow {
     }
 
     Session session_;
+    FeuilleQSL feuille_;
+    EnTetesEtiquettes enTetes_;
     Plateau p_;
     QTimer* timer1_ = nullptr;
     int temoinDemarrage_ = 4; ///< start-up marker: 4 until the window is initialised

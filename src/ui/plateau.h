@@ -3,17 +3,22 @@
 #pragma once
 
 class QMainWindow;
+class QStackedWidget;
 
 namespace orvalis {
 
+struct EnTetesEtiquettes;
 class FeuilleLog;
+struct FeuilleQSL;
 class FraMsgFiche;
 class PJumelage;
 class PanneauHorloge;
 class PictChangLocator;
 class PictClasser;
 class PictContacts;
+class PictCtrlImpression;
 class PictEnrs;
+class PictFeuilleQSL;
 class PictFiche;
 class PictListe;
 class PictMenu;
@@ -37,6 +42,11 @@ struct Plateau {
     PictChangLocator& changLocator;
     PictClasser& classer;
     PJumelage& jumelage;
+    FeuilleQSL& feuille;
+    EnTetesEtiquettes& enTetes; ///< headings of the labels printed last
+    QStackedWidget& droite;     ///< the column of the card, or the label sheet
+    PictFeuilleQSL& feuilleQSL;
+    PictCtrlImpression& ctrlImpression;
 
     bool gel = false;   ///< keyboard and mouse act on nothing but quitting
     bool arret = false; ///< the program is ending: no flow goes on

@@ -8,11 +8,15 @@
 #include <QStringList>
 
 #include <filesystem>
+#include <memory>
 #include <optional>
 
+class QPrinter;
 class QWidget;
 
 namespace orvalis {
+
+class Imprimante;
 
 /// A file dialog as a command asks for it.
 struct DemandeFichier {
@@ -44,6 +48,11 @@ class Systeme {
     /// Path chosen by the operator; empty when the dialog was cancelled.
     [[nodiscard]] virtual QString ChoisirFichier(QWidget* parent,
                                                  const DemandeFichier& demande) = 0;
+    /// The printer for one document. Asks the operator when none is chosen; null when that was
+    /// cancelled. Throws ErreurImpression.
+    [[nodiscard]] virtual std::unique_ptr<Imprimante> PreparerImpression(QWidget* parent) = 0;
+    /// Lets the operator choose the printer for every print to come.
+    virtual void ConfigurerImprimante(QWidget* parent) = 0;
     /// Starts another program without waiting; the reason in French when it does not start.
     [[nodiscard]] virtual std::optional<QString> Lancer(const QString& chemin,
                                                         const QStringList& arguments) = 0;
@@ -54,18 +63,32 @@ class Systeme {
 /// The real one.
 class SystemeReel : public Systeme {
   public:
+    SystemeReel();
+    ~SystemeReel() override;
+    SystemeReel(const SystemeReel&) = delete;
+    SystemeReel& operator=(const SystemeReel&) = delete;
+    SystemeReel(SystemeReel&&) = delete;
+    SystemeReel& operator=(SystemeReel&&) = delete;
     [[nodiscard]] std::filesystem::path Lecteur() const override;
     [[nodiscard]] Instant Maintenant() const override;
     void Pause(int secondes) override;
     void Informer(QWidget* parent, const QString& titre, const QString& texte) override;
     void Avertir(QWidget* parent, const QString& texte) override;
     [[nodiscard]] QString ChoisirFichier(QWidget* parent, const DemandeFichier& demande) override;
+    [[nodiscard]] std::unique_ptr<Imprimante> PreparerImpression(QWidget* parent) override;
+    void ConfigurerImprimante(QWidget* parent) override;
     [[nodiscard]] std::optional<QString> Lancer(const QString& chemin,
                                                 const QStringList& arguments) override;
     void Quitter(int code) override;
 
   private:
+    QPrinter& Sortie();
+    /// Shows the printer dialog; false when it was cancelled.
+    bool DemanderSortie(QWidget* parent, const QString& titre);
+
     bool arret_ = false;
+    std::unique_ptr<QPrinter> sortie_;
+    bool pdfEcrit_ = false; ///< the PDF file chosen has been written since
 };
 
 } // namespace orvalis

@@ -75,7 +75,7 @@ TEST(EtiquetteTest, Places) {
                                         {300, 4360},  {6100, 4360},  {300, 6340},  {6100, 6340},
                                         {300, 8320},  {6100, 8320},  {300, 10300}, {6100, 10300},
                                         {300, 12280}, {6100, 12280}, {300, 14260}, {6100, 14260}};
-    for (std::int16_t k = 1; k <= kNbEtiquettes; ++k)
+    for (std::int16_t k = 1; k <= kEtiquettesParPlanche; ++k)
         EXPECT_EQ(OrigineDeEtiquette(PlaceDeEtiquette(k)), attendu[k - 1]) << k;
     EXPECT_EQ(OrigineDeEtiquette({2, 9}), (OrigineEtiquette{6100, 0}));
     EXPECT_EQ(OrigineDeEtiquette({1, 0}), (OrigineEtiquette{300, 0}));

@@ -90,8 +90,8 @@ TEST_F(ImprimanteQtTest, PageDuCahier) {
 }
 
 TEST_F(ImprimanteQtTest, PlancheDEtiquettes) {
-    std::vector<EtiquettePlacee> etiquettes(kNbEtiquettes);
-    for (std::int16_t k = 1; k <= kNbEtiquettes; ++k)
+    std::vector<EtiquettePlacee> etiquettes(kEtiquettesParPlanche);
+    for (std::int16_t k = 1; k <= kEtiquettesParPlanche; ++k)
         etiquettes[static_cast<std::size_t>(k - 1)] = {
             k,
             {"F4A" + std::to_string(k), "", "", "BUREAU", "12/05/02", "18:30", "7", "599", "CW"}};

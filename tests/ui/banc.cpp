@@ -37,6 +37,14 @@ QString SystemeDEssai::ChoisirFichier(QWidget* /*parent*/, const DemandeFichier&
     return fichierChoisi;
 }
 
+std::unique_ptr<Imprimante> SystemeDEssai::PreparerImpression(QWidget* /*parent*/) {
+    return imprimante ? imprimante() : nullptr;
+}
+
+void SystemeDEssai::ConfigurerImprimante(QWidget* /*parent*/) {
+    ++configurations;
+}
+
 std::optional<QString> SystemeDEssai::Lancer(const QString& chemin, const QStringList& /*args*/) {
     lances.push_back(chemin);
     return refusDeLancer;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/qso_record.h"
+#include "print/imprimante.h"
 #include "ui/orvalis.h"
 #include "ui/systeme.h"
 
@@ -29,6 +30,8 @@ class SystemeDEssai : public Systeme {
     std::vector<QString> lances;
     std::optional<QString> refusDeLancer;
     std::optional<int> codeDeFin;
+    std::function<std::unique_ptr<Imprimante>()> imprimante; ///< none: the dialog is cancelled
+    int configurations = 0;
 
     [[nodiscard]] std::filesystem::path Lecteur() const override { return lecteur; }
     [[nodiscard]] Instant Maintenant() const override { return maintenant; }
@@ -36,6 +39,8 @@ class SystemeDEssai : public Systeme {
     void Informer(QWidget* parent, const QString& titre, const QString& texte) override;
     void Avertir(QWidget* parent, const QString& texte) override;
     [[nodiscard]] QString ChoisirFichier(QWidget* parent, const DemandeFichier& demande) override;
+    [[nodiscard]] std::unique_ptr<Imprimante> PreparerImpression(QWidget* parent) override;
+    void ConfigurerImprimante(QWidget* parent) override;
     [[nodiscard]] std::optional<QString> Lancer(const QString& chemin,
                                                 const QStringList& arguments) override;
     void Quitter(int code) override;

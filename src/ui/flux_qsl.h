@@ -1,0 +1,48 @@
+// The QSL service in the window: from the card to the sheet, the print and back. What a label may
+// become is decided in qsl/flux_etiquettes.h; here its answers reach the panels.
+#pragma once
+
+#include "qsl/feuille_qsl.h"
+#include "ui/plateau.h"
+
+#include <cstddef>
+#include <string>
+
+namespace orvalis {
+
+/// Another panel waits for the operator, so that the QSL service must wait too: an entry, an
+/// unanswered modification or deletion, a sort, the pairing, the own locator, the sheet itself.
+[[nodiscard]] bool UnPanneauAttend(const Plateau& p);
+
+/// Loads the sheet of the program folder. Throws ErreurFichier.
+void ChargerFeuille(Plateau& p);
+
+/// MnuGestionFeuilleQSL: the sheet takes the place of the card.
+void GererFeuille(Plateau& p);
+/// MnuVirginTags: prints a sheet of blank labels.
+void ImprimerEtiquettesVierges(Plateau& p);
+/// A click on box 14 of the card: with an empty MQSL the contact becomes a fresh label.
+void CliquerMaQsl(Plateau& p);
+
+/// BtChoix and BtTag of place `k`, 1 to 16.
+void SurChoix(Plateau& p, int k);
+void SurTag(Plateau& p, int k);
+/// Typing and Enter in entry box `boite` of the editor, 1 to 11.
+void SurSaisieEtiquette(Plateau& p, std::size_t boite, const std::string& texte);
+void SurEntreeEtiquette(Plateau& p, std::size_t boite);
+/// OptBureau or OptDirect, the one already chosen included.
+void SurVoie(Plateau& p, VoieQSL voie);
+
+/// The buttons of the panel.
+void ValiderEtiquette(Plateau& p);
+void SupprimerEtiquette(Plateau& p);
+void LaisserEtiquette(Plateau& p);
+void QuitterFeuille(Plateau& p);
+void RestaurerFeuille(Plateau& p);
+void ImprimerFeuille(Plateau& p);
+
+/// The two answers of the print check.
+void ConfirmerImpression(Plateau& p);
+void RevoirImpression(Plateau& p);
+
+} // namespace orvalis
