@@ -14,7 +14,7 @@
 #   POLICE=12             point size of the desktop's font (10)
 #   TITRE="..."           what the title of the window that is waited for holds; the default is
 #                         the title that the main window takes once the logbook is on show
-#   ATTENTE=20            seconds to wait for it
+#   ATTENTE=60            seconds to wait for it
 #   ORVALIS=path          the program; build/orvalis by default
 set -euo pipefail
 racine=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -47,13 +47,13 @@ demarrer_ecran() {
     fi
     export DISPLAY=:$numero
     unset WAYLAND_DISPLAY
-    # A window manager gives windows their title bar and the keyboard, as on a real desktop; a
-    # window that comes up before it is ready would never become active.
-    HOME=$travail openbox --sm-disable >/dev/null 2>&1 </dev/null &
+    # A window manager gives windows their title bar and the keyboard, as on a real desktop. It
+    # says itself when it is ready: a window that is shown while it starts may be lost.
+    HOME=$travail openbox --sm-disable --startup "touch $travail/pret" >/dev/null 2>&1 </dev/null &
     enfants=($! "${enfants[@]}")
     local essai
     for ((essai = 0; essai < 300; ++essai)); do
-        [[ $(xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null) != *"window id"* ]] || return 0
+        [[ ! -e $travail/pret ]] || return 0
         sleep 0.1
     done
     echo "Le gestionnaire de fenêtres n'a pas démarré." >&2
@@ -86,9 +86,16 @@ ForegroundVisited=155,89,182
     printf '%s' "$style" >"$travail/kdeglobals"
 }
 
+# Title of the window that has the keyboard; a dialog counts, a window not yet on show does not.
+titre_actif() {
+    local fenetre
+    fenetre=$(xprop -root _NET_ACTIVE_WINDOW 2>/dev/null)
+    xprop -id "${fenetre##* }" _NET_WM_NAME 2>/dev/null || true
+}
+
 attendre_fenetre() {
-    local titre=${TITRE:-Cahier de Trafic de} fin=$((SECONDS + ${ATTENTE:-20}))
-    until [[ $(xwininfo -root -tree 2>/dev/null) == *"$titre"* ]]; do
+    local titre=${TITRE:-Cahier de Trafic de} fin=$((SECONDS + ${ATTENTE:-60}))
+    until [[ $(titre_actif) == *"$titre"* ]]; do
         if ! kill -0 "$PID_ORVALIS" 2>/dev/null; then
             echo "Le programme s'est arrêté avant d'ouvrir sa fenêtre :" >&2
             cat "$travail/orvalis.log" >&2
