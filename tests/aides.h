@@ -48,6 +48,11 @@ inline std::string Brute(std::initializer_list<std::pair<std::size_t, std::strin
     return octets;
 }
 
+/// The same bytes `n` times.
+inline std::string Fois(int n, const std::string& octets) {
+    return n == 0 ? "" : octets + Fois(n - 1, octets);
+}
+
 /// A contact, with a byte in its town that Windows-1252 leaves undefined.
 inline std::string Contact(std::string_view indicatif, std::string_view date = "",
                            std::string_view debut = "", std::string_view frequence = "") {

@@ -126,7 +126,7 @@ TEST(Ouverture, AutreJournal) {
 struct Echecs : ::testing::Test {
     Dossier dossier;
     const std::string octets = Contact("A") + Fin(), deux = Contact("B") + Contact("C") + Fin();
-    const fs::path station = dossier.Poser("F5ABC.Vek", octets + Contact("X"));
+    const fs::path station = dossier.Poser("F5ABC.Vek", octets + Fois(30, Contact("X")));
     const fs::path prise = dossier.Poser("Prise.Vek", deux), absente = dossier / "Absente.Vek";
     Session session = Ouvrir(station), autreProgramme = Ouvrir(prise);
 
@@ -134,8 +134,8 @@ struct Echecs : ::testing::Test {
 };
 
 TEST_F(Echecs, JumelageLaisseLeCahierTelQuel) {
-    const auto source = dossier.Poser("S.Vek", deux.substr(0, 165) + deux);
-    for (const rlim_t place : {3U * 165U, 4U * 165U}) { // contacts, then the end-of-log record
+    const auto source = dossier.Poser("S.Vek", Fois(40, Contact("B")) + Fin());
+    for (const rlim_t place : {33U * 165U, 41U * 165U}) { // contacts, then the end-of-log record
         EXPECT_EQ(Fautif([&] { JumelerJournal(session, source); }, place), station);
         EXPECT_EQ(Lire(station).substr(0, octets.size()), octets);
     }

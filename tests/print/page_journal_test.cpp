@@ -25,10 +25,6 @@ const std::string kCommun = R"(P A4 portrait;
 
 const std::string kContact = essai::Contact("F4ABC");
 
-std::string Fois(int n, const std::string& octets) {
-    return n == 0 ? "" : octets + Fois(n - 1, octets);
-}
-
 /// Prints page `page` of a logbook of these bytes.
 Enregistreur Imprimer(const std::string& octets, std::int32_t page, std::int32_t aiguillage = 1) {
     const essai::Dossier dossier;
@@ -47,7 +43,7 @@ TEST(PageJournalTest, PageRemplie) {
         MettreChamp(fiche, d.champ, "É2345678901234567890123456789");
     MettreChamp(fiche, Champ::SNOM, "  Jean  Michel B");
     const std::string longue(fiche.octets.begin(), fiche.octets.end());
-    const auto page = Imprimer(Fois(25, kContact) + longue + essai::Fin() + kContact, 2);
+    const auto page = Imprimer(essai::Fois(25, kContact) + longue + essai::Fin() + kContact, 2);
     EXPECT_THAT(page.operations, UnorderedElementsAreArray(Liste(kCommun + R"(
  T 160 1920 8 000026; T 720 1920 8 É2345678; T 1380 1920 8 É2345; T 1830 1920 8 É2345;
  T 2300 1920 8 É234567890; T 3100 1920 8g É23456789012345; T 5000 1920 8 É2345;
@@ -66,7 +62,7 @@ TEST(PageJournalTest, PageVierge) {
 }
 
 TEST(PageJournalTest, LaPageSArreteALaFinDuLog) {
-    const std::string trente = Fois(30, kContact);
+    const std::string trente = essai::Fois(30, kContact);
     const struct {
         std::string octets;
         std::int32_t page;
