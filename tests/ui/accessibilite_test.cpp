@@ -15,8 +15,6 @@
 #include <QScrollBar>
 #include <QTest>
 
-#include <gtest/gtest.h>
-
 namespace orvalis::essais {
 namespace {
 

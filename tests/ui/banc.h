@@ -91,6 +91,14 @@ class Banc {
     }
     /// Of labels, buttons or boxes, with '|' between them when there are several.
     [[nodiscard]] QString Texte(const char* noms) const;
+    /// Whether one warning came since the last call, with this text in it.
+    [[nodiscard]] testing::AssertionResult Averti(const char* texte) {
+        const auto recus = std::exchange(systeme.avertissements, {});
+        return (recus.size() == 1 && recus[0].contains(QString::fromUtf8(texte))
+                    ? testing::AssertionSuccess()
+                    : testing::AssertionFailure())
+               << recus.size() << (recus.empty() ? "" : S(recus[0]));
+    }
     [[nodiscard]] bool Actif(const char* nom) const {
         return Controle<QObject>(nom)->property("enabled").toBool();
     }

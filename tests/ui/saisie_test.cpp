@@ -3,10 +3,6 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
-#include <QListWidget>
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace orvalis::essais {
 namespace {
