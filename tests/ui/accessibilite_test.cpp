@@ -15,8 +15,6 @@
 #include <QScrollBar>
 #include <QTest>
 
-#include <gtest/gtest.h>
-
 namespace orvalis::essais {
 namespace {
 
@@ -45,9 +43,7 @@ QStringList SansNom(const QWidget& fenetre) {
 }
 
 TEST(Accessibilite, ToutControleAUnNom) {
-    Banc banc;
-    banc.Installer(Contacts(30) + Fin());
-    banc.Ouvrir();
+    Banc banc(Contacts(30) + Fin());
     const Dlg1 creation(banc.systeme.lecteur, banc.systeme, nullptr);
     const Dlg2 coordonnees;
     const APropos aPropos(banc.systeme, nullptr);
@@ -92,41 +88,22 @@ QStringList HorsDuTour(const QWidget& fenetre) {
 
 TEST(Accessibilite, ClavierDansChaqueEtat) {
     struct Cas {
-        const char* etat;
-        std::function<void(Banc&)> y;
+        const char *etat, *gestes;
         const char* horsDuTour; ///< on purpose
     };
     const std::vector<Cas> cas = {
-        {"repos", [](Banc&) {}, ""},
-        {"saisie",
-         [](Banc& b) {
-             b.Touche(Qt::Key_N, Qt::AltModifier);
-             b.Taper("f5xyz\n");
-         },
-         ""},
-        {"changement de locator",
-         [](Banc& b) {
-             b.Touche(Qt::Key_N, Qt::AltModifier);
-             b.Menu("MnuChangerLocator");
-             b.Taper("jn07wv\n");
-         },
-         ""},
-        {"suppression", [](Banc& b) { b.Touche(Qt::Key_S, Qt::AltModifier); }, ""},
-        {"contacts",
-         [](Banc& b) {
-             b.Touche(Qt::Key_R, Qt::AltModifier);
-             b.Taper("f5qso\n");
-         },
-         ""},
-        {"jumelage", [](Banc& b) { b.Menu("MnuJumeler"); }, ""},
-        {"feuille", [](Banc& b) { b.Menu("MnuGestionFeuilleQSL"); }, "FLdText_10 FLdText_11"},
+        {"repos", "", ""},
+        {"saisie", "^N =f5xyz", ""},
+        {"changement de locator", "^N MnuChangerLocator =jn07wv", ""},
+        {"suppression", "^S", ""},
+        {"contacts", "^R =f5qso", ""},
+        {"jumelage", "MnuJumeler", ""},
+        {"feuille", "MnuGestionFeuilleQSL", "FLdText_10 FLdText_11"},
     };
     for (const Cas& c : cas) {
         SCOPED_TRACE(c.etat);
-        Banc banc;
-        banc.Installer(Contacts(30) + Fin());
-        banc.Ouvrir();
-        c.y(banc);
+        Banc banc(Contacts(30) + Fin());
+        banc.Faire(c.gestes);
         EXPECT_EQ(LettresDoubles(*banc.fenetre).join(QLatin1Char(' ')), QString());
         EXPECT_EQ(HorsDuTour(*banc.fenetre).join(QLatin1Char(' ')),
                   QString::fromLatin1(c.horsDuTour));
@@ -134,9 +111,7 @@ TEST(Accessibilite, ClavierDansChaqueEtat) {
 }
 
 TEST(Accessibilite, F10OuvreLesMenus) {
-    Banc banc;
-    banc.Installer(Contacts(1) + Fin());
-    banc.Ouvrir();
+    Banc banc(Contacts(1) + Fin());
     banc.Touche(Qt::Key_F10);
     auto* fichier = banc.Controle<QMenu>("NmuFilect");
     ASSERT_TRUE(fichier->isVisible());

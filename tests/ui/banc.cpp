@@ -1,19 +1,11 @@
 #include "ui/banc.h"
 
-#include "ui/texte_qt.h"
-
-#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
 
 #include <algorithm>
-#include <fstream>
-#include <gtest/gtest.h>
-#include <sstream>
 
 namespace orvalis::essais {
 
@@ -24,40 +16,12 @@ void SystemeDEssai::Pause(int /*secondes*/) {
     QCoreApplication::processEvents();
 }
 
-void SystemeDEssai::Informer(QWidget* /*parent*/, const QString& titre, const QString& texte) {
-    informations.push_back(titre + QLatin1Char('|') + texte);
-}
-
-void SystemeDEssai::Avertir(QWidget* /*parent*/, const QString& texte) {
-    avertissements.push_back(texte);
-}
-
-QString SystemeDEssai::ChoisirFichier(QWidget* /*parent*/, const DemandeFichier& demande) {
-    demandes.push_back(demande);
-    return fichierChoisi;
-}
-
-std::unique_ptr<Imprimante> SystemeDEssai::PreparerImpression(QWidget* /*parent*/) {
-    return imprimante ? imprimante() : nullptr;
-}
-
-void SystemeDEssai::ConfigurerImprimante(QWidget* /*parent*/) {
-    ++configurations;
-}
-
-std::optional<QString> SystemeDEssai::Lancer(const QString& chemin, const QStringList& /*args*/) {
-    lances.push_back(chemin);
-    return refusDeLancer;
-}
-
-void SystemeDEssai::Quitter(int code) {
-    codeDeFin = code;
-}
-
-std::string Octets(std::initializer_list<std::pair<Champ, std::string_view>> champs) {
+std::string Octets(const std::string& champs, std::string_view monLocator) {
     QsoRecord fiche;
-    for (const auto& [champ, texte] : champs)
-        MettreChamp(fiche, champ, texte);
+    int champ = 0;
+    for (const QString& texte : Q(champs).split(QLatin1Char('|')))
+        MettreChamp(fiche, static_cast<Champ>(++champ), S(texte));
+    MettreChamp(fiche, Champ::MLOC, monLocator);
     return {fiche.octets.begin(), fiche.octets.end()};
 }
 
@@ -66,46 +30,17 @@ std::string Contacts(int n) {
     for (int k = 1; k <= n; ++k) {
         const auto deux = [](int v) { return (v < 10 ? "0" : "") + std::to_string(v); };
         const std::string heure = deux(k / 60 % 24) + ":" + deux(k % 60);
-        octets += Octets({{Champ::CSGN, "F" + std::to_string(k) + "QSO"},
-                          {Champ::DQSO, "12/05/02"},
-                          {Champ::HDEB, heure},
-                          {Champ::HFIN, heure},
-                          {Champ::FREQ, "14.210"},
-                          {Champ::MODE, "SSB"},
-                          {Champ::MLOC, "JN04SD"}});
+        octets +=
+            Octets("F" + std::to_string(k) + "QSO|12/05/02|" + heure + "|" + heure + "|14.210|SSB",
+                   "JN04SD");
     }
     return octets;
-}
-
-std::string Fin(std::string_view monLocator) {
-    return Octets({{Champ::CSGN, "\\"}, {Champ::MLOC, monLocator}});
-}
-
-Banc::Banc() {
-    systeme.lecteur = S(disque.path());
-}
-
-Banc::~Banc() = default;
-
-std::filesystem::path Banc::Dossier() const {
-    return systeme.lecteur / "Orvalis";
 }
 
 void Banc::Installer(const std::string& octets) {
     std::filesystem::create_directory(Dossier());
     Ecrire("Parvel.cfg", "\"F5ABC\",\"F5ABC.Vek\",\"JN04SD\"\r\n");
     Ecrire("F5ABC.Vek", octets);
-}
-
-void Banc::Ecrire(const std::string& nom, const std::string& octets) const {
-    std::ofstream(Dossier() / nom, std::ios::binary) << octets;
-}
-
-std::string Banc::Lire(const std::string& nom) const {
-    std::ifstream flux(Dossier() / nom, std::ios::binary);
-    std::ostringstream octets;
-    octets << flux.rdbuf();
-    return octets.str();
 }
 
 void Banc::Ouvrir() {
@@ -126,24 +61,16 @@ void Banc::Activer() {
     QCoreApplication::processEvents();
 }
 
-QString Banc::Texte(const char* nom) const {
-    if (auto* label = Controle<QLabel>(nom))
-        return label->text();
-    if (auto* boite = Controle<QLineEdit>(nom))
-        return boite->text();
-    if (auto* bouton = Controle<QAbstractButton>(nom))
-        return bouton->text();
-    return QStringLiteral("<%1 ?>").arg(QString::fromLatin1(nom));
+QString Banc::Texte(const char* noms) const {
+    QStringList textes;
+    for (const QString& nom : QString::fromLatin1(noms).split(QLatin1Char(' ')))
+        textes << Controle<QObject>(nom.toLatin1().constData())->property("text").toString();
+    return textes.join(QLatin1Char('|'));
 }
 
 QString Banc::Foyer() const {
     const QWidget* foyer = QApplication::focusWidget();
     return foyer == nullptr ? QString() : foyer->objectName();
-}
-
-bool Banc::Visible(const char* nom) const {
-    const auto* controle = Controle<QWidget>(nom);
-    return controle != nullptr && controle->isVisible();
 }
 
 void Banc::Cliquer(const char* nom) const {
@@ -156,6 +83,27 @@ void Banc::Cliquer(const char* nom) const {
 void Banc::Menu(const char* nom) const {
     Controle<QAction>(nom)->trigger();
     QCoreApplication::processEvents();
+}
+
+void Banc::Faire(const char* gestes) const {
+    for (const QString& geste :
+         QString::fromUtf8(gestes).split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        const std::string nom = S(geste);
+        if (nom[0] == '^')
+            Touche(nom[1], Qt::AltModifier);
+        else if (nom[0] == '=')
+            Taper(nom.substr(1) + "\n");
+        else if (nom[0] == '#')
+            ChoisirLigne(std::stoi(nom.substr(1)));
+        else if (nom.starts_with("Mnu"))
+            Menu(nom.c_str());
+        else
+            Cliquer(nom.c_str());
+    }
+}
+
+void Banc::ChoisirLigne(int rangee) const {
+    Controle<QListWidget>("ListeLog")->setCurrentRow(rangee);
 }
 
 void Banc::Touche(int touche, Qt::KeyboardModifiers modificateurs) const {

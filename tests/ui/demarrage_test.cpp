@@ -1,15 +1,12 @@
 // First run, start-up, damaged files, quitting.
 #include "ui/banc.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
 #include <QTimer>
-
-#include <gtest/gtest.h>
 
 namespace orvalis::essais {
 namespace {
@@ -57,7 +54,7 @@ TEST(Demarrage, PremierLancementCreeLeCahierPuisLOuvre) {
     EXPECT_EQ(banc.Lire("F5ABCP.Vek"), "\\" + std::string(158, ' ') + "JN04SD");
     EXPECT_TRUE(
         banc.fenetre->windowTitle().startsWith(QStringLiteral(" Cahier de Trafic de F5ABC/P")));
-    EXPECT_EQ(banc.Texte("LabPage"), QStringLiteral("Page 1 / 1"));
+    EXPECT_EQ(S(banc.Texte("LabPage")), "Page 1 / 1");
     EXPECT_FALSE(banc.systeme.codeDeFin);
 }
 
@@ -93,18 +90,14 @@ TEST(Demarrage, FichiersAbimesFinissentEnMessage) {
             std::filesystem::remove(banc.Dossier() / "F5ABC.Vek");
         banc.Ouvrir();
         EXPECT_EQ(banc.systeme.codeDeFin, 1);
-        ASSERT_EQ(banc.systeme.avertissements.size(), 1U);
-        EXPECT_TRUE(banc.systeme.avertissements[0].contains(QString::fromUtf8(c.message)))
-            << banc.systeme.avertissements[0].toStdString();
+        EXPECT_TRUE(banc.Averti(c.message));
         EXPECT_EQ(std::filesystem::exists(banc.Dossier() / "F5ABC.Vek"), c.journal);
         EXPECT_EQ(banc.Lire("Parvel.cfg"), c.parametres);
     }
 }
 
 TEST(Demarrage, UnSecondProgrammeEstRefuse) {
-    Banc banc;
-    banc.Installer(Contacts(3) + Fin());
-    banc.Ouvrir();
+    Banc banc(Contacts(3) + Fin());
     SystemeDEssai second;
     second.lecteur = banc.systeme.lecteur;
     Orvalis autre(second);
@@ -114,28 +107,24 @@ TEST(Demarrage, UnSecondProgrammeEstRefuse) {
     ASSERT_EQ(second.avertissements.size(), 1U);
     EXPECT_TRUE(second.avertissements[0].contains(QStringLiteral("déjà ouvert")));
     EXPECT_EQ(second.codeDeFin, 1);
-    EXPECT_EQ(banc.Texte("TxtField_1"), QStringLiteral("F3QSO"));
+    EXPECT_EQ(S(banc.Texte("TxtField_1")), "F3QSO");
 }
 
 TEST(Demarrage, HorlogeEtFin) {
-    Banc banc;
-    banc.Installer(Fin());
-    banc.Ouvrir();
-    EXPECT_EQ(banc.Texte("LabHeure"), QStringLiteral("18:30:15"));
-    EXPECT_EQ(banc.Texte("LabDate"), QStringLiteral("Samedi 21 Novembre 2026"));
+    Banc banc(Fin());
+    EXPECT_EQ(S(banc.Texte("LabHeure LabDate")), "18:30:15|Samedi 21 Novembre 2026");
     EXPECT_FALSE(banc.Visible("PictRech"));
-    banc.Menu("MnuCreateMDB");
+    banc.Faire("MnuCreateMDB");
     EXPECT_TRUE(banc.systeme.lances.empty()) << "an empty logbook makes no database";
     banc.systeme.refusDeLancer = QStringLiteral("le programme n'existe pas");
-    banc.Cliquer("Horloge");
+    banc.Faire("Horloge");
     ASSERT_EQ(banc.systeme.lances.size(), 2U) << "with, then without the suffix";
     EXPECT_TRUE(banc.systeme.lances[0].endsWith(QStringLiteral("/Orvalis/Chronel.exe")));
-    ASSERT_EQ(banc.systeme.avertissements.size(), 1U);
-    EXPECT_TRUE(banc.systeme.avertissements[0].contains(QStringLiteral("Chronel.exe")));
+    EXPECT_TRUE(banc.Averti("Chronel.exe"));
     EXPECT_FALSE(banc.systeme.codeDeFin);
-    banc.Cliquer("BtFermerLog");
+    banc.Faire("BtFermerLog");
     EXPECT_EQ(banc.systeme.codeDeFin, 0);
-    EXPECT_EQ(banc.Texte("OrvalisLab03"), QStringLiteral(" Au revoir "));
+    EXPECT_EQ(S(banc.Texte("OrvalisLab03")), " Au revoir ");
 }
 
 } // namespace

@@ -6,24 +6,8 @@
 #include <QScrollBar>
 #include <QTest>
 
-#include <gtest/gtest.h>
-
 namespace orvalis::essais {
 namespace {
-
-struct Apercu {
-    QString page;
-    int lignes;
-    QString premiere;
-    QString carte;
-};
-
-Apercu Voir(const Banc& banc) {
-    const QStringList lignes = banc.Lignes("ListeLog");
-    return {banc.Texte("LabPage"), static_cast<int>(lignes.size()),
-            lignes.isEmpty() ? QString() : lignes.first().left(6).trimmed(),
-            banc.Texte("NoFicheLab")};
-}
 
 TEST(Navigation, TaillesDeJournal) {
     struct Cas {
@@ -42,27 +26,21 @@ TEST(Navigation, TaillesDeJournal) {
     };
     for (const Cas& c : cas) {
         SCOPED_TRACE(c.n);
-        Banc banc;
-        banc.Installer(Contacts(c.n) + Fin());
-        banc.Ouvrir();
-        const Apercu vu = Voir(banc);
-        EXPECT_EQ(vu.page, QString::fromUtf8(c.page));
-        EXPECT_EQ(vu.lignes, c.lignes);
-        EXPECT_EQ(vu.carte, QString::fromUtf8(c.carte));
-        EXPECT_EQ(banc.Controle<QWidget>("CmdPageMoins")->isEnabled(), c.boutons);
+        Banc banc(Contacts(c.n) + Fin());
+        EXPECT_EQ(S(banc.Texte("LabPage")), c.page);
+        EXPECT_EQ(banc.Lignes("ListeLog").size(), c.lignes);
+        EXPECT_EQ(S(banc.Texte("NoFicheLab")), c.carte);
+        EXPECT_EQ(banc.Actif("CmdPageMoins"), c.boutons);
         EXPECT_EQ(banc.Controle<QScrollBar>("VScroll1")->maximum(), c.n);
         EXPECT_EQ(banc.Foyer(), c.n == 0 ? QStringLiteral("BtNewQSO") : QStringLiteral("ListeLog"));
     }
 }
 
 TEST(Navigation, TouchesEtBoutons) {
-    Banc banc;
-    banc.Installer(Contacts(60) + Fin());
-    banc.Ouvrir();
+    Banc banc(Contacts(60) + Fin());
     struct Cas {
         std::function<void()> geste;
-        const char* page;
-        const char* carte;
+        const char *page, *carte;
     };
     const auto touche = [&](int t) { return [&banc, t] { banc.Touche(t); }; };
     const auto bouton = [&](const char* nom) { return [&banc, nom] { banc.Cliquer(nom); }; };
@@ -85,65 +63,45 @@ TEST(Navigation, TouchesEtBoutons) {
     for (std::size_t i = 0; i < cas.size(); ++i) {
         SCOPED_TRACE(i);
         cas[i].geste();
-        const Apercu vu = Voir(banc);
-        EXPECT_EQ(vu.page, QString::fromUtf8(cas[i].page));
-        EXPECT_EQ(vu.carte, QString::fromUtf8(cas[i].carte));
+        EXPECT_EQ(S(banc.Texte("LabPage")), cas[i].page);
+        EXPECT_EQ(S(banc.Texte("NoFicheLab")), cas[i].carte);
     }
 }
 
 // A list that takes the focus without a current line must not choose one by itself.
 TEST(Navigation, LaCarteNeChangePasToutSeule) {
-    Banc banc;
-    banc.Installer(Contacts(60) + Fin());
-    banc.Ouvrir();
-    banc.Cliquer("CmdPageMoins");
-    banc.Cliquer("CmdPagePlus");
+    Banc banc(Contacts(60) + Fin());
+    banc.Faire("CmdPageMoins CmdPagePlus");
     ASSERT_EQ(banc.Texte("NoFicheLab"), QStringLiteral(" Fiche N° 26 "));
     const std::vector<std::function<void()>> gestes = {
         [&] { banc.Controle<QListWidget>("ListeLog")->setFocus(); },
         [&] { banc.Cliquer("BtKillFiche"), banc.Cliquer("FraCmdNon"); },
         [&] { banc.Cliquer("BtActiveRech"), banc.Cliquer("BtContactsFermer"); },
-        [&] {
-            banc.Cliquer("TxtField_12");
-            banc.Taper("Zoe\n");
-            banc.Cliquer("FraCmdOui");
-        },
+        [&] { banc.Faire("TxtField_12 =Zoe FraCmdOui"); },
     };
     for (std::size_t i = 0; i < gestes.size(); ++i) {
-        banc.Cliquer("CmdSensBas");
+        banc.Faire("CmdSensBas");
         gestes[i]();
-        EXPECT_EQ(banc.Texte("NoFicheLab"), QStringLiteral(" Fiche N° 26 ")) << i;
-        EXPECT_TRUE(banc.Controle<QWidget>("BtNewQSO")->isEnabled()) << i;
+        EXPECT_EQ(S(banc.Texte("NoFicheLab")), " Fiche N° 26 ") << i;
+        EXPECT_TRUE(banc.Actif("BtNewQSO")) << i;
     }
     EXPECT_EQ(banc.Journal().substr(25 * kTailleFiche + 98, 3), "Zoe");
 }
 
 TEST(Navigation, CarteListeEtFeuilleMontrentLesOctets) {
-    Banc banc;
-    banc.Installer(Octets({{Champ::CSGN, "F6ABCDEFGHIJ/P"},
-                           {Champ::DQSO, "12/05/02"},
-                           {Champ::HDEB, "18:30"},
-                           {Champ::SQTH, "Besançon"},
-                           {Champ::SLOC, "JO62QM"},
-                           {Champ::DEPT, "2A"},
-                           {Champ::SNOM, "Éloïse"},
-                           {Champ::INFO, "ANTENNE YAGI 3 F5XYZ"},
-                           {Champ::MLOC, "JN04SD"}}) +
-                   Octets({{Champ::CSGN, "F5XYZ"}}) + Fin());
-    banc.Ouvrir();
+    Banc banc(
+        Octets("F6ABCDEFGHIJ/P|12/05/02|18:30||||||Besançon|JO62QM|2A|Éloïse|ANTENNE YAGI 3 F5XYZ",
+               "JN04SD") +
+        Octets("F5XYZ") + Fin());
     EXPECT_EQ(banc.Texte("LabDist").trimmed(), QStringLiteral("0 Km")) << "both locators empty";
-    EXPECT_EQ(banc.Texte("LabAzim"), QStringLiteral("... "));
+    EXPECT_EQ(S(banc.Texte("LabAzim")), "... ");
     auto* page = banc.Controle<FeuilleLog>("PageText1");
     QTest::mouseClick(page->viewport(), Qt::LeftButton, {}, page->RectDeRangee(0).center());
-    EXPECT_EQ(banc.Texte("NoFicheLab"), QStringLiteral(" Fiche N° 1 "));
+    EXPECT_EQ(S(banc.Texte("NoFicheLab")), " Fiche N° 1 ");
     EXPECT_EQ(banc.Lignes("ListeLog")[0],
               QStringLiteral("1      : F6ABCDEFGH:12/05/02:18:30      "));
-    EXPECT_EQ(banc.Texte("TxtField_1"), QStringLiteral("F6ABCDEFGHIJ/P"));
-    EXPECT_EQ(banc.Texte("TxtField_13"), QStringLiteral("ANTENNE YAGI 3"));
-    EXPECT_EQ(banc.Texte("TxtField_17"), QStringLiteral("F5XYZ"));
-    EXPECT_EQ(banc.Texte("LabDept"), QStringLiteral("Aisne"));
-    EXPECT_EQ(banc.Texte("LabDist"), QStringLiteral("1275.5 Km "));
-    EXPECT_EQ(banc.Texte("LabAzim"), QStringLiteral("321°"));
+    EXPECT_EQ(S(banc.Texte("TxtField_1 TxtField_13 TxtField_17 LabDept LabDist LabAzim")),
+              "F6ABCDEFGHIJ/P|ANTENNE YAGI 3|F5XYZ|Aisne|1275.5 Km |321°");
     EXPECT_TRUE(page->toPlainText().contains(QStringLiteral("Besançon             Éloïse")));
 }
 
