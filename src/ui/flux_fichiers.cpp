@@ -51,7 +51,7 @@ QString NomDuFichier(const Session& session) {
 
 bool CopierVers(Plateau& p, const DemandeFichier& demande) {
     const QString cible = p.systeme.ChoisirFichier(&p.fenetre, demande);
-    return !cible.isEmpty() &&
+    return !p.arret && !cible.isEmpty() &&
            Essayer(p, [&] { CopierJournal(p.session, std::filesystem::path(S(cible))); });
 }
 
@@ -106,7 +106,7 @@ void Jumeler(Plateau& p) {
     const QString source = p.systeme.ChoisirFichier(
         &p.fenetre,
         {false, Q(TexteLecteur(p.session.lecteur)), {}, QStringLiteral("Cahier à ajouter")});
-    if (source.isEmpty())
+    if (p.arret || source.isEmpty())
         return;
     Essayer(p, [&] { JumelerJournal(p.session, std::filesystem::path(S(source))); });
     RemplirListe(p);
@@ -157,7 +157,7 @@ void OuvrirAutre(Plateau& p) {
     const QString choisi = p.systeme.ChoisirFichier(
         &p.fenetre,
         {false, Q(TexteLecteur(p.session.lecteur)), {}, QStringLiteral("Ouvrir un autre cahier")});
-    if (choisi.isEmpty())
+    if (p.arret || choisi.isEmpty())
         return;
     BilanOuverture bilan;
     if (!Essayer(p, [&] { bilan = OuvrirAutreJournal(p.session, S(choisi)); }) || !bilan.ouvert)

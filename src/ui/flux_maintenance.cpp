@@ -10,6 +10,7 @@
 #include "ui/panneau_contacts.h"
 #include "ui/panneau_fiche.h"
 #include "ui/panneau_jumelage.h"
+#include "ui/panneau_menu.h"
 #include "ui/panneau_rech.h"
 #include "ui/systeme.h"
 
@@ -58,6 +59,8 @@ void Classer(Plateau& p) {
     AbandonnerModification(p);
     p.liste.setEnabled(false);
     p.fiche.setEnabled(false);
+    p.menu.ActiverNouveau(false);
+    p.menu.ActiverSupprimer(false);
     p.fiche.MontrerActiveRech(false);
     p.rech.hide();
     p.jumelage.hide();
@@ -77,6 +80,7 @@ void Classer(Plateau& p) {
     p.classer.hide();
     p.liste.setEnabled(true);
     p.fiche.setEnabled(true);
+    ReactiverBoutons(p);
     // Kept on purpose: the search panel and this button stay hidden after a sort.
     p.fiche.MontrerActiveRech(false);
     p.liste.DonnerFoyer();
