@@ -1,24 +1,18 @@
 #include "ui/chang_locator.h"
 
-#include "core/boites.h"
+#include "geo/locator.h"
 #include "ui/filtre_edition.h"
+#include "ui/gestes.h"
 #include "ui/teintes.h"
 #include "ui/texte_qt.h"
 #include "ui_chang_locator.h"
-
-#include <QKeyEvent>
 
 namespace orvalis {
 
 PictChangLocator::PictChangLocator(QWidget* parent)
     : QFrame(parent), ui_(std::make_unique<Ui::PictChangLocator>()) {
     ui_->setupUi(this);
-    constexpr std::size_t kLongueur = 6;
-    ui_->ChangLocText->setValidator(new FiltreEdition(
-        [](const TexteEdite& nouveau) {
-            return FiltrerEdition(Touches::Majuscules, kLongueur, "", nouveau);
-        },
-        this));
+    FiltrerMajuscules(*ui_->ChangLocText, kLargeurLocator);
     ui_->ChangLocText->installEventFilter(this);
     TeinterFond(*ui_->BtChangAnnul, Teinte::RougeClair);
     connect(ui_->ChangLocText, &QLineEdit::textChanged, this, &PictChangLocator::texteChange);
@@ -57,18 +51,12 @@ bool PictChangLocator::Garder() const {
 }
 
 bool PictChangLocator::eventFilter(QObject* objet, QEvent* evenement) {
-    if (evenement->type() == QEvent::FocusIn) {
-        const Qt::FocusReason raison = static_cast<QFocusEvent*>(evenement)->reason();
-        if (raison != Qt::ActiveWindowFocusReason && raison != Qt::PopupFocusReason &&
-            raison != Qt::MenuBarFocusReason)
-            Q_EMIT foyerTexte();
-    }
-    if (evenement->type() == QEvent::KeyPress) {
-        const int touche = static_cast<QKeyEvent*>(evenement)->key();
-        if (touche == Qt::Key_Return || touche == Qt::Key_Enter) {
-            Q_EMIT entree();
-            return true;
-        }
+    if (evenement->type() == QEvent::FocusIn &&
+        !HorsSaisie(static_cast<QFocusEvent*>(evenement)->reason()))
+        Q_EMIT foyerTexte();
+    if (EstEntree(*evenement)) {
+        Q_EMIT entree();
+        return true;
     }
     return QFrame::eventFilter(objet, evenement);
 }

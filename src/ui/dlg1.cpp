@@ -8,26 +8,16 @@
 #include "geo/dlg2.h"
 #include "geo/locator.h"
 #include "ui/filtre_edition.h"
+#include "ui/gestes.h"
 #include "ui/systeme.h"
 #include "ui/texte_qt.h"
 #include "ui_dlg1.h"
 
-#include <QKeyEvent>
+#include <QLineEdit>
 
 #include <algorithm>
 
 namespace orvalis {
-namespace {
-
-void FiltrerMajuscules(QLineEdit& boite, std::size_t longueur) {
-    boite.setValidator(new FiltreEdition(
-        [longueur](const TexteEdite& nouveau) {
-            return FiltrerEdition(Touches::Majuscules, longueur, "", nouveau);
-        },
-        &boite));
-}
-
-} // namespace
 
 Dlg1::Dlg1(std::filesystem::path lecteur, Systeme& systeme, QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::Dlg1>()), lecteur_(std::move(lecteur)),
@@ -40,7 +30,7 @@ Dlg1::Dlg1(std::filesystem::path lecteur, Systeme& systeme, QWidget* parent)
     ui_->Dlg1Fra3->hide();
     constexpr std::size_t kLongueurIndicatif = 20;
     FiltrerMajuscules(*ui_->Dlg1Fra2Text1, kLongueurIndicatif);
-    FiltrerMajuscules(*ui_->Dlg1Fra2Text2, 6);
+    FiltrerMajuscules(*ui_->Dlg1Fra2Text2, kLargeurLocator);
     for (QLineEdit* boite : {ui_->Dlg1Fra2Text1, ui_->Dlg1Fra2Text2}) {
         boite->installEventFilter(this);
         // What was accepted no longer holds once the operator types on.
@@ -56,19 +46,15 @@ Dlg1::Dlg1(std::filesystem::path lecteur, Systeme& systeme, QWidget* parent)
 Dlg1::~Dlg1() = default;
 
 bool Dlg1::eventFilter(QObject* objet, QEvent* evenement) {
-    if (evenement->type() == QEvent::KeyPress) {
-        const int touche = static_cast<QKeyEvent*>(evenement)->key();
-        if (touche == Qt::Key_Return || touche == Qt::Key_Enter) {
-            if (objet == ui_->Dlg1Fra2Text1)
-                AccepterIndicatif();
-            else if (objet == ui_->Dlg1Fra2Text2)
-                AccepterLocator();
-            else
-                ui_->Dlg1Fra3CmdValider->click();
-            return true;
-        }
-    }
-    return QDialog::eventFilter(objet, evenement);
+    if (!EstEntree(*evenement))
+        return QDialog::eventFilter(objet, evenement);
+    if (objet == ui_->Dlg1Fra2Text1)
+        AccepterIndicatif();
+    else if (objet == ui_->Dlg1Fra2Text2)
+        AccepterLocator();
+    else
+        ui_->Dlg1Fra3CmdValider->click();
+    return true;
 }
 
 void Dlg1::AccepterIndicatif() {

@@ -3,6 +3,8 @@
 #include "core/texte.h"
 #include "ui/texte_qt.h"
 
+#include <QLineEdit>
+
 namespace orvalis {
 
 QValidator::State FiltreEdition::validate(QString& texte, int& curseur) const {
@@ -13,6 +15,14 @@ QValidator::State FiltreEdition::validate(QString& texte, int& curseur) const {
     texte = Q(pris.texte);
     curseur = static_cast<int>(Q(Gauche(pris.texte, pris.curseur)).size());
     return Acceptable;
+}
+
+void FiltrerMajuscules(QLineEdit& boite, std::size_t longueur) {
+    boite.setValidator(new FiltreEdition(
+        [longueur](const TexteEdite& nouveau) {
+            return FiltrerEdition(Touches::Majuscules, longueur, "", nouveau);
+        },
+        &boite));
 }
 
 } // namespace orvalis

@@ -8,6 +8,8 @@
 
 #include <functional>
 
+class QLineEdit;
+
 namespace orvalis {
 
 class FiltreEdition : public QValidator {
@@ -20,5 +22,8 @@ class FiltreEdition : public QValidator {
   private:
     Regle regle_;
 };
+
+/// Makes `boite` take at most `longueur` characters, in upper case.
+void FiltrerMajuscules(QLineEdit& boite, std::size_t longueur);
 
 } // namespace orvalis

@@ -5,6 +5,7 @@
 #include "ui/effets.h"
 #include "ui/feuille_log.h"
 #include "ui/flux_demarrage.h"
+#include "ui/gestes.h"
 #include "ui/msg_fiche.h"
 #include "ui/panneau_classer.h"
 #include "ui/panneau_contacts.h"
@@ -69,11 +70,7 @@ bool EstUnGeste(QEvent::Type type) {
 bool Presse(const QEvent& evenement) {
     if (evenement.type() == QEvent::Shortcut)
         return !static_cast<const QShortcutEvent&>(evenement).isAmbiguous();
-    if (evenement.type() != QEvent::KeyPress)
-        return false;
-    const auto& frappe = static_cast<const QKeyEvent&>(evenement);
-    return (frappe.key() == Qt::Key_Return || frappe.key() == Qt::Key_Enter) &&
-           !frappe.isAutoRepeat();
+    return EstEntree(evenement) && !static_cast<const QKeyEvent&>(evenement).isAutoRepeat();
 }
 
 // A layout without margins of its own.

@@ -1,11 +1,10 @@
 #include "ui/panneau_rech.h"
 
-#include "core/boites.h"
 #include "ui/filtre_edition.h"
+#include "ui/gestes.h"
 #include "ui/texte_qt.h"
 #include "ui_panneau_rech.h"
 
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPalette>
 
@@ -14,11 +13,7 @@ namespace orvalis {
 PictRech::PictRech(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::PictRech>()) {
     ui_->setupUi(this);
     constexpr std::size_t kLongueur = 40;
-    ui_->RechText->setValidator(new FiltreEdition(
-        [](const TexteEdite& nouveau) {
-            return FiltrerEdition(Touches::Majuscules, kLongueur, "", nouveau);
-        },
-        this));
+    FiltrerMajuscules(*ui_->RechText, kLongueur);
     ui_->RechText->installEventFilter(this);
     ui_->RechText->setMinimumWidth(QFontMetrics(font()).averageCharWidth() * 18);
     ui_->RechText->setClearButtonEnabled(true);
@@ -44,12 +39,9 @@ bool PictRech::eventFilter(QObject* objet, QEvent* evenement) {
     if (evenement->type() == QEvent::MouseButtonPress &&
         static_cast<QMouseEvent*>(evenement)->button() == Qt::LeftButton)
         Q_EMIT cliquee();
-    if (evenement->type() == QEvent::KeyPress) {
-        const int touche = static_cast<QKeyEvent*>(evenement)->key();
-        if (touche == Qt::Key_Return || touche == Qt::Key_Enter) {
-            Q_EMIT rechercheDemandee();
-            return true;
-        }
+    if (EstEntree(*evenement)) {
+        Q_EMIT rechercheDemandee();
+        return true;
     }
     return QWidget::eventFilter(objet, evenement);
 }

@@ -2,6 +2,7 @@
 
 #include "core/texte.h"
 #include "ui/filtre_edition.h"
+#include "ui/gestes.h"
 #include "ui/texte_qt.h"
 
 #include <QEvent>
@@ -13,12 +14,6 @@ namespace orvalis {
 namespace {
 
 constexpr std::size_t kBoiteSaQsl = 15;
-
-// Moves of the focus that the operator did not make inside the window.
-bool HorsSaisie(Qt::FocusReason raison) {
-    return raison == Qt::ActiveWindowFocusReason || raison == Qt::MenuBarFocusReason ||
-           raison == Qt::PopupFocusReason;
-}
 
 bool PaletteSombre(const QPalette& palette) {
     return palette.color(QPalette::Window).lightness() < 128;
