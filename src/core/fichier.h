@@ -62,7 +62,7 @@ class Fichier {
     /// holder has it. It goes with the file's closing. A file system that knows no locks counts
     /// as locked.
     [[nodiscard]] bool Verrouiller();
-    /// True when both are open on the same file, under whatever name.
+    /// True when `autre` is a path to the file that is open here, under whatever name.
     [[nodiscard]] bool EstLeMeme(const std::filesystem::path& autre) const;
 
   private:

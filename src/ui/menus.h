@@ -11,7 +11,7 @@ class QMenuBar;
 
 namespace orvalis {
 
-/// Fills the menu bar; `action` is called with the object name of each new entry, heads excluded.
+/// Fills the menu bar; `ajouter` is called with each new entry, heads excluded.
 void FaireMenus(QMenuBar& barre, const std::function<void(QAction&)>& ajouter);
 
 } // namespace orvalis
