@@ -85,7 +85,7 @@ void Banc::Menu(const char* nom) const {
     QCoreApplication::processEvents();
 }
 
-void Banc::Faire(const char* gestes) const {
+void Banc::Faire(const char* gestes) {
     for (const QString& geste :
          QString::fromUtf8(gestes).split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
         const std::string nom = S(geste);
@@ -95,6 +95,8 @@ void Banc::Faire(const char* gestes) const {
             Taper(nom.substr(1) + "\n");
         else if (nom[0] == '#')
             ChoisirLigne(std::stoi(nom.substr(1)));
+        else if (nom[0] == '<')
+            systeme.fichierChoisi = Chemin(nom.c_str() + 1);
         else if (nom.starts_with("Mnu"))
             Menu(nom.c_str());
         else

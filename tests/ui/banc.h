@@ -109,8 +109,9 @@ class Banc {
     void Cliquer(const char* nom) const;
     void Menu(const char* nom) const;
     /// One gesture after the other: a control clicked, a menu chosen, "^B" for Alt+B, "=text" typed
-    /// with Enter after it, "#3" for a line of the list.
-    void Faire(const char* gestes) const;
+    /// with Enter after it, "#3" for a line of the list, "<A.Vek" for the file of the program folder
+    /// that the next dialog gives.
+    void Faire(const char* gestes);
     void ChoisirLigne(int rangee) const; ///< in the list of contacts
     /// Types text as a keyboard does, to whatever has the focus; '\n' is Enter.
     void Taper(const std::string& utf8) const;
