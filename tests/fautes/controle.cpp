@@ -1,124 +1,89 @@
-#include "fautes/controle.h"
-
+#include "fautes/fautes.h"
 #include "qsl/qsl_slot_record.h"
 
 #include <algorithm>
-#include <set>
 
 namespace orvalis::essais {
 namespace {
 
 using Fiches = std::vector<std::string>;
 
-std::string Fichier(const Fichiers& fichiers, const std::string& nom) {
-    const auto f = fichiers.find(nom);
-    return f == fichiers.end() ? std::string() : f->second;
-}
-
-/// The contacts, in order; `fini` tells whether an end-of-log record closes them.
-Fiches Contacts(const std::string& octets, bool* fini = nullptr) {
+/// The contacts before the end-of-log record, sorted.
+Fiches Lire(const std::string& octets) {
     Fiches fiches;
-    for (std::size_t i = 0; i < octets.size(); i += kTailleFiche) {
+    for (std::size_t i = 0; i < octets.size() && octets.compare(i, 2, "\\ ") != 0;
+         i += kTailleFiche)
         fiches.push_back(octets.substr(i, kTailleFiche));
-        if (fiches.back().starts_with("\\ ")) {
-            fiches.pop_back();
-            if (fini != nullptr)
-                *fini = true;
-            return fiches;
-        }
-    }
+    std::sort(fiches.begin(), fiches.end());
     return fiches;
 }
 
-Fiches Sans(Fiches fiches, const Fiches& autres) {
-    for (const std::string& autre : autres)
-        fiches.erase(std::remove(fiches.begin(), fiches.end(), autre), fiches.end());
-    return fiches;
-}
-
-std::string Nommer(const std::string& fiche) {
-    return "[" + fiche.substr(0, 33) + "...]";
-}
-
-/// Takes one of `fiches` that equals one of `choix` out; false when there is none.
-bool Prendre(Fiches& fiches, const Fiches& choix) {
-    const auto f = std::find_first_of(fiches.begin(), fiches.end(), choix.begin(), choix.end());
-    const bool la = f != fiches.end();
-    if (la)
-        fiches.erase(f);
-    return la;
+/// The contacts of `fiches` less those of `autres`, one for one.
+Fiches Sans(const Fiches& fiches, const Fiches& autres) {
+    Fiches reste;
+    std::set_difference(fiches.begin(), fiches.end(), autres.begin(), autres.end(),
+                        std::back_inserter(reste));
+    return reste;
 }
 
 std::string DegatDuCahier(const std::string& avant, const std::string& apres,
                           const std::string& trouve) {
-    bool fini = false;
-    bool finiAvant = false;
-    Fiches reste = Contacts(trouve, &fini);
-    const Fiches anciens = Contacts(avant, &finiAvant);
-    const Fiches nouveaux = Contacts(apres);
-    if (finiAvant && !fini)
+    const Fiches anciens = Lire(avant);
+    const Fiches nouveaux = Lire(apres);
+    const Fiches trouves = Lire(trouve);
+    if (anciens.size() * kTailleFiche < avant.size() &&
+        trouves.size() * kTailleFiche >= trouve.size())
         return "no end-of-log record";
     const Fiches disparus = Sans(anciens, nouveaux);
     const Fiches apparus = Sans(nouveaux, anciens);
-    for (const std::string& fiche : Sans(anciens, disparus))
-        if (!Prendre(reste, {fiche}))
-            return "lost " + Nommer(fiche);
-    if (disparus.size() == apparus.size()) {
-        for (std::size_t i = 0; i < disparus.size(); ++i)
-            if (!Prendre(reste, {disparus[i], apparus[i]}))
-                return "neither old nor new " + Nommer(disparus[i]);
-    } else {
-        // A deletion blanks its contact first.
-        for (const std::string& fiche : disparus)
-            Prendre(reste, {fiche, std::string(kTailleFiche, ' ')});
-        std::size_t nouvelles = 0;
-        for (const std::string& fiche : apparus)
-            nouvelles += Prendre(reste, {fiche}) ? 1 : 0;
-        if (nouvelles != 0 && nouvelles != apparus.size())
-            return "only " + std::to_string(nouvelles) + " of the appended contacts";
-    }
-    return reste.empty() ? std::string() : "invented or doubled " + Nommer(reste.front());
+    const Fiches communs = Sans(anciens, disparus);
+    if (const Fiches perdus = Sans(communs, trouves); !perdus.empty())
+        return "lost " + perdus[0];
+    const Fiches restes = Sans(trouves, communs);
+    // A deletion blanks its contact first; contacts are appended together or not at all.
+    const Fiches blanche(disparus.size(), std::string(kTailleFiche, ' '));
+    if (restes == disparus || restes == apparus || (apparus.empty() && restes == blanche))
+        return {};
+    // Corrections come one after the other, which sorting leaves in the same places.
+    bool corriges = restes.size() == disparus.size() && restes.size() == apparus.size();
+    for (std::size_t i = 0; corriges && i < restes.size(); ++i)
+        corriges = restes[i] == disparus[i] || restes[i] == apparus[i];
+    return corriges ? "" : "torn, invented or doubled" + (restes.empty() ? "" : ' ' + restes[0]);
 }
 
-std::string DegatDeLaFeuille(const Fichiers& avant, const Fichiers& apres,
-                             const Fichiers& trouves) {
-    const std::string nom = "FeuilleQSL.txt";
-    const std::string a = Fichier(avant, nom);
-    const std::string b = Fichier(apres, nom);
-    const std::string t = Fichier(trouves, nom);
+std::string DegatDeLaFeuille(const std::string& a, const std::string& b, const std::string& t,
+                             const std::string& cahier) {
     if (t.empty() && a.empty())
         return {};
     if (t.size() != b.size())
         return "sheet of " + std::to_string(t.size()) + " bytes";
-    std::set<std::string> indicatifs;
+    std::vector<std::string> indicatifs;
     for (std::size_t i = 0; i < t.size(); i += kTailleEtiquette) {
         const std::string place = t.substr(i, kTailleEtiquette);
-        if (place != b.substr(i, kTailleEtiquette) &&
-            (a.empty() || place != a.substr(i, kTailleEtiquette)))
+        const bool ancienne = !a.empty() && place == a.substr(i, kTailleEtiquette);
+        if (place != b.substr(i, kTailleEtiquette) && !ancienne)
             return "torn label [" + place + "]";
-        indicatifs.insert(place.substr(0, 15));
+        indicatifs.push_back(place.substr(0, 15));
     }
-    for (const std::string& fiche : Contacts(Fichier(trouves, "F5ABC.Vek")))
-        if (fiche.substr(143, 8) == "En cours" && !indicatifs.contains(fiche.substr(0, 15)))
-            return "without a label: " + Nommer(fiche);
+    for (const std::string& fiche : Lire(cahier))
+        if (fiche.substr(143, 8) == "En cours" &&
+            std::count(indicatifs.begin(), indicatifs.end(), fiche.substr(0, 15)) == 0)
+            return "without a label: " + fiche;
     return {};
 }
 
 } // namespace
 
-std::string Degat(const Fichiers& avant, const Fichiers& apres, const Fichiers& trouves) {
-    const std::string cahier = "F5ABC.Vek";
-    std::string degat =
-        DegatDuCahier(Fichier(avant, cahier), Fichier(apres, cahier), Fichier(trouves, cahier));
+std::string Degat(Fichiers avant, Fichiers apres, Fichiers trouves) {
+    const std::string c = "F5ABC.Vek";
+    const std::string f = "FeuilleQSL.txt";
+    std::string degat = DegatDuCahier(avant[c], apres[c], trouves[c]);
     if (degat.empty())
-        degat = DegatDeLaFeuille(avant, apres, trouves);
-    for (const auto& [nom, octets] : avant) {
-        const bool intact = nom == cahier || nom == "FeuilleQSL.txt" ||
-                            Fichier(trouves, nom) == octets ||
-                            Fichier(trouves, nom) == Fichier(apres, nom);
-        if (degat.empty() && !intact)
+        degat = DegatDeLaFeuille(avant[f], apres[f], trouves[f], trouves[c]);
+    for (const auto& [nom, octets] : avant)
+        if (degat.empty() && nom != c && nom != f && trouves[nom] != octets &&
+            trouves[nom] != apres[nom])
             degat = nom + " is neither the old nor the new one";
-    }
     return degat;
 }
 

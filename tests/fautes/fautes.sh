@@ -4,45 +4,34 @@
 #
 #   tests/fautes/fautes.sh [folder of the build, "build" by default]
 set -euo pipefail
-racine=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
-outil=$(cd "${1:-$racine/build}" && pwd)/tests/orvalis_fautes
-export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 QT_LOGGING_RULES='*=false'
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+outil=$(realpath "${1:-build}")/tests/orvalis_fautes
+export LC_ALL=C.UTF-8 QT_LOGGING_RULES='*=false'
 "$outil" 2>/dev/null
 
 appels=openat,pread64,pwrite64,fdatasync,ftruncate,rename,memfd_create,mmap,munmap,newfstatat
 travail=$(mktemp -d)
 trap 'rm -rf "$travail"' EXIT
-
-# Prints name and occurrence, counted from the start of the program, of the calls in a trace that
-# lie between the marks.
-entre_les_marques() {
-    awk '{ nom = $1; sub(/\(.*/, "", nom) }
-         /fautes-debut/ { dedans = 1; next }
-         /fautes-fin/ { exit }
-         { n[nom]++; if (dedans) print nom, n[nom] }' "$1"
-}
-
 essais=0 degats=0
 for operation in suivant terminer correction suppression; do
-    reference=$travail/reference-$operation
-    mkdir "$reference"
+    mkdir "$travail/$operation"
     strace -e trace="$appels",access -o "$travail/trace" \
-        "$outil" --une "$operation" "$reference" >/dev/null 2>&1
-    mapfile -t points < <(entre_les_marques "$travail/trace")
-    for point in "${points[@]}"; do
-        read -r nom rang <<<"$point"
-        lecteur=$travail/lecteur
-        rm -rf "$lecteur" && mkdir "$lecteur"
+        "$outil" --une "$operation" "$travail/$operation" >/dev/null 2>&1
+    # Name and occurrence, counted from the start of the program, of the calls between the marks.
+    while read -r nom rang; do
+        lecteur=$travail/$((essais += 1))
+        mkdir "$lecteur"
         # In a shell of its own, for strace dies like what it runs, and the shell says so.
         (strace -e trace="$nom" -e inject="$nom:signal=KILL:when=$rang" -o /dev/null \
             "$outil" --une "$operation" "$lecteur" >/dev/null || true) 2>/dev/null
-        essais=$((essais + 1))
-        if ! degat=$("$outil" --juger "$operation" "$reference" "$lecteur" 2>/dev/null); then
+        if ! degat=$("$outil" --juger "$operation" "$lecteur" 2>/dev/null); then
             echo "$operation, killed by strace at $nom $rang: $degat"
             degats=$((degats + 1))
         fi
-    done
-    echo "$operation: ${#points[@]} kills by strace"
+    done < <(awk '{ nom = $1; sub(/\(.*/, "", nom) }
+                  /fautes-debut/ { dedans = 1; next }
+                  /fautes-fin/ { exit }
+                  { n[nom]++; if (dedans) print nom, n[nom] }' "$travail/trace")
 done
 echo "$essais kills by strace, $degats damaged"
 ((degats == 0))

@@ -2,19 +2,15 @@
 // after each. The window stands ready before the operation's last gesture; each fault strikes in
 // a child of the process, so that all start from the same instant.
 //
-//   orvalis_fautes [--pas N] [operation...]     every N-th fault of the operations, or of all
+//   orvalis_fautes [OPERATION]                  one operation, or all
 //   orvalis_fautes --une OPERATION LECTEUR      the operation alone, for strace (see fautes.sh)
-//   orvalis_fautes --juger OPERATION REFERENCE LECTEUR
-//                                               checks what it left, beside a run without fault
-#include "fautes/controle.h"
-#include "fautes/injection.h"
+//   orvalis_fautes --juger OPERATION LECTEUR    what is wrong there after it
+#include "fautes/fautes.h"
 
 #include <QApplication>
 
-#include <cstdio>
-#include <fstream>
 #include <iostream>
-#include <sstream>
+#include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -32,113 +28,51 @@ class SansPeinture : public QObject {
     }
 };
 
-/// What a run of an operation showed.
-struct Bilan {
-    bool tuee = false;
-    std::string message;
-    std::vector<Appel> appels;
-};
-
 Fichiers LireFichiers(const fs::path& dossier) {
     Fichiers fichiers;
-    for (const auto& entree : fs::directory_iterator(dossier)) {
-        std::ostringstream octets;
-        if (entree.is_regular_file())
-            octets << std::ifstream(entree.path(), std::ios::binary).rdbuf();
-        fichiers[entree.path().filename().string()] = octets.str();
-    }
+    for (const auto& entree : fs::directory_iterator(dossier))
+        fichiers[entree.path().filename()] =
+            entree.is_regular_file() ? essai::Lire(entree.path()) : std::string();
     return fichiers;
 }
 
-/// Puts the files back in place, under what has them open.
-void Remettre(const fs::path& dossier, const Fichiers& fichiers) {
-    for (const auto& entree : fs::directory_iterator(dossier))
-        if (!fichiers.contains(entree.path().filename().string()))
+/// What the operator was told, "killed" or "crashed"; the files are put back in place before,
+/// under what has them open.
+std::string Essayer(const Operation& operation, Banc& banc, const Fichiers& avant, const Plan& plan,
+                    Bilan& bilan) {
+    for (const auto& entree : fs::directory_iterator(banc.Dossier()))
+        if (!avant.contains(entree.path().filename()))
             fs::remove_all(entree.path());
-    for (const auto& [nom, octets] : fichiers)
-        std::ofstream(dossier / nom, std::ios::binary) << octets;
-}
-
-void Preparer(const Operation& operation, Banc& banc) {
-    banc.Installer({});
-    for (const auto& [nom, octets] : operation.fichiers)
+    for (const auto& [nom, octets] : avant)
         banc.Ecrire(nom, octets);
-    if (operation.fenetre)
-        banc.Ouvrir();
-    operation.preparer(banc);
-}
-
-/// The last gesture; what the operator was told.
-std::string Agir(const Operation& operation, Banc& banc) {
-    operation.agir(banc);
-    std::string texte;
-    for (const QString& message : banc.systeme.avertissements)
-        texte += message.toStdString();
-    if (banc.systeme.codeDeFin && (texte.empty() || *banc.systeme.codeDeFin == 0))
-        texte = "ended without a word";
-    return texte;
-}
-
-[[noreturn]] void Enfant(const Operation& operation, Banc& banc, const Plan& plan, int sortie) {
-    ::alarm(20); // a run that hangs counts as a crash
-    Armer(banc.systeme.lecteur.string(), plan);
-    const std::string message = Agir(operation, banc);
-    std::ostringstream rapport;
-    for (const Appel& appel : Desarmer())
-        rapport << static_cast<int>(appel.sorte) << ' ' << appel.octets << ' ' << appel.position
-                << ' ' << appel.nom << '\n';
-    rapport << '\n' << message;
-    const std::string texte = rapport.str();
-    ::_exit(::write(sortie, texte.data(), texte.size()) < 0 ? 1 : 0);
-}
-
-Bilan Essayer(const Operation& operation, Banc& banc, const Plan& plan) {
-    int tube[2] = {};
-    if (::pipe(tube) != 0)
-        throw std::runtime_error("pipe");
+    bilan = {};
     const pid_t enfant = ::fork();
-    if (enfant == 0)
-        Enfant(operation, banc, plan, tube[1]);
-    ::close(tube[1]);
-    std::string texte;
-    char morceau[4096];
-    for (ssize_t n = 0; (n = ::read(tube[0], morceau, sizeof morceau)) > 0;)
-        texte.append(morceau, static_cast<std::size_t>(n));
-    ::close(tube[0]);
-    int statut = 0;
-    ::waitpid(enfant, &statut, 0);
-    Bilan bilan;
-    bilan.tuee = WIFSIGNALED(statut) && WTERMSIG(statut) == SIGKILL;
-    std::istringstream lignes(texte);
-    for (std::string ligne; std::getline(lignes, ligne) && !ligne.empty();) {
-        int sorte = 0;
-        Appel appel;
-        std::istringstream(ligne) >> sorte >> appel.octets >> appel.position >> appel.nom;
-        appel.sorte = static_cast<SorteAppel>(sorte);
-        bilan.appels.push_back(appel);
+    if (enfant == 0) {
+        ::alarm(20); // a run that hangs counts as a crash
+        Armer(banc.systeme.lecteur.string(), plan, bilan);
+        Agir(operation, banc).copy(bilan.message.data(), bilan.message.size() - 1);
+        ::_exit(0);
     }
-    std::getline(lignes, bilan.message, '\0');
-    if (!bilan.tuee && statut != 0)
-        bilan.message = "crashed";
-    return bilan;
+    int statut = -1;
+    ::waitpid(enfant, &statut, 0);
+    if (WIFSIGNALED(statut) && WTERMSIG(statut) == SIGKILL)
+        return "killed";
+    return statut == 0 ? bilan.message.data() : "crashed";
 }
-
-constexpr const char* kNoms[] = {
-    "none", "killed", "killed inside", "disk full", "cut short", "cut short, then full", "error"};
 
 /// What is wrong after a fault; empty when nothing is.
-std::string Juger(const Plan& plan, const Bilan& bilan, const Fichiers& avant,
+std::string Juger(const Plan& plan, const std::string& message, const Fichiers& avant,
                   const Fichiers& apres, const Fichiers& trouves) {
-    const bool doitMourir = plan.faute == Faute::Tuee || plan.faute == Faute::TueeDedans;
-    if (bilan.tuee != doitMourir)
-        return doitMourir ? "was not killed" : "died";
-    std::string degat = Degat(avant, apres, trouves);
-    const bool dit = bilan.message.find("Impossible") != std::string::npos;
-    if (degat.empty() && !bilan.message.empty() && !dit)
-        degat = "said: " + bilan.message;
-    if (degat.empty() && !doitMourir && !dit && trouves != apres)
-        degat = "said nothing, although it is not done";
-    return degat;
+    const bool tue = plan.faute.tue;
+    const bool dit = message.find("Impossible") != std::string::npos;
+    if ((message == "killed") != tue)
+        return tue ? "was not killed" : "died";
+    const std::string degat = Degat(avant, apres, trouves);
+    if (!degat.empty() || tue || dit)
+        return degat;
+    if (!message.empty())
+        return "said: " + message;
+    return trouves == apres ? "" : "said nothing, although it is not done";
 }
 
 struct Compte {
@@ -146,55 +80,48 @@ struct Compte {
     int degats = 0;
 };
 
-void Parcourir(const Operation& operation, int pas, Compte& compte) {
+void Parcourir(const Operation& operation, Bilan& bilan, Compte& compte) {
     Banc banc;
     Preparer(operation, banc);
-    const fs::path dossier = banc.Dossier();
-    const Fichiers avant = LireFichiers(dossier);
-    const Bilan temoin = Essayer(operation, banc, {});
-    const Fichiers apres = LireFichiers(dossier);
-    int essais = 0;
-    int degats = 0;
-    if (!temoin.message.empty() || apres == avant || temoin.appels.empty()) {
-        std::cout << operation.nom << ": does not work: " << temoin.message << '\n';
-        ++degats;
+    const Fichiers avant = LireFichiers(banc.Dossier());
+    const std::string temoin = Essayer(operation, banc, avant, {}, bilan);
+    const std::vector<Appel> appels(bilan.appels.data(), bilan.appels.data() + bilan.nombre);
+    const Fichiers apres = LireFichiers(banc.Dossier());
+    const auto dire = [&](const std::string& texte) {
+        std::cout << operation.nom << ": " << texte << std::endl;
+    };
+    dire(std::to_string(appels.size()) + " calls");
+    if (!temoin.empty() || apres == avant || appels.empty()) {
+        dire("does not work " + temoin);
+        ++compte.degats;
     }
-    for (std::size_t rang = 0; rang < temoin.appels.size(); ++rang)
-        for (const Plan& plan : Fautes(temoin.appels[rang], rang)) {
-            if ((compte.essais + essais++) % pas != 0)
-                continue;
-            Remettre(dossier, avant);
-            const Bilan bilan = Essayer(operation, banc, plan);
-            const std::string degat = Juger(plan, bilan, avant, apres, LireFichiers(dossier));
+    for (std::size_t rang = 0; rang < appels.size(); ++rang)
+        for (const Plan& plan : Fautes(appels[rang], rang)) {
+            ++compte.essais;
+            const std::string message = Essayer(operation, banc, avant, plan, bilan);
+            const Fichiers trouves = LireFichiers(banc.Dossier());
+            const std::string degat = Juger(plan, message, avant, apres, trouves);
             if (degat.empty())
                 continue;
-            ++degats;
-            std::cout << operation.nom << ": " << kNoms[static_cast<int>(plan.faute)] << " at call "
-                      << rang + 1 << " (" << temoin.appels[rang].nom << "): " << degat << '\n';
+            ++compte.degats;
+            dire(std::string(plan.faute.nom) + " at call " + std::to_string(rang + 1) + " (" +
+                 appels[rang].nom + "): " + degat);
         }
-    std::cout << operation.nom << ": " << temoin.appels.size() << " calls, "
-              << (essais + pas - 1) / pas << " faults, " << degats << " damaged" << std::endl;
-    compte.essais += essais;
-    compte.degats += degats;
 }
 
-/// One operation in this process, between two marks that strace sees.
-int Seule(const Operation& operation, const fs::path& lecteur) {
+/// The operation in this process, between two marks that strace sees, on `lecteur`; or, when
+/// `juge`, on a drive of its own, and what is wrong on `lecteur` beside it.
+std::string Seule(const Operation& operation, const fs::path& lecteur, bool juge) {
     Banc banc;
-    banc.systeme.lecteur = lecteur;
+    if (!juge)
+        banc.systeme.lecteur = lecteur;
     Preparer(operation, banc);
+    const Fichiers avant = LireFichiers(banc.Dossier());
     static_cast<void>(::access("/fautes-debut", F_OK));
     const std::string message = Agir(operation, banc);
     static_cast<void>(::access("/fautes-fin", F_OK));
-    std::cout << message << '\n';
-    ::_exit(message.empty() ? 0 : 1);
-}
-
-int JugerSeule(const Operation& operation, const fs::path& reference, const fs::path& lecteur) {
-    const std::string degat = Degat(operation.fichiers, LireFichiers(reference / "Orvalis"),
-                                    LireFichiers(lecteur / "Orvalis"));
-    std::cout << degat;
-    return degat.empty() ? 0 : 1;
+    return juge ? Degat(avant, LireFichiers(banc.Dossier()), LireFichiers(lecteur / "Orvalis"))
+                : message;
 }
 
 } // namespace
@@ -206,24 +133,23 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     SansPeinture filtre;
     qApp->installEventFilter(&filtre);
-    int pas = 1;
-    std::vector<std::string> noms;
-    for (int i = 1; i < argc; ++i)
-        if (argv[i] == std::string("--pas") && i + 1 < argc)
-            pas = std::stoi(argv[++i]);
-        else
-            noms.emplace_back(argv[i]);
-    const std::string ordre = noms.empty() ? std::string() : noms[0];
-    const bool seule = ordre == "--une" || ordre == "--juger";
+    const std::vector<std::string> mots(argv + 1, argv + argc);
+    const std::string ordre = mots.size() == 3 ? mots[0] : "";
+    const std::string nom = mots.empty() ? "" : mots[ordre.empty() ? 0 : 1];
+    void* memoire =
+        ::mmap(nullptr, sizeof(Bilan), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    auto* bilan = new (memoire) Bilan;
     Compte compte;
     for (const Operation& operation : Operations()) {
-        if (!noms.empty() && std::find(noms.begin(), noms.end(), operation.nom) == noms.end())
+        if (!nom.empty() && nom != operation.nom)
             continue;
-        if (seule)
-            return ordre == "--une" ? Seule(operation, noms.at(2))
-                                    : JugerSeule(operation, noms.at(2), noms.at(3));
-        Parcourir(operation, pas, compte);
+        if (!ordre.empty()) {
+            const std::string message = Seule(operation, mots[2], ordre == "--juger");
+            std::cout << message << std::endl;
+            ::_exit(message.empty() ? 0 : 1);
+        }
+        Parcourir(operation, *bilan, compte);
     }
-    std::cout << compte.essais / pas << " faults tried, " << compte.degats << " damaged\n";
+    std::cout << compte.essais << " faults tried, " << compte.degats << " damaged\n";
     return compte.essais == 0 || compte.degats != 0 ? 1 : 0;
 }

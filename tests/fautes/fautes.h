@@ -1,0 +1,75 @@
+// Operations on the real window, the faults that strike while they run, and what must hold after.
+#pragma once
+
+#include "ui/banc.h"
+
+#include <array>
+#include <map>
+
+namespace orvalis::essais {
+
+/// The files of the program folder by name.
+using Fichiers = std::map<std::string, std::string>;
+
+/// What an operator does, up to the last gesture, and that gesture, after which files are written.
+struct Operation {
+    const char* nom;
+    std::string cahier;
+    const char* gestes;
+    const char* dernier; ///< none: the window opens
+    int etiquettes = -1; ///< the first contacts with a label on the sheet; -1: there is no sheet
+};
+[[nodiscard]] std::vector<Operation> Operations();
+/// Puts the files in place, opens the window and goes up to the last gesture.
+void Preparer(const Operation& operation, Banc& banc);
+/// Does the last gesture; returns what the operator was told.
+[[nodiscard]] std::string Agir(const Operation& operation, Banc& banc);
+
+enum Sorte : unsigned {
+    kLecture = 1,
+    kEcriture = 2,
+    kPlace = 4, ///< not a write, but it may find the disk full
+    kAutre = 8
+};
+
+/// A call of the system.
+struct Appel {
+    unsigned sorte = kAutre;
+    std::size_t octets = 0;
+    std::int64_t position = 0;
+    const char* nom = "";
+};
+
+struct Faute {
+    const char* nom = "none";
+    unsigned sortes = 0; ///< of the calls it can strike
+    bool tue = false;    ///< kills before the call, or when `coupe` bytes of it are in the file
+    int erreur = 0;      ///< errno of the call
+    bool courte = false; ///< half of the bytes are read or written, and counted so
+    bool plein = false;  ///< later calls that need space fail too
+};
+
+struct Plan {
+    Faute faute;
+    std::size_t rang = 0; ///< which call, from 0
+    std::size_t coupe = 0;
+};
+/// The faults worth trying on a call.
+[[nodiscard]] std::vector<Plan> Fautes(const Appel& appel, std::size_t rang);
+
+/// What a run showed, in memory that outlives its process.
+struct Bilan {
+    std::size_t nombre = 0;
+    std::array<Appel, 1000> appels;
+    std::array<char, 1000> message;
+};
+/// From here on the calls of the C library on files under `lecteur` (and on the workshop of
+/// core/projection.h) are noted in `bilan`, and the plan holds. There is no way back.
+void Armer(const std::string& lecteur, const Plan& plan, Bilan& bilan);
+
+/// First damage found in the files `trouves`, when an operation turns `avant` into `apres`; empty
+/// when every contact is there, whole and once, the log has its end, nothing was invented, the
+/// label sheet has whole labels and each contact "En cours" its own, and the Settings are whole.
+[[nodiscard]] std::string Degat(Fichiers avant, Fichiers apres, Fichiers trouves);
+
+} // namespace orvalis::essais
