@@ -1,13 +1,8 @@
+#include "aides.h"
 #include "geo/notations.h"
 
-#include <array>
-#include <gtest/gtest.h>
-#include <string>
-#include <vector>
-
+namespace orvalis {
 namespace {
-
-using namespace orvalis;
 
 TEST(Notations, DegresMinutesSecondes) {
     const std::pair<Dms, const char*> cas[] = {
@@ -15,15 +10,17 @@ TEST(Notations, DegresMinutesSecondes) {
         {{1, 30, 3}, "1.5005"},   {{179, 59, 59}, "179.9898"}, {{44, 60, 0}, "45.0000"}};
     for (const auto& [dms, decimal] : cas)
         EXPECT_EQ(FormaterDecimal(DmsVersDecimal(dms)), decimal);
-    const std::pair<float, std::array<int, 3>> inverse[] = {
-        {44.1458F, {44, 8, 35}},
-        {-1.5417F, {1, 32, 10}},
-        {-44.1375F, {44, 8, 45}},
-        {179.9898F, {179, 59, 59}},
-        {44.99996F, {44, 60, 0}}}; // no carry into the degrees
+    const std::pair<float, const char*> inverse[] = {
+        {44.1458F, "44 8 35"},
+        {-1.5417F, "1 32 10"},
+        {-44.1375F, "44 8 45"},
+        {179.9898F, "179 59 59"},
+        {44.99996F, "44 60 0"}}; // no carry into the degrees
     for (const auto& [decimal, attendu] : inverse) {
         const Dms dms = DecimalVersDms(decimal);
-        EXPECT_EQ((std::array{dms.degres, dms.minutes, dms.secondes}), attendu) << decimal;
+        std::ostringstream texte;
+        texte << dms.degres << ' ' << dms.minutes << ' ' << dms.secondes;
+        EXPECT_EQ(texte.str(), attendu);
     }
 }
 
@@ -34,12 +31,14 @@ TEST(Notations, TexteDecimal) {
         {0.99996F, "1.0000"},    {-179.95833F, "-179.9583"}};
     for (const auto& [valeur, attendu] : formats)
         EXPECT_EQ(FormaterDecimal(valeur), attendu);
+    const std::string grand(400, '9');
+    const std::string infime = "0." + std::string(400, '0') + "1";
     const std::pair<float, std::vector<std::string>> lectures[] = {
         {44, {"44", "44/5", "44-4", "44.", "44.0.2", "44e5", "044"}},
         {-0.5F, {"-.5", "-0.5", "-.5.5"}},
-        {0, {"", "-", ".", "--5", "/5", "inf", "nan", "0." + std::string(400, '0') + "1"}},
-        {1000, {"99999", std::string(400, '9')}},
-        {-1000, {"-" + std::string(400, '9')}}};
+        {0, {"", "-", ".", "--5", "/5", "inf", "nan", infime}},
+        {1000, {"99999", grand}},
+        {-1000, {"-" + grand}}};
     for (const auto& [attendu, textes] : lectures)
         for (const std::string& texte : textes)
             EXPECT_EQ(LireDecimal(texte), attendu) << texte;
@@ -50,28 +49,24 @@ TEST(Notations, CaracteresAcceptes) {
                                                          {GenreBoite::Hemisphere, u"NSns"},
                                                          {GenreBoite::Cote, u"EOeo"},
                                                          {GenreBoite::Decimal, u"-./0123456789"}};
-    for (const auto& [genre, acceptes] : cas) {
+    for (const auto& [genre, acceptes] : cas)
         for (char16_t c = 1; c < 0x180; ++c)
             EXPECT_EQ(FiltrerCaractere(genre, c) != 0, acceptes.find(c) != acceptes.npos) << +c;
-    }
     EXPECT_EQ(FiltrerCaractere(GenreBoite::Cote, u'o'), u'O');
-    const std::pair<char16_t, char16_t> locator[] = {
-        {u'j', u'J'}, {u'0', u'0'},   {u'-', u'-'}, {u'\u00E9', u'\u00C9'},
-        {u'\n', 0},   {u'\u0085', 0}, {0x7F, 0},    {u'\u20AC', 0}};
-    for (const auto& [tape, attendu] : locator)
-        EXPECT_EQ(FiltrerCaractere(GenreBoite::Locator, tape), attendu);
+    const std::u16string tape = u"j0-\u00E9\n\u0085\u007F\u20AC", attendu = u"J0-\u00C9";
+    EXPECT_EQ(FiltrerTexte({GenreBoite::Locator, 0, 0}, tape, tape.size()).texte, attendu);
 }
 
 TEST(Notations, TexteInsere) {
-    const RegleBoite chiffres{GenreBoite::Chiffres, 2, 90};
-    const auto filtrer = [&](const std::u16string& texte) {
-        const auto filtre = FiltrerTexte(chiffres, texte, 3);
-        return std::pair{filtre.texte, static_cast<unsigned>(filtre.curseur)};
+    const auto filtrer = [](const std::u16string& texte) {
+        const auto filtre = FiltrerTexte({GenreBoite::Chiffres, 2, 90}, texte, 3);
+        return std::pair{filtre.texte, filtre.curseur};
     };
-    EXPECT_EQ(filtrer(u"4a5"), (std::pair{std::u16string{u"45"}, 2U})); // dropped before the cut
-    EXPECT_EQ(filtrer(u"9x844"),
-              (std::pair{std::u16string{u"44"}, 0U})); // what stood behind the insertion stays
-    EXPECT_EQ(filtrer(u"4995"), (std::pair{std::u16string{u"45"}, 1U}));
+    using Filtre = std::pair<std::u16string, std::size_t>;
+    EXPECT_EQ(filtrer(u"4a5"), Filtre(u"45", 2));   // dropped before the cut
+    EXPECT_EQ(filtrer(u"9x844"), Filtre(u"44", 0)); // what stood behind the insertion stays
+    EXPECT_EQ(filtrer(u"4995"), Filtre(u"45", 1));
 }
 
 } // namespace
+} // namespace orvalis

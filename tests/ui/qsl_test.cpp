@@ -80,14 +80,14 @@ bool Contient(const Operations& operations, const std::string& cherchee) {
     return std::find(operations.begin(), operations.end(), cherchee) != operations.end();
 }
 
-bool FeuilleMontree(const Banc& banc) {
+bool FeuilleMontree(Banc& banc) {
     EXPECT_NE(banc.Visible("PictFeuilleQSL"), banc.Visible("PictFiche"));
     EXPECT_NE(banc.Visible("PictFeuilleQSL"), banc.Actif("PictListe"));
     return banc.Visible("PictFeuilleQSL");
 }
 
 // Places the labels of contacts 3 (mouse and mnemonics) and 1 (keyboard alone).
-void PlacerDeuxEtiquettes(const Banc& banc) {
+void PlacerDeuxEtiquettes(Banc& banc) {
     banc.Faire("TxtField_14");
     ASSERT_TRUE(FeuilleMontree(banc));
     EXPECT_EQ(S(banc.Texte("NrTag FLdText_8")), "Etiquette N° 1|BEAM 3 EL      DL9ABC");
