@@ -7,6 +7,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <sstream>
 #include <utility>
 #include <vector>
 
@@ -87,6 +88,15 @@ using Textes = Table<std::string>;
 template<class F, class R> void Verifier(F fonction, const Table<R>& table) {
     for (const auto& [texte, attendu] : table)
         EXPECT_EQ(fonction(texte), attendu) << texte;
+}
+
+/// What a function makes of each of the texts between strokes.
+template<class F> std::string Suite(F fonction, const std::string& textes) {
+    std::istringstream flux(textes + '|');
+    std::string suite;
+    for (std::string texte; std::getline(flux, texte, '|');)
+        suite += fonction(texte) + '|';
+    return suite.substr(0, suite.size() - 1);
 }
 
 } // namespace orvalis::essai

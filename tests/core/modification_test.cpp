@@ -66,14 +66,9 @@ TEST(Modification, LesChangementsSAccumulentJusquALaReponse) {
 }
 
 TEST(Modification, NombreArrondiAuPair) {
-    const Table<int> cas = {{"", 0},     {"2A", 2},
-                            {"075", 75}, {"0.5", 0},
-                            {"1.5", 2},  {"2.5", 2},
-                            {".6", 1},   {"1.49", 1},
-                            {"-3", -3},  {" 7", 7},
-                            {"A5", 0},   {"1.2.9", 1},
-                            {"3-2", 3},  {"99999999999999999999", 32767}};
-    Verifier(ArrondirNombre, cas);
+    const auto nombre = [](std::string_view t) { return std::to_string(ArrondirNombre(t)); };
+    EXPECT_EQ(Suite(nombre, "|2A|075|0.5|1.5|2.5|.6|1.49|-3| 7|A5|1.2.9|3-2|99999999999999999999"),
+              "0|2|75|0|2|2|1|1|-3|7|0|1|3|32767");
 }
 
 } // namespace

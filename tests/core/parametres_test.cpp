@@ -46,20 +46,11 @@ TEST(Dossier, LeLecteurSuitLeDossierCourant) {
     const auto lecteur = [](std::string_view courant) {
         return CalculerLecteur(courant, "/h/o").string();
     };
-    const Textes cas = {{"/h/o/log", "/h/o"},
-                        {"/media/o/C", "/media/o/C"},
-                        {"/media/o/C/a/b", "/media/o/C"},
-                        {"/media/o", "/h/o"},
-                        {"/run/media/o/C/x", "/run/media/o/C"},
-                        {"/run/user/1000/x", "/h/o"},
-                        {"/mnt/usb/a", "/mnt/usb"},
-                        {"/mnt", "/h/o"},
-                        {"/Volumes/C/a", "/Volumes/C"},
-                        {"/mnt/usb/../../tmp", "/h/o"},
-                        {"C:\\Radio", "C:\\"},
-                        {"D:/", "D:/"},
-                        {"/", "/h/o"}};
-    Verifier(lecteur, cas);
+    EXPECT_EQ(Suite(lecteur, "/h/o/log|/media/o/C|/media/o/C/a/b|/media/o|/run/media/o/C/x"),
+              "/h/o|/media/o/C|/media/o/C|/h/o|/run/media/o/C");
+    EXPECT_EQ(Suite(lecteur, "/run/user/1000/x|/mnt/usb/a|/mnt|/Volumes/C/a|/mnt/usb/../../tmp|/"),
+              "/h/o|/mnt/usb|/h/o|/Volumes/C|/h/o|/h/o");
+    EXPECT_EQ(Suite(lecteur, "C:\\Radio|D:/"), "C:\\|D:/");
     EXPECT_EQ(DossierProgramme("/"), "/Orvalis");
     EXPECT_EQ(TexteLecteur("C:\\"), "C:\\");
 }
@@ -72,20 +63,14 @@ TEST(LocatorStation, SeulsSixCaracteresSontJuges) {
     Verifier(ControlerLocatorStation, cas);
 }
 
-TEST(LocatorStation, GardeOuNon) {
+TEST(LocatorStation, LesAutresReglagesRestentCeuxDuFichier) {
     const Dossier lecteur;
     std::filesystem::create_directory(lecteur / "Orvalis");
-    const std::string debut = "\"F5ABC\",\"AUTRE.Vek\",";
-    const auto chemin = lecteur.Poser("Orvalis/PARVEL.cfg", debut + "\"JN18AA\"\r\n");
+    const auto chemin = lecteur.Poser("Orvalis/PARVEL.cfg", "\"A\",\"B.Vek\",\"JN18AA\"\r\n");
     Session session;
     session.lecteur = lecteur / "";
-    session.indicatif = "changé";
-    session.saisie.EnSaisie = true;
-    ChangerLocatorStation(session, " IN95AA ", false);
-    EXPECT_EQ(Lire(chemin), debut + "\"JN18AA\"\r\n");
-    EXPECT_EQ(session.monLocator + session.zones[16], "IN95AAIN95AA");
-    ChangerLocatorStation(session, "JN05BB", true);
-    EXPECT_EQ(Lire(chemin), debut + "\"JN05BB\"\r\n");
+    ChangerLocatorStation(session, " JN05BB ", true);
+    EXPECT_EQ(Lire(chemin), "\"A\",\"B.Vek\",\"JN05BB\"\r\n");
     std::filesystem::remove(chemin);
     EXPECT_THROW(ChangerLocatorStation(session, "AA00AA", true), ErreurFichier);
     EXPECT_EQ(session.monLocator, "JN05BB");

@@ -41,25 +41,24 @@ TEST(Texte, CasseDesLettresAccentuees) {
 }
 
 TEST(Texte, ValeurDesPremiersChiffres) {
-    const Table<int> cas = {{"A1", 0}, {"2A", 2}, {"007", 7},
-                            {" 5", 0}, {"-3", 0}, {std::string(20, '9'), 999'999'999}};
-    Verifier(ValeurNumerique, cas);
+    const auto valeur = [](std::string_view t) { return std::to_string(ValeurNumerique(t)); };
+    EXPECT_EQ(Suite(valeur, "A1|2A|007| 5|-3|99999999999999"), "0|2|7|0|0|999999999");
 }
 
 TEST(Dates, Controles) {
-    for (const char* date : {"29/02/00", "29/02/60", "30/04/02", "31/12/99", "01.05.02"}) {
-        EXPECT_TRUE(ControlerDate(date).ValiditeOK) << date;
-        EXPECT_EQ(ControlerDate(date).texte, date[2] == '.' ? "01/05/02" : date);
-    }
-    for (const char* date :
-         {"29/02/01", "31/04/02", "00/05/02", "15/13/02", "15/00/02", "ab/05/02", ""})
-        EXPECT_FALSE(ControlerDate(date).ValiditeOK) << date;
+    const auto date = [](std::string_view saisie) {
+        const auto controle = ControlerDate(saisie);
+        return controle.ValiditeOK ? controle.texte : "refusée";
+    };
+    EXPECT_EQ(Suite(date, "29/02/00|29/02/60|30/04/02|31/12/99|01.05.02"),
+              "29/02/00|29/02/60|30/04/02|31/12/99|01/05/02");
+    for (const char* non : {"29/02/01", "31/04/02", "00/05/02", "15/13/02", "15/00/02", "ab/05/02"})
+        EXPECT_EQ(date(non), "refusée") << non;
     EXPECT_EQ(AnneeComplete(59), 2059);
     EXPECT_EQ(AnneeComplete(60), 1960);
     const auto heure = [](std::string_view saisie) { return ControlerHeure(saisie).texte; };
-    const Textes heures = {{"00:00", "00:00"}, {"23:59", "23:59"}, {"24:00", ""},     {"12:60", ""},
-                           {"9:.5/", "09:05"}, {"1.../", "01:00"}, {"xx:yy", "00:00"}};
-    Verifier(heure, heures);
+    EXPECT_EQ(Suite(heure, "00:00|23:59|24:00|12:60|9:.5/|1.../|xx:yy"),
+              "00:00|23:59|||09:05|01:00|00:00");
 }
 
 TEST(Dates, TextesDeLHorloge) {
@@ -71,18 +70,10 @@ TEST(Dates, TextesDeLHorloge) {
 }
 
 TEST(Departements, NomDuCode) {
-    const Textes cas = {{"", ""},
-                        {"2A", "Aisne"},
-                        {"5", " Hautes-Alpes"},
-                        {"20", "Corse"},
-                        {"075", "Ville-de-Paris"},
-                        {"22", "Côtes-D'Armor"},
-                        {"974", "Réunion"},
-                        {"96", ""},
-                        {"976", ""},
-                        {"AB", ""},
-                        {"0", ""}};
-    Verifier(NomDepartement, cas);
+    const auto nom = [](std::string_view code) { return std::string{NomDepartement(code)}; };
+    EXPECT_EQ(Suite(nom, "2A|5|20|075|22|974"),
+              "Aisne| Hautes-Alpes|Corse|Ville-de-Paris|Côtes-D'Armor|Réunion");
+    EXPECT_EQ(Suite(nom, "|96|976|AB|0"), "||||");
 }
 
 TEST(Pages, NombreEtPlages) {
@@ -125,6 +116,7 @@ TEST(Boites, TouchesDeChaqueBoite) {
 TEST(Boites, UneEditionNeFiltreQueCeQuElleApporte) {
     constexpr auto L = Touches::Libres, M = Touches::Majuscules, C = Touches::Chiffres;
     const std::string enorme(10'000, 'z');
+    const std::string controles{"a\0\tb", 4};
     const struct {
         Touches touches;
         std::size_t longueur;
@@ -142,15 +134,7 @@ TEST(Boites, UneEditionNeFiltreQueCeQuElleApporte) {
         {L, 15, "Jean", {"Jea", 3}, "Jea", 3}, // Backspace
         {L, 15, "Jean", {"", 0}, "", 0},
         {M, 15, "F", {enorme, 10'000}, "ZZZZZZZZZZZZZZZ", 15},
-        {L,
-         8,
-         "",
-         {{"a\0\x1B"
-           "b",
-           4},
-          4},
-         "ab",
-         2},
+        {L, 8, "", {controles, 4}, "ab", 2},
     };
     for (const auto& c : cas) {
         const TexteEdite edite = FiltrerEdition(c.touches, c.longueur, c.ancien, c.nouveau);
