@@ -51,7 +51,7 @@ void Presser(const Banc& banc, int touche) {
 }
 
 bool CarteMontree(const Banc& banc, const Carnet& carnet) {
-    return banc.Texte("TxtField_1").toStdString() ==
+    return banc.Texte("TxtField_1") ==
            TexteRogne(carnet.Fiches()[carnet.Fiches().size() - 2], Champ::CSGN);
 }
 
@@ -128,7 +128,7 @@ void Remplir(const Banc& banc, const char* texte) {
 double TaperContact(const Banc& banc, int boite) {
     double secondes = 0;
     for (const BoiteTapee& b : kSaisie) {
-        if (banc.Foyer() != QStringLiteral("TxtField_%1").arg(b.boite))
+        if (banc.Texte("@") != "TxtField_" + std::to_string(b.boite))
             throw std::runtime_error("the focus went elsewhere");
         Remplir(banc, b.texte);
         Peindre(*banc.fenetre);
@@ -138,7 +138,7 @@ double TaperContact(const Banc& banc, int boite) {
             secondes =
                 std::chrono::duration<double>(std::chrono::steady_clock::now() - debut).count();
     }
-    if (banc.Foyer() != QStringLiteral("BtEnrSuivant"))
+    if (banc.Texte("@") != "BtEnrSuivant")
         throw std::runtime_error("the contact cannot be stored");
     return secondes;
 }
@@ -157,7 +157,7 @@ void Suivant(benchmark::State& etat, const Carnet& carnet) {
     banc.Cliquer("BtNewQSO");
     Chronometrer(
         etat, [&] { TaperContact(banc, 0); }, [&] { Presser(banc, Qt::Key_Return); });
-    if (banc.Foyer() != QStringLiteral("TxtField_1"))
+    if (banc.Texte("@") != "TxtField_1")
         etat.SkipWithError("no next card");
 }
 
@@ -165,7 +165,7 @@ void Suivant(benchmark::State& etat, const Carnet& carnet) {
 void TournerPage(benchmark::State& etat, const Carnet& carnet) {
     const BancOuvert banc(carnet);
     bool arriere = true;
-    const QString avant = banc.Texte("LabPage");
+    const std::string avant = banc.Texte("LabPage");
     for ([[maybe_unused]] auto _ : etat) {
         Presser(banc, arriere ? Qt::Key_PageUp : Qt::Key_PageDown);
         arriere = !arriere;
@@ -179,7 +179,7 @@ void Chercher(benchmark::State& etat, const Carnet& carnet, const std::string& t
     Chronometrer(
         etat,
         [&] {
-            if (banc.Visible("BtContactsFermer"))
+            if (banc.Texte("?BtContactsFermer") != "C")
                 banc.Cliquer("BtContactsFermer");
             banc.Controle<QWidget>("RechText")->setFocus();
             banc.Taper(texte);
@@ -201,7 +201,7 @@ void Doublons(benchmark::State& etat, const Carnet& carnet) {
     Chronometrer(
         etat,
         [&] {
-            if (banc.Visible("BtContactsFermer"))
+            if (banc.Texte("?BtContactsFermer") != "C")
                 banc.Cliquer("BtContactsFermer");
         },
         [&] {

@@ -1,16 +1,20 @@
 #include "ui/banc.h"
 
+#include "ui/feuille_log.h"
+
 #include <QAction>
 #include <QApplication>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
 
-#include <algorithm>
+#include <sstream>
 
 namespace orvalis::essais {
 
+using namespace Qt::Literals::StringLiterals;
+
 void SystemeDEssai::Pause(int /*secondes*/) {
-    QCoreApplication::processEvents();
     if (auto action = std::exchange(pendantPause, nullptr))
         action();
     QCoreApplication::processEvents();
@@ -19,7 +23,7 @@ void SystemeDEssai::Pause(int /*secondes*/) {
 std::string Octets(const std::string& champs, std::string_view monLocator) {
     QsoRecord fiche;
     int champ = 0;
-    for (const QString& texte : Q(champs).split(QLatin1Char('|')))
+    for (const QString& texte : Q(champs).split('|'_L1))
         MettreChamp(fiche, static_cast<Champ>(++champ), S(texte));
     MettreChamp(fiche, Champ::MLOC, monLocator);
     return {fiche.octets.begin(), fiche.octets.end()};
@@ -28,13 +32,21 @@ std::string Octets(const std::string& champs, std::string_view monLocator) {
 std::string Contacts(int n) {
     std::string octets;
     for (int k = 1; k <= n; ++k) {
-        const auto deux = [](int v) { return (v < 10 ? "0" : "") + std::to_string(v); };
-        const std::string heure = deux(k / 60 % 24) + ":" + deux(k % 60);
-        octets +=
-            Octets("F" + std::to_string(k) + "QSO|12/05/02|" + heure + "|" + heure + "|14.210|SSB",
-                   "JN04SD");
+        const QString heure = QTime(k / 60 % 24, k % 60).toString(u"HH:mm"_s);
+        const QString champs = u"F%1QSO|12/05/02|%2|%2|14.210|SSB"_s;
+        octets += Octets(S(champs.arg(k).arg(heure)), "JN04SD");
     }
     return octets;
+}
+
+std::string Difference(const std::string& obtenu, const std::string& attendu) {
+    const auto fiche = [](const std::string& octets, std::size_t debut) {
+        return debut < octets.size() ? octets.substr(debut, kTailleFiche) : "<end>";
+    };
+    for (std::size_t debut = 0; obtenu != attendu; debut += kTailleFiche)
+        if (const auto a = fiche(obtenu, debut), b = fiche(attendu, debut); a != b)
+            return "record " + std::to_string(debut / kTailleFiche + 1) + "\n  " + a + "\n  " + b;
+    return {};
 }
 
 void Banc::Installer(const std::string& octets) {
@@ -48,29 +60,58 @@ void Banc::Ouvrir() {
     fenetre->show();
     fenetre->activateWindow();
     static_cast<void>(QTest::qWaitFor([this] {
-        return systeme.codeDeFin ||
-               fenetre->windowTitle().startsWith(QStringLiteral(" Cahier de Trafic de "));
+        return systeme.codeDeFin || fenetre->windowTitle().startsWith(" Cahier de Trafic de "_L1);
     }));
-    if (!systeme.codeDeFin)
-        Activer();
-}
-
-void Banc::Activer() {
     fenetre->activateWindow();
-    static_cast<void>(QTest::qWaitForWindowActive(fenetre.get()));
+    static_cast<void>(
+        QTest::qWaitFor([this] { return systeme.codeDeFin || fenetre->isActiveWindow(); }));
     QCoreApplication::processEvents();
 }
 
-QString Banc::Texte(const char* noms) const {
-    QStringList textes;
-    for (const QString& nom : QString::fromLatin1(noms).split(QLatin1Char(' ')))
-        textes << Controle<QObject>(nom.toLatin1().constData())->property("text").toString();
-    return textes.join(QLatin1Char('|'));
+QString Banc::Regarder(const std::string& regard) const {
+    const QWidget* foyer = QApplication::focusWidget();
+    if (regard == "@")
+        return foyer == nullptr ? QString() : foyer->objectName();
+    if (regard == "!")
+        return systeme.demandes.join('|'_L1);
+    const bool etat = regard[0] == '?', choix = regard[0] == '#';
+    const auto* controle = Controle<QObject>(regard.c_str() + (etat || choix ? 1 : 0));
+    const auto est = [controle](const char* quoi) { return controle->property(quoi).toBool(); };
+    if (etat && controle->isWidgetType() && !est("visible"))
+        return u"C"_s;
+    if (etat)
+        return !est("enabled")   ? u"G"_s
+               : est("checked")  ? u"X"_s
+               : est("readOnly") ? u"L"_s
+                                 : u"A"_s;
+    const auto* liste = qobject_cast<const QListWidget*>(controle);
+    if (liste == nullptr)
+        return controle->property("text").toString();
+    if (choix)
+        return u"%1/%2"_s.arg(liste->currentRow()).arg(liste->count());
+    QStringList lignes;
+    for (int i = 0; i < liste->count(); ++i)
+        lignes << liste->item(i)->text();
+    return lignes.join('|'_L1);
 }
 
-QString Banc::Foyer() const {
-    const QWidget* foyer = QApplication::focusWidget();
-    return foyer == nullptr ? QString() : foyer->objectName();
+std::string Banc::Texte(const std::string& regards) const {
+    QStringList vus;
+    std::istringstream flux(regards);
+    for (std::string regard; flux >> regard;)
+        vus << Regarder(regard);
+    vus << systeme.avertissements;
+    return S(vus.join('|'_L1).replace(Q(Dossier().string()), u"~"_s));
+}
+
+void Banc::Suivre(const std::vector<Pas>& chemin) {
+    for (const Pas& pas : chemin) {
+        SCOPED_TRACE(pas.gestes);
+        systeme.demandes.clear();
+        Faire(pas.gestes);
+        EXPECT_EQ(Texte(pas.regards), pas.attendu) << pas.regards;
+        systeme.avertissements.clear();
+    }
 }
 
 void Banc::Cliquer(const char* nom) const {
@@ -85,27 +126,39 @@ void Banc::Menu(const char* nom) const {
     QCoreApplication::processEvents();
 }
 
-void Banc::Faire(const char* gestes) {
-    for (const QString& geste :
-         QString::fromUtf8(gestes).split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-        const std::string nom = S(geste);
-        if (nom[0] == '^')
-            Touche(nom[1], Qt::AltModifier);
-        else if (nom[0] == '=')
-            Taper(nom.substr(1) + "\n");
-        else if (nom[0] == '#')
-            ChoisirLigne(std::stoi(nom.substr(1)));
-        else if (nom[0] == '<')
-            systeme.fichierChoisi = Chemin(nom.c_str() + 1);
-        else if (nom.starts_with("Mnu"))
-            Menu(nom.c_str());
-        else
-            Cliquer(nom.c_str());
-    }
+void Banc::Faire(const std::string& gestes) {
+    std::istringstream flux(gestes);
+    for (std::string geste; flux >> geste;)
+        FaireUn(geste);
 }
 
-void Banc::ChoisirLigne(int rangee) const {
-    Controle<QListWidget>("ListeLog")->setCurrentRow(rangee);
+void Banc::FaireUn(const std::string& geste) {
+    const std::string suite = geste.substr(1);
+    const std::size_t colle = geste.find('+');
+    if (geste[0] == '^') {
+        Touche(geste[1], Qt::AltModifier);
+    } else if (geste[0] == '!') {
+        const QKeyCombination touche = QKeySequence(Q(suite))[0];
+        Touche(touche.key(), touche.keyboardModifiers());
+    } else if (geste[0] == '=') {
+        Taper(S(Q(suite).replace('_'_L1, ' '_L1)) + "\n");
+    } else if (geste[0] == '@') {
+        Controle<QWidget>(suite.c_str())->setFocus();
+    } else if (geste[0] == '#') {
+        Controle<QListWidget>("ListeLog")->setCurrentRow(std::stoi(suite));
+    } else if (geste[0] == '%') {
+        const auto* feuille = Controle<FeuilleLog>("PageText1");
+        QTest::mouseClick(feuille->viewport(), Qt::LeftButton, {},
+                          feuille->RectDeRangee(std::stoi(suite)).center());
+    } else if (geste[0] == '<') {
+        systeme.fichierChoisi = Chemin(suite.c_str());
+    } else if (colle != std::string::npos) {
+        Controle<QLineEdit>(geste.substr(0, colle).c_str())->insert(Q(geste.substr(colle + 1)));
+    } else if (geste.starts_with("Mnu")) {
+        Menu(geste.c_str());
+    } else {
+        Cliquer(geste.c_str());
+    }
 }
 
 void Banc::Touche(int touche, Qt::KeyboardModifiers modificateurs) const {
@@ -114,44 +167,18 @@ void Banc::Touche(int touche, Qt::KeyboardModifiers modificateurs) const {
     if (modificateurs.testFlag(Qt::AltModifier) && foyer != nullptr)
         QTest::keyClick(foyer, static_cast<Qt::Key>(touche), modificateurs);
     else
-        QTest::keyClick(fenetre->windowHandle(), static_cast<Qt::Key>(touche), modificateurs);
+        QTest::keyClick((foyer == nullptr ? fenetre.get() : foyer->window())->windowHandle(),
+                        static_cast<Qt::Key>(touche), modificateurs);
     QCoreApplication::processEvents();
 }
 
 void Banc::Taper(const std::string& utf8) const {
     for (const QChar c : Q(utf8)) {
-        if (c == QLatin1Char('\n')) {
+        if (c == '\n'_L1)
             Touche(Qt::Key_Return);
-            continue;
-        }
-        // QTest::keyClicks knows ASCII only.
-        QWidget* foyer = QApplication::focusWidget();
-        if (foyer == nullptr)
-            return;
-        QTest::sendKeyEvent(QTest::Click, foyer, Qt::Key_unknown, QString(c), Qt::NoModifier);
+        else if (QWidget* foyer = QApplication::focusWidget()) // QTest::keyClicks knows ASCII only
+            QTest::sendKeyEvent(QTest::Click, foyer, Qt::Key_unknown, QString(c), Qt::NoModifier);
     }
-}
-
-std::string Difference(const std::string& obtenu, const std::string& attendu) {
-    if (obtenu == attendu)
-        return {};
-    const std::size_t octet = static_cast<std::size_t>(
-        std::mismatch(obtenu.begin(), obtenu.end(), attendu.begin(), attendu.end()).first -
-        obtenu.begin());
-    const std::size_t debut = octet - octet % kTailleFiche;
-    const auto fiche = [debut](const std::string& octets) {
-        return debut < octets.size() ? octets.substr(debut, kTailleFiche) : "<end>";
-    };
-    return "byte " + std::to_string(octet) + ", sizes " + std::to_string(obtenu.size()) + "/" +
-           std::to_string(attendu.size()) + "\n  " + fiche(obtenu) + "\n  " + fiche(attendu);
-}
-
-QStringList Banc::Lignes(const char* liste) const {
-    QStringList lignes;
-    const auto* controle = Controle<QListWidget>(liste);
-    for (int i = 0; i < controle->count(); ++i)
-        lignes << controle->item(i)->text();
-    return lignes;
 }
 
 } // namespace orvalis::essais

@@ -13,38 +13,38 @@
 
 namespace orvalis::essais {
 
+/// Answers at once, and keeps what it was asked.
 class SystemeDEssai : public Systeme {
   public:
     std::filesystem::path lecteur;
     Instant maintenant{2026, 11, 21, 18, 30, 15};
     std::function<void()> pendantPause; ///< called once in the next pause
-    std::vector<QString> avertissements, informations, lances;
-    std::vector<DemandeFichier> demandes;
-    QString fichierChoisi;
-    std::optional<QString> refusDeLancer;
+    QStringList avertissements;
+    QStringList demandes;  ///< all else, in the order asked
+    QString fichierChoisi; ///< none: the dialog is cancelled, as that for the printer
+    std::function<std::unique_ptr<Imprimante>()> imprimante;
     std::optional<int> codeDeFin;
-    std::function<std::unique_ptr<Imprimante>()> imprimante; ///< none: the dialog is cancelled
-    int configurations = 0;
 
     [[nodiscard]] std::filesystem::path Lecteur() const override { return lecteur; }
     [[nodiscard]] Instant Maintenant() const override { return maintenant; }
     void Pause(int secondes) override;
     void Informer(QWidget* /*parent*/, const QString& titre, const QString& texte) override {
-        informations.push_back(titre + QLatin1Char('|') + texte);
+        demandes << titre << texte;
     }
-    void Avertir(QWidget* /*parent*/, const QString& t) override { avertissements.push_back(t); }
+    void Avertir(QWidget* /*parent*/, const QString& texte) override { avertissements << texte; }
     [[nodiscard]] QString ChoisirFichier(QWidget* /*parent*/, const DemandeFichier& d) override {
-        demandes.push_back(d);
+        demandes << QString::fromLatin1(d.enregistrer ? ">" : "<") << d.dossier << d.nomPropose;
         return fichierChoisi;
     }
     [[nodiscard]] std::unique_ptr<Imprimante> PreparerImpression(QWidget* /*parent*/) override {
         return imprimante ? imprimante() : nullptr;
     }
-    void ConfigurerImprimante(QWidget* /*parent*/) override { ++configurations; }
+    void ConfigurerImprimante(QWidget* /*parent*/) override { demandes << Q("imprimante"); }
+    /// No other program is there.
     [[nodiscard]] std::optional<QString> Lancer(const QString& chemin,
                                                 const QStringList& /*arguments*/) override {
-        lances.push_back(chemin);
-        return refusDeLancer;
+        demandes << chemin;
+        return QStringLiteral("absent");
     }
     void Quitter(int code) override { codeDeFin = code; }
 };
@@ -61,6 +61,11 @@ class SystemeDEssai : public Systeme {
 /// First record in which two logbooks differ, for a failed test; empty when they are equal.
 [[nodiscard]] std::string Difference(const std::string& obtenu, const std::string& attendu);
 
+/// A step of a walk through the window: gestures, then what must be seen where.
+struct Pas {
+    std::string gestes, regards, attendu;
+};
+
 class Banc {
   public:
     Banc() { systeme.lecteur = S(disque.path()); }
@@ -69,12 +74,10 @@ class Banc {
         Installer(octets);
         Ouvrir();
     }
-
     /// Puts a Settings file and a logbook of these bytes into the program folder.
     void Installer(const std::string& octets);
     /// Opens the window and lets it start.
     void Ouvrir();
-    void Activer();
 
     [[nodiscard]] std::filesystem::path Dossier() const { return systeme.lecteur / "Orvalis"; }
     [[nodiscard]] QString Chemin(const char* nom) const { return Q((Dossier() / nom).string()); }
@@ -89,38 +92,33 @@ class Banc {
     template<typename T> [[nodiscard]] T* Controle(const char* nom) const {
         return fenetre->findChild<T*>(QString::fromLatin1(nom));
     }
-    /// Of labels, buttons or boxes, with '|' between them when there are several.
-    [[nodiscard]] QString Texte(const char* noms) const;
-    /// Whether one warning came since the last call, with this text in it.
-    [[nodiscard]] testing::AssertionResult Averti(const char* texte) {
-        const auto recus = std::exchange(systeme.avertissements, {});
-        return (recus.size() == 1 && recus[0].contains(QString::fromUtf8(texte))
-                    ? testing::AssertionSuccess()
-                    : testing::AssertionFailure())
-               << recus.size() << (recus.empty() ? "" : S(recus[0]));
-    }
-    [[nodiscard]] bool Actif(const char* nom) const {
-        return Controle<QObject>(nom)->property("enabled").toBool();
-    }
-    [[nodiscard]] bool Visible(const char* nom) const {
-        return Controle<QWidget>(nom)->isVisible();
-    }
-    [[nodiscard]] QString Foyer() const; ///< objectName of what has the focus
+    /// What is seen, with '|' between: the text of a label, button or box, or the lines of a list;
+    /// for "?BtTag_1" whether it is hidden (C), greyed (G), checked (X), for reading only (L) or
+    /// none of these (A); for "#ListeLog" the row chosen, from 0, and how many there are; for "@"
+    /// what has the focus; for "!" what the system was asked. The program folder is "~". Last comes
+    /// what the operator was warned of.
+    [[nodiscard]] std::string Texte(const std::string& regards) const;
+    /// Takes these steps one after the other; what a warning says must be seen in its step.
+    void Suivre(const std::vector<Pas>& chemin);
+
     void Cliquer(const char* nom) const;
     void Menu(const char* nom) const;
-    /// One gesture after the other: a control clicked, a menu chosen, "^B" for Alt+B, "=text" typed
-    /// with Enter after it, "#3" for a line of the list, "<A.Vek" for the file of the program folder
-    /// that the next dialog gives.
-    void Faire(const char* gestes);
-    void ChoisirLigne(int rangee) const; ///< in the list of contacts
+    /// One gesture after the other: a control clicked, a menu chosen, "^B" for Alt+B, "!PgUp" for a
+    /// key by its name, "=beam_3" typed with Enter after it ('_' is a blank), "Box+text" pasted,
+    /// "@Box" for the focus, "#3" for a row of the list, "%3" for one of the sheet, both from 0,
+    /// "<A.Vek" for the file of the program folder that the next dialogs give.
+    void Faire(const std::string& gestes);
     /// Types text as a keyboard does, to whatever has the focus; '\n' is Enter.
     void Taper(const std::string& utf8) const;
     void Touche(int touche, Qt::KeyboardModifiers modificateurs = Qt::NoModifier) const;
-    [[nodiscard]] QStringList Lignes(const char* liste) const;
 
     QTemporaryDir disque;
     SystemeDEssai systeme;
     std::unique_ptr<Orvalis> fenetre;
+
+  private:
+    void FaireUn(const std::string& geste);
+    [[nodiscard]] QString Regarder(const std::string& regard) const;
 };
 
 } // namespace orvalis::essais

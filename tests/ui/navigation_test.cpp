@@ -2,89 +2,58 @@
 #include "ui/banc.h"
 #include "ui/feuille_log.h"
 
-#include <QListWidget>
 #include <QScrollBar>
-#include <QTest>
 
 namespace orvalis::essais {
 namespace {
 
 TEST(Navigation, TaillesDeJournal) {
-    struct Cas {
-        int n;
-        const char* page;
-        int lignes;
-        bool boutons;
-        const char* carte;
+    const std::pair<int, const char*> cas[] = {
+        {0, "Page 1 / 1|-1/0|  Fiche N° 0  |G|BtNewQSO"},
+        {1, "Page 1 / 1|0/1| Fiche N° 1 |G|ListeLog"},
+        {25, "Page 1 / 1|24/25| Fiche N° 25 |G|ListeLog"},
+        {26, "Page 2 / 2|0/1| Fiche N° 26 |A|ListeLog"},
+        {33000, "Page 1311 / 1311|16/17| Fiche N° 32767 |A|ListeLog"},
     };
-    const std::vector<Cas> cas = {
-        {0, "Page 1 / 1", 0, false, "  Fiche N° 0  "},
-        {1, "Page 1 / 1", 1, false, " Fiche N° 1 "},
-        {25, "Page 1 / 1", 25, false, " Fiche N° 25 "},
-        {26, "Page 2 / 2", 1, true, " Fiche N° 26 "},
-        {33000, "Page 1311 / 1311", 17, true, " Fiche N° 32767 "},
-    };
-    for (const Cas& c : cas) {
-        SCOPED_TRACE(c.n);
-        Banc banc(Contacts(c.n) + Fin());
-        EXPECT_EQ(S(banc.Texte("LabPage")), c.page);
-        EXPECT_EQ(banc.Lignes("ListeLog").size(), c.lignes);
-        EXPECT_EQ(S(banc.Texte("NoFicheLab")), c.carte);
-        EXPECT_EQ(banc.Actif("CmdPageMoins"), c.boutons);
-        EXPECT_EQ(banc.Controle<QScrollBar>("VScroll1")->maximum(), c.n);
-        EXPECT_EQ(banc.Foyer(), c.n == 0 ? QStringLiteral("BtNewQSO") : QStringLiteral("ListeLog"));
+    for (const auto& [n, vu] : cas) {
+        const Banc banc(Contacts(n) + Fin());
+        EXPECT_EQ(banc.Texte("LabPage #ListeLog NoFicheLab ?CmdPageMoins @"), vu);
+        EXPECT_EQ(banc.Controle<QScrollBar>("VScroll1")->maximum(), n);
     }
 }
 
 TEST(Navigation, TouchesEtBoutons) {
     Banc banc(Contacts(60) + Fin());
-    struct Cas {
-        std::function<void()> geste;
-        const char *page, *carte;
-    };
-    const auto touche = [&](int t) { return [&banc, t] { banc.Touche(t); }; };
-    const auto bouton = [&](const char* nom) { return [&banc, nom] { banc.Cliquer(nom); }; };
-    const std::vector<Cas> cas = {
-        {touche(Qt::Key_PageDown), "Page 3 / 3", " Fiche N° 60 "},
-        {touche(Qt::Key_PageUp), "Page 2 / 3", " Fiche N° 26 "},
-        {touche(Qt::Key_Up), "Page 1 / 3", " Fiche N° 25 "},
-        {touche(Qt::Key_Down), "Page 2 / 3", " Fiche N° 26 "},
-        {touche(Qt::Key_Down), "Page 2 / 3", " Fiche N° 27 "},
-        {touche(Qt::Key_PageDown), "Page 3 / 3", " Fiche N° 51 "},
-        {bouton("CmdSensHaut"), "Page 1 / 3", " Fiche N° 1 "},
-        {bouton("CmdPageMoins"), "Page 1 / 3", " Fiche N° 1 "},
-        {bouton("CmdPagePlus"), "Page 2 / 3", " Fiche N° 1 "},
-        {bouton("CmdPagePlus"), "Page 3 / 3", " Fiche N° 1 "},
-        {bouton("CmdPageMoins"), "Page 2 / 3", " Fiche N° 26 "},
-        {bouton("CmdSensBas"), "Page 3 / 3", " Fiche N° 26 "},
-        {[&] { banc.Controle<QScrollBar>("VScroll1")->setValue(25); }, "Page 1 / 3",
-         " Fiche N° 26 "},
-    };
-    for (std::size_t i = 0; i < cas.size(); ++i) {
-        SCOPED_TRACE(i);
-        cas[i].geste();
-        EXPECT_EQ(S(banc.Texte("LabPage")), cas[i].page);
-        EXPECT_EQ(S(banc.Texte("NoFicheLab")), cas[i].carte);
-    }
+    constexpr auto kVue = "LabPage NoFicheLab";
+    banc.Suivre({
+        {"!PgDown", kVue, "Page 3 / 3| Fiche N° 60 "},
+        {"!PgUp", kVue, "Page 2 / 3| Fiche N° 26 "},
+        {"!Up", kVue, "Page 1 / 3| Fiche N° 25 "},
+        {"!Down", kVue, "Page 2 / 3| Fiche N° 26 "},
+        {"!Down", kVue, "Page 2 / 3| Fiche N° 27 "},
+        {"!PgDown", kVue, "Page 3 / 3| Fiche N° 51 "},
+        {"CmdSensHaut", kVue, "Page 1 / 3| Fiche N° 1 "},
+        {"CmdPageMoins", kVue, "Page 1 / 3| Fiche N° 1 "},
+        {"CmdPagePlus", kVue, "Page 2 / 3| Fiche N° 1 "},
+        {"CmdPagePlus", kVue, "Page 3 / 3| Fiche N° 1 "},
+        {"CmdPageMoins", kVue, "Page 2 / 3| Fiche N° 26 "},
+        {"CmdSensBas", kVue, "Page 3 / 3| Fiche N° 26 "},
+    });
+    banc.Controle<QScrollBar>("VScroll1")->setValue(25);
+    EXPECT_EQ(banc.Texte(kVue), "Page 1 / 3| Fiche N° 26 ");
 }
 
 // A list that takes the focus without a current line must not choose one by itself.
 TEST(Navigation, LaCarteNeChangePasToutSeule) {
     Banc banc(Contacts(60) + Fin());
-    banc.Faire("CmdPageMoins CmdPagePlus");
-    ASSERT_EQ(banc.Texte("NoFicheLab"), QStringLiteral(" Fiche N° 26 "));
-    const std::vector<std::function<void()>> gestes = {
-        [&] { banc.Controle<QListWidget>("ListeLog")->setFocus(); },
-        [&] { banc.Cliquer("BtKillFiche"), banc.Cliquer("FraCmdNon"); },
-        [&] { banc.Cliquer("BtActiveRech"), banc.Cliquer("BtContactsFermer"); },
-        [&] { banc.Faire("TxtField_12 =Zoe FraCmdOui"); },
-    };
-    for (std::size_t i = 0; i < gestes.size(); ++i) {
-        banc.Faire("CmdSensBas");
-        gestes[i]();
-        EXPECT_EQ(S(banc.Texte("NoFicheLab")), " Fiche N° 26 ") << i;
-        EXPECT_TRUE(banc.Actif("BtNewQSO")) << i;
-    }
+    constexpr auto kVue = "NoFicheLab ?BtNewQSO", kFiche26 = " Fiche N° 26 |A";
+    banc.Suivre({
+        {"CmdPageMoins CmdPagePlus", kVue, kFiche26},
+        {"CmdSensBas @ListeLog", kVue, kFiche26},
+        {"CmdSensBas BtKillFiche FraCmdNon", kVue, kFiche26},
+        {"CmdSensBas BtActiveRech BtContactsFermer", kVue, kFiche26},
+        {"CmdSensBas TxtField_12 =Zoe FraCmdOui", kVue, kFiche26},
+    });
     EXPECT_EQ(banc.Journal().substr(25 * kTailleFiche + 98, 3), "Zoe");
 }
 
@@ -93,16 +62,15 @@ TEST(Navigation, CarteListeEtFeuilleMontrentLesOctets) {
         Octets("F6ABCDEFGHIJ/P|12/05/02|18:30||||||Besançon|JO62QM|2A|Éloïse|ANTENNE YAGI 3 F5XYZ",
                "JN04SD") +
         Octets("F5XYZ") + Fin());
-    EXPECT_EQ(banc.Texte("LabDist").trimmed(), QStringLiteral("0 Km")) << "both locators empty";
-    EXPECT_EQ(S(banc.Texte("LabAzim")), "... ");
-    auto* page = banc.Controle<FeuilleLog>("PageText1");
-    QTest::mouseClick(page->viewport(), Qt::LeftButton, {}, page->RectDeRangee(0).center());
-    EXPECT_EQ(S(banc.Texte("NoFicheLab")), " Fiche N° 1 ");
-    EXPECT_EQ(banc.Lignes("ListeLog")[0],
-              QStringLiteral("1      : F6ABCDEFGH:12/05/02:18:30      "));
-    EXPECT_EQ(S(banc.Texte("TxtField_1 TxtField_13 TxtField_17 LabDept LabDist LabAzim")),
-              "F6ABCDEFGHIJ/P|ANTENNE YAGI 3|F5XYZ|Aisne|1275.5 Km |321°");
-    EXPECT_TRUE(page->toPlainText().contains(QStringLiteral("Besançon             Éloïse")));
+    banc.Suivre({
+        {"", "LabDist LabAzim", "0 Km      |... "}, // both locators empty
+        {"%0", "ListeLog",
+         "1      : F6ABCDEFGH:12/05/02:18:30      |2      : F5XYZ     :        :           "},
+        {"", "NoFicheLab TxtField_1 TxtField_13 TxtField_17 LabDept LabDist LabAzim",
+         " Fiche N° 1 |F6ABCDEFGHIJ/P|ANTENNE YAGI 3|F5XYZ|Aisne|1275.5 Km |321°"},
+    });
+    const QString page = banc.Controle<FeuilleLog>("PageText1")->toPlainText();
+    EXPECT_TRUE(page.contains(Q("Besançon             Éloïse")));
 }
 
 } // namespace
