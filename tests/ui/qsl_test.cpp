@@ -119,9 +119,12 @@ TEST(Qsl, VieDUneEtiquette) {
                 testing::IsSupersetOf({"R 6100 400 11300 2180", // place 2
                                        "T 6500 1650 8g Courrier Pse / Tnx  QSL via  F6?X"}));
     EXPECT_EQ(Ecart(banc, Cahier("21/11/26", ""), liberee), "");
-    banc.Suivre({{"MnuGestionFeuilleQSL BtTag_5 =f1zzz ^V", "?PictFeuilleQSL",
-                  "C|Etiquette N° 1 (F1ZZZ) : aucune fiche du cahier ne lui correspond, aucune n'a "
-                  "été modifiée."}});
+    banc.Suivre({
+        {"MnuGestionFeuilleQSL BtTag_5 =f1zzz", "FLdText_10", "F1ZZZ"},
+        {"^V", "",
+         "Etiquette N° 1 (F1ZZZ) : aucune fiche du cahier ne lui correspond, aucune n'a été "
+         "modifiée."},
+    });
 }
 
 TEST(Qsl, LeServiceAttend) {

@@ -68,11 +68,12 @@ TEST(Saisie, ContenusHostilesNAtteignentPasLeFichier) {
 
 TEST(Saisie, LocatorFauxGeleUneSeconde) {
     Banc banc(Fin());
-    banc.Faire("BtNewQSO =f6abc =14 =fm = = = = =");
+    banc.Suivre({{"BtNewQSO =f6abc =14 =fm = = = = !Enter", "@", "TxtField_10"}});
     banc.systeme.pendantPause = [&banc] {
-        banc.Suivre({{"=x BtEnrSuivant", "TxtField_10", "ERREUR"}});
+        banc.Suivre({{"!Backspace =x BtEnrAnnuler", "TxtField_10", "ERREUR"}});
     };
-    banc.Suivre({{"=jn99zz", "TxtField_10 @", "|TxtField_10"}});
+    banc.Suivre({{"=jn99zz", "TxtField_1 TxtField_10 @", "F6ABC||TxtField_10"}});
+    EXPECT_FALSE(banc.systeme.pendantPause) << "there was no pause";
     EXPECT_EQ(Difference(banc.Journal(), Fin()), "");
 }
 
