@@ -30,6 +30,7 @@
 #include <QIcon>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
@@ -71,6 +72,20 @@ bool Presse(const QEvent& evenement) {
     if (evenement.type() == QEvent::Shortcut)
         return !static_cast<const QShortcutEvent&>(evenement).isAmbiguous();
     return EstEntree(evenement) && !static_cast<const QKeyEvent&>(evenement).isAutoRepeat();
+}
+
+// A letter held with Alt: a command, or a slip of the hand, but never a letter of a box.
+bool LettreAvecAlt(const QEvent& evenement) {
+#ifdef Q_OS_MACOS
+    return false; // that key makes accented letters there
+#else
+    if (evenement.type() != QEvent::KeyPress)
+        return false;
+    const auto& touche = static_cast<const QKeyEvent&>(evenement);
+    const auto commandes = touche.modifiers() & (Qt::AltModifier | Qt::ControlModifier);
+    return commandes == Qt::AltModifier && !touche.text().isEmpty() &&
+           touche.text().front().isPrint();
+#endif
 }
 
 // A layout without margins of its own.
@@ -276,6 +291,8 @@ bool Orvalis::eventFilter(QObject* objet, QEvent* evenement) {
         if (controle->window() == this && !quitte)
             return true;
     }
+    if (qobject_cast<QLineEdit*>(objet) != nullptr && LettreAvecAlt(*evenement))
+        return true;
     auto* bouton = qobject_cast<QAbstractButton*>(objet);
     if (bouton != nullptr && bouton->window() == this && bouton->isEnabled() &&
         Presse(*evenement)) {
