@@ -17,8 +17,7 @@ unsigned ConditionsRemplies(const Session& session) {
         return vrai ? static_cast<unsigned>(condition) : 0U;
     };
     return si(!session.saisie.EnSaisie, kHorsSaisie) | si(session.saisie.EnSaisie, kEnSaisie) |
-           si(!session.EnEdition(), kHorsEdition) |
-           si(session.autreJournal.empty(), kJournalPropre) |
+           si(!session.EnEdition(), kHorsEdition) | si(session.JournalPropre(), kJournalPropre) |
            si(!session.LectureSeule(), kModifiable) | si(session.nbFiches > 0, kAuMoinsUn) |
            si(session.nbFiches > 1, kAuMoinsDeux) | si(session.saisie.NbModifs == 0, kSansReponse) |
            si(session.journal.Support().EstOuvert(), kJournalOuvert);

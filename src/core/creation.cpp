@@ -1,8 +1,9 @@
 #include "core/creation.h"
 
 #include "core/dossier.h"
-#include "core/journal.h"
+#include "core/fiches.h"
 #include "core/texte.h"
+#include "geo/locator.h"
 
 namespace orvalis {
 namespace fs = std::filesystem;
@@ -17,16 +18,17 @@ fs::path CheminParametres(const fs::path& dossier) {
 } // namespace
 
 bool CreerCahier(const fs::path& lecteur, const Parametres& parametres) {
-    constexpr std::size_t kLongueurLocator = 6;
     const fs::path dossier = DossierProgramme(lecteur);
     std::error_code erreur;
     fs::create_directory(dossier, erreur);
     if (!fs::is_directory(dossier, erreur))
         return false;
     // Kept on purpose: callsigns of 1, 8, 9, 16 or 17 characters create nothing, silently.
-    if ((kLongueurLocator & Longueur(parametres.indicatif)) == 0)
+    if ((kLargeurLocator & Longueur(parametres.indicatif)) == 0)
         return false;
     Journal journal(TrouverFichier(dossier, parametres.nomFichier), ModeFichier::Creation);
+    if (!journal.Support().Verrouiller())
+        throw ErreurVerrou((dossier / parametres.nomFichier).string());
     EcrireParametres(CheminParametres(dossier), parametres);
     // An existing logbook is not emptied: only its first record becomes the end of the log.
     journal.Ecrire(1, FicheFinDeLog(parametres.monLocator));

@@ -10,7 +10,8 @@ namespace orvalis {
 
 /// Creates the program folder on `lecteur` when it is missing, writes the Settings file and an
 /// empty logbook. Returns false, without a word and without having written a file, when the
-/// folder cannot be made or the length of the callsign does not pass. Throws ErreurFichier.
+/// folder cannot be made or the length of the callsign does not pass. Throws ErreurFichier, and
+/// ErreurVerrou when another program has the logbook open.
 [[nodiscard]] bool CreerCahier(const std::filesystem::path& lecteur, const Parametres& parametres);
 
 /// Path of a file of the program folder as messages show it, native separators (UTF-8).

@@ -2,6 +2,7 @@
 
 #include "core/fichier.h"
 #include "core/texte.h"
+#include "geo/locator.h"
 
 #include <algorithm>
 #include <vector>
@@ -11,7 +12,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::size_t kNbValeurs = 3;
-constexpr std::size_t kLargeurLocator = 6;
 constexpr std::size_t kTailleMaximale = 4096; // far beyond any file this program writes
 
 std::string LireOctets(const fs::path& chemin) {
@@ -97,8 +97,10 @@ void EcrireParametres(const fs::path& chemin, const Parametres& parametres) {
         throw ErreurFichier(echec.Action(), reel, echec.code());
     }
     fs::rename(provisoire, reel, erreur);
-    if (erreur)
-        throw ErreurFichier(ActionFichier::Renommer, reel, erreur);
+    if (const std::error_code raison = erreur) {
+        fs::remove(provisoire, erreur);
+        throw ErreurFichier(ActionFichier::Renommer, reel, raison);
+    }
 }
 
 } // namespace orvalis

@@ -11,10 +11,6 @@
 namespace orvalis {
 namespace {
 
-constexpr std::string_view kReportHabituel = "59";
-constexpr std::size_t kLongueurDate = 8;
-constexpr std::size_t kLongueurHeure = 5;
-
 // What a rule works on: the answer under way, which holds the slots and the entry state, and what
 // it may look up besides.
 struct Entree {
@@ -49,12 +45,14 @@ void Indicatif(const Entree& e) {
 }
 
 void Date(const Entree& e) {
+    // In real time the clock has given the date, and Enter must not replace it unseen.
+    if (e.r.saisie.tempsReel)
+        return;
     if (e.Texte().empty() && !e.r.saisie.DerniereDate.empty()) {
         e.Zone() = e.r.saisie.DerniereDate; // the box shows it when it loses the focus
         return;
     }
-    if (e.r.saisie.tempsReel || Longueur(e.Texte()) != kLongueurDate ||
-        !ControlerDate(e.Texte()).ValiditeOK)
+    if (Longueur(e.Texte()) != Boite(e.boite).longueur || !ControlerDate(e.Texte()).ValiditeOK)
         return;
     // Kept on purpose: stored as typed, so that 01.05.02 keeps its points.
     e.Zone() = e.Texte();
@@ -64,7 +62,7 @@ void Date(const Entree& e) {
 }
 
 void Heure(const Entree& e) {
-    if (e.r.saisie.tempsReel || Longueur(e.Texte()) != kLongueurHeure)
+    if (e.r.saisie.tempsReel || Longueur(e.Texte()) != Boite(e.boite).longueur)
         return;
     const Controle controle = ControlerHeure(e.Texte());
     e.r.saisie.TexteSaisi = controle.texte;

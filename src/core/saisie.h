@@ -28,6 +28,9 @@ enum class Couleur : std::uint8_t {
     VertClair = 5   ///< the box that has the focus during entry
 };
 
+/// The report that boxes 7 and 8 offer.
+inline constexpr std::string_view kReportHabituel = "59";
+
 struct Rvb {
     std::uint8_t rouge = 0;
     std::uint8_t vert = 0;

@@ -1,5 +1,6 @@
 // The card under entry apart from the Enter key: colours, focus, mouse, and its beginning and end.
 #include "core/boites.h"
+#include "core/commandes.h"
 #include "core/saisie.h"
 #include "core/texte.h"
 
@@ -19,7 +20,7 @@ std::string_view TexteOffert(const EtatSaisie& saisie, std::size_t boite) {
         return saisie.DernierMode;
     case 7:
     case 8:
-        return "59";
+        return kReportHabituel;
     default:
         return {};
     }
@@ -66,8 +67,7 @@ Reponse PrendreFoyer(const Session& session, std::size_t boite) {
 
 Reponse QuitterFoyer(const Session& session, std::size_t boite) {
     Reponse r = SansEffet(session);
-    if (boite != static_cast<std::size_t>(Champ::MLOC))
-        r.textes.push_back({boite, r.zones[boite]});
+    r.textes.push_back({boite, r.zones[boite]});
     r.saisie.DerniereZone = static_cast<std::int16_t>(boite);
     const bool modifiee = r.saisie.EnModification && r.saisie.NbModifs != 0;
     r.couleurs.push_back({boite, modifiee ? Couleur::RougeClair : CouleurAuRepos(boite)});
@@ -83,7 +83,7 @@ Reponse PresserBoite(const Session& session, std::size_t boite, std::string_view
             r.saisie.DerniereZone = static_cast<std::int16_t>(boite);
         }
     } else {
-        if (session.LectureSeule() || session.ficheCourante < 1 ||
+        if (!CommandePermise(Commande::ModifierFiche, session) || session.ficheCourante < 1 ||
             session.ficheCourante > session.nbFiches)
             return r;
         r.saisie.EnModification = true;

@@ -65,7 +65,7 @@ struct Session {
     [[nodiscard]] bool JournalPropre() const { return autreJournal.empty(); }
     /// Another logbook whose name is not the station's callsign may only be looked at.
     [[nodiscard]] bool LectureSeule() const {
-        return !autreJournal.empty() && autreJournal != indicatif;
+        return !JournalPropre() && autreJournal != indicatif;
     }
 };
 

@@ -1,6 +1,7 @@
 #include "maint/ouverture.h"
 
 #include "core/texte.h"
+#include "geo/locator.h"
 
 namespace orvalis {
 
@@ -12,7 +13,6 @@ std::string NomAutreJournal(const std::filesystem::path& chemin) {
 }
 
 BilanOuverture OuvrirAutreJournal(Session& session, const std::filesystem::path& chemin) {
-    constexpr std::size_t kLargeurLocator = Description(Champ::MLOC).largeur;
     if (chemin == session.cheminJournal || session.journal.Support().EstLeMeme(chemin))
         return {};
     const std::string nom = NomAutreJournal(chemin);

@@ -85,9 +85,7 @@ VuePlace VoirPlace(const FeuilleQSL& feuille, int k) {
 
 void OuvrirFeuilleQSL(FeuilleQSL& feuille) {
     feuille.fichier.Fermer();
-    feuille.ouverte = false;
     feuille.fichier = Fichier(feuille.chemin, ModeFichier::Creation);
-    feuille.ouverte = true;
 }
 
 void ChargerFeuilleQSL(FeuilleQSL& feuille, const std::filesystem::path& dossier) {

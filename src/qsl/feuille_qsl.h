@@ -70,7 +70,6 @@ struct VueFeuille {
 struct FeuilleQSL {
     std::filesystem::path chemin;
     Fichier fichier;
-    bool ouverte = false; ///< the QSL service is active
     std::array<EtatEtiquette, kNbEtiquettes> etats{};
     std::array<std::string, kNbEtiquettes> indicatifs; ///< callsigns of the prepared labels
     QslSlotRecord tampon;                              ///< label last read or written

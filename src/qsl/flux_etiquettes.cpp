@@ -114,7 +114,7 @@ void OuvrirPanneau(FeuilleQSL& feuille) {
 }
 
 ReponseClic PreparerEtiquette(Session& session, FeuilleQSL& feuille, std::int32_t k) {
-    if (!feuille.ouverte || feuille.vue.controle || !session.JournalPropre() || k < 1 ||
+    if (!feuille.fichier.EstOuvert() || feuille.vue.controle || !session.JournalPropre() || k < 1 ||
         k > session.nbFiches)
         return {};
     const QsoRecord fiche = session.journal.Lire(k);

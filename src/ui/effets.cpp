@@ -1,5 +1,6 @@
 #include "ui/effets.h"
 
+#include "core/commandes.h"
 #include "core/modification.h"
 #include "qsl/feuille_qsl.h"
 #include "ui/chang_locator.h"
@@ -93,10 +94,9 @@ void RendreListe(Plateau& p) {
 void ReactiverBoutons(Plateau& p) {
     if (!p.contacts.isHidden())
         return;
-    const Session& s = p.session;
-    p.menu.ActiverNouveau(!s.LectureSeule());
+    p.menu.ActiverNouveau(CommandePermise(Commande::BtNewQSO, p.session));
     p.menu.ActiverFermer(true);
-    p.menu.ActiverSupprimer(s.nbFiches > 0 && !s.LectureSeule());
+    p.menu.ActiverSupprimer(CommandePermise(Commande::BtKillFiche, p.session));
 }
 
 Gel::Gel(Plateau& p) : p_(p), avant_(p.gel) {

@@ -1,5 +1,6 @@
 #include "ui/flux_demarrage.h"
 
+#include "core/commandes.h"
 #include "core/creation.h"
 #include "core/dossier.h"
 #include "core/fiches.h"
@@ -78,12 +79,8 @@ void InitialiserFenetre(Plateau& p) {
     SelectionnerDerniereLigne(p);
     if (s.nbFiches != 0)
         ChargerFeuille(p);
-    const bool modifiable = !s.LectureSeule();
-    p.menu.ActiverSupprimer(modifiable && s.nbFiches > 0 && !s.EnEdition());
-    p.menu.ActiverNouveau(modifiable);
-    p.menu.ActiverFermer(true);
-    p.rech.setVisible(s.nbFiches != 0 && !s.EnEdition());
-    p.liste.ReglerDefilement(s.nbFiches, s.nbFiches);
+    ReactiverBoutons(p);
+    p.rech.setVisible(s.nbFiches != 0);
     if (s.nbFiches != 0)
         p.liste.DonnerFoyer();
     else
@@ -96,13 +93,16 @@ void AfficherHeure(Plateau& p) {
 }
 
 void LancerCompagnon(Plateau& p, std::string_view nom) {
-    const std::string chemin = CheminProgrammeTexte(p.session.lecteur, nom);
-    std::optional<QString> raison = p.systeme.Lancer(Q(chemin), {});
+    const fs::path dossier = DossierProgramme(p.session.lecteur);
+    const auto lancer = [&](std::string_view programme) {
+        return p.systeme.Lancer(Q(TrouverFichier(dossier, programme).string()), {});
+    };
+    std::optional<QString> raison = lancer(nom);
 #ifndef Q_OS_WIN
-    constexpr std::string_view kSuffixe = ".exe";
-    if (raison && nom.ends_with(kSuffixe))
-        raison = p.systeme.Lancer(Q(chemin.substr(0, chemin.size() - kSuffixe.size())), {});
+    if (raison)
+        raison = lancer(nom.substr(0, nom.rfind('.')));
 #endif
+    const std::string chemin = CheminProgrammeTexte(p.session.lecteur, nom);
     if (raison)
         p.systeme.Avertir(
             &p.fenetre,
@@ -110,11 +110,12 @@ void LancerCompagnon(Plateau& p, std::string_view nom) {
 }
 
 void CreerBaseDeDonnees(Plateau& p) {
-    if (!p.session.EnEdition() && p.session.nbFiches != 0)
+    if (CommandePermise(Commande::MnuCreateMDB, p.session))
         LancerCompagnon(p, "dbOrvalis.exe");
 }
 
 void QuitterProgramme(Plateau& p, int code) {
+    p.arret = true;
     p.session.journal = Journal();
     p.feuille.fichier.Fermer();
     if (auto* adieu = p.fenetre.findChild<QLabel*>(QStringLiteral("OrvalisLab03")))

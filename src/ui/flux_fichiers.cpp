@@ -32,14 +32,13 @@ namespace {
 // Runs `action`; a failure that does not concern the open logbook is told. Returns success.
 bool Essayer(Plateau& p, const std::function<void()>& action) {
     try {
-        const Sablier sablier;
         action();
         return true;
     } catch (const ErreurFichier& echec) {
         if (echec.Chemin() == p.session.cheminJournal)
             throw;
         p.systeme.Avertir(&p.fenetre, Q(MessageErreur(echec)));
-    } catch (const ErreurVerrou& echec) {
+    } catch (const std::runtime_error& echec) { // taken by another program, damaged Settings
         p.systeme.Avertir(&p.fenetre, Q(MessageErreur(echec)));
     }
     return false;
@@ -51,8 +50,10 @@ QString NomDuFichier(const Session& session) {
 
 bool CopierVers(Plateau& p, const DemandeFichier& demande) {
     const QString cible = p.systeme.ChoisirFichier(&p.fenetre, demande);
-    return !p.arret && !cible.isEmpty() &&
-           Essayer(p, [&] { CopierJournal(p.session, std::filesystem::path(S(cible))); });
+    return !p.arret && !cible.isEmpty() && Essayer(p, [&] {
+        const Sablier sablier;
+        CopierJournal(p.session, std::filesystem::path(S(cible)));
+    });
 }
 
 // Returns whether a backup was made.
@@ -108,7 +109,10 @@ void Jumeler(Plateau& p) {
         {false, Q(TexteLecteur(p.session.lecteur)), {}, QStringLiteral("Cahier à ajouter")});
     if (p.arret || source.isEmpty())
         return;
-    Essayer(p, [&] { JumelerJournal(p.session, std::filesystem::path(S(source))); });
+    Essayer(p, [&] {
+        const Sablier sablier;
+        JumelerJournal(p.session, std::filesystem::path(S(source)));
+    });
     RemplirListe(p);
     SelectionnerDerniereLigne(p);
 }
@@ -132,21 +136,17 @@ void OuvrirJournalCourant(Plateau& p) {
     AbandonnerModification(p);
     p.jumelage.hide();
     p.liste.setEnabled(true);
-    Demarrage suite = Demarrage::Recommencer;
-    try {
+    auto suite = Demarrage::Recommencer;
+    const bool fait = Essayer(p, [&] {
         while (suite == Demarrage::Recommencer)
             suite = ChargerParametres(p);
-    } catch (const ErreurVerrou& echec) {
-        // The logbook on show is still open and whole.
-        p.systeme.Avertir(&p.fenetre, Q(MessageErreur(echec)));
-        AfficherFiche(p);
-        p.liste.DonnerFoyer();
-        return;
-    }
-    if (suite == Demarrage::Arreter) {
-        p.arret = true;
+    });
+    if (fait && suite == Demarrage::Arreter)
         QuitterProgramme(p, 0);
-    }
+    if (fait)
+        return;
+    AfficherFiche(p); // the logbook on show is still open and whole
+    p.liste.DonnerFoyer();
 }
 
 void OuvrirAutre(Plateau& p) {
@@ -160,7 +160,11 @@ void OuvrirAutre(Plateau& p) {
     if (p.arret || choisi.isEmpty())
         return;
     BilanOuverture bilan;
-    if (!Essayer(p, [&] { bilan = OuvrirAutreJournal(p.session, S(choisi)); }) || !bilan.ouvert)
+    const auto ouvrir = [&] {
+        const Sablier sablier;
+        bilan = OuvrirAutreJournal(p.session, S(choisi));
+    };
+    if (!Essayer(p, ouvrir) || !bilan.ouvert)
         return;
     LacherFoyer();
     AbandonnerModification(p);

@@ -1,5 +1,6 @@
 #include "ui/flux_locator.h"
 
+#include "core/commandes.h"
 #include "core/locator_station.h"
 #include "core/messages.h"
 #include "core/texte.h"
@@ -27,7 +28,7 @@ void FermerChangLocator(Plateau& p) {
 } // namespace
 
 void ChangerDeLocator(Plateau& p) {
-    if (!p.session.saisie.EnSaisie)
+    if (!CommandePermise(Commande::MnuChangerLocator, p.session))
         return;
     p.fiche.MontrerActiveRech(false);
     Cacher(p.contacts);

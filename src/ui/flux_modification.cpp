@@ -1,5 +1,6 @@
 #include "ui/flux_modification.h"
 
+#include "core/commandes.h"
 #include "core/fiches.h"
 #include "core/modification.h"
 #include "ui/effets.h"
@@ -21,12 +22,11 @@ void Supprimer(Plateau& p) {
     Session& s = p.session;
     const std::int32_t page = CalculerPages(s.ficheCourante);
     SupprimerFiche(s, s.ficheCourante);
+    Cacher(p.contacts); // its numbers no longer hold
     RemplirListe(p);
     MontrerPage(p, std::min(page, s.pageAffichee));
     SelectionnerDerniereLigne(p);
     MontrerNomDuJournal(p);
-    // The numbers in a contacts list no longer hold.
-    Cacher(p.contacts);
     p.rech.setVisible(s.nbFiches != 0);
 }
 
@@ -56,7 +56,7 @@ void AbandonnerModification(Plateau& p) {
 
 void DemanderSuppression(Plateau& p) {
     const Session& s = p.session;
-    if (s.saisie.EnSaisie || s.LectureSeule() || s.ficheCourante < 1 ||
+    if (!CommandePermise(Commande::BtKillFiche, s) || s.ficheCourante < 1 ||
         s.ficheCourante > s.nbFiches)
         return;
     if (s.saisie.EnModification || s.saisie.NbModifs != 0)

@@ -3,6 +3,7 @@
 #include "core/commandes.h"
 #include "core/dates.h"
 #include "core/dossier.h"
+#include "core/messages.h"
 #include "core/texte.h"
 #include "print/etiquette.h"
 #include "qsl/flux_etiquettes.h"
@@ -74,10 +75,11 @@ void Repondre(Plateau& p, const ReponseQSL& reponse) {
         p.systeme.Avertir(&p.fenetre, Q(reponse.message));
 }
 
-// A logbook without contacts was opened without its sheet.
-void ChargerAuBesoin(Plateau& p) {
-    if (!p.feuille.ouverte)
+// A logbook without contacts was opened without its sheet. Returns whether there is one.
+bool ChargerAuBesoin(Plateau& p) {
+    if (!p.feuille.fichier.EstOuvert())
         ChargerFeuille(p);
+    return p.feuille.fichier.EstOuvert();
 }
 
 DonneesEtiquette DonneesDe(const QslSlotRecord& etiquette) {
@@ -104,13 +106,20 @@ bool UnPanneauAttend(const Plateau& p) {
 }
 
 void ChargerFeuille(Plateau& p) {
-    ChargerFeuilleQSL(p.feuille, DossierProgramme(p.session.lecteur));
+    try {
+        ChargerFeuilleQSL(p.feuille, DossierProgramme(p.session.lecteur));
+    } catch (const ErreurFichier& echec) {
+        // No reason to keep the operator from the logbook.
+        p.feuille.fichier.Fermer();
+        p.systeme.Avertir(&p.fenetre, Q(MessageErreur(echec)));
+    }
 }
 
 void GererFeuille(Plateau& p) {
     if (UnPanneauAttend(p) || !CommandePermise(Commande::MnuGestionFeuilleQSL, p.session))
         return;
-    ChargerAuBesoin(p);
+    if (!ChargerAuBesoin(p))
+        return;
     OuvrirPanneau(p.feuille);
     Peindre(p);
     p.feuilleQSL.DonnerFoyerChoix(PremierePreparee(p.feuille));
@@ -125,9 +134,8 @@ void ImprimerEtiquettesVierges(Plateau& p) {
 }
 
 void CliquerMaQsl(Plateau& p) {
-    if (UnPanneauAttend(p) || !Rogner(p.fiche.TexteBoite(kMaQsl)).empty())
+    if (UnPanneauAttend(p) || !Rogner(p.fiche.TexteBoite(kMaQsl)).empty() || !ChargerAuBesoin(p))
         return;
-    ChargerAuBesoin(p);
     const ReponseClic clic = PreparerEtiquette(p.session, p.feuille, p.session.ficheCourante);
     if (clic.suite == SuiteClic::Ordinaire)
         return;

@@ -14,7 +14,7 @@ namespace orvalis {
 /// unanswered modification or deletion, a sort, the pairing, the own locator, the sheet itself.
 [[nodiscard]] bool UnPanneauAttend(const Plateau& p);
 
-/// Loads the sheet of the program folder. Throws ErreurFichier.
+/// Loads the sheet of the program folder; a failure is told, and the service does without.
 void ChargerFeuille(Plateau& p);
 
 /// MnuGestionFeuilleQSL: the sheet takes the place of the card.

@@ -82,7 +82,7 @@ void CliquerRecherche(Plateau& p) {
 
 void FermerContacts(Plateau& p) {
     Cacher(p.contacts);
-    p.rech.setVisible(p.session.nbFiches != 0);
+    p.rech.show();
     if (IndicatifSurLaCarte(p))
         p.fiche.MontrerActiveRech(true);
     if (p.session.EnEdition()) {
@@ -100,10 +100,9 @@ void MontrerDoublons(Plateau& p) {
     if (p.session.saisie.EnSaisie)
         p.liste.setEnabled(true);
     p.fiche.MontrerActiveRech(false);
-    Cacher(p.rech);
     p.contacts.show();
     MontrerResultat(p, ChercherDoublons(p.session.journal, p.session.nbFiches),
-                    !p.session.EnEdition());
+                    !p.session.saisie.EnSaisie);
     DesactiverBoutonsDuLog(p);
     if (!p.session.EnEdition())
         p.contacts.DonnerFoyer();

@@ -1,6 +1,7 @@
 #include "ui/flux_saisie.h"
 
 #include "core/carte.h"
+#include "core/commandes.h"
 #include "core/fiches.h"
 #include "core/saisie.h"
 #include "ui/chang_locator.h"
@@ -42,9 +43,11 @@ void OuvrirFicheVierge(Plateau& p) {
 
 // Returns false when the card must stay as it is: a contact without a callsign.
 bool Enregistrer(Plateau& p, FinDeSaisie fin) {
+    LacherFoyer(); // text without Enter is not stored, that of the box in hand neither
     const ContactFini contact = FinirContact(p.session, fin, p.enrs.SuivantArme(),
                                              p.fiche.TexteBoite(16), p.systeme.Maintenant());
     if (contact.verdict == Verdict::IndicatifManquant) {
+        p.enrs.ActiverAnnuler(true); // the way out for who has no callsign to give
         DonnerFoyer(p, 1);
         return false;
     }
@@ -58,7 +61,7 @@ bool Enregistrer(Plateau& p, FinDeSaisie fin) {
 } // namespace
 
 void NouveauQso(Plateau& p) {
-    if (p.session.saisie.EnSaisie || p.session.LectureSeule())
+    if (!CommandePermise(Commande::BtNewQSO, p.session))
         return;
     AbandonnerModification(p);
     LacherFoyer();

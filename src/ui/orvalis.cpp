@@ -260,11 +260,8 @@ void Orvalis::Demarrer() {
             if (p_.arret)
                 return;
             suite = ChargerParametres(p_);
-            if (suite == Demarrage::Arreter) {
-                p_.arret = true;
-                QuitterProgramme(p_, 0);
-                return;
-            }
+            if (suite == Demarrage::Arreter)
+                return QuitterProgramme(p_, 0);
         }
         timer1_->start(kDureeTic);
         temoinDemarrage_ = 0;
@@ -274,10 +271,8 @@ void Orvalis::Demarrer() {
 
 void Orvalis::closeEvent(QCloseEvent* evenement) {
     evenement->accept();
-    if (p_.arret)
-        return;
-    p_.arret = true;
-    QuitterProgramme(p_, 0);
+    if (!p_.arret)
+        QuitterProgramme(p_, 0);
 }
 
 // Enter on a button, or its mnemonic, presses it at once: the usual animation would let the next

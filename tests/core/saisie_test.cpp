@@ -48,7 +48,7 @@ TEST(Saisie, EntreeBoiteParBoite) {
  1 '  ' z1= texte=; 1 '\'; 1 i ' \ ' texte=\ ->1; 1 h ' F6X';
  2 d '01/05/02' z2=01/05/02 t2=01/05/02 date=01/05/02 ->3;
  2 d '01.05.02' z2=01.05.02 t2=01.05.02 date=01.05.02 ->3; 2 d '31/04/02'; 2 d '1/5/02'; 2 d '';
- 2 ds '' z2=01/02/03; 2 '01/05/02'; 3 d '18:30' z3=18:30 ->4; 3 d '24:00' texte=; 3 '18:30';
+ 2 ds '' z2=01/02/03; 2 s ''; 2 '01/05/02'; 3 d '18:30' z3=18:30 ->4; 3 d '24:00' texte=; 3 '18:30';
  4 d '9:5//' z4=09:00 texte=09:00 ->5; 4 d '1830'; 4 '18:30';
  5 '14.250' z5=14.250 freq=14.250 ->6; 5 s '' z5=7.05 ->6; 5 '';
  6 s 'SSB' z6=SSB mode=SSB ->7; 6 s '' z6=CW ->7; 6 ' ' texte=;
@@ -96,7 +96,7 @@ TEST(Saisie, PerteDuFoyer) {
     Derouler(Scene, perte, R"(
  1 '' t1=F5ABC c1=3; 1 n '' t1=F5ABC c1=4;
  7 '' t7= c7=1 zone=7; 7 n '' t7= c7=4 zone=7; 7 h '' t7= c7=1 zone=7; 7 m '' t7= c7=1 zone=7;
- 16 '' c16=1 zone=16;)");
+ 16 '' t16= c16=1 zone=16;)");
 }
 
 TEST(Saisie, PressionSurUneBoite) {
