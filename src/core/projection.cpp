@@ -1,8 +1,8 @@
 #include "core/projection.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
+#include <cstring>
 #include <sys/mman.h>
 #include <unistd.h>
 
@@ -49,22 +49,16 @@ ErreurFichier Projection::Echec() const {
     return {ActionFichier::Ecrire, fichier_.Chemin(), {raison, std::generic_category()}};
 }
 
-ssize_t Projection::Copier(char* ici, std::span<const char> octets) {
-    std::copy(octets.begin(), octets.end(), atelier_);
-    errno = 0;
-    return ::pread(page_, ici, octets.size(), 0);
-}
-
-void Projection::Remplacer(std::int64_t position, std::span<const char> nouveaux,
-                           std::span<const char> anciens) {
+void Projection::Remplacer(std::int64_t position, std::size_t nombre) {
     char* ici = octets_ + position;
-    const ssize_t copies = Copier(ici, nouveaux);
-    if (copies == static_cast<ssize_t>(nouveaux.size()))
+    std::memcpy(anciens_.data(), ici, nombre);
+    errno = 0;
+    const auto copies = ::pread(page_, ici, nombre, 0);
+    if (copies == static_cast<ssize_t>(nombre))
         return;
     const ErreurFichier echec = Echec();
     if (copies > 0)
-        static_cast<void>(
-            Copier(ici, anciens.first(std::min(anciens.size(), static_cast<std::size_t>(copies)))));
+        std::memcpy(ici, anciens_.data(), static_cast<std::size_t>(copies));
     throw echec;
 }
 
@@ -79,9 +73,8 @@ EcritureEntiere::EcritureEntiere(Fichier& fichier, std::int64_t taille) : fichie
 void EcritureEntiere::Poser(std::int64_t position, std::span<const char> octets) {
     if (!projection_)
         return fichier_.Ecrire(position, octets);
-    std::array<char, kPlusGrandePiece> tampon = {};
-    const auto lus = fichier_.Lire(position, std::span(tampon).first(octets.size()));
-    projection_->Remplacer(position, octets, std::span(tampon).first(lus));
+    std::copy(octets.begin(), octets.end(), projection_->Atelier().begin());
+    projection_->Remplacer(position, octets.size());
 }
 
 void EcrireEntier(Fichier& fichier, std::int64_t position, std::span<const char> octets) {

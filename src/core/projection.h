@@ -1,4 +1,4 @@
-// A file mapped into memory, to be written in indivisible pieces.
+// A file mapped into memory, read directly and written in indivisible pieces.
 //
 // Why not a plain write: a program killed in the middle of a write of the system is stopped at
 // the next page boundary, so a piece that straddles one may be left half written (on ext4 and
@@ -11,11 +11,11 @@
 
 #include "core/fichier.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
-#include <sys/types.h>
 
 namespace orvalis {
 
@@ -33,23 +33,25 @@ class Projection {
     Projection& operator=(const Projection&) = delete;
     ~Projection();
 
-    /// Puts `nouveaux` (at most kPlusGrandePiece bytes, within the mapping) at byte `position`, all
-    /// of them or, when the program is killed or this throws ErreurFichier, none. `anciens` are the
-    /// bytes that are there: asking the mapping for them would end the program if the medium is
-    /// gone.
-    void Remplacer(std::int64_t position, std::span<const char> nouveaux,
-                   std::span<const char> anciens);
+    [[nodiscard]] const char* Octets() const noexcept { return octets_; }
+    /// Room where the next piece is put together; its content survives Remplacer.
+    [[nodiscard]] std::span<char, kPlusGrandePiece> Atelier() noexcept {
+        return std::span<char, kPlusGrandePiece>(atelier_, kPlusGrandePiece);
+    }
+    /// Puts the first `nombre` bytes of the workshop at byte `position`, all of them or, when the
+    /// program is killed or this throws ErreurFichier, none. The piece lies within the mapping.
+    void Remplacer(std::int64_t position, std::size_t nombre);
 
   private:
     [[nodiscard]] ErreurFichier Echec() const;
-    [[nodiscard]] ssize_t Copier(char* ici, std::span<const char> octets);
     void Liberer() noexcept;
 
     const Fichier& fichier_;
     std::size_t taille_;
     char* octets_ = nullptr;
     int page_ = -1;           ///< the nameless file behind the workshop
-    char* atelier_ = nullptr; ///< its mapping, where the next piece is put together
+    char* atelier_ = nullptr; ///< its mapping
+    std::array<char, kPlusGrandePiece> anciens_ = {};
 };
 
 /// Replaces bytes that a file already has, in pieces that are there wholly or not at all. Where

@@ -9,6 +9,10 @@
 namespace orvalis {
 namespace {
 
+constexpr auto kTaille = static_cast<std::int64_t>(kTailleFiche);
+/// Records that one write of the file moves at most.
+constexpr auto kFichesParEcriture = static_cast<std::int32_t>(kPlusGrandePiece / kTailleFiche);
+
 // Kept on purpose: each word is shown one pass late ("Dates" while the years are compared).
 constexpr std::array<std::string_view, kNbPasses> kMots = {"Dates", "Années", "Mois", "Jours",
                                                            "Heures"};
@@ -85,12 +89,10 @@ Tri::Tri(Journal& journal, std::int32_t nbFiches) : journal_(journal), nbFiches_
     etat_.termine = nbFiches < 2;
     if (etat_.termine)
         return;
-    const std::int64_t taille = PositionFiche(nbFiches + 1);
+    const std::int64_t taille = nbFiches * kTaille;
     if (journal.Support().Taille() < taille)
         journal.Ecrire(nbFiches, journal.Lire(nbFiches));
     projection_.emplace(journal.Support(), taille);
-    fiches_.resize(static_cast<std::size_t>(nbFiches));
-    static_cast<void>(journal.Lire(1, fiches_)); // they are all there now
 }
 
 void Tri::Avancer(std::int64_t pasMax) {
@@ -122,18 +124,19 @@ template<int passe> void Tri::Marcher(std::int64_t dernierPas) {
     std::int32_t p = etat_.position;
     std::int64_t pas = etat_.pas;
     for (; pas < dernierPas && p != nbFiches_; ++pas) {
-        QsoRecord* fiche = &fiches_[static_cast<std::size_t>(p) - 1];
-        if (!Echanger<passe>(fiche[0].octets.data(), fiche[1].octets.data())) {
+        if (p >= debut_)
+            PoserEchanges();
+        const bool suite = p + 1 == debut_;
+        if (!Echanger<passe>(Fiche(p), Fiche(suite ? fin_ : p + 1))) {
             ++p;
             continue;
         }
-        if (p + 1 != debut_) {
+        if (!suite) {
             PoserEchanges();
             fin_ = p + 1;
         }
         debut_ = p;
-        std::swap(fiche[0], fiche[1]);
-        if (fin_ - debut_ + 1 == static_cast<std::int32_t>(kFichesParPiece))
+        if (fin_ - debut_ + 1 == kFichesParEcriture)
             PoserEchanges();
         ++etat_.echanges;
         p = std::max(p - 2, 1);
@@ -155,12 +158,16 @@ void Tri::FinirPasse() {
 void Tri::PoserEchanges() {
     if (debut_ == kAucune)
         return;
-    const auto n = static_cast<std::size_t>(fin_ - debut_ + 1);
-    const auto nouvelles = std::span(fiches_).subspan(static_cast<std::size_t>(debut_) - 1, n);
-    const auto anciennes = std::span(anciennes_).first(n);
-    std::rotate_copy(nouvelles.begin(), nouvelles.begin() + 1, nouvelles.end(), anciennes.begin());
-    projection_->Remplacer(PositionFiche(debut_), OctetsFiches(nouvelles), OctetsFiches(anciennes));
+    char* atelier = projection_->Atelier().data();
+    const auto deplaces = static_cast<std::size_t>(fin_ - debut_) * kTailleFiche;
+    std::memcpy(atelier, Fiche(fin_), kTailleFiche);
+    std::memcpy(atelier + kTailleFiche, Fiche(debut_), deplaces);
+    projection_->Remplacer((debut_ - 1) * kTaille, kTailleFiche + deplaces);
     debut_ = kAucune;
+}
+
+const char* Tri::Fiche(std::int32_t k) const {
+    return projection_->Octets() + (k - 1) * kTaille;
 }
 
 } // namespace orvalis

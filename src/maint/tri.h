@@ -4,8 +4,7 @@
 // The walk. At position p it compares records p and p+1. When the pass's condition holds it
 // exchanges them and steps back two places (not below 1), otherwise one place forward; the pass
 // ends when p reaches N. No key is kept from one step to the next: each is read afresh from the
-// two records, which lie in memory as in the file: reading them through a mapping would end the
-// program if the medium were pulled out.
+// two records where they lie in the file.
 //
 // What reaches the file. An exchange is one contiguous write that a kill cannot cut in two (see
 // core/projection.h). A write of its own for each of the seventeen million exchanges of a large
@@ -18,12 +17,10 @@
 #include "core/journal.h"
 #include "core/projection.h"
 
-#include <array>
 #include <cstdint>
 #include <limits>
 #include <optional>
 #include <string_view>
-#include <vector>
 
 namespace orvalis {
 
@@ -60,6 +57,7 @@ class Tri {
     void MarcherPasse(std::int64_t dernierPas);
     void FinirPasse();
     void PoserEchanges();
+    [[nodiscard]] const char* Fiche(std::int32_t k) const;
 
     static constexpr std::int32_t kAucune = std::numeric_limits<std::int32_t>::max();
 
@@ -67,12 +65,10 @@ class Tri {
     std::int32_t nbFiches_;
     std::optional<Projection> projection_;
     EtatTri etat_;
-    std::vector<QsoRecord> fiches_; ///< all contacts, in the order reached
-    // Exchanges not yet in the file: they carried the record of place fin_ back to debut_, and
-    // those from debut_ on one place further.
+    // Exchanges not yet in the file: the record that lies at fin_ belongs at debut_, and those
+    // from debut_ to fin_ - 1 one place further.
     std::int32_t debut_ = kAucune;
     std::int32_t fin_ = 0;
-    std::array<QsoRecord, kFichesParPiece> anciennes_; ///< as those places are in the file
 };
 
 } // namespace orvalis

@@ -1,7 +1,9 @@
 #include "aides.h"
 #include "core/projection.h"
 
+#include <algorithm>
 #include <csignal>
+#include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -20,26 +22,31 @@ Fichier FichierDe(char octet) {
     return fichier;
 }
 
+void Remplir(Projection& projection, char octet) {
+    std::fill(projection.Atelier().begin(), projection.Atelier().end(), octet);
+}
+
 TEST(Projection, RemplaceToutOuRien) {
     Fichier fichier = FichierDe('a');
     Projection projection(fichier, kTaille);
-    const std::string a(kPiece, 'a'), b(kPiece, 'b');
-    projection.Remplacer(kIci, b, a);
+    Remplir(projection, 'b');
+    projection.Remplacer(kIci, kPiece);
+    const std::string attendu = std::string(kTaille, 'a').replace(kIci, kPiece, kPiece, 'b');
     std::string lu(kTaille, '\0');
     ASSERT_EQ(fichier.Lire(0, lu), kTaille);
-    EXPECT_EQ(lu, std::string(kTaille, 'a').replace(kIci, kPiece, b));
+    EXPECT_EQ(lu, attendu);
 
     // The second page no longer takes anything: the part before it is put back.
-    ASSERT_EQ(::ftruncate(fichier.Descripteur(), kTaille / 2), 0);
-    EXPECT_THROW(projection.Remplacer(kIci, a, b), ErreurFichier);
-    lu.resize(kTaille / 2);
-    ASSERT_EQ(fichier.Lire(0, lu), lu.size());
-    EXPECT_EQ(lu.substr(kIci), b.substr(0, kTaille / 2 - kIci));
+    ASSERT_EQ(
+        ::mprotect(const_cast<char*>(projection.Octets()) + kTaille / 2, kTaille / 2, PROT_READ),
+        0);
+    Remplir(projection, 'c');
+    EXPECT_THROW(projection.Remplacer(kIci, kPiece), ErreurFichier);
+    EXPECT_EQ(std::string(projection.Octets(), kTaille), attendu);
 }
 
 TEST(Projection, TueePendantUnRemplacement) {
     Fichier fichier = FichierDe('a');
-    const std::string a(kPiece, 'a'), b(kPiece, 'b');
     for (int essais = 0; essais < 100; ++essais) {
         int tube[2] = {};
         ASSERT_EQ(::pipe(tube), 0);
@@ -47,7 +54,8 @@ TEST(Projection, TueePendantUnRemplacement) {
         if (enfant == 0) {
             Projection projection(fichier, kTaille);
             for (int i = 0;; ++i) {
-                projection.Remplacer(kIci, i % 2 == 0 ? b : a, i % 2 == 0 ? a : b);
+                Remplir(projection, i % 2 == 0 ? 'a' : 'b');
+                projection.Remplacer(kIci, kPiece);
                 if (i == essais && ::write(tube[1], ".", 1) != 1)
                     ::_exit(1);
             }
