@@ -51,6 +51,13 @@ std::string_view Debut(ActionFichier action) {
     return "Impossible de remplacer le fichier";
 }
 
+std::string RaisonDe(const ErreurFichier& echec) {
+    // A file that is to be made does not exist yet: its folder is what is missing.
+    if (echec.Action() == ActionFichier::Creer && echec.code().value() == ENOENT)
+        return "le dossier n'existe pas";
+    return RaisonFrancaise(echec.code());
+}
+
 } // namespace
 
 std::string RaisonFrancaise(const std::error_code& raison) {
@@ -63,7 +70,7 @@ std::string RaisonFrancaise(const std::error_code& raison) {
 std::string MessageErreur(const std::exception& erreur) {
     if (const auto* fichier = dynamic_cast<const ErreurFichier*>(&erreur))
         return std::string{Debut(fichier->Action())} + " « " + fichier->Chemin().string() +
-               " » : " + RaisonFrancaise(fichier->code()) + ".";
+               " » : " + RaisonDe(*fichier) + ".";
     if (const auto* verrou = dynamic_cast<const ErreurVerrou*>(&erreur))
         return "Le cahier « " + std::string{verrou->what()} +
                " » est déjà ouvert par un autre programme Orvalis.";

@@ -55,7 +55,7 @@ TEST(Maintenance, ErreursDesAutresFichiersSeDisentSansRienPerdre) {
         {"<absent.Vek MnuAutreF", "",
          "Impossible d'ouvrir le fichier « ~/absent.Vek » : le fichier n'existe pas."},
         {"<absent/copie.Vek MnuSauver", "",
-         "Impossible de créer le fichier « ~/absent/copie.Vek » : le fichier n'existe pas."},
+         "Impossible de créer le fichier « ~/absent/copie.Vek » : le dossier n'existe pas."},
         {"<VekSave MnuCopieSurDisque", "",
          "Impossible de créer le fichier « ~/VekSave » : c'est un dossier, pas un fichier."},
         {"</dev/full MnuCopieSurDisque", "",
