@@ -1,8 +1,7 @@
 #include "aides.h"
 #include "maint/tri.h"
 
-#include <algorithm>
-#include <numeric>
+#include <map>
 #include <set>
 
 namespace orvalis {
@@ -12,145 +11,88 @@ using namespace essai;
 
 constexpr std::int64_t kToutDroit = 1'000'000'000;
 
-std::vector<std::string> Decouper(const std::string& octets) {
-    std::vector<std::string> fiches;
-    for (std::size_t i = 0; i + 165 <= octets.size(); i += 165)
-        fiches.push_back(octets.substr(i, 165));
-    return fiches;
-}
+/// A logbook of these bytes, and its sort.
+struct Banc {
+    Dossier dossier;
+    Session session;
+    Tri tri;
 
-/// Contacts with few distinct dates and times, some of them irregular; each callsign is unique.
-std::string Melange(unsigned n) {
-    constexpr std::array kJours = {"01/", "02/", "2/", " 1/", "x"};
-    constexpr std::array kMois = {"01/", "02/", "03/"};
-    constexpr std::array kAnnees = {"98", "99", "00", "01", "59", "60"};
-    constexpr std::array kHeures = {"08:10", "08:11", "09:11", " 9:5", "10:10", "10:5"};
-    unsigned graine = 7;
-    const auto tirer = [&graine](const auto& textes) {
-        graine = graine * 1664525U + 1013904223U;
-        return std::string{textes[(graine >> 16U) % textes.size()]};
-    };
-    std::string octets;
-    while (octets.size() < n * std::size_t{165})
-        octets += Contact("N" + std::to_string(octets.size()),
-                          tirer(kJours) + tirer(kMois) + tirer(kAnnees), tirer(kHeures));
-    return octets;
-}
-
-/// The pass's own key, and the text that records must share to be ordered by it.
-std::pair<std::string, int> CleDePasse(const std::string& fiche, int passe) {
-    const auto rogner = [&fiche](std::size_t debut, std::size_t largeur) {
-        std::string champ = fiche.substr(debut, largeur);
-        champ.erase(0, std::min(champ.find_first_not_of(' '), largeur));
-        champ.resize(largeur, ' ');
-        return champ;
-    };
-    const auto nombre = [](const std::string& texte) {
-        return texte[0] < '0' || texte[0] > '9' ? 0 : std::atoi(texte.c_str());
-    };
-    const std::string date = rogner(15, 8);
-    const std::string heure = rogner(23, 5);
-    const int annee = (nombre(date.substr(6)) + 40) % 100;
-    const int mois = nombre(date.substr(3, 2));
-    const int heures = nombre(heure.substr(0, 2));
-    const std::array<std::pair<std::string, int>, 5> cles = {{
-        {"", annee},
-        {std::to_string(annee), mois},
-        {std::to_string(mois), nombre(date.substr(0, 2))},
-        {date, heures},
-        {date + std::to_string(heures), nombre(heure.substr(3))},
-    }};
-    return cles[static_cast<std::size_t>(passe) - 1];
-}
-
-/// What the sort must come to, found another way: a stable sort of each run that shares a text.
-std::string TrierAutrement(const std::string& octets) {
-    std::vector<std::string> fiches = Decouper(octets);
-    for (int passe = 1; passe <= 5; ++passe)
-        for (auto debut = fiches.begin(); debut != fiches.end();) {
-            const auto fin = std::find_if(debut, fiches.end(), [&](const std::string& f) {
-                return CleDePasse(f, passe).first != CleDePasse(*debut, passe).first;
-            });
-            std::stable_sort(debut, fin, [passe](const std::string& a, const std::string& b) {
-                return CleDePasse(a, passe).second < CleDePasse(b, passe).second;
-            });
-            debut = fin;
-        }
-    return std::accumulate(fiches.begin(), fiches.end(), std::string{});
-}
+    explicit Banc(const std::string& octets)
+        : session(Ouvrir(dossier.Poser("J.Vek", octets))), tri(session.journal, session.nbFiches) {}
+    [[nodiscard]] std::string Octets() const { return Lire(dossier / "J.Vek"); }
+};
 
 TEST(Tri, PetitesMarches) {
-    const struct {
-        std::vector<std::string> debuts; // date and start; contacts are named A, B, C, D
-        std::string ordre;
-        std::int64_t pas, echanges;
-    } cas[] = {
-        {{}, "", 0, 0},
-        {{"01/01/01"}, "A", 0, 0},
-        {{"01/01/01", "01/01/02"}, "AB", 5, 0},
-        {{"01/01/00", "31/12/99"}, "BA", 6, 1},
-        {{"01/01/04", "01/01/03", "01/01/02", "01/01/01"}, "DCBA", 25, 6},
-        {{"20/03/0110:00", "05/03/0209:00"}, "BA", 6, 1}, // the years do not count in pass 3
-        {{"01/01/0110:00", "01/01/0110:00"}, "AB", 5, 0},
-        {{"1/03/02 12:00", "01/03/0209:00"}, "AB", 5, 0}, // two texts of one day
-        {{" 1/03/0212:00", "1/03/02 09:00"}, "BA", 6, 1}, // one text, once shifted
-        {{"01/03/02 9:30", "01/03/0209:01"}, "AB", 5, 0}, // minutes of "9:30 " are 0
-        {{"01/01/01", "xx/yy/zz"}, "BA", 6, 1},           // no number: year 2000
+    const auto trier = [](const std::string& debuts) {
+        std::string octets, bilan;
+        for (std::size_t i = 0; i < debuts.size(); i += 14)
+            octets += Contact(std::string(1, "ABCD"[i / 14]), debuts.substr(i, 13));
+        Banc banc(octets + Fin());
+        banc.tri.Avancer(kToutDroit);
+        const EtatTri& etat = banc.tri.Etat();
+        EXPECT_TRUE(etat.termine && etat.position == 1);
+        for (std::size_t i = 0; i < octets.size(); i += 165)
+            bilan += banc.Octets()[i];
+        return bilan + ' ' + std::to_string(etat.pas) + ' ' + std::to_string(etat.echanges);
     };
-    for (const auto& c : cas) {
-        std::string octets;
-        for (const std::string& debut : c.debuts)
-            octets += Contact(std::string(1, "ABCD"[octets.size() / 165]), debut);
-        const Dossier dossier;
-        const auto chemin = dossier.Poser("J.Vek", octets + Fin());
-        Session session = Ouvrir(chemin);
-        Tri tri(session.journal, session.nbFiches);
-        tri.Avancer(kToutDroit);
-        std::string ordre;
-        for (const std::string& fiche : Decouper(Lire(chemin)))
-            ordre += fiche[0];
-        EXPECT_EQ(ordre, c.ordre + "\\");
-        EXPECT_EQ(tri.Etat().pas, c.pas) << c.ordre;
-        EXPECT_EQ(tri.Etat().echanges, c.echanges) << c.ordre;
-        EXPECT_TRUE(tri.Etat().termine && tri.Etat().position == 1);
-    }
+    // Dates and starts of contacts A, B, C and D: their order, steps, exchanges.
+    Verifier(trier, Textes{{"", " 0 0"},
+                           {"01/01/01", "A 0 0"},
+                           {"01/01/60      01/01/59", "AB 5 0"}, // 1960 to 2059
+                           {"01/01/00      31/12/99", "BA 6 1"},
+                           {"01/01/04      01/01/03      01/01/02      01/01/01", "DCBA 25 6"},
+                           {"20/03/0110:00 05/03/0209:00", "BA 6 1"}, // pass 3 ignores the years
+                           {"01/01/0110:00 01/01/0110:00", "AB 5 0"},
+                           {"1/03/02 12:00 01/03/0209:00", "AB 5 0"}, // two texts of one day
+                           {" 1/03/0212:00 1/03/02 09:00", "BA 6 1"}, // one text, once shifted
+                           {"01/03/02 9:30 01/03/0209:01", "AB 5 0"}, // minutes of "9:30 " are 0
+                           {"01/03/0210:10 01/03/0210:5 ", "BA 6 1"}, // a number of one digit
+                           {"01/01/01      xx/yy/zz", "BA 6 1"}});    // no number: year 2000
 }
 
 TEST(Tri, EgaleUnTriStableEtNePerdRienEnRoute) {
-    const std::string depart = Melange(90);
+    unsigned graine = 7;
+    const auto tirer = [&graine](const char* chiffres) { // two of six digits
+        graine = graine * 1664525U + 1013904223U;
+        return std::string(chiffres).substr((graine >> 16U) % 3 * 2, 2);
+    };
+    std::string depart, trie;
     const std::string suite = Fin() + Contact("PERIME", "01/01/70");
-    std::vector<std::string> contacts = Decouper(depart);
-    std::sort(contacts.begin(), contacts.end());
+    std::multimap<std::string, std::string> ordre; // records of one moment stay in their order
+    for (int i = 0; i < 90; ++i) {
+        const auto an = tirer("990002"), mois = tirer("010212"), jour = tirer("010231"),
+                   heure = tirer("080910"), minute = tirer("000159");
+        const std::string fiche =
+            Contact('N' + std::to_string(i), jour + '/' + mois + '/' + an, heure + ':' + minute);
+        depart += fiche;
+        ordre.emplace((an == "99" ? "19" : "20") + an + mois + jour + heure + minute, fiche);
+    }
+    for (const auto& [moment, fiche] : ordre)
+        trie += fiche;
     std::set<std::pair<std::int64_t, std::int64_t>> comptes;
     for (const std::int64_t tranche : {std::int64_t{1}, std::int64_t{37}, kToutDroit}) {
-        const Dossier dossier;
-        const auto chemin = dossier.Poser("J.Vek", depart + suite);
-        Session session = Ouvrir(chemin);
-        Tri tri(session.journal, session.nbFiches);
-        for (std::int64_t vus = 0; !tri.Etat().termine;) {
-            tri.Avancer(tranche);
-            if (std::exchange(vus, tri.Etat().echanges) == tri.Etat().echanges)
-                continue;
-            std::vector<std::string> fiches = Decouper(Lire(chemin).substr(0, depart.size()));
-            std::sort(fiches.begin(), fiches.end());
-            ASSERT_EQ(fiches, contacts);
+        Banc banc(depart + suite);
+        const EtatTri& etat = banc.tri.Etat();
+        while (!etat.termine) {
+            banc.tri.Avancer(tranche);
+            const std::string octets = banc.Octets();
+            for (const auto& [moment, fiche] : ordre)
+                ASSERT_NE(octets.find(fiche), octets.npos) << "lost, step " << etat.pas;
         }
-        EXPECT_EQ(Lire(chemin), TrierAutrement(depart) + suite);
-        comptes.emplace(tri.Etat().pas, tri.Etat().echanges);
+        EXPECT_EQ(banc.Octets(), trie + suite);
+        comptes.emplace(etat.pas, etat.echanges);
     }
     EXPECT_EQ(comptes.size(), 1) << "slices change the walk";
 }
 
 TEST(Tri, DerniereFicheCourteEtLectureSeule) {
-    const Dossier dossier;
     std::string courte = Contact("B", "01/01/01").substr(0, 28);
-    const auto chemin = dossier.Poser("J.Vek", Contact("A", "01/01/02") + courte);
-    Journal lecture(chemin, ModeFichier::Lecture);
-    EXPECT_THROW(Tri(lecture, 2).Avancer(kToutDroit), ErreurFichier);
-    Session session = Ouvrir(chemin);
-    Tri(session.journal, session.nbFiches).Avancer(kToutDroit);
+    Banc banc(Contact("A", "01/01/02") + courte);
+    banc.tri.Avancer(kToutDroit);
     courte.resize(165, ' ');
-    EXPECT_EQ(Lire(chemin), courte + Contact("A", "01/01/02"));
+    EXPECT_EQ(banc.Octets(), courte + Contact("A", "01/01/02"));
+    Journal lecture(banc.dossier / "J.Vek", ModeFichier::Lecture);
+    EXPECT_THROW(Tri(lecture, 2).Avancer(kToutDroit), ErreurFichier);
 }
 
 } // namespace
