@@ -2,12 +2,9 @@
 #include "print/etiquette.h"
 
 #include <gmock/gmock.h>
-#include <vector>
 
 namespace orvalis {
 namespace {
-
-using testing::UnorderedElementsAreArray;
 
 /// Frame, table and texts of every label, from its own corner.
 const std::string kCommun = R"(R 0 0 5200 1780;
@@ -17,85 +14,55 @@ const std::string kCommun = R"(R 0 0 5200 1780;
  T 380 620 8g TO RADIO; T 1680 620 8g  DATE; T 2380 620 8g UTC; T 2840 620 8g  Frequency;
  T 4010 620 8g RST; T 4600 620 8g Mode; T 200 1460 10g TNX for NICE QSO HPE CUAGN ,73's;)";
 
-DonneesEtiquette Exemple() {
-    return {"F4ABC          ", "SALUT          ", "               ",
-            "BUREAU         ", "12/05/02",        "18:30",
-            "14.250    ",      "599     ",        "CW   "};
-}
-
-/// Prints one label as the tests see it: from the corner of its place.
-Enregistreur Imprimer(std::int16_t numero, GenreEtiquette genre, DonneesEtiquette& donnees,
-                      EnTetesEtiquettes& enTetes) {
-    const OrigineEtiquette o = OrigineDeEtiquette(PlaceDeEtiquette(numero));
-    Enregistreur imprimante("Comic sans MS", o.x, o.y);
-    ImprimerEtiquette(imprimante, PlaceDeEtiquette(numero), genre, donnees, "F5XYZ", enTetes);
-    return imprimante;
-}
-
-TEST(EtiquetteTest, Remplie) {
-    DonneesEtiquette donnees = Exemple();
-    donnees.texte2 = " F6KQV ";
+TEST(Etiquette, Remplie) {
+    DonneesEtiquette donnees = {"F4ABC    ", "SALUT ", " F6KQV ", "BUREAU ", "12/05/02",
+                                "18:30",     "14.250", "599 ",    "CW   "};
     EnTetesEtiquettes enTetes{"", "d'avant"};
-    const auto page = Imprimer(4, GenreEtiquette::Remplie, donnees, enTetes);
-    EXPECT_THAT(page.operations, UnorderedElementsAreArray(Liste(kCommun + R"(
+    Enregistreur imprimante("Comic sans MS", 6100, 2380);
+    ImprimerEtiquette(imprimante, {2, 2}, GenreEtiquette::Remplie, donnees, "F5XYZ", enTetes);
+    EXPECT_THAT(imprimante.operations, testing::UnorderedElementsAreArray(Liste(kCommun + R"(
  T 950 20 10g SALUT  Confirming QSO with  F4ABC; T 2100 300 10g Via QSL Manager F6KQV;
  T 620 920 8g Courrier F4ABC; T 1566 920 8g Courrier 12/05/02; T 2315 920 8g Courrier 18:30;
  T 3007 920 8g Courrier 14.250; T 3996 920 8g Courrier 599; T 4704 920 8g Courrier CW;
  T 400 1250 8g Courrier Pse / Tnx  QSL via  BUREAU;)")));
     EXPECT_EQ(donnees.texte2 + donnees.route + donnees.mode, "F6KQVBUREAUCW") << "trimmed in place";
     EXPECT_EQ(enTetes.vierge, "d'avant");
-}
-
-TEST(EtiquetteTest, Vierge) {
-    DonneesEtiquette rien = Exemple();
-    EnTetesEtiquettes enTetes{std::string(47, 'x'), ""};
-    const auto page = Imprimer(15, GenreEtiquette::Vierge, rien, enTetes);
-    EXPECT_THAT(page.operations, UnorderedElementsAreArray(Liste(kCommun + R"(
- T 200 20 10g  F5XYZ   Confirming QSO with; T 400 1250 8g Courrier Pse / Tnx  QSL via  ;)")));
-    EXPECT_EQ(enTetes.remplie, std::string(47, 'x'));
-}
-
-TEST(EtiquetteTest, CorpsDeLEnTete) {
-    for (const auto& [texte1, debut] :
-         {std::pair{"ÉSALUT DE 13 C", "T 720 20 8g "}, {"ÉSALUT DE 13C", "T 300 20 10g "}}) {
-        DonneesEtiquette donnees = Exemple();
-        donnees.indicatif = "HB9/F4ABCP";
-        donnees.texte1 = texte1;
-        EnTetesEtiquettes enTetes;
-        const auto page = Imprimer(1, GenreEtiquette::Remplie, donnees, enTetes);
-        const std::string enTete = std::string{texte1} + "  Confirming QSO with  HB9/F4ABCP";
-        EXPECT_EQ(page.Compter(debut + enTete), 1) << texte1;
-        EXPECT_EQ(page.Compter("T 2100 300"), 0) << "no manager";
-    }
-}
-
-TEST(EtiquetteTest, Places) {
-    const OrigineEtiquette attendu[] = {{300, 400},   {6100, 400},   {300, 2380},  {6100, 2380},
-                                        {300, 4360},  {6100, 4360},  {300, 6340},  {6100, 6340},
-                                        {300, 8320},  {6100, 8320},  {300, 10300}, {6100, 10300},
-                                        {300, 12280}, {6100, 12280}, {300, 14260}, {6100, 14260}};
-    for (std::int16_t k = 1; k <= kEtiquettesParPlanche; ++k)
-        EXPECT_EQ(OrigineDeEtiquette(PlaceDeEtiquette(k)), attendu[k - 1]) << k;
     EXPECT_EQ(OrigineDeEtiquette({2, 9}), (OrigineEtiquette{6100, 0}));
     EXPECT_EQ(OrigineDeEtiquette({1, 0}), (OrigineEtiquette{300, 0}));
 }
 
-TEST(PlancheTest, UneSeuleFeuille) {
+TEST(Planche, EtiquettesAuxLongsEnTetes) {
+    DonneesEtiquette longue, courte;
+    longue.indicatif = courte.indicatif = "HB9/F4ABCP";
+    longue.texte1 = "ÉSALUT DE 13 C"; // a heading of 47 characters
+    courte.texte1 = "ÉSALUT DE 13C";
+    std::vector<EtiquettePlacee> etiquettes = {{3, longue}, {16, courte}};
     EnTetesEtiquettes enTetes;
-    Enregistreur vide, deux, seize;
+    Enregistreur planche("Comic sans MS"), vide;
+    ImprimerPlanche(planche, etiquettes, enTetes);
+    EXPECT_THAT(planche.operations, testing::IsSupersetOf(Liste(R"(
+ R 300 2380 5500 4160; T 1020 2400 8g ÉSALUT DE 13 C  Confirming QSO with  HB9/F4ABCP;
+ R 6100 14260 11300 16040; T 6400 14280 10g ÉSALUT DE 13C  Confirming QSO with  HB9/F4ABCP;)")));
+    EXPECT_EQ(planche.operations.front() + planche.operations.back(), "P A4 portraitFIN");
+    EXPECT_EQ(planche.operations.size(), 2 + 2 * (Liste(kCommun).size() + 8)) << "no manager";
     ImprimerPlanche(vide, {}, enTetes);
     EXPECT_TRUE(vide.operations.empty());
-    std::vector<EtiquettePlacee> etiquettes = {{3, Exemple()}, {16, Exemple()}};
-    ImprimerPlanche(deux, etiquettes, enTetes);
-    EXPECT_EQ(deux.Compter("R 300 2380 5500 4160") + deux.Compter("R 6100 14260 11300 16040"), 2);
-    EXPECT_EQ(deux.Compter("R "), 2);
-    ImprimerPlancheVierge(seize, "F5XYZ", enTetes);
-    EXPECT_EQ(seize.Compter("R "), 16);
-    for (const Enregistreur& feuille : {deux, seize}) {
-        EXPECT_EQ(feuille.operations.front(), "P A4 portrait");
-        EXPECT_EQ(feuille.operations.back(), "FIN");
-        EXPECT_EQ(feuille.Compter("FIN"), 1);
-    }
+}
+
+TEST(Planche, Vierge) {
+    EnTetesEtiquettes enTetes{"de la remplie", ""};
+    Enregistreur planche("Comic sans MS", 300, 400); // from the corner of the first label
+    ImprimerPlancheVierge(planche, "F5XYZ", enTetes);
+    const auto premiere = Liste(kCommun + R"(
+ T 200 20 10g  F5XYZ   Confirming QSO with; T 400 1250 8g Courrier Pse / Tnx  QSL via  ;)");
+    EXPECT_THAT(planche.operations, testing::IsSupersetOf(premiere));
+    EXPECT_EQ(planche.operations.front() + planche.operations.back(), "P A4 portraitFIN");
+    EXPECT_EQ(planche.operations.size(), 2 + 16 * premiere.size());
+    for (const std::string& coin :
+         Liste(R"(0 0; 5800 0; 0 1980; 5800 1980; 0 3960; 5800 3960; 0 5940; 5800 5940; 0 7920;
+ 5800 7920; 0 9900; 5800 9900; 0 11880; 5800 11880; 0 13860; 5800 13860)"))
+        EXPECT_EQ(planche.Compter("R " + coin + ' '), 1) << coin;
+    EXPECT_EQ(enTetes.remplie, "de la remplie");
 }
 
 } // namespace
