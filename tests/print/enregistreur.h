@@ -22,9 +22,8 @@ struct Enregistreur : Imprimante {
     explicit Enregistreur(std::string familleUsuelle = {}, int x = 0, int y = 0)
         : famille(std::move(familleUsuelle)), x0(x), y0(y) {}
 
-    void ChoisirPapier(Papier, Orientation orientation) override {
-        operations.emplace_back(orientation == Orientation::Portrait ? "P A4 portrait"
-                                                                     : "P A4 paysage");
+    void ChoisirPapier(Papier, Orientation o) override {
+        operations.emplace_back(o == Orientation::Portrait ? "P A4 portrait" : "P A4 paysage");
     }
     void ChoisirPolice(std::string_view nom) override { police_ = nom; }
     void ChoisirTaille(int points) override { taille_ = points; }

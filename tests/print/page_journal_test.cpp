@@ -8,7 +8,7 @@ namespace orvalis {
 namespace {
 
 using namespace essai;
-using testing::UnorderedElementsAreArray;
+using namespace testing;
 
 /// What both kinds of page carry.
 const std::string kCommun = R"(P A4 portrait;
@@ -78,7 +78,7 @@ TEST(PageJournal, SArreteALaFinDuLog) {
         const Enregistreur page = Imprimer(c.octets, c.page);
         EXPECT_EQ(page.Compter("T 160 "), c.rangees);
         EXPECT_EQ(page.Compter("L 130 "), 1 + c.rangees);
-        EXPECT_THAT(page.operations, testing::IsSupersetOf(Liste(c.derniere)));
+        EXPECT_THAT(page.operations, IsSupersetOf(Liste(c.derniere)));
     }
 }
 

@@ -95,8 +95,9 @@ struct Banc {
         std::string lettres;
         for (std::size_t i = 0; i < std::size(visibles); ++i)
             lettres += visibles[i] ? std::string(1, "PVSLQIRC"[i]) : "";
-        return std::regex_replace(lettres + ' ' + v.nrTag + '\n' + reponse.message,
-                                  std::regex("Etiquette N° | : .*|\n$"), "");
+        return std::regex_replace(
+            lettres + ' ' + v.nrTag + '\n' + reponse.message,
+            std::regex("Etiquette N° |( est ouvert en consultation)? : .*|\n$"), "");
     }
 };
 
@@ -145,7 +146,7 @@ TEST(FeuilleQSL, UneEtiquetteRelueEchangeReportEtMode) {
         boites[kBoiteManager] = "reste";
         LireEtiquette(banc.feuille, 1);
         EXPECT_EQ("-BD"[static_cast<int>(banc.feuille.voie)] + boites[kBoiteManager], voie);
-        boites[kBoiteManager].clear();
+        ChoisirVoie(banc.feuille, VoieQSL::Direct); // a route needs no manager
         EXPECT_EQ(boites, (BoitesEtiquette{"", "F5ABC", "21/11/26", "18:05", "14.250", "59+20dB",
                                            "SSB", "Bonne année", "QRP", "", "F5ABC", "7"}));
     }
@@ -155,11 +156,10 @@ TEST(FluxEtiquettes, PlacerUneEtiquette) {
     Essayer({
         {"F18", "Z01", "fiche1", "F18", "Z01", "PQI 2"},
         {"F18", "Z01", "fiche1 entree valider", "F18+", "Z01 F181", "VQI 2"},
-        {"F18", "Z01", "fiche1 boite1=. entree valider", "F18", "Z01",
-         "PVQI  Indicatif manquant ! "},
-        {"F18", "Z01", "fiche1 boite1=.***. entree valider", "F18", "Z01",
-         "PQI  Indicatif manquant ! "},
-        {"F18", "Z01", "choix1 entree valider", "F18", "Z01", "VSL  Etiquette déjà placée ! "},
+        {"F18", "", "fiche1 boite1=. entree valider", "F18", "", "PVQ  Indicatif manquant ! "},
+        {"F18", "", "fiche1 boite1=.***. entree valider", "F18", "", "PQ  Indicatif manquant ! "},
+        {"F18", "Z01", "fiche1 choix1 entree valider", "F18", "Z01",
+         "PVSLI  Etiquette déjà placée ! "},
         {"F18", "", "fiche1 autre valider", "F18", "", "PQ  Consultation seule ! "},
         {"F18J", "", "fiche1", "F18J", "", "Q "},
         {"F18", "", "autre fiche1", "F18", "", "Q "},
@@ -168,11 +168,11 @@ TEST(FluxEtiquettes, PlacerUneEtiquette) {
 
 TEST(FluxEtiquettes, ContactDUneEtiquetteImprimee) {
     Essayer({
-        {"A17+ F18+", "F182", "parfait", "A17+ F18+", "F182", "Q "}, // not printed
-        {"A17+ F18+", "F182", "imprimer choix1 tag1 supprimer restaurer", "A17+ F18+", "F182",
-         "QC "},
-        {"A17+ F18+", "F182", "imprimer autre parfait", "A17+ F18+", "F182",
-         "QI \nCe cahier est ouvert en consultation"},
+        {"A17+ F18", "A171", "fiche2 valider imprimer parfait", "A17J F18J", "", "Q 2"},
+        {"F18+", "F181", "parfait", "F18+", "F181", "Q "}, // not printed
+        {"F18+", "F181", "imprimer choix1 tag1 supprimer restaurer", "F18+", "F181", "QC "},
+        {"F18+", "F181", "choix1 autre supprimer", "F18+", "F181", "SL 1\nCe cahier"},
+        {"F18+", "F181", "autre imprimer parfait", "F18+", "F181", "QI \nCe cahier"},
         // The number may be stale, the contact corrected, or without its mark.
         {"A17+ F18+", "F182", "imprimer parfait", "A17+ F18J", "", "Q "},
         {"A17+ F09+", "F182", "imprimer parfait", "A17+ F09J", "", "Q "},
@@ -214,16 +214,21 @@ TEST(FluxEtiquettes, UnContactSansMarqueRecoitSaSeuleMarque) {
 TEST(FluxEtiquettes, LaFeuilleSeRemplit) {
     const std::string z = Etiquettes("Z01");
     Banc banc(Fiches("F18"), z + kLibre + Fois(14, z));
-    Verifier([&banc](const std::string& gestes) { return banc.Faire(gestes); },
-             Textes{{"choix2 fiche1", "PQIR 16"},
-                    {"boite9=F6QSL direct valider", "PVQIR  Plus d'étiquette disponible ! "},
-                    {"restaurer", "PVQI 2"},
-                    {"valider", "VQI 2"},
-                    {"choix16", "SLI 16"},
-                    {"supprimer", "QI 16\n16 (Z)"},
-                    {"tag16 entree choix16", "QIR  Plus d'étiquette disponible ! \n16 (Z)"},
-                    {"choix1 tag1 supprimer", "QIR  Plus d'étiquette disponible ! "},
-                    {"choix16 choix1 laisser boite1=N boite11=1 valider", "QIR 16\n16 (N)"}});
+    banc.Faire("fiche1");
+    EXPECT_EQ(banc.feuille.boites,
+              (BoitesEtiquette{"", "F", "21/11/26", "18", "", "", "", "", "", "", "F", "1"}));
+    Verifier(
+        [&banc](const std::string& gestes) { return banc.Faire(gestes); },
+        Textes{{"choix2 fiche1", "PQIR 16"},
+               {"boite9=F6QSL direct valider", "PVQIR  Plus d'étiquette disponible ! "},
+               {"restaurer", "PVQI 2"},
+               {"valider", "VQI 2"},
+               {"choix16", "SLI 16"},
+               {"supprimer", "QI 16\n16 (Z)"},
+               {"tag16 entree choix16", "QIR  Plus d'étiquette disponible ! \n16 (Z)"},
+               {"boite1=N valider", "QIR  Plus d'étiquette disponible ! "},
+               {"choix1 tag1 supprimer", "QIR  Plus d'étiquette disponible ! "},
+               {"choix16 choix1 direct laisser boite1=N boite11=1 valider", "QIR 16\n16 (N)"}});
     EXPECT_EQ(banc.OctetsFeuille(),
               z + Brute({{0, "F"}, {45, "DIRECT"}, {60, "21/11/2618"}, {96, "1"}}, 106) +
                   Fois(13, z) + Brute({{0, "N"}, {96, "1"}}, 106));
