@@ -68,24 +68,24 @@ TEST(Copie, OctetParOctet) {
 
 TEST(Ouverture, AutreJournal) {
     const std::string a = Contact("A"), f = Fin("JN33AA");
-    const std::array<std::string, 3> cas[] = {
-        // file, its bytes; name, own locator and N, then L: read-only, F: end of log, E: whole
-        {"Été.Vek", a + f + a, "Été|JN33AA|1|LFE"},
-        {"court.VEK", Fin(" JN3  "), "court|JN3   |0|LFE"},
-        {"F5ABC.Vek", a + a + f, "F5ABC|JN33AA|2|FE"},
-        {"Sans.Vek", a + a, "Sans|JN18AA|2|LE"},
-        {"Coupe.Vek", a + f + "abc", "Coupe|JN33AA|1|LF"},
-        {".Vek", f, ".Vek|JN33AA|0|LFE"},
+    using Ouvert = std::tuple<std::string, std::string, std::int32_t, bool, bool, bool>;
+    const std::tuple<std::string, std::string, Ouvert> cas[] = {
+        // file, its bytes; name, own locator, N, read-only, with an end of log, of whole records
+        {"Été.Vek", a + f + a, {"Été", "JN33AA", 1, true, true, true}},
+        {"court.VEK", Fin(" JN3  "), {"court", "JN3   ", 0, true, true, true}},
+        {"F5ABC.Vek", a + a + f, {"F5ABC", "JN33AA", 2, false, true, true}},
+        {"Sans.Vek", a + a, {"Sans", "JN18AA", 2, true, false, true}},
+        {"Coupe.Vek", a + f + "abc", {"Coupe", "JN33AA", 1, true, true, false}},
+        {".Vek", f, {".Vek", "JN33AA", 0, true, true, true}},
     };
     for (const auto& [nom, octets, attendu] : cas) {
         const Dossier dossier;
-        Session session = Ouvrir(dossier.Poser("Station.Vek", a + a + a + f));
+        Session session = Ouvrir(dossier.Poser("Station.Vek", Fois(3, a) + f));
         const auto chemin = dossier.Poser(nom, octets);
         const auto [ouvert, etat] = OuvrirAutreJournal(session, chemin);
         EXPECT_TRUE(ouvert && session.cheminJournal == chemin);
-        EXPECT_EQ(session.autreJournal + '|' + session.monLocator + '|' +
-                      std::to_string(session.nbFiches) + '|' + (session.LectureSeule() ? "L" : "") +
-                      (etat.finPresente ? "F" : "") + (etat.longueurEntiere ? "E" : ""),
+        EXPECT_EQ(Ouvert(session.autreJournal, session.monLocator, session.nbFiches,
+                         session.LectureSeule(), etat.finPresente, etat.longueurEntiere),
                   attendu);
     }
 }

@@ -53,20 +53,25 @@ TEST(Tri, PetitesMarches) {
 
 TEST(Tri, EgaleUnTriStableEtNePerdRienEnRoute) {
     std::size_t graine = 7;
-    const auto tirer = [&graine](const char* chiffres) { // two of six digits
+    const auto tirer = [&graine](const char* textes) { // one of three
         graine = graine * 31 % 1009;
-        return std::string(chiffres).substr(graine % 3 * 2, 2);
+        return std::string(textes).substr(graine % 3 * 3, 3);
     };
     std::string depart, trie;
     const std::string suite = Fin() + Contact("PERIME", "01/01/70");
-    std::multimap<std::string, std::string> ordre; // records of one moment stay in their order
+    std::multimap<std::array<std::string, 5>, std::string>
+        ordre; // records of one moment stay in their order
     for (int i = 0; i < 90; ++i) {
-        const auto an = tirer("990002"), mois = tirer("010212"), jour = tirer("010231"),
-                   heure = tirer("080910"), minute = tirer("000159");
-        const std::string fiche =
-            Contact('N' + std::to_string(i), jour + '/' + mois + '/' + an, heure + ':' + minute);
+        const auto an = tirer("00/01/02/"), mois = tirer("01/02/12/"), jour = tirer("01/02/31/"),
+                   heure = tirer("08:09:10:"), minute = tirer("00:01:59:");
+        const auto fiche = Brute({{0, 'N' + std::to_string(i)},
+                                  {15, jour},
+                                  {18, mois},
+                                  {21, an},
+                                  {23, heure},
+                                  {26, minute}});
         depart += fiche;
-        ordre.emplace((an == "99" ? "19" : "20") + an + mois + jour + heure + minute, fiche);
+        ordre.emplace(std::array{an, mois, jour, heure, minute}, fiche);
     }
     for (const auto& [moment, fiche] : ordre)
         trie += fiche;

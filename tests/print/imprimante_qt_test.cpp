@@ -67,7 +67,7 @@ TEST_F(ImprimanteQtTest, PageDuCahier) {
                             Porte("Déb", 1400, 1480), Porte("HB9ÉÀ", 3100, 2400),
                             Porte("12/05/02", 10800, 1920), Porte("Page", 8900, 14100)));
     const Mot& avant = mots[mots.size() - 2];
-    EXPECT_THAT(mots, Porte("3", avant.x + avant.largeur + 45, 14100)) << "on the same line";
+    EXPECT_THAT(mots, Porte("3", avant.x + avant.largeur + 44, 14100)) << "on the same line";
     EXPECT_NEAR(imprimante.LargeurTexte("n°"), avant.largeur, 2);
 }
 

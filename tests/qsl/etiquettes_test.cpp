@@ -37,7 +37,7 @@ std::string Etiquettes(const std::string& mots) {
 
 /// A sheet whose other places are free.
 std::string Planche(std::string premieres) {
-    while (premieres.size() < 16 * 106)
+    while (premieres.size() < std::size_t{16} * 106)
         premieres += kLibre;
     return premieres;
 }
@@ -104,7 +104,7 @@ struct Banc {
 /// Contacts and labels before, gestures, contacts and labels afterwards, what is on show.
 void Essayer(const std::vector<std::array<std::string, 6>>& table) {
     for (const auto& [fiches, etiquettes, gestes, fichesApres, etiquettesApres, montre] : table) {
-        SCOPED_TRACE(fiches + " / " + etiquettes + " / " + gestes);
+        SCOPED_TRACE(testing::PrintToString(std::tie(fiches, etiquettes, gestes)));
         Banc banc(Fiches(fiches), Planche(Etiquettes(etiquettes)));
         banc.session.zones[1] = "CARTE";
         if (montre == "panne")
