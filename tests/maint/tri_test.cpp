@@ -59,17 +59,13 @@ TEST(Tri, EgaleUnTriStableEtNePerdRienEnRoute) {
     };
     std::string depart, trie;
     const std::string suite = Fin() + Contact("PERIME", "01/01/70");
-    std::multimap<std::array<std::string, 5>, std::string>
-        ordre; // records of one moment stay in their order
+    // Records of one moment stay in their order.
+    std::multimap<std::array<std::string, 5>, std::string> ordre;
     for (int i = 0; i < 90; ++i) {
         const auto an = tirer("00/01/02/"), mois = tirer("01/02/12/"), jour = tirer("01/02/31/"),
                    heure = tirer("08:09:10:"), minute = tirer("00:01:59:");
-        const auto fiche = Brute({{0, 'N' + std::to_string(i)},
-                                  {15, jour},
-                                  {18, mois},
-                                  {21, an},
-                                  {23, heure},
-                                  {26, minute}});
+        const auto fiche = Brute(
+            {{0, 'N' + std::to_string(i)}, {15, jour + mois}, {21, an}, {23, heure + minute}});
         depart += fiche;
         ordre.emplace(std::array{an, mois, jour, heure, minute}, fiche);
     }
