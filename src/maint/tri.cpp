@@ -97,11 +97,10 @@ Tri::Tri(Journal& journal, std::int32_t nbFiches) : journal_(journal), nbFiches_
 
 void Tri::Avancer(std::int64_t pasMax) {
     const std::int64_t dernierPas = etat_.pas + pasMax;
-    while (!etat_.termine && etat_.pas < dernierPas) {
+    if (!etat_.termine)
         MarcherPasse(dernierPas);
-        if (etat_.position == nbFiches_)
-            FinirPasse();
-    }
+    if (etat_.position == nbFiches_)
+        FinirPasse();
     PoserEchanges();
 }
 

@@ -46,8 +46,9 @@ class Tri {
     /// filled up with blanks. Throws ErreurFichier, also when the logbook may not be written.
     Tri(Journal& journal, std::int32_t nbFiches);
 
-    /// Walks on for at most `pasMax` steps; when the last pass ends, what was sorted is flushed to
-    /// the disk. A few thousand steps take about a tenth of a millisecond. Throws ErreurFichier.
+    /// Walks on for at most `pasMax` steps, and not beyond the end of a pass; when the last pass
+    /// ends, what was sorted is flushed to the disk. A few thousand steps take about a tenth of a
+    /// millisecond. Throws ErreurFichier.
     void Avancer(std::int64_t pasMax);
 
     [[nodiscard]] const EtatTri& Etat() const noexcept { return etat_; }

@@ -36,7 +36,9 @@ bool Trier(Plateau& p) {
             return false;
         QElapsedTimer depuis;
         depuis.start();
-        while (!tri.Etat().termine && depuis.elapsed() < kRythmeMs)
+        // Each pass shows its word, however short it is.
+        const int passe = tri.Etat().passe;
+        while (!tri.Etat().termine && tri.Etat().passe == passe && depuis.elapsed() < kRythmeMs)
             tri.Avancer(kPasParRegard);
     }
     p.classer.Montrer(MotDePasse(kNbPasses), tri.Etat().position);

@@ -28,9 +28,12 @@ TEST(Tri, PetitesMarches) {
         for (std::size_t i = 0; i < debuts.size(); i += 14)
             octets += Contact(std::string(1, "ABCDE"[i / 14]), debuts.substr(i, 13));
         Banc banc(octets + Fin());
-        banc.tri.Avancer(kToutDroit);
         const EtatTri& etat = banc.tri.Etat();
-        EXPECT_TRUE(etat.termine && etat.position == 1);
+        int passes = 0;
+        for (; !etat.termine; ++passes)
+            banc.tri.Avancer(kToutDroit);
+        EXPECT_EQ(passes, octets.size() > 165 ? kNbPasses : 0);
+        EXPECT_EQ(etat.position, 1);
         for (std::size_t i = 0; i < octets.size(); i += 165)
             bilan += banc.Octets()[i];
         return bilan + ' ' + std::to_string(etat.pas) + ' ' + std::to_string(etat.echanges);
@@ -90,7 +93,8 @@ TEST(Tri, EgaleUnTriStableEtNePerdRienEnRoute) {
 TEST(Tri, DerniereFicheCourteEtLectureSeule) {
     std::string courte = Contact("B", "01/01/01").substr(0, 28);
     Banc banc(Contact("A", "01/01/02") + courte);
-    banc.tri.Avancer(kToutDroit);
+    while (!banc.tri.Etat().termine)
+        banc.tri.Avancer(kToutDroit);
     courte.resize(165, ' ');
     EXPECT_EQ(banc.Octets(), courte + Contact("A", "01/01/02"));
     Journal lecture(banc.dossier / "J.Vek", ModeFichier::Lecture);

@@ -142,6 +142,8 @@ void Banc::FaireUn(const std::string& geste) {
         Touche(touche.key(), touche.keyboardModifiers());
     } else if (geste[0] == '=') {
         Taper(S(Q(suite).replace('_'_L1, ' '_L1)) + "\n");
+    } else if (geste[0] == ':') {
+        Taper(suite);
     } else if (geste[0] == '@') {
         Controle<QWidget>(suite.c_str())->setFocus();
     } else if (geste[0] == '#') {

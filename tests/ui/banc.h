@@ -104,9 +104,9 @@ class Banc {
     void Cliquer(const char* nom) const;
     void Menu(const char* nom) const;
     /// One gesture after the other: a control clicked, a menu chosen, "^B" for Alt+B, "!PgUp" for a
-    /// key by its name, "=beam_3" typed with Enter after it ('_' is a blank), "Box+text" pasted,
-    /// "@Box" for the focus, "#3" for a row of the list, "%3" for one of the sheet, both from 0,
-    /// "<A.Vek" for the file of the program folder that the next dialogs give.
+    /// key by its name, "=beam_3" typed with Enter after it ('_' is a blank), ":33" typed without,
+    /// "Box+text" pasted, "@Box" for the focus, "#3" for a row of the list, "%3" for one of the
+    /// sheet, both from 0, "<A.Vek" for the file of the program folder that the next dialogs give.
     void Faire(const std::string& gestes);
     /// Types text as a keyboard does, to whatever has the focus; '\n' is Enter.
     void Taper(const std::string& utf8) const;

@@ -66,6 +66,15 @@ TEST(Saisie, ContenusHostilesNAtteignentPasLeFichier) {
     EXPECT_EQ(Difference(banc.Journal(), Contacts(1) + Fin()), "");
 }
 
+TEST(Saisie, NiContactSansIndicatifNiLocatorSansEntree) {
+    Banc banc(Fin());
+    banc.Suivre({
+        {"BtNewQSO @TxtField_8 = ^S", "@ ?BtEnrAnnuler", "TxtField_1|A"},
+        {"^A =f6abc =14 =fm = = @TxtField_16 !Ctrl+A :xx ^S", "NoFicheLab", " Charger fiche N° 2"},
+    });
+    EXPECT_EQ(banc.Journal().substr(159, 6), "JN04SD");
+}
+
 TEST(Saisie, LocatorFauxGeleUneSeconde) {
     Banc banc(Fin());
     banc.Suivre({{"BtNewQSO =f6abc =14 =fm = = = = !Enter", "@", "TxtField_10"}});
