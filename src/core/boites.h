@@ -22,8 +22,7 @@ enum class Touches {
 };
 
 struct DescriptionBoite {
-    std::size_t index;    ///< 1 to 17; also the working slot
-    std::string_view tag; ///< short name of the field; box 17 has none
+    std::size_t index; ///< 1 to 17; also the working slot
     std::string_view
         etiquette;            ///< objectName of the label above; empty when it shares the last one
     std::string_view legende; ///< its caption, underscores and blanks included
@@ -34,24 +33,23 @@ struct DescriptionBoite {
 
 /// In the order of their numbers.
 inline constexpr std::array<DescriptionBoite, kNbBoites> kBoites = {{
-    {1, "CSGN", "Frm01Lab01", "_ Indicatif_______________________", 15, false, Touches::Majuscules},
-    {2, "DQSO", "Frm01Lab02", "_ Date _____", 8, true, Touches::DateHeureFreq},
-    {3, "HDEB", "Frm01Lab03", "_ Heures   Début /  Fin", 5, true, Touches::DateHeureFreq},
-    {4, "HFIN", "", "", 5, true, Touches::DateHeureFreq},
-    {5, "FREQ", "Frm01Lab05", "_ Fréquence________", 10, false, Touches::DateHeureFreq},
-    {6, "MODE", "Frm01Lab06", "_ Mode______", 5, true, Touches::Majuscules},
-    {7, "SRST", "Frm01Lab07", "_ RST Donné    /    Reçu", 8, true, Touches::Report},
-    {8, "MRST", "", "", 8, true, Touches::Report},
-    {9, "SQTH", "Frm01Lab09", "_ QTH ______________________________", 25, false,
-     Touches::Majuscules},
-    {10, "SLOC", "Frm01Lab10", "_ Son Locator _", 6, true, Touches::Majuscules},
-    {11, "DEPT", "Frm01Lab11", "_ Département ____________", 3, true, Touches::Chiffres},
-    {12, "SNOM", "Frm01Lab12", "_ Prénom  ___________________________", 15, false, Touches::Libres},
-    {13, "INFO", "lblLabels", "_ Infos ____________", 15, false, Touches::Majuscules},
-    {14, "MQSL", "Frm01Lab14", "_ Ma QSL ___", 8, true, Touches::Libres},
-    {15, "SQSL", "Frm01Lab15", "_ Sa QSL __", 8, true, Touches::Libres},
-    {16, "MLOC", "Frm01Lab16", " _Mon Locator__", 6, true, Touches::Majuscules},
-    {17, "", "lblLabels_17", "_ QSL Manager ______", 15, false, Touches::Majuscules},
+    {1, "Frm01Lab01", "_ Indicatif_______________________", 15, false, Touches::Majuscules},
+    {2, "Frm01Lab02", "_ Date _____", 8, true, Touches::DateHeureFreq},
+    {3, "Frm01Lab03", "_ Heures   Début /  Fin", 5, true, Touches::DateHeureFreq},
+    {4, "", "", 5, true, Touches::DateHeureFreq},
+    {5, "Frm01Lab05", "_ Fréquence________", 10, false, Touches::DateHeureFreq},
+    {6, "Frm01Lab06", "_ Mode______", 5, true, Touches::Majuscules},
+    {7, "Frm01Lab07", "_ RST Donné    /    Reçu", 8, true, Touches::Report},
+    {8, "", "", 8, true, Touches::Report},
+    {9, "Frm01Lab09", "_ QTH ______________________________", 25, false, Touches::Majuscules},
+    {10, "Frm01Lab10", "_ Son Locator _", 6, true, Touches::Majuscules},
+    {11, "Frm01Lab11", "_ Département ____________", 3, true, Touches::Chiffres},
+    {12, "Frm01Lab12", "_ Prénom  ___________________________", 15, false, Touches::Libres},
+    {13, "lblLabels", "_ Infos ____________", 15, false, Touches::Majuscules},
+    {14, "Frm01Lab14", "_ Ma QSL ___", 8, true, Touches::Libres},
+    {15, "Frm01Lab15", "_ Sa QSL __", 8, true, Touches::Libres},
+    {16, "Frm01Lab16", " _Mon Locator__", 6, true, Touches::Majuscules},
+    {17, "lblLabels_17", "_ QSL Manager ______", 15, false, Touches::Majuscules},
 }};
 
 [[nodiscard]] constexpr const DescriptionBoite& Boite(std::size_t index) {

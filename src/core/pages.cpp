@@ -7,10 +7,7 @@
 namespace orvalis {
 
 std::int32_t CalculerPages(std::int32_t x) {
-    std::int32_t page = x > kFichesParPage ? x / kFichesParPage : 0;
-    if (x % kFichesParPage != 0)
-        ++page;
-    return std::max(page, 1);
+    return std::max((x + kFichesParPage - 1) / kFichesParPage, 1);
 }
 
 PlagePage CalculerPlage(std::int32_t page, std::int32_t nbFiches) {
@@ -20,13 +17,12 @@ PlagePage CalculerPlage(std::int32_t page, std::int32_t nbFiches) {
 }
 
 std::string LigneListe(std::int32_t k, const QsoRecord& fiche) {
-    constexpr std::size_t kLargeurNumero = 6;
-    constexpr std::size_t kLargeurIndicatif = 10;
     constexpr std::size_t kLargeurLigne = 40;
     return Cadrer(Cadrer(std::to_string(k), kLargeurNumero) + " : " +
-                      Cadrer(TexteRogne(fiche, Champ::CSGN), kLargeurIndicatif) + ":" +
-                      Cadrer(TexteRogne(fiche, Champ::DQSO), 8) + ":" +
-                      Cadrer(TexteRogne(fiche, Champ::HDEB), 5),
+                      Cadrer(TexteRogne(fiche, Champ::CSGN), kIndicatifListe) + ":" +
+                      Cadrer(TexteRogne(fiche, Champ::DQSO), Description(Champ::DQSO).largeur) +
+                      ":" +
+                      Cadrer(TexteRogne(fiche, Champ::HDEB), Description(Champ::HDEB).largeur),
                   kLargeurLigne);
 }
 
@@ -55,7 +51,7 @@ std::optional<MouvementListe> PageDeTouche(ToucheListe touche, std::int32_t cour
 }
 
 std::int32_t NumeroDeLigne(std::string_view ligne) {
-    return ValeurNumerique(Gauche(ligne, 6));
+    return ValeurNumerique(Gauche(ligne, kLargeurNumero));
 }
 
 } // namespace orvalis

@@ -10,6 +10,10 @@
 
 namespace orvalis {
 
+/// Characters of a record number and of a callsign in the lists of the screen.
+inline constexpr std::size_t kLargeurNumero = 6;
+inline constexpr std::size_t kIndicatifListe = 10;
+
 inline constexpr std::int32_t kFichesParPage = 25;
 /// The list numbers contacts in 16 bits; what lies beyond is counted and kept, but not listed.
 inline constexpr std::int32_t kDerniereListable = 32767;

@@ -2,10 +2,7 @@
 // described byte by byte in docs/formats.md.
 #pragma once
 
-#include <array>
-#include <cstddef>
-#include <string>
-#include <string_view>
+#include "core/fiche_octets.h"
 
 namespace orvalis {
 
@@ -31,7 +28,6 @@ enum class Champ : unsigned char {
 
 struct DescriptionChamp {
     Champ champ;
-    std::string_view tag;
     std::size_t decalage; ///< first byte within the record
     std::size_t largeur;  ///< width in bytes, which are characters on disk
 };
@@ -40,59 +36,36 @@ inline constexpr std::size_t kNbChamps = 16;
 inline constexpr std::size_t kTailleFiche = 165;
 
 inline constexpr std::array<DescriptionChamp, kNbChamps> kChamps = {{
-    {Champ::CSGN, "CSGN", 0, 15},
-    {Champ::DQSO, "DQSO", 15, 8},
-    {Champ::HDEB, "HDEB", 23, 5},
-    {Champ::HFIN, "HFIN", 28, 5},
-    {Champ::FREQ, "FREQ", 33, 10},
-    {Champ::MODE, "MODE", 43, 5},
-    {Champ::SRST, "SRST", 48, 8},
-    {Champ::MRST, "MRST", 56, 8},
-    {Champ::SQTH, "SQTH", 64, 25},
-    {Champ::SLOC, "SLOC", 89, 6},
-    {Champ::DEPT, "DEPT", 95, 3},
-    {Champ::SNOM, "SNOM", 98, 15},
-    {Champ::INFO, "INFO", 113, 30},
-    {Champ::MQSL, "MQSL", 143, 8},
-    {Champ::SQSL, "SQSL", 151, 8},
-    {Champ::MLOC, "MLOC", 159, 6},
+    {Champ::CSGN, 0, 15},
+    {Champ::DQSO, 15, 8},
+    {Champ::HDEB, 23, 5},
+    {Champ::HFIN, 28, 5},
+    {Champ::FREQ, 33, 10},
+    {Champ::MODE, 43, 5},
+    {Champ::SRST, 48, 8},
+    {Champ::MRST, 56, 8},
+    {Champ::SQTH, 64, 25},
+    {Champ::SLOC, 89, 6},
+    {Champ::DEPT, 95, 3},
+    {Champ::SNOM, 98, 15},
+    {Champ::INFO, 113, 30},
+    {Champ::MQSL, 143, 8},
+    {Champ::SQSL, 151, 8},
+    {Champ::MLOC, 159, 6},
 }};
 
 [[nodiscard]] constexpr const DescriptionChamp& Description(Champ champ) {
     return kChamps[static_cast<std::size_t>(champ) - 1];
 }
 
-constexpr bool ChampsContigus() {
-    std::size_t fin = 0;
-    for (const DescriptionChamp& d : kChamps) {
-        if (d.decalage != fin || &Description(d.champ) != &d)
-            return false;
-        fin += d.largeur;
-    }
-    return fin == kTailleFiche;
-}
-static_assert(ChampsContigus(), "the fields fill the record without gaps, in order");
+static_assert(Contigus(kChamps, kTailleFiche));
 
-/// The raw bytes of one contact; blank when made.
-struct QsoRecord {
-    std::array<char, kTailleFiche> octets;
-
-    QsoRecord() { octets.fill(' '); }
-    friend bool operator==(const QsoRecord&, const QsoRecord&) = default;
-};
+/// One contact.
+using QsoRecord = FicheOctets<Champ, kTailleFiche>;
 static_assert(sizeof(QsoRecord) == kTailleFiche);
-
-/// The bytes of a field at their full width, as stored.
-[[nodiscard]] std::string_view OctetsChamp(const QsoRecord& fiche, Champ champ);
 
 /// The text of a field, decoded, at its full width.
 [[nodiscard]] std::string TexteChamp(const QsoRecord& fiche, Champ champ);
-
-/// The text of a field, decoded and trimmed.
-[[nodiscard]] std::string TexteRogne(const QsoRecord& fiche, Champ champ);
-
-/// Stores a text, encoded, padded with blanks or cut to the field's width.
-void MettreChamp(QsoRecord& fiche, Champ champ, std::string_view utf8);
 
 /// True for the end-of-log record: its callsign, trimmed, is "\".
 [[nodiscard]] bool EstFinDeLog(const QsoRecord& fiche);

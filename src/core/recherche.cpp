@@ -1,5 +1,6 @@
 #include "core/recherche.h"
 
+#include "core/pages.h"
 #include "core/texte.h"
 
 #include <algorithm>
@@ -9,7 +10,6 @@
 namespace orvalis {
 namespace {
 
-constexpr std::size_t kLargeurNumero = 6;
 constexpr std::size_t kLargeurTexte = 40;
 constexpr std::size_t kLargeurDate = Description(Champ::DQSO).largeur;
 // Callsign, date, times and frequency lie together at the head of a record.
@@ -56,9 +56,7 @@ std::string LigneContact(std::int32_t k, const QsoRecord& fiche) {
 }
 
 std::string LigneDoublon(std::int32_t k, const QsoRecord& seconde) {
-    constexpr std::size_t kLargeurIndicatif = 10;
-    std::string texte =
-        DepuisCp1252(OctetsChamp(seconde, Champ::CSGN).substr(0, kLargeurIndicatif));
+    std::string texte = DepuisCp1252(OctetsChamp(seconde, Champ::CSGN).substr(0, kIndicatifListe));
     texte.insert(0, 1, ' ');
     texte += "Le " + TexteChamp(seconde, Champ::DQSO) + " à " + TexteChamp(seconde, Champ::HDEB);
     return Ligne(k, texte);

@@ -104,29 +104,25 @@ OrigineEtiquette OrigineDeEtiquette(PlaceEtiquette place) {
 }
 
 void ImprimerEtiquette(Imprimante& imprimante, PlaceEtiquette place, GenreEtiquette genre,
-                       DonneesEtiquette& donnees, std::string_view station,
-                       EnTetesEtiquettes& enTetes) {
+                       DonneesEtiquette& donnees, std::string_view station, std::string& enTete) {
     const bool remplie = genre == GenreEtiquette::Remplie;
     if (remplie) {
         RognerDonnees(donnees);
-        enTetes.remplie = donnees.texte1 + "  Confirming QSO with  " + donnees.indicatif;
-    } else {
-        enTetes.vierge = std::string{" "}.append(station).append("   Confirming QSO with");
+        enTete = donnees.texte1 + "  Confirming QSO with  " + donnees.indicatif;
     }
 
     Dessin dessin{imprimante, OrigineDeEtiquette(place)};
     imprimante.ChoisirGras(true);
     // Kept on purpose: the heading of the last filled label decides for a blank one too.
-    dessin.Police(kPoliceEtiquette,
-                  Longueur(enTetes.remplie) < kEnTeteLong ? kPoliceGrande : kPolicePetite);
+    dessin.Police(kPoliceEtiquette, Longueur(enTete) < kEnTeteLong ? kPoliceGrande : kPolicePetite);
     dessin.Cadre();
     if (remplie) {
-        dessin.Centrer(0, kLargeur, 20, enTetes.remplie);
+        dessin.Centrer(0, kLargeur, 20, enTete);
         if (!donnees.texte2.empty())
             dessin.Ecrire(2100, 300, "Via QSL Manager " + donnees.texte2);
     } else {
         imprimante.ChoisirTaille(kPoliceGrande);
-        dessin.Ecrire(200, 20, enTetes.vierge);
+        dessin.Ecrire(200, 20, " " + std::string{station} + "   Confirming QSO with");
     }
     dessin.Tableau();
     dessin.Police(kPoliceValeurs, kPolicePetite);
@@ -138,23 +134,22 @@ void ImprimerEtiquette(Imprimante& imprimante, PlaceEtiquette place, GenreEtique
 }
 
 void ImprimerPlanche(Imprimante& imprimante, std::span<EtiquettePlacee> etiquettes,
-                     EnTetesEtiquettes& enTetes) {
+                     std::string& enTete) {
     if (etiquettes.empty())
         return;
     imprimante.ChoisirPapier(Papier::A4, Orientation::Portrait);
     for (EtiquettePlacee& e : etiquettes)
         ImprimerEtiquette(imprimante, PlaceDeEtiquette(e.numero), GenreEtiquette::Remplie,
-                          e.donnees, {}, enTetes);
+                          e.donnees, {}, enTete);
     imprimante.TerminerDocument();
 }
 
-void ImprimerPlancheVierge(Imprimante& imprimante, std::string_view station,
-                           EnTetesEtiquettes& enTetes) {
+void ImprimerPlancheVierge(Imprimante& imprimante, std::string_view station, std::string& enTete) {
     imprimante.ChoisirPapier(Papier::A4, Orientation::Portrait);
     DonneesEtiquette rien;
     for (std::int16_t numero = 1; numero <= kEtiquettesParPlanche; ++numero)
         ImprimerEtiquette(imprimante, PlaceDeEtiquette(numero), GenreEtiquette::Vierge, rien,
-                          station, enTetes);
+                          station, enTete);
     imprimante.TerminerDocument();
 }
 

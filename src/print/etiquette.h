@@ -26,13 +26,6 @@ struct DonneesEtiquette {
     std::string mode;      ///< 9
 };
 
-/// Headings of the last labels drawn. They outlive a label on purpose: a blank label takes the
-/// size of its first font from the last filled one.
-struct EnTetesEtiquettes {
-    std::string remplie; ///< of the last filled label
-    std::string vierge;  ///< of the last blank label
-};
-
 enum class GenreEtiquette : std::uint8_t { Remplie = 1, Vierge = 2 };
 
 /// Column (1 or 2) and row (1 to 8) of a label on the sheet.
@@ -55,12 +48,12 @@ struct OrigineEtiquette {
 [[nodiscard]] OrigineEtiquette OrigineDeEtiquette(PlaceEtiquette place);
 
 /// Draws one label at its place and leaves the document open for the others.
-/// Remplie: draws and trims `donnees`, and keeps its heading in `enTetes`. Vierge: `donnees` is
-/// left alone; `station`, the own callsign, makes the heading. Nothing is cut: a value too long
-/// for its cell overflows it on both sides. The font is left bold.
+/// Remplie: draws and trims `donnees`, and keeps its heading in `enTete`, which outlives a
+/// label on purpose: a blank label takes the size of its first font from the last filled one.
+/// Vierge: `donnees` is left alone; `station`, the own callsign, makes the heading. Nothing is cut:
+/// a value too long for its cell overflows it on both sides. The font is left bold.
 void ImprimerEtiquette(Imprimante& imprimante, PlaceEtiquette place, GenreEtiquette genre,
-                       DonneesEtiquette& donnees, std::string_view station,
-                       EnTetesEtiquettes& enTetes);
+                       DonneesEtiquette& donnees, std::string_view station, std::string& enTete);
 
 /// A label of the sheet and the slot (1 to 16) whose place it takes.
 struct EtiquettePlacee {
@@ -71,10 +64,9 @@ struct EtiquettePlacee {
 /// Prints filled labels on one A4 sheet, each at its place, and ends the document. Prints nothing
 /// at all when there is no label.
 void ImprimerPlanche(Imprimante& imprimante, std::span<EtiquettePlacee> etiquettes,
-                     EnTetesEtiquettes& enTetes);
+                     std::string& enTete);
 
 /// Prints a sheet of sixteen blank labels and ends the document.
-void ImprimerPlancheVierge(Imprimante& imprimante, std::string_view station,
-                           EnTetesEtiquettes& enTetes);
+void ImprimerPlancheVierge(Imprimante& imprimante, std::string_view station, std::string& enTete);
 
 } // namespace orvalis

@@ -1,5 +1,6 @@
 #include "print/page_journal.h"
 
+#include "core/page_texte.h"
 #include "core/pages.h"
 #include "core/texte.h"
 
@@ -68,18 +69,12 @@ constexpr std::array kTetes = {
 constexpr int kXNumero = 160;
 constexpr std::size_t kIndicatifCourt = 10; ///< longest callsign that keeps the larger font
 
-struct Colonne {
-    int x;
-    Champ champ;
-    std::size_t largeur; ///< characters printed at most
-};
-
-constexpr std::array kColonnes = {
-    Colonne{720, Champ::DQSO, 8},   Colonne{1380, Champ::HDEB, 5},  Colonne{1830, Champ::HFIN, 5},
-    Colonne{2300, Champ::FREQ, 10}, Colonne{3100, Champ::CSGN, 15}, Colonne{5000, Champ::SRST, 5},
-    Colonne{5500, Champ::MRST, 5},  Colonne{6000, Champ::MODE, 5},  Colonne{6600, Champ::SQTH, 20},
-    Colonne{8600, Champ::SNOM, 12}, Colonne{10100, Champ::MQSL, 8}, Colonne{10800, Champ::SQSL, 8},
-};
+/// Where the columns of the page begin, after that of the number.
+constexpr std::array kXColonnes = {720,  1380, 1830, 2300, 3100,  5000,
+                                   5500, 6000, 6600, 8600, 10100, 10800};
+constexpr std::size_t kColonneIndicatif = 5;
+static_assert(kXColonnes.size() + 1 == kColonnesPage.size() &&
+              kColonnesPage[kColonneIndicatif].champ == Champ::CSGN);
 
 void Tracer(Imprimante& imprimante, const Trait& trait) {
     imprimante.TracerLigne(trait.x1, trait.y1, trait.x2, trait.y2);
@@ -124,16 +119,15 @@ void ImprimerColonnes(Imprimante& imprimante) {
 }
 
 void ImprimerRangee(Imprimante& imprimante, int y, std::int32_t k, const QsoRecord& fiche) {
+    const CellulesPage cellules = CellulesDeFiche(k, fiche);
+    const bool court = Longueur(cellules[kColonneIndicatif]) <= kIndicatifCourt;
     MettrePolice(imprimante, kPoliceLigne, false);
     imprimante.EcrireEn(kXNumero, y, NumeroImprime(k));
-    for (const Colonne& colonne : kColonnes) {
-        const std::string texte = TexteRogne(fiche, colonne.champ);
-        const bool indicatif = colonne.champ == Champ::CSGN;
-        if (indicatif)
-            MettrePolice(imprimante,
-                         Longueur(texte) <= kIndicatifCourt ? kPoliceTete : kPoliceLigne, true);
-        imprimante.EcrireEn(colonne.x, y, Rogner(Gauche(texte, colonne.largeur)));
-        if (indicatif)
+    for (std::size_t i = 1; i < cellules.size(); ++i) {
+        if (i == kColonneIndicatif)
+            MettrePolice(imprimante, court ? kPoliceTete : kPoliceLigne, true);
+        imprimante.EcrireEn(kXColonnes[i - 1], y, Rogner(cellules[i]));
+        if (i == kColonneIndicatif)
             MettrePolice(imprimante, kPoliceLigne, false);
     }
 }
@@ -161,8 +155,7 @@ std::string NumeroImprime(std::int32_t k) {
     return std::string{Droite("00000" + std::to_string(k), 6)};
 }
 
-void ImprimerPage(Imprimante& imprimante, const Session& session,
-                  const std::int32_t& premiereFiche) {
+void ImprimerPage(Imprimante& imprimante, const Session& session, std::int32_t premiereFiche) {
     const bool remplie = premiereFiche > 0;
     const std::vector<QsoRecord> fiches = remplie ? LirePage(session) : std::vector<QsoRecord>{};
     ImprimerTitre(imprimante, session.indicatif);

@@ -13,15 +13,14 @@ namespace orvalis {
 ///
 /// `premiereFiche` only chooses the kind of page: above 0 a filled page, otherwise a blank one.
 /// A filled page always starts at the first record of the page on show,
-/// `session.premiereAffichee` (which must then be 1 or more), whatever the switch holds; the
-/// switch may be that very variable. Rows stop at the end-of-log record, or after N contacts in
-/// a log that has none; the rows below stay unruled.
+/// `session.premiereAffichee` (which must then be 1 or more), whatever the switch holds. Rows stop
+/// at the end-of-log record, or after N contacts in a log that has none; the rows below stay
+/// unruled.
 ///
 /// The contacts are read before anything is drawn, into records of the procedure's own: the card
 /// on show keeps its working slots. Throws ErreurFichier (nothing is printed then) and
 /// ErreurImpression.
-void ImprimerPage(Imprimante& imprimante, const Session& session,
-                  const std::int32_t& premiereFiche);
+void ImprimerPage(Imprimante& imprimante, const Session& session, std::int32_t premiereFiche);
 
 /// The number of a contact as printed: six digits with leading zeros, the last six of a longer
 /// number.

@@ -8,7 +8,6 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -25,9 +24,6 @@ inline constexpr std::string_view kPlusDEtiquette = " Plus d'étiquette disponib
 /// Captions of the two buttons that lie beside the sheet.
 inline constexpr std::string_view kLegendeImprimer = "Imprimer";
 inline constexpr std::string_view kLegendeRestaurer = "Restaurer";
-
-/// Back colour of the choice button of a prepared label (blue, green, red from the high byte).
-inline constexpr std::uint32_t kJauneEtiquette = 65535;
 
 enum class EtatEtiquette : unsigned char {
     Libre,    ///< free and available
@@ -91,7 +87,7 @@ struct FeuilleQSL {
 struct VuePlace {
     std::string legendeChoix; ///< BtChoix: "Effacer", "Retirer" or "Libérer"
     std::string legendeTag;   ///< BtTag
-    bool jaune = false;       ///< BtChoix has kJauneEtiquette, else the form's ordinary colour
+    bool jaune = false;       ///< BtChoix is yellow, else the form's ordinary colour
     bool tagActif = true;     ///< BtTag is enabled
 };
 [[nodiscard]] VuePlace VoirPlace(const FeuilleQSL& feuille, int k);

@@ -46,8 +46,7 @@ void Marquer(Session& session, std::int32_t fiche, std::string_view maQsl, int k
              const QslSlotRecord& etiquette, ReponseQSL& reponse) {
     if (fiche != 0) {
         MarquerContact(session, fiche, maQsl);
-        reponse.marques.push_back(
-            {fiche, std::string{Gauche(maQsl, Description(Champ::MQSL).largeur)}});
+        reponse.marque = true;
         return;
     }
     if (!reponse.message.empty())
@@ -97,13 +96,6 @@ void RemplirBoites(FeuilleQSL& feuille, std::int32_t k, const QsoRecord& fiche) 
 
 } // namespace
 
-std::optional<std::string> TexteBoite14(const ReponseQSL& reponse, std::int32_t fiche) {
-    for (const Marque& marque : reponse.marques)
-        if (marque.fiche == fiche)
-            return marque.maQsl;
-    return std::nullopt;
-}
-
 void OuvrirPanneau(FeuilleQSL& feuille) {
     if (feuille.vue.controle)
         return;
@@ -126,7 +118,7 @@ ReponseClic PreparerEtiquette(Session& session, FeuilleQSL& feuille, std::int32_
         clic.suite = SuiteClic::Retabli;
         MarquerContact(session, k, kEnCours);
         session.journal.Support().Synchroniser();
-        clic.reponse.marques.push_back({k, std::string{kEnCours}});
+        clic.reponse.marque = true;
         return clic;
     }
     OuvrirPanneau(feuille);

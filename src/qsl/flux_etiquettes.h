@@ -14,28 +14,17 @@
 #include "qsl/feuille_qsl.h"
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace orvalis {
 
-/// A contact whose MQSL was written.
-struct Marque {
-    std::int32_t fiche = 0;
-    std::string maQsl;
-};
-
 struct ReponseQSL {
-    bool fait = false;           ///< the action was carried out
-    std::vector<Marque> marques; ///< contacts written
-    std::string message;         ///< French, for a message box; empty when there is nothing to say
+    bool fait = false;   ///< the action was carried out
+    bool marque = false; ///< MQSL of a contact was written, perhaps that of the one on the card
+    std::string message; ///< French, for a message box; empty when there is nothing to say
 };
-
-/// Text that box 14 of the card must now show for the contact `fiche` on it, if it changed.
-[[nodiscard]] std::optional<std::string> TexteBoite14(const ReponseQSL& reponse,
-                                                      std::int32_t fiche);
 
 /// Shows the panel: an empty editor, no review, NrTag on the next free place, print button as
 /// needed. The caller has seen to it that the sheet is loaded and no other panel is busy.

@@ -2,10 +2,7 @@
 // left-justified and padded with blanks, without separators, 106 bytes.
 #pragma once
 
-#include <array>
-#include <cstddef>
-#include <string>
-#include <string_view>
+#include "core/fiche_octets.h"
 
 namespace orvalis {
 
@@ -49,34 +46,11 @@ inline constexpr std::array<DescriptionChampEtiquette, kNbChampsEtiquette> kCham
     return kChampsEtiquette[static_cast<std::size_t>(champ) - 1];
 }
 
-constexpr bool ChampsEtiquetteContigus() {
-    std::size_t fin = 0;
-    for (const DescriptionChampEtiquette& d : kChampsEtiquette) {
-        if (d.decalage != fin || &Description(d.champ) != &d)
-            return false;
-        fin += d.largeur;
-    }
-    return fin == kTailleEtiquette;
-}
-static_assert(ChampsEtiquetteContigus(), "the fields fill the record without gaps, in order");
+static_assert(Contigus(kChampsEtiquette, kTailleEtiquette));
 
-/// The raw bytes of one label; blank when made.
-struct QslSlotRecord {
-    std::array<char, kTailleEtiquette> octets;
-
-    QslSlotRecord() { octets.fill(' '); }
-    friend bool operator==(const QslSlotRecord&, const QslSlotRecord&) = default;
-};
+/// One label.
+using QslSlotRecord = FicheOctets<ChampEtiquette, kTailleEtiquette>;
 static_assert(sizeof(QslSlotRecord) == kTailleEtiquette);
-
-/// The bytes of a field at their full width, as stored.
-[[nodiscard]] std::string_view OctetsChamp(const QslSlotRecord& etiquette, ChampEtiquette champ);
-
-/// The text of a field, decoded and trimmed.
-[[nodiscard]] std::string TexteRogne(const QslSlotRecord& etiquette, ChampEtiquette champ);
-
-/// Stores a text, encoded, padded with blanks or cut to the field's width.
-void MettreChamp(QslSlotRecord& etiquette, ChampEtiquette champ, std::string_view utf8);
 
 /// Callsign of a record that holds no label.
 inline constexpr std::string_view kMarqueLibre = "***";

@@ -68,7 +68,7 @@ void Peindre(Plateau& p) {
 
 // Shows what an action on the sheet did, to contacts too.
 void Repondre(Plateau& p, const ReponseQSL& reponse) {
-    if (!reponse.marques.empty())
+    if (reponse.marque)
         AfficherFiche(p);
     Peindre(p);
     if (!reponse.message.empty())
@@ -129,7 +129,7 @@ void ImprimerEtiquettesVierges(Plateau& p) {
     if (UnPanneauAttend(p) || !CommandePermise(Commande::MnuVirginTags, p.session))
         return;
     static_cast<void>(Imprimer(p, [&p](Imprimante& imprimante) {
-        ImprimerPlancheVierge(imprimante, p.session.indicatif, p.enTetes);
+        ImprimerPlancheVierge(imprimante, p.session.indicatif, p.enTete);
     }));
 }
 
@@ -229,7 +229,7 @@ void ImprimerFeuille(Plateau& p) {
     for (const int k : EtiquettesAImprimer(p.feuille))
         etiquettes.push_back(
             {static_cast<std::int16_t>(k), DonneesDe(LireEnregistrement(p.feuille, k))});
-    if (!Imprimer(p, [&](Imprimante& imp) { ImprimerPlanche(imp, etiquettes, p.enTetes); }))
+    if (!Imprimer(p, [&](Imprimante& imp) { ImprimerPlanche(imp, etiquettes, p.enTete); }))
         return;
     DemanderControle(p.feuille);
     Peindre(p);

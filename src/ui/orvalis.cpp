@@ -115,7 +115,7 @@ Orvalis::Orvalis(Systeme& systeme, QWidget* parent)
                               *new PictClasser(this),
                               *new PJumelage(this),
                               feuille_,
-                              enTetes_,
+                              enTete_,
                               *new QStackedWidget(this),
                               *new PictFeuilleQSL(this),
                               *new PictCtrlImpression(this)},

@@ -61,7 +61,7 @@ class Orvalis : public QMainWindow {
 
     Session session_;
     FeuilleQSL feuille_;
-    EnTetesEtiquettes enTetes_;
+    std::string enTete_;
     Plateau p_;
     QTimer* timer1_ = nullptr;
     int temoinDemarrage_ = 4; ///< start-up marker: 4 until the window is initialised

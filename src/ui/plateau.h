@@ -3,13 +3,13 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 class QMainWindow;
 class QStackedWidget;
 
 namespace orvalis {
 
-struct EnTetesEtiquettes;
 class FeuilleLog;
 struct FeuilleQSL;
 class FraMsgFiche;
@@ -45,8 +45,8 @@ struct Plateau {
     PictClasser& classer;
     PJumelage& jumelage;
     FeuilleQSL& feuille;
-    EnTetesEtiquettes& enTetes; ///< headings of the labels printed last
-    QStackedWidget& droite;     ///< the column of the card, or the label sheet
+    std::string& enTete;    ///< heading of the label printed last
+    QStackedWidget& droite; ///< the column of the card, or the label sheet
     PictFeuilleQSL& feuilleQSL;
     PictCtrlImpression& ctrlImpression;
 

@@ -17,16 +17,15 @@ const std::string kCommun = R"(R 0 0 5200 1780;
 TEST(Etiquette, Remplie) {
     DonneesEtiquette donnees = {"F4ABC    ", "SALUT ", " F6KQV ", "BUREAU ", "12/05/02",
                                 "18:30",     "14.250", "599 ",    "CW   "};
-    EnTetesEtiquettes enTetes{"", "d'avant"};
+    std::string enTete;
     Enregistreur imprimante("Comic sans MS", 6100, 2380);
-    ImprimerEtiquette(imprimante, {2, 2}, GenreEtiquette::Remplie, donnees, "F5XYZ", enTetes);
+    ImprimerEtiquette(imprimante, {2, 2}, GenreEtiquette::Remplie, donnees, "F5XYZ", enTete);
     EXPECT_THAT(imprimante.operations, testing::UnorderedElementsAreArray(Liste(kCommun + R"(
  T 950 20 10g SALUT  Confirming QSO with  F4ABC; T 2100 300 10g Via QSL Manager F6KQV;
  T 620 920 8g Courrier F4ABC; T 1566 920 8g Courrier 12/05/02; T 2315 920 8g Courrier 18:30;
  T 3007 920 8g Courrier 14.250; T 3996 920 8g Courrier 599; T 4704 920 8g Courrier CW;
  T 400 1250 8g Courrier Pse / Tnx  QSL via  BUREAU;)")));
     EXPECT_EQ(donnees.texte2 + donnees.route + donnees.mode, "F6KQVBUREAUCW") << "trimmed in place";
-    EXPECT_EQ(enTetes.vierge, "d'avant");
     EXPECT_EQ(OrigineDeEtiquette({2, 9}), (OrigineEtiquette{6100, 0}));
     EXPECT_EQ(OrigineDeEtiquette({1, 0}), (OrigineEtiquette{300, 0}));
 }
@@ -37,22 +36,22 @@ TEST(Planche, EtiquettesAuxLongsEnTetes) {
     longue.texte1 = "ÉSALUT DE 13 C"; // a heading of 47 characters
     courte.texte1 = "ÉSALUT DE 13C";
     std::vector<EtiquettePlacee> etiquettes = {{3, longue}, {16, courte}};
-    EnTetesEtiquettes enTetes;
+    std::string enTete;
     Enregistreur planche("Comic sans MS"), vide;
-    ImprimerPlanche(planche, etiquettes, enTetes);
+    ImprimerPlanche(planche, etiquettes, enTete);
     EXPECT_THAT(planche.operations, testing::IsSupersetOf(Liste(R"(
  R 300 2380 5500 4160; T 1020 2400 8g ÉSALUT DE 13 C  Confirming QSO with  HB9/F4ABCP;
  R 6100 14260 11300 16040; T 6400 14280 10g ÉSALUT DE 13C  Confirming QSO with  HB9/F4ABCP;)")));
     EXPECT_EQ(planche.operations.front() + planche.operations.back(), "P A4 portraitFIN");
     EXPECT_EQ(planche.operations.size(), 2 + 2 * (Liste(kCommun).size() + 8)) << "no manager";
-    ImprimerPlanche(vide, {}, enTetes);
+    ImprimerPlanche(vide, {}, enTete);
     EXPECT_TRUE(vide.operations.empty());
 }
 
 TEST(Planche, Vierge) {
-    EnTetesEtiquettes enTetes{"de la remplie", ""};
+    std::string enTete = "de la remplie";
     Enregistreur planche("Comic sans MS", 300, 400); // from the corner of the first label
-    ImprimerPlancheVierge(planche, "F5XYZ", enTetes);
+    ImprimerPlancheVierge(planche, "F5XYZ", enTete);
     const auto premiere = Liste(kCommun + R"(
  T 200 20 10g  F5XYZ   Confirming QSO with; T 400 1250 8g Courrier Pse / Tnx  QSL via  ;)");
     EXPECT_THAT(planche.operations, testing::IsSupersetOf(premiere));
@@ -62,7 +61,7 @@ TEST(Planche, Vierge) {
          Liste(R"(0 0; 5800 0; 0 1980; 5800 1980; 0 3960; 5800 3960; 0 5940; 5800 5940; 0 7920;
  5800 7920; 0 9900; 5800 9900; 0 11880; 5800 11880; 0 13860; 5800 13860)"))
         EXPECT_EQ(planche.Compter("R " + coin + ' '), 1) << coin;
-    EXPECT_EQ(enTetes.remplie, "de la remplie");
+    EXPECT_EQ(enTete, "de la remplie");
 }
 
 } // namespace

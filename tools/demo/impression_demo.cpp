@@ -71,12 +71,12 @@ int main(int nbArguments, char** arguments) try {
     ImprimerPdf(sortie / "page.pdf", [&](Imprimante& imprimante) {
         ImprimerPage(imprimante, session, session.premiereAffichee);
     });
-    EnTetesEtiquettes enTetes;
+    std::string enTete;
     std::vector<EtiquettePlacee> etiquettes = EtiquettesPreparees(dossier);
     ImprimerPdf(sortie / "etiquettes.pdf",
-                [&](Imprimante& imprimante) { ImprimerPlanche(imprimante, etiquettes, enTetes); });
+                [&](Imprimante& imprimante) { ImprimerPlanche(imprimante, etiquettes, enTete); });
     ImprimerPdf(sortie / "vierges.pdf", [&](Imprimante& imprimante) {
-        ImprimerPlancheVierge(imprimante, session.indicatif, enTetes);
+        ImprimerPlancheVierge(imprimante, session.indicatif, enTete);
     });
     return 0;
 } catch (const std::exception& erreur) {
