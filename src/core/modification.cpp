@@ -141,8 +141,7 @@ TextesCadre Cadre(const Session& session, std::string_view legende) {
 
 Reponse SansModification(const Session& session) {
     Reponse r = SansEffet(session);
-    r.saisie.NbModifs = 0;
-    r.saisie.EnModification = false;
+    OublierModifications(r.saisie);
     return r;
 }
 
@@ -185,9 +184,9 @@ Reponse RepondreNon(const Session& session) {
     return r;
 }
 
-void OublierModifications(Session& session) {
-    session.saisie.NbModifs = 0;
-    session.saisie.EnModification = false;
+void OublierModifications(EtatSaisie& saisie) {
+    saisie.NbModifs = 0;
+    saisie.EnModification = false;
 }
 
 int ArrondirNombre(std::string_view texte) {

@@ -34,7 +34,7 @@ struct TextesCadre {
 [[nodiscard]] Reponse RepondreNon(const Session& session);
 
 /// Forgets changes not yet answered for; for every change of the record on show.
-void OublierModifications(Session& session);
+void OublierModifications(EtatSaisie& saisie);
 
 /// Number that a text begins with, blanks, sign and decimals allowed, rounded half to even;
 /// 0 without one. Kept within 16 bits by saturation.

@@ -1,6 +1,7 @@
 // The card under entry apart from the Enter key: colours, focus, mouse, and its beginning and end.
 #include "core/boites.h"
 #include "core/commandes.h"
+#include "core/modification.h"
 #include "core/saisie.h"
 #include "core/texte.h"
 
@@ -97,8 +98,7 @@ Reponse PresserBoite(const Session& session, std::size_t boite, std::string_view
 Reponse PreparerSaisie(const Session& session) {
     Reponse r = SansEffet(session);
     r.saisie.QsoCommence = false;
-    r.saisie.EnModification = false;
-    r.saisie.NbModifs = 0;
+    OublierModifications(r.saisie);
     r.saisie.TexteSaisi.clear();
     r.zones.fill({});
     // The slot too, so that the contact carries it whichever button stores it.

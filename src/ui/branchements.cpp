@@ -59,11 +59,8 @@ void Orvalis::BrancherMenus() {
             connect(&action, &QAction::triggered, this, &QWidget::close);
             return;
         }
-        const auto trouve = commandes.find(S(action.objectName()));
-        action.setEnabled(trouve != commandes.end());
-        action.setData(trouve != commandes.end());
-        if (trouve != commandes.end())
-            Brancher(&action, &QAction::triggered, [flux = trouve->second](bool) { flux(); });
+        Brancher(&action, &QAction::triggered,
+                 [flux = commandes.at(S(action.objectName()))](bool) { flux(); });
     });
     // The captions have no mnemonics: this key leads into the menus from anywhere.
     auto* versLesMenus = new QShortcut(QKeySequence(Qt::Key_F10), this);
@@ -75,8 +72,7 @@ void Orvalis::ActualiserMenus() {
     // Looked for in the menu bar alone: through all controls of the window, this after each flow
     // took half of what Enter in a box costs.
     for (const RegleCommande& regle : kReglesCommandes)
-        if (auto* action = menuBar()->findChild<QAction*>(Q(regle.nom));
-            action && action->data().toBool())
+        if (auto* action = menuBar()->findChild<QAction*>(Q(regle.nom)))
             action->setEnabled(!Attend(regle.commande) &&
                                CommandePermise(regle.commande, session_));
     for (const char* nom : {"MnuEditLocator", "MnuVoir"})

@@ -46,7 +46,7 @@ void EnregistrerModification(Plateau& p) {
 } // namespace
 
 void AbandonnerModification(Plateau& p) {
-    OublierModifications(p.session);
+    OublierModifications(p.session.saisie);
     p.msgFiche.hide();
     p.menu.setEnabled(true);
     for (std::size_t i = 1; i <= kNbBoites; ++i)

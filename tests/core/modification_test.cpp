@@ -60,7 +60,7 @@ TEST(Modification, LesChangementsSAccumulentJusquALaReponse) {
     EXPECT_EQ(Decrire(session, RepondreOui(session)), "c1=1" + repos + " modifs=0");
     EXPECT_EQ(Decrire(session, RepondreNon(session)),
               "c1=3" + repos + " c17=1 modifs=0 dist= azim=");
-    OublierModifications(session);
+    OublierModifications(session.saisie);
     EXPECT_EQ(Decrire(session, RepondreNon(session)), "");
     EXPECT_EQ(CadreEffacer(session).numero + CadreModifier(session).indicatif, "12F5ABC");
 }
