@@ -76,33 +76,19 @@ TEST_F(Fiches, ComptageDesCahiersSainsEtAbimes) {
     }
 }
 
-TEST_F(Fiches, UnAjoutRemplaceLaFinDeLog) {
-    const struct {
-        std::string avant, apres;
-    } cas[] = {
-        {a + f + b + c, a + saisie + Fin("IN95AA") + c},
-        {a.substr(0, 30), Brute({{0, "F1AAA"}}) + saisie + Fin("IN95AA")}, // cut in a record
-    };
-    for (const auto& essai : cas) {
-        Poser(essai.avant);
-        session.zones[1] = "F2BBB";
-        AjouterFiche(session, FicheFinDeLog("IN95AA"));
-        EXPECT_EQ(session.nbFiches, 2);
-        EXPECT_EQ(session.prochaineFiche, 3);
-        EXPECT_EQ(Octets(), essai.apres);
-    }
-}
-
-TEST_F(Fiches, UneSuppressionResserreSansRaccourcir) {
+TEST_F(Fiches, AjoutsEtSuppressionsOctetParOctet) {
     std::string blocs;
     for (int k = 1; k <= 3300; ++k)
         blocs += Contact(std::to_string(k));
+    const std::string g = Fin("IN95AA");
     const struct {
         std::string avant;
-        std::int32_t k;
+        std::int32_t k; ///< deleted; 0: a contact is added
         std::string apres;
     } cas[] = {
-        {a + b + c + f, 1, b + c + f + f},
+        {a + f + b + c, 0, a + saisie + g + c},
+        {a.substr(0, 30), 0, Brute({{0, "F1AAA"}}) + saisie + g}, // cut in a record
+        {a + b + c + f, 1, b + c + f + f},                        // the file keeps its length
         {a + b + c + f, 2, a + c + f + f},
         {a + b + c + f, 3, a + b + f + f},
         {a + f, 1, f + f},
@@ -112,14 +98,17 @@ TEST_F(Fiches, UneSuppressionResserreSansRaccourcir) {
     };
     for (const auto& essai : cas) {
         Poser(essai.avant);
-        const std::int32_t nb = session.nbFiches;
-        LireFiche(session, essai.k);
-        SupprimerFiche(session, essai.k);
+        const std::int32_t attendu = session.nbFiches + (essai.k == 0 ? 1 : -1);
+        session.zones[1] = "F2BBB";
+        if (essai.k == 0)
+            AjouterFiche(session, FicheFinDeLog("IN95AA"));
+        else
+            SupprimerFiche(session, essai.k);
         EXPECT_EQ(Octets(), essai.apres);
-        EXPECT_EQ(session.zones[1], "");
-        EXPECT_EQ(session.nbFiches, nb - 1);
-        CompterFiches(session);
-        EXPECT_EQ(session.nbFiches, nb - 1);
+        EXPECT_EQ(session.zones[1], essai.k == 0 ? "F2BBB" : "");
+        EXPECT_EQ(session.nbFiches, attendu);
+        EXPECT_EQ(session.prochaineFiche, attendu + 1);
+        EXPECT_EQ(session.journal.Compter(), attendu);
     }
 }
 

@@ -3,7 +3,7 @@
 // a child of the process, so that all start from the same instant.
 //
 //   orvalis_fautes [OPERATION]                  one operation, or all
-//   orvalis_fautes --une OPERATION LECTEUR      the operation alone, for strace (see fautes.sh)
+//   orvalis_fautes --une OPERATION LECTEUR      the operation alone, for strace (see tools/fautes)
 //   orvalis_fautes --juger OPERATION LECTEUR    what is wrong there after it
 #include "fautes/fautes.h"
 
