@@ -31,6 +31,13 @@ QString RaisonDeLancement(const QString& chemin) {
     return QStringLiteral("le système a refusé de le démarrer");
 }
 
+// A path or a callsign is no markup, whatever stands in it.
+void Dire(QMessageBox::Icon icone, QWidget* parent, const QString& titre, const QString& texte) {
+    QMessageBox boite(icone, titre, texte, QMessageBox::Ok, parent);
+    boite.setTextFormat(Qt::PlainText);
+    boite.exec();
+}
+
 } // namespace
 
 std::filesystem::path SystemeReel::Lecteur() const {
@@ -54,12 +61,11 @@ void SystemeReel::Pause(int secondes) {
 }
 
 void SystemeReel::Informer(QWidget* parent, const QString& titre, const QString& texte) {
-    QMessageBox(QMessageBox::Information, titre, texte, QMessageBox::Ok, parent).exec();
+    Dire(QMessageBox::Information, parent, titre, texte);
 }
 
 void SystemeReel::Avertir(QWidget* parent, const QString& texte) {
-    QMessageBox(QMessageBox::Warning, QStringLiteral("Orvalis"), texte, QMessageBox::Ok, parent)
-        .exec();
+    Dire(QMessageBox::Warning, parent, QStringLiteral("Orvalis"), texte);
 }
 
 QString SystemeReel::ChoisirFichier(QWidget* parent, const DemandeFichier& demande) {
