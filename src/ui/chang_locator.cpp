@@ -52,7 +52,7 @@ bool PictChangLocator::Garder() const {
 
 bool PictChangLocator::eventFilter(QObject* objet, QEvent* evenement) {
     if (evenement->type() == QEvent::FocusIn &&
-        !HorsSaisie(static_cast<QFocusEvent*>(evenement)->reason()))
+        !FoyerVenuDAilleurs(static_cast<QFocusEvent*>(evenement)->reason()))
         Q_EMIT foyerTexte();
     if (EstEntree(*evenement)) {
         Q_EMIT entree();

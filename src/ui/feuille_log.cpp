@@ -156,7 +156,7 @@ void FeuilleLog::PeindreTete(QPainter& peintre) const {
 
 void FeuilleLog::PeindreRangees(QPainter& peintre) const {
     const Encres encres = EncresDe(palette());
-    const int indicatif = 5;
+    constexpr std::size_t kIndicatif = 5; // column
     for (int r = 0; r < kFichesParPage; ++r) {
         const int y = mesures_.tete + r * mesures_.ligne;
         const auto rang = static_cast<std::size_t>(r);
@@ -170,7 +170,7 @@ void FeuilleLog::PeindreRangees(QPainter& peintre) const {
         int x = 0;
         for (std::size_t c = 0; c < kColonnesPage.size(); ++c) {
             QFont police = mesures_.police;
-            police.setBold(c == indicatif);
+            police.setBold(c == kIndicatif);
             peintre.setFont(police);
             const int large = mesures_.Colonne(c);
             peintre.drawText(

@@ -15,7 +15,7 @@ namespace orvalis {
 }
 
 /// A move of the focus that the operator did not make inside the window.
-[[nodiscard]] inline bool HorsSaisie(Qt::FocusReason raison) {
+[[nodiscard]] inline bool FoyerVenuDAilleurs(Qt::FocusReason raison) {
     return raison == Qt::ActiveWindowFocusReason || raison == Qt::MenuBarFocusReason ||
            raison == Qt::PopupFocusReason;
 }

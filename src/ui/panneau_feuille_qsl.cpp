@@ -203,8 +203,6 @@ void PictFeuilleQSL::FaireBoite(std::size_t rang, QHBoxLayout& rangee) {
 }
 
 void PictFeuilleQSL::BrancherBoutons() {
-    ui_->BtPrintQSL->setText(QLatin1Char('&') + Q(kLegendeImprimer));
-    ui_->BtRestore->setText(QLatin1Char('&') + Q(kLegendeRestaurer));
     TeinterFond(*ui_->BtValidQSL, Teinte::VertClair);
     TeinterTexte(*ui_->BtDelQSL, Teinte::Rouge);
     for (QPushButton* bouton : {ui_->BtValidQSL, ui_->BtDelQSL, ui_->BtLeaveQSL, ui_->BtPrintQSL,

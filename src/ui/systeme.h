@@ -32,8 +32,6 @@ class Systeme {
     virtual ~Systeme() = default;
     Systeme(const Systeme&) = delete;
     Systeme& operator=(const Systeme&) = delete;
-    Systeme(Systeme&&) = delete;
-    Systeme& operator=(Systeme&&) = delete;
 
     /// The folder that plays the part of the current drive (see core/dossier.h).
     [[nodiscard]] virtual std::filesystem::path Lecteur() const = 0;
@@ -65,10 +63,6 @@ class SystemeReel : public Systeme {
   public:
     SystemeReel();
     ~SystemeReel() override;
-    SystemeReel(const SystemeReel&) = delete;
-    SystemeReel& operator=(const SystemeReel&) = delete;
-    SystemeReel(SystemeReel&&) = delete;
-    SystemeReel& operator=(SystemeReel&&) = delete;
     [[nodiscard]] std::filesystem::path Lecteur() const override;
     [[nodiscard]] Instant Maintenant() const override;
     void Pause(int secondes) override;

@@ -103,13 +103,13 @@ bool ZoneSaisie::Refusee(const QKeyEvent& evenement) const {
 
 void ZoneSaisie::focusInEvent(QFocusEvent* evenement) {
     QLineEdit::focusInEvent(evenement);
-    if (!HorsSaisie(evenement->reason()))
+    if (!FoyerVenuDAilleurs(evenement->reason()))
         Q_EMIT focusPris(static_cast<int>(boite_.index));
 }
 
 void ZoneSaisie::focusOutEvent(QFocusEvent* evenement) {
     QLineEdit::focusOutEvent(evenement);
-    if (!HorsSaisie(evenement->reason()))
+    if (!FoyerVenuDAilleurs(evenement->reason()))
         Q_EMIT focusPerdu(static_cast<int>(boite_.index));
 }
 
