@@ -1,5 +1,6 @@
 #include "ui/a_propos.h"
 
+#include "ui/police.h"
 #include "ui/systeme.h"
 #include "ui_a_propos.h"
 
@@ -11,10 +12,7 @@ namespace orvalis {
 APropos::APropos(Systeme& systeme, QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::APropos>()) {
     ui_->setupUi(this);
-    QFont titre = font();
-    titre.setBold(true);
-    titre.setPointSizeF(titre.pointSizeF() * 1.8);
-    ui_->LabTitre->setFont(titre);
+    ui_->LabTitre->setFont(PoliceAjustee(font(), 1.8));
     ui_->LabIcone->setPixmap(QIcon(QStringLiteral(":/orvalis.svg")).pixmap(QSize(72, 72)));
     ui_->LabVersion->setText(QStringLiteral("Version " ORVALIS_VERSION));
     ui_->LabSysteme->setText(QStringLiteral("Qt %1\n%2 (%3)")

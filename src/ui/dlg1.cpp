@@ -9,6 +9,7 @@
 #include "geo/locator.h"
 #include "ui/filtre_edition.h"
 #include "ui/gestes.h"
+#include "ui/police.h"
 #include "ui/systeme.h"
 #include "ui/texte_qt.h"
 #include "ui_dlg1.h"
@@ -24,9 +25,7 @@ Dlg1::Dlg1(std::filesystem::path lecteur, Systeme& systeme, QWidget* parent)
       systeme_(systeme) {
     ui_->setupUi(this);
     ui_->LabDisk->setText(Q(" Le disque courant est le disque : " + TexteLecteur(lecteur_)));
-    QSizePolicy place = ui_->Dlg1Fra3->sizePolicy();
-    place.setRetainSizeWhenHidden(true);
-    ui_->Dlg1Fra3->setSizePolicy(place);
+    GarderPlace(*ui_->Dlg1Fra3);
     ui_->Dlg1Fra3->hide();
     constexpr std::size_t kLongueurIndicatif = 20;
     FiltrerMajuscules(*ui_->Dlg1Fra2Text1, kLongueurIndicatif);

@@ -2,6 +2,7 @@
 
 #include "core/pages.h"
 #include "ui/police.h"
+#include "ui/teintes.h"
 #include "ui/texte_qt.h"
 
 #include <QEvent>
@@ -24,7 +25,7 @@ struct Encres {
 };
 
 Encres EncresDe(const QPalette& palette) {
-    if (palette.color(QPalette::Window).lightness() < 128)
+    if (EstSombre(palette.color(QPalette::Window)))
         return {QColor(0x2b, 0x2a, 0x26), QColor(0xe8, 0xe4, 0xd8), QColor(0x4a, 0x4c, 0x50),
                 QColor(0x9f, 0xb8, 0xd0), QColor(0x3d, 0x4f, 0x66)};
     return {QColor(0xff, 0xfd, 0xf4), QColor(0x1c, 0x1c, 0x1c), QColor(0xc8, 0xd3, 0xdc),

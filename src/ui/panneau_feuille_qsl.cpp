@@ -2,11 +2,11 @@
 
 #include "core/boites.h"
 #include "ui/filtre_edition.h"
+#include "ui/police.h"
 #include "ui/teintes.h"
 #include "ui/texte_qt.h"
 #include "ui_panneau_feuille_qsl.h"
 
-#include <QEvent>
 #include <QLineEdit>
 
 #include <utility>
@@ -64,6 +64,8 @@ constexpr bool EstUnRappel(std::size_t boite) {
     return boite == kBoiteRappel || boite == kBoiteNumeroFiche;
 }
 
+constexpr int kTraitEtudiee = 2; // width of the frame of the place that the editor is about
+
 QString Nom(const char* prefixe, int k, int chiffres = 1) {
     return QStringLiteral("%1%2").arg(QLatin1String(prefixe)).arg(k, chiffres, 10, QChar(u'0'));
 }
@@ -95,12 +97,6 @@ int PlaceALEtude(const FeuilleQSL& feuille) {
     return 0;
 }
 
-void GarderPlace(QWidget& controle) {
-    QSizePolicy place = controle.sizePolicy();
-    place.setRetainSizeWhenHidden(true);
-    controle.setSizePolicy(place);
-}
-
 } // namespace
 
 PictFeuilleQSL::PictFeuilleQSL(QWidget* parent)
@@ -108,10 +104,7 @@ PictFeuilleQSL::PictFeuilleQSL(QWidget* parent)
     ui_->setupUi(this);
     ui_->planche->setAutoFillBackground(true);
     ui_->planche->setBackgroundRole(QPalette::Base);
-    QFont titre = font();
-    titre.setBold(true);
-    titre.setPointSizeF(titre.pointSizeF() * 1.2);
-    ui_->NrTag->setFont(titre);
+    ui_->NrTag->setFont(PoliceAjustee(font(), kTitre));
     for (int k = 1; k <= kNbEtiquettes; ++k) {
         Place& place = places_[FeuilleQSL::Rang(k)];
         place = FairePlace(k);
@@ -121,7 +114,7 @@ PictFeuilleQSL::PictFeuilleQSL(QWidget* parent)
     FaireBoites();
     BrancherBoutons();
     OrdonnerTabulation();
-    PeindreFonds();
+    PeindreSelonBureau(*this, [this] { PeindreFonds(); });
 }
 
 PictFeuilleQSL::~PictFeuilleQSL() = default;
@@ -163,9 +156,7 @@ void PictFeuilleQSL::FaireBoite(std::size_t rang, QHBoxLayout& rangee) {
     const int numero = static_cast<int>(d.boite);
     BoiteEditeur& boite = boites_[rang];
     boite.legende = new QLabel(QString::fromUtf8(d.legende), ui_->PictTag);
-    QFont petite = boite.legende->font();
-    petite.setPointSizeF(petite.pointSizeF() * 0.85);
-    boite.legende->setFont(petite);
+    boite.legende->setFont(PoliceAjustee(boite.legende->font(), kPetite));
     boite.texte = new QLineEdit(ui_->PictTag);
     boite.texte->setObjectName(Nom("FLdText_", numero));
     boite.texte->setAccessibleName(QString::fromUtf8(d.legende));
@@ -204,7 +195,7 @@ void PictFeuilleQSL::FaireBoite(std::size_t rang, QHBoxLayout& rangee) {
 
 void PictFeuilleQSL::BrancherBoutons() {
     TeinterFond(*ui_->BtValidQSL, Teinte::VertClair);
-    TeinterTexte(*ui_->BtDelQSL, Teinte::Rouge);
+    RougirTexte(*ui_->BtDelQSL);
     for (QPushButton* bouton : {ui_->BtValidQSL, ui_->BtDelQSL, ui_->BtLeaveQSL, ui_->BtPrintQSL,
                                 ui_->BtRestore, ui_->BtQuitQSL})
         GarderPlace(*bouton);
@@ -262,12 +253,7 @@ void PictFeuilleQSL::MontrerPlaces(const FeuilleQSL& feuille) {
         place.choix->setAccessibleName(Q(vue.legendeChoix + " : " + vue.legendeTag));
         place.choix->setToolTip(BulleChoix(feuille.Etat(k)));
         TeinterFond(*place.choix, vue.jaune ? Teinte::Jaune : Teinte::Aucune);
-        const bool enVue = k == etudiee;
-        place.cadre->setLineWidth(enVue ? 2 : 1);
-        QPalette palette;
-        palette.setColor(QPalette::WindowText,
-                         palette.color(enVue ? QPalette::Highlight : QPalette::Mid));
-        place.cadre->setPalette(palette);
+        place.cadre->setLineWidth(k == etudiee ? kTraitEtudiee : 1);
     }
 }
 
@@ -318,20 +304,21 @@ void PictFeuilleQSL::MontrerBoutons(const VueFeuille& vue) {
     ui_->BtRestore->setVisible(vue.restaurer);
 }
 
-// A box that takes no text looks like the panel behind it.
+// A box that takes no text looks like the panel behind it; the place under study stands out.
 void PictFeuilleQSL::PeindreFonds() {
+    for (const Place& place : places_) {
+        QPalette palette;
+        const bool etudiee = place.cadre->lineWidth() == kTraitEtudiee;
+        palette.setColor(QPalette::WindowText,
+                         palette.color(etudiee ? QPalette::Highlight : QPalette::Mid));
+        place.cadre->setPalette(palette);
+    }
     for (BoiteEditeur& boite : boites_) {
         QPalette palette;
         if (boite.texte->isReadOnly())
             palette.setColor(QPalette::Base, palette.color(QPalette::Window));
         boite.texte->setPalette(palette);
     }
-}
-
-void PictFeuilleQSL::changeEvent(QEvent* evenement) {
-    QFrame::changeEvent(evenement);
-    if (evenement->type() == QEvent::ApplicationPaletteChange)
-        PeindreFonds();
 }
 
 void PictFeuilleQSL::Accueillir(QWidget& panneau) {

@@ -51,9 +51,6 @@ class PictFeuilleQSL : public QFrame {
     void imprimer();
     void restaurer();
 
-  protected:
-    void changeEvent(QEvent* evenement) override;
-
   private:
     struct Place {
         QFrame* cadre = nullptr; ///< PictBtEtiq

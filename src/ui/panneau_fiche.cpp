@@ -1,5 +1,6 @@
 #include "ui/panneau_fiche.h"
 
+#include "ui/police.h"
 #include "ui/texte_qt.h"
 
 #include <QGridLayout>
@@ -8,33 +9,20 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include <vector>
-
 namespace orvalis {
 namespace {
 
-// The card, row by row: each cell has one caption and the boxes from its first to its last. The
-// eye follows the order of the Enter key; box 17 stands left of box 13.
-struct Cellule {
-    std::size_t premiere;
-    std::size_t derniere;
-};
-const std::vector<std::vector<Cellule>> kRangees = {
-    {{1, 1}, {2, 2}, {3, 4}, {5, 5}, {6, 6}, {7, 8}},
-    {{12, 12}, {9, 9}, {11, 11}, {10, 10}},
-    {{17, 17}, {13, 13}, {14, 14}, {15, 15}, {16, 16}},
-};
+// The card, row by row: the first box of each cell, 0 for none; a box without a caption of its own
+// shares the cell of the box before it. The eye follows the order of the Enter key; box 17 stands
+// left of box 13.
+constexpr std::array<std::array<std::size_t, 6>, 3> kRangees = {
+    {{1, 2, 3, 5, 6, 7}, {12, 9, 11, 10}, {17, 13, 14, 15, 16}}};
 
 constexpr std::array<std::string_view, kNbBoites> kNomsAccessibles = {
     "Indicatif",   "Date",       "Heure de début", "Heure de fin", "Fréquence",
     "Mode",        "RST donné",  "RST reçu",       "QTH",          "Son locator",
     "Département", "Prénom",     "Informations",   "Ma QSL",       "Sa QSL",
     "Mon locator", "QSL manager"};
-
-QFont PetitePolice(QFont police) {
-    police.setPointSizeF(police.pointSizeF() * 0.85);
-    return police;
-}
 
 QLabel* FaireLabel(const char* nom, QWidget* parent) {
     auto* label = new QLabel(parent);
@@ -57,8 +45,9 @@ PictFiche::PictFiche(QWidget* parent) : QFrame(parent) {
     for (const auto& rangee : kRangees) {
         auto* ligne = new QHBoxLayout;
         ligne->setSpacing(10);
-        for (const Cellule& cellule : rangee)
-            ligne->addWidget(FaireCellule(cellule.premiere, cellule.derniere));
+        for (const std::size_t premiere : rangee)
+            if (premiere > 0)
+                ligne->addWidget(FaireCellule(premiere));
         if (&rangee == &kRangees.back())
             ligne->addWidget(FaireResultats(), 1);
         ligne->addStretch(1);
@@ -75,10 +64,7 @@ PictFiche::PictFiche(QWidget* parent) : QFrame(parent) {
 void PictFiche::FaireEntete(QHBoxLayout& entete) {
     noFicheLab_ = FaireLabel("NoFicheLab", this);
     noFicheLab_->setText(QStringLiteral("  Fiche N° 0  "));
-    QFont titre = font();
-    titre.setBold(true);
-    titre.setPointSizeF(titre.pointSizeF() * 1.2);
-    noFicheLab_->setFont(titre);
+    noFicheLab_->setFont(PoliceAjustee(font(), kTitre));
     labNonEnregistre_ = FaireLabel("LabNonEnregistre", this);
     labNonEnregistre_->setText(QStringLiteral("Nouveau contact, pas encore enregistré"));
     labNonEnregistre_->setStyleSheet(
@@ -87,9 +73,7 @@ void PictFiche::FaireEntete(QHBoxLayout& entete) {
     btActiveRech_ = new QPushButton(QStringLiteral("Voir contacts réalisés"), this);
     btActiveRech_->setObjectName(QStringLiteral("BtActiveRech"));
     btActiveRech_->setToolTip(QStringLiteral("Lister tous les contacts faits avec cette station"));
-    QSizePolicy place = btActiveRech_->sizePolicy();
-    place.setRetainSizeWhenHidden(true);
-    btActiveRech_->setSizePolicy(place);
+    GarderPlace(*btActiveRech_);
     btActiveRech_->hide();
     connect(btActiveRech_, &QPushButton::clicked, this, &PictFiche::activeRechDemande);
     entete.addWidget(noFicheLab_);
@@ -108,7 +92,7 @@ ZoneSaisie* PictFiche::FaireBoite(const DescriptionBoite& boite) {
     return zone;
 }
 
-QWidget* PictFiche::FaireCellule(std::size_t premiere, std::size_t derniere) {
+QWidget* PictFiche::FaireCellule(std::size_t premiere) {
     auto* cellule = new QWidget(this);
     auto* pile = new QVBoxLayout(cellule);
     pile->setContentsMargins(0, 0, 0, 0);
@@ -117,14 +101,16 @@ QWidget* PictFiche::FaireCellule(std::size_t premiere, std::size_t derniere) {
     auto* legende = FaireLabel("", cellule);
     legende->setObjectName(Q(tete.etiquette));
     legende->setText(Q(tete.legende));
-    legende->setFont(PetitePolice(font()));
+    legende->setFont(PoliceAjustee(font(), kPetite));
     // The underscores of a caption may be cut where the window is narrow, its box may not.
     legende->setMinimumWidth(1);
     pile->addWidget(legende);
     auto* ligne = new QHBoxLayout;
     ligne->setSpacing(4);
-    for (std::size_t i = premiere; i <= derniere; ++i)
+    std::size_t i = premiere;
+    do
         ligne->addWidget(FaireBoite(orvalis::Boite(i)));
+    while (++i <= kNbBoites && orvalis::Boite(i).etiquette.empty());
     legende->setBuddy(&Boite(premiere));
     if (premiere == 11) {
         labDept_ = FaireLabel("LabDept", cellule);
@@ -143,13 +129,11 @@ QWidget* PictFiche::FaireResultats() {
     grille->setContentsMargins(0, 0, 0, 0);
     grille->setHorizontalSpacing(10);
     grille->setVerticalSpacing(1);
-    QFont grasse = font();
-    grasse.setBold(true);
-    grasse.setPointSizeF(grasse.pointSizeF() * 1.15);
+    const QFont grasse = PoliceAjustee(font(), 1.15);
     const auto ajouter = [&](int colonne, const char* titre, const char* nom,
                              const QString& modele) {
         auto* legende = new QLabel(QString::fromUtf8(titre), cadre);
-        legende->setFont(PetitePolice(font()));
+        legende->setFont(PoliceAjustee(font(), kPetite));
         grille->addWidget(legende, 0, colonne);
         QLabel* label = FaireLabel(nom, cadre);
         label->setFont(grasse);

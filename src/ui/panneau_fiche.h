@@ -36,7 +36,7 @@ class PictFiche : public QFrame {
     void activeRechDemande(); ///< "Voir contacts réalisés"
 
   private:
-    QWidget* FaireCellule(std::size_t premiere, std::size_t derniere);
+    QWidget* FaireCellule(std::size_t premiere);
     QWidget* FaireResultats();
     void FaireEntete(QHBoxLayout& entete);
     ZoneSaisie* FaireBoite(const DescriptionBoite& boite);

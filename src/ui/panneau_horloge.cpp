@@ -1,5 +1,6 @@
 #include "ui/panneau_horloge.h"
 
+#include "ui/police.h"
 #include "ui/texte_qt.h"
 #include "ui_panneau_horloge.h"
 
@@ -8,10 +9,7 @@ namespace orvalis {
 PanneauHorloge::PanneauHorloge(QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::PanneauHorloge>()) {
     ui_->setupUi(this);
-    QFont grande = font();
-    grande.setPointSizeF(grande.pointSizeF() * 1.7);
-    grande.setBold(true);
-    ui_->LabHeure->setFont(grande);
+    ui_->LabHeure->setFont(PoliceAjustee(font(), 1.7));
     connect(ui_->Horloge, &QAbstractButton::clicked, this, &PanneauHorloge::miseALHeureDemandee);
 }
 

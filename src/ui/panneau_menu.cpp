@@ -7,7 +7,7 @@ namespace orvalis {
 
 PictMenu::PictMenu(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::PictMenu>()) {
     ui_->setupUi(this);
-    TeinterTexte(*ui_->BtKillFiche, Teinte::Rouge);
+    RougirTexte(*ui_->BtKillFiche);
     connect(ui_->BtNewQSO, &QPushButton::clicked, this, &PictMenu::nouveauDemande);
     connect(ui_->BtKillFiche, &QPushButton::clicked, this, &PictMenu::suppressionDemandee);
     connect(ui_->BtFermerLog, &QPushButton::clicked, this, &PictMenu::fermetureDemandee);

@@ -2,6 +2,7 @@
 
 #include "ui/filtre_edition.h"
 #include "ui/gestes.h"
+#include "ui/teintes.h"
 #include "ui/texte_qt.h"
 #include "ui_panneau_rech.h"
 
@@ -17,12 +18,14 @@ PictRech::PictRech(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::
     ui_->RechText->installEventFilter(this);
     ui_->RechText->setMinimumWidth(QFontMetrics(font()).averageCharWidth() * 18);
     ui_->RechText->setClearButtonEnabled(true);
-    // Some dark palettes leave the placeholder black.
-    QPalette palette = ui_->RechText->palette();
-    QColor discret = palette.color(QPalette::Text);
-    discret.setAlpha(140);
-    palette.setColor(QPalette::PlaceholderText, discret);
-    ui_->RechText->setPalette(palette);
+    PeindreSelonBureau(*ui_->RechText, [this] {
+        // Some dark palettes leave the placeholder black.
+        QPalette palette;
+        QColor discret = palette.color(QPalette::Text);
+        discret.setAlpha(140);
+        palette.setColor(QPalette::PlaceholderText, discret);
+        ui_->RechText->setPalette(palette);
+    });
 }
 
 PictRech::~PictRech() = default;

@@ -1,8 +1,12 @@
-// Fixed-pitch fonts for the list and the page view.
+// Fonts, and the room that texts and controls take.
 #pragma once
 
 #include <QFont>
 #include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QWidget>
+
+#include <cmath>
 
 namespace orvalis {
 
@@ -15,6 +19,29 @@ namespace orvalis {
         police.setFamily(nom);
     police.setPointSizeF(modele.pointSizeF());
     return police;
+}
+
+/// `police` at `facteur` times its size: a small caption, or a title, which is bold.
+[[nodiscard]] inline QFont PoliceAjustee(QFont police, qreal facteur) {
+    police.setPointSizeF(police.pointSizeF() * facteur);
+    police.setBold(police.bold() || facteur > 1);
+    return police;
+}
+inline constexpr qreal kPetite = 0.85; ///< a caption above its box
+inline constexpr qreal kTitre = 1.2;   ///< the title of a panel
+
+/// Pixels that hold `caracteres` characters of a fixed-pitch font, whose advance is no whole number
+/// on a screen scaled by a fraction.
+[[nodiscard]] inline int LargeurTexte(const QFont& police, std::size_t caracteres) {
+    return static_cast<int>(std::ceil(QFontMetricsF(police).horizontalAdvance(QLatin1Char('0')) *
+                                      static_cast<qreal>(caracteres)));
+}
+
+/// Lets a control come and go without moving anything.
+inline void GarderPlace(QWidget& controle) {
+    QSizePolicy place = controle.sizePolicy();
+    place.setRetainSizeWhenHidden(true);
+    controle.setSizePolicy(place);
 }
 
 } // namespace orvalis

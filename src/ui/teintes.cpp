@@ -1,11 +1,12 @@
 #include "ui/teintes.h"
 
+#include <QEvent>
 #include <QPalette>
 
 namespace orvalis {
 namespace {
 
-QColor Couleur(Teinte teinte) {
+QColor TeinteEnCouleur(Teinte teinte) {
     switch (teinte) {
     case Teinte::Vert:
         return {0, 255, 0};
@@ -17,35 +18,51 @@ QColor Couleur(Teinte teinte) {
         return {255, 224, 192};
     case Teinte::Jaune:
         return {255, 255, 0};
-    case Teinte::Rouge:
-        return {0xC0, 0, 0};
     case Teinte::Aucune:
         break;
     }
     return {};
 }
 
+class Repeintre : public QObject {
+  public:
+    Repeintre(QWidget& controle, std::function<void()> peindre)
+        : QObject(&controle), peindre_(std::move(peindre)) {}
+    bool eventFilter(QObject* /*objet*/, QEvent* evenement) override {
+        if (evenement->type() == QEvent::ApplicationPaletteChange)
+            peindre_();
+        return false;
+    }
+
+  private:
+    std::function<void()> peindre_;
+};
+
 } // namespace
 
 void TeinterFond(QAbstractButton& bouton, Teinte teinte) {
     QPalette palette;
     if (teinte != Teinte::Aucune) {
-        palette.setColor(QPalette::Button, Couleur(teinte));
+        palette.setColor(QPalette::Button, TeinteEnCouleur(teinte));
         palette.setColor(QPalette::ButtonText, QColor(Qt::black));
         palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x80, 0x70, 0x60));
     }
     bouton.setPalette(palette);
 }
 
-void TeinterTexte(QAbstractButton& bouton, Teinte teinte) {
-    QPalette palette;
-    if (teinte == Teinte::Rouge) {
-        const bool sombre = palette.color(QPalette::Button).lightness() < 128;
-        const QColor rouge = sombre ? QColor(0xFF, 0x80, 0x80) : Couleur(teinte);
+void RougirTexte(QAbstractButton& bouton) {
+    PeindreSelonBureau(bouton, [&bouton] {
+        QPalette palette;
+        const QColor rouge = RougeSur(palette.color(QPalette::Button));
         palette.setColor(QPalette::Active, QPalette::ButtonText, rouge);
         palette.setColor(QPalette::Inactive, QPalette::ButtonText, rouge);
-    }
-    bouton.setPalette(palette);
+        bouton.setPalette(palette);
+    });
+}
+
+void PeindreSelonBureau(QWidget& controle, std::function<void()> peindre) {
+    peindre();
+    controle.installEventFilter(new Repeintre(controle, std::move(peindre)));
 }
 
 } // namespace orvalis

@@ -2,6 +2,9 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QColor>
+
+#include <functional>
 
 namespace orvalis {
 
@@ -11,13 +14,23 @@ enum class Teinte {
     VertClair,  ///< yes
     RougeClair, ///< no
     Peche,      ///< store button at rest: RGB (255, 224, 192)
-    Jaune,      ///< prepared label
-    Rouge       ///< as a text colour
+    Jaune       ///< prepared label
 };
 
 /// Face of a button; its text turns dark on a coloured face.
 void TeinterFond(QAbstractButton& bouton, Teinte teinte);
-/// Text colour of a button.
-void TeinterTexte(QAbstractButton& bouton, Teinte teinte);
+/// Red text of a button that deletes.
+void RougirTexte(QAbstractButton& bouton);
+
+[[nodiscard]] inline bool EstSombre(const QColor& fond) {
+    return fond.lightness() < 128;
+}
+/// A red that can be read on `fond`.
+[[nodiscard]] inline QColor RougeSur(const QColor& fond) {
+    return EstSombre(fond) ? QColor(0xFF, 0x80, 0x80) : QColor(0xC0, 0, 0);
+}
+
+/// Paints now, and again each time the desktop changes its colours while `controle` lives.
+void PeindreSelonBureau(QWidget& controle, std::function<void()> peindre);
 
 } // namespace orvalis

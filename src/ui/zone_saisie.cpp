@@ -3,9 +3,9 @@
 #include "core/texte.h"
 #include "ui/filtre_edition.h"
 #include "ui/gestes.h"
+#include "ui/teintes.h"
 #include "ui/texte_qt.h"
 
-#include <QEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPalette>
@@ -14,10 +14,6 @@ namespace orvalis {
 namespace {
 
 constexpr std::size_t kBoiteSaQsl = 15;
-
-bool PaletteSombre(const QPalette& palette) {
-    return palette.color(QPalette::Window).lightness() < 128;
-}
 
 } // namespace
 
@@ -38,7 +34,7 @@ ZoneSaisie::ZoneSaisie(const DescriptionBoite& boite, QWidget* parent)
         precedent_ = texte;
         Q_EMIT changee(index, texte);
     });
-    AppliquerCouleur();
+    PeindreSelonBureau(*this, [this] { AppliquerCouleur(); });
 }
 
 void ZoneSaisie::Montrer(const QString& texte) {
@@ -60,16 +56,9 @@ void ZoneSaisie::AppliquerCouleur() {
         palette.setColor(QPalette::Base, QColor(fond->rouge, fond->vert, fond->bleu));
         palette.setColor(QPalette::Text, saQsl ? QColor(0xA0, 0, 0) : QColor(Qt::black));
     } else if (saQsl) {
-        palette.setColor(QPalette::Text,
-                         PaletteSombre(palette) ? QColor(0xFF, 0x80, 0x80) : QColor(0xC0, 0, 0));
+        palette.setColor(QPalette::Text, RougeSur(palette.color(QPalette::Window)));
     }
     setPalette(palette);
-}
-
-void ZoneSaisie::changeEvent(QEvent* evenement) {
-    if (evenement->type() == QEvent::ApplicationPaletteChange)
-        AppliquerCouleur();
-    QLineEdit::changeEvent(evenement);
 }
 
 void ZoneSaisie::keyPressEvent(QKeyEvent* evenement) {

@@ -34,7 +34,6 @@ class ZoneSaisie : public QLineEdit {
     void mousePressEvent(QMouseEvent* evenement) override;
     void mouseMoveEvent(QMouseEvent* evenement) override;
     void mouseReleaseEvent(QMouseEvent* evenement) override;
-    void changeEvent(QEvent* evenement) override;
 
   private:
     void AppliquerCouleur();
