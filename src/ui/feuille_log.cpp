@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -35,11 +36,6 @@ Encres EncresDe(const QPalette& palette) {
 constexpr qreal kPointsMin = 8.0;
 constexpr qreal kPointsMax = 13.0;
 
-// Width of a column in half characters: its text and half a character on each side.
-constexpr int DemiLargeur(const ColonnePage& colonne) {
-    return static_cast<int>(colonne.largeur) * 2 + 2;
-}
-
 } // namespace
 
 FeuilleLog::FeuilleLog(QWidget* parent) : QAbstractScrollArea(parent) {
@@ -51,7 +47,8 @@ FeuilleLog::FeuilleLog(QWidget* parent) : QAbstractScrollArea(parent) {
 }
 
 int FeuilleLog::Mesures::Colonne(std::size_t rang) const {
-    return DemiLargeur(kColonnesPage[rang]) * caractere / 2 + appoint;
+    // Half a character stands on each side of the text.
+    return qCeil(static_cast<qreal>(kColonnesPage[rang].largeur + 1) * caractere) + appoint;
 }
 
 FeuilleLog::Mesures FeuilleLog::Mesurer(qreal points) const {
@@ -59,13 +56,12 @@ FeuilleLog::Mesures FeuilleLog::Mesurer(qreal points) const {
     m.police = PoliceFixe("Courier", font());
     m.police.setPointSizeF(points);
     const QFontMetrics metriques(m.police);
-    m.caractere = metriques.horizontalAdvance(QLatin1Char('0'));
+    m.caractere = QFontMetricsF(m.police).horizontalAdvance(QLatin1Char('0'));
     m.ligne = metriques.height() + 1;
     m.tete = 2 * metriques.height() + 4;
-    int demis = 0;
-    for (const ColonnePage& colonne : kColonnesPage)
-        demis += DemiLargeur(colonne);
-    m.largeur = (demis * m.caractere) / 2 + 1;
+    m.largeur = 1;
+    for (std::size_t i = 0; i < kColonnesPage.size(); ++i)
+        m.largeur += m.Colonne(i);
     m.hauteur = m.tete + m.ligne * kFichesParPage + 1;
     return m;
 }
@@ -89,7 +85,8 @@ void FeuilleLog::Ajuster() {
         barre->setPageStep(visible);
         barre->setSingleStep(pas);
     };
-    regler(horizontalScrollBar(), mesures_.largeur, viewport()->width(), mesures_.caractere * 4);
+    regler(horizontalScrollBar(), mesures_.largeur, viewport()->width(),
+           qRound(mesures_.caractere * 4));
     regler(verticalScrollBar(), mesures_.hauteur, viewport()->height(), mesures_.ligne);
     viewport()->update();
 }
@@ -174,9 +171,9 @@ void FeuilleLog::PeindreRangees(QPainter& peintre) const {
             police.setBold(c == kIndicatif);
             peintre.setFont(police);
             const int large = mesures_.Colonne(c);
-            peintre.drawText(
-                QRect(x + (mesures_.caractere + mesures_.appoint) / 2, y, large, mesures_.ligne),
-                Qt::AlignLeft | Qt::AlignVCenter, Q(rangees_[rang].cellules[c]));
+            peintre.drawText(QRect(x + qCeil(mesures_.caractere + mesures_.appoint) / 2, y, large,
+                                   mesures_.ligne),
+                             Qt::AlignLeft | Qt::AlignVCenter, Q(rangees_[rang].cellules[c]));
             x += large;
         }
     }

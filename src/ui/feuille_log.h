@@ -40,10 +40,10 @@ class FeuilleLog : public QAbstractScrollArea {
   private:
     struct Mesures {
         QFont police;
-        int caractere = 0; ///< width of one character
-        int ligne = 0;     ///< height of one row
-        int tete = 0;      ///< height of the head
-        int largeur = 0;   ///< whole sheet
+        qreal caractere = 0; ///< width of one character; it may be a fraction
+        int ligne = 0;       ///< height of one row
+        int tete = 0;        ///< height of the head
+        int largeur = 0;     ///< whole sheet
         int hauteur = 0;
         int appoint = 0; ///< what each column gets of the width that is left over
 
