@@ -1,8 +1,47 @@
 #include "ui/liste_lignes.h"
 
+#include "core/pages.h"
+#include "ui/police.h"
+#include "ui/texte_qt.h"
+
 #include <QSignalBlocker>
+#include <QtMath>
 
 namespace orvalis {
+
+ListeLignes::ListeLignes(QWidget* parent) : QListWidget(parent) {
+    connect(this, &QListWidget::currentRowChanged, this, [this](int ligne) {
+        if (ligne >= 0)
+            Q_EMIT ligneChoisie(NumeroDe(ligne));
+    });
+    // A click on the line that is current already is a click too.
+    connect(this, &QListWidget::itemClicked, this,
+            [this](QListWidgetItem* element) { Q_EMIT ligneChoisie(NumeroDe(row(element))); });
+}
+
+void ListeLignes::Remplir(std::span<const std::string> lignes) {
+    const QSignalBlocker silence(this);
+    clear();
+    for (const std::string& ligne : lignes)
+        addItem(Q(ligne));
+}
+
+void ListeLignes::Selectionner(int ligne) {
+    const QSignalBlocker silence(this);
+    setCurrentRow(ligne);
+}
+
+std::int32_t ListeLignes::NumeroDe(int ligne) const {
+    const QListWidgetItem* element = item(ligne);
+    return element == nullptr ? 0 : NumeroDeLigne(S(element->text()));
+}
+
+int ListeLignes::Composer(const QFont& modele, int caracteres) {
+    setFont(PoliceFixe("Courier New", modele));
+    // A character's width may be a fraction: rounded down, forty of them would lack a few pixels.
+    const qreal caractere = QFontMetricsF(font()).horizontalAdvance(QLatin1Char('0'));
+    return qCeil(caractere) * caracteres + 2 * frameWidth();
+}
 
 void ListeLignes::focusInEvent(QFocusEvent* evenement) {
     const QSignalBlocker silence(this);

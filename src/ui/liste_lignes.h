@@ -1,7 +1,11 @@
-// A list of lines that reports only what the operator chose.
+// A list of lines that begin with a record number; it reports only what the operator chose.
 #pragma once
 
 #include <QListWidget>
+
+#include <cstdint>
+#include <span>
+#include <string>
 
 namespace orvalis {
 
@@ -10,7 +14,20 @@ namespace orvalis {
 class ListeLignes : public QListWidget {
     Q_OBJECT
   public:
-    using QListWidget::QListWidget;
+    explicit ListeLignes(QWidget* parent = nullptr);
+
+    /// Shows these lines; none is selected.
+    void Remplir(std::span<const std::string> lignes);
+    /// Selects a line (from 0) without reporting it; out of range: none.
+    void Selectionner(int ligne);
+    /// Record number of a line, 0 when there is no such line.
+    [[nodiscard]] std::int32_t NumeroDe(int ligne) const;
+    /// Takes the fixed-pitch font at the size of `modele`; returns the pixels that `caracteres`
+    /// characters of it need, frame included.
+    [[nodiscard]] int Composer(const QFont& modele, int caracteres);
+
+  Q_SIGNALS:
+    void ligneChoisie(std::int32_t numero); ///< a click on the selected line included
 
   protected:
     void focusInEvent(QFocusEvent* evenement) override;

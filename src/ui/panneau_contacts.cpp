@@ -1,26 +1,17 @@
 #include "ui/panneau_contacts.h"
 
-#include "core/pages.h"
-#include "ui/police.h"
 #include "ui/texte_qt.h"
 #include "ui_panneau_contacts.h"
 
 #include <QEvent>
 #include <QScrollBar>
-#include <QSignalBlocker>
 
 namespace orvalis {
 
 PictContacts::PictContacts(QWidget* parent)
     : QFrame(parent), ui_(std::make_unique<Ui::PictContacts>()) {
     ui_->setupUi(this);
-    connect(ui_->ContactsListe, &QListWidget::currentRowChanged, this, [this](int ligne) {
-        if (ligne >= 0)
-            Q_EMIT ligneChoisie(NumeroDe(ligne));
-    });
-    connect(ui_->ContactsListe, &QListWidget::itemClicked, this, [this](QListWidgetItem* element) {
-        Q_EMIT ligneChoisie(NumeroDe(ui_->ContactsListe->row(element)));
-    });
+    connect(ui_->ContactsListe, &ListeLignes::ligneChoisie, this, &PictContacts::ligneChoisie);
     connect(ui_->BtContactsFermer, &QPushButton::clicked, this, &PictContacts::fermetureDemandee);
     Dimensionner();
 }
@@ -29,10 +20,8 @@ PictContacts::~PictContacts() = default;
 
 void PictContacts::Dimensionner() {
     constexpr int kLargeurLigne = 46;
-    QListWidget& liste = *ui_->ContactsListe;
-    liste.setFont(PoliceFixe("Courier New", font()));
-    const int caractere = QFontMetrics(liste.font()).horizontalAdvance(QLatin1Char('0'));
-    liste.setMinimumWidth(caractere * kLargeurLigne + 2 * liste.frameWidth() + 10 +
+    ListeLignes& liste = *ui_->ContactsListe;
+    liste.setMinimumWidth(liste.Composer(font(), kLargeurLigne) + 10 +
                           liste.verticalScrollBar()->sizeHint().width());
 }
 
@@ -43,13 +32,7 @@ void PictContacts::changeEvent(QEvent* evenement) {
 }
 
 void PictContacts::Remplir(std::span<const std::string> lignes) {
-    const QSignalBlocker silence(ui_->ContactsListe);
-    ui_->ContactsListe->clear();
-    QStringList textes;
-    textes.reserve(static_cast<qsizetype>(lignes.size()));
-    for (const std::string& ligne : lignes)
-        textes << Q(ligne);
-    ui_->ContactsListe->addItems(textes);
+    ui_->ContactsListe->Remplir(lignes);
 }
 
 void PictContacts::MontrerCompte(std::string_view nombre) {
@@ -61,8 +44,7 @@ void PictContacts::MontrerNature(std::string_view texte) {
 }
 
 void PictContacts::Selectionner(int ligne) {
-    const QSignalBlocker silence(ui_->ContactsListe);
-    ui_->ContactsListe->setCurrentRow(ligne);
+    ui_->ContactsListe->Selectionner(ligne);
 }
 
 void PictContacts::DonnerFoyer() {
@@ -70,8 +52,7 @@ void PictContacts::DonnerFoyer() {
 }
 
 std::int32_t PictContacts::NumeroDe(int ligne) const {
-    const QListWidgetItem* element = ui_->ContactsListe->item(ligne);
-    return element == nullptr ? 0 : NumeroDeLigne(S(element->text()));
+    return ui_->ContactsListe->NumeroDe(ligne);
 }
 
 } // namespace orvalis

@@ -1,7 +1,5 @@
 #include "ui/panneau_liste.h"
 
-#include "ui/police.h"
-#include "ui/texte_qt.h"
 #include "ui_panneau_liste.h"
 
 #include <QKeyEvent>
@@ -30,14 +28,7 @@ constexpr std::array<LigneTouche, 4> kTouches = {{
 PictListe::PictListe(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::PictListe>()) {
     ui_->setupUi(this);
     ui_->ListeLog->installEventFilter(this);
-    connect(ui_->ListeLog, &QListWidget::currentRowChanged, this, [this](int ligne) {
-        if (ligne >= 0)
-            Q_EMIT ligneChoisie(NumeroDe(ligne));
-    });
-    // A click on the line that is current already is a click too.
-    connect(ui_->ListeLog, &QListWidget::itemClicked, this, [this](QListWidgetItem* element) {
-        Q_EMIT ligneChoisie(NumeroDe(ui_->ListeLog->row(element)));
-    });
+    connect(ui_->ListeLog, &ListeLignes::ligneChoisie, this, &PictListe::ligneChoisie);
     const std::array<std::pair<QPushButton*, BoutonPage>, 4> boutons = {{
         {ui_->CmdSensHaut, BoutonPage::Premiere},
         {ui_->CmdPageMoins, BoutonPage::Precedente},
@@ -57,12 +48,10 @@ PictListe::~PictListe() = default;
 
 void PictListe::Dimensionner() {
     constexpr int kLargeurLigne = 40;
-    ui_->ListeLog->setFont(PoliceFixe("Courier New", font()));
-    const QFontMetrics mesures(ui_->ListeLog->font());
-    const int cadre = 2 * ui_->ListeLog->frameWidth();
-    ui_->ListeLog->setFixedWidth(mesures.horizontalAdvance(QLatin1Char('0')) * kLargeurLigne +
-                                 cadre + 8);
-    ui_->ListeLog->setMinimumHeight((mesures.height() + 1) * kFichesParPage + cadre);
+    ListeLignes& liste = *ui_->ListeLog;
+    liste.setFixedWidth(liste.Composer(font(), kLargeurLigne) + 8);
+    liste.setMinimumHeight((QFontMetrics(liste.font()).height() + 1) * kFichesParPage +
+                           2 * liste.frameWidth());
     const int cote = QFontMetrics(font()).height() * 2;
     for (QPushButton* bouton :
          {ui_->CmdSensHaut, ui_->CmdPageMoins, ui_->CmdPagePlus, ui_->CmdSensBas})
@@ -77,10 +66,7 @@ void PictListe::changeEvent(QEvent* evenement) {
 
 void PictListe::Remplir(std::span<const std::string> lignes, std::int32_t page,
                         std::int32_t nbPages) {
-    const QSignalBlocker silence(ui_->ListeLog);
-    ui_->ListeLog->clear();
-    for (const std::string& ligne : lignes)
-        ui_->ListeLog->addItem(Q(ligne));
+    ui_->ListeLog->Remplir(lignes);
     ui_->LabPage->setText(QStringLiteral("Page %1 / %2").arg(page).arg(nbPages));
 }
 
@@ -97,8 +83,7 @@ void PictListe::ActiverPagination(bool actif) {
 }
 
 void PictListe::Selectionner(int ligne) {
-    const QSignalBlocker silence(ui_->ListeLog);
-    ui_->ListeLog->setCurrentRow(ligne < NbLignes() ? ligne : -1);
+    ui_->ListeLog->Selectionner(ligne);
 }
 
 int PictListe::LigneChoisie() const {
@@ -110,8 +95,7 @@ int PictListe::NbLignes() const {
 }
 
 std::int32_t PictListe::NumeroDe(int ligne) const {
-    const QListWidgetItem* element = ui_->ListeLog->item(ligne);
-    return element == nullptr ? 0 : NumeroDeLigne(S(element->text()));
+    return ui_->ListeLog->NumeroDe(ligne);
 }
 
 void PictListe::MontrerNom(const QString& texte) {

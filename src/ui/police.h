@@ -3,10 +3,7 @@
 
 #include <QFont>
 #include <QFontDatabase>
-#include <QFontMetricsF>
 #include <QWidget>
-
-#include <cmath>
 
 namespace orvalis {
 
@@ -29,13 +26,6 @@ namespace orvalis {
 }
 inline constexpr qreal kPetite = 0.85; ///< a caption above its box
 inline constexpr qreal kTitre = 1.2;   ///< the title of a panel
-
-/// Pixels that hold `caracteres` characters of a fixed-pitch font, whose advance is no whole number
-/// on a screen scaled by a fraction.
-[[nodiscard]] inline int LargeurTexte(const QFont& police, std::size_t caracteres) {
-    return static_cast<int>(std::ceil(QFontMetricsF(police).horizontalAdvance(QLatin1Char('0')) *
-                                      static_cast<qreal>(caracteres)));
-}
 
 /// Lets a control come and go without moving anything.
 inline void GarderPlace(QWidget& controle) {
