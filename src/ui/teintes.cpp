@@ -29,7 +29,9 @@ class Repeintre : public QObject {
     Repeintre(QWidget& controle, std::function<void()> peindre)
         : QObject(&controle), peindre_(std::move(peindre)) {}
     bool eventFilter(QObject* /*objet*/, QEvent* evenement) override {
-        if (evenement->type() == QEvent::ApplicationPaletteChange)
+        // Only windows are told that the application's palette changes; to what is in them this one
+        // comes. It comes after painting too, which then changes nothing any more.
+        if (evenement->type() == QEvent::PaletteChange)
             peindre_();
         return false;
     }

@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QAction>
+#include <QApplication>
 #include <QLabel>
 #include <QMenuBar>
 
@@ -80,6 +81,30 @@ TEST(Accessibilite, NomsEtClavierDansChaqueEtat) {
     for (const QWidget* dialogue :
          std::initializer_list<const QWidget*>{&creation, &coordonnees, &aPropos})
         EXPECT_EQ(Defauts(*dialogue), "");
+}
+
+TEST(Accessibilite, CouleursSuiventLeBureau) {
+    Banc banc(Contacts(1) + Fin());
+    banc.Faire("MnuGestionFeuilleQSL");
+    const QPalette clair = QApplication::palette();
+    const auto couleur = [&banc](const char* nom, QPalette::ColorRole role) {
+        return banc.Controle<QWidget>(nom)->palette().color(role);
+    };
+    for (const bool sombre : {true, false}) {
+        QPalette palette = sombre ? QPalette(Qt::black) : clair;
+        palette.setColor(QPalette::Mid, sombre ? Qt::cyan : Qt::magenta);
+        QApplication::setPalette(palette);
+        QEvent change(QEvent::ApplicationPaletteChange); // Qt sends it once its loop runs
+        QCoreApplication::sendEvent(banc.fenetre.get(), &change);
+        const QColor rouge = sombre ? QColor(255, 128, 128) : QColor(192, 0, 0);
+        EXPECT_EQ(couleur("BtKillFiche", QPalette::ButtonText), rouge);
+        EXPECT_EQ(couleur("TxtField_15", QPalette::Text), rouge);
+        EXPECT_EQ(couleur("PictBtEtiq02", QPalette::WindowText), palette.color(QPalette::Mid));
+        QColor discret = palette.color(QPalette::Text);
+        discret.setAlpha(140);
+        EXPECT_EQ(couleur("RechText", QPalette::PlaceholderText), discret);
+    }
+    QApplication::setPalette(clair);
 }
 
 TEST(Accessibilite, F10OuvreLesMenus) {
