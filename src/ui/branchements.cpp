@@ -132,12 +132,12 @@ void Orvalis::BrancherFiche() {
     for (const DescriptionBoite& boite : kBoites) {
         const std::size_t n = boite.index;
         ZoneSaisie* zone = &p_.fiche.Boite(n);
-        Brancher(zone, &ZoneSaisie::entree, [this, n](int) { SurEntree(p_, n); });
-        Brancher(zone, &ZoneSaisie::focusPris, [this, n](int) { SurFocusPris(p_, n); });
-        Brancher(zone, &ZoneSaisie::focusPerdu, [this, n](int) { SurFocusPerdu(p_, n); });
-        Brancher(zone, &ZoneSaisie::pressee, [this, n](int) { SurPression(p_, n); });
-        Brancher(zone, &ZoneSaisie::changee,
-                 [this](int, const QString& texte) { SurChangement(p_, S(texte)); });
+        Brancher(zone, &ZoneSaisie::entree, [this, n] { SurEntree(p_, n); });
+        Brancher(zone, &ZoneSaisie::focusPris, [this, n] { SurFocusPris(p_, n); });
+        Brancher(zone, &ZoneSaisie::focusPerdu, [this, n] { SurFocusPerdu(p_, n); });
+        Brancher(zone, &ZoneSaisie::pressee, [this, n] { SurPression(p_, n); });
+        Brancher(zone, &ZoneSaisie::textChanged,
+                 [this](const QString& texte) { SurChangement(p_, S(texte)); });
     }
     Brancher(&p_.fiche, &PictFiche::activeRechDemande, [this] { VoirContacts(p_); });
 }
@@ -148,8 +148,7 @@ void Orvalis::BrancherSaisie() {
     Brancher(&p_.enrs, &PictEnrs::annulerDemande, [this] { AnnulerSaisie(p_); });
     Brancher(&p_.enrs, &PictEnrs::optionChoisie, [this](bool reel) { ChoisirOption(p_, reel); });
     Brancher(&p_.changLocator, &PictChangLocator::foyerTexte, [this] { SurFoyerLocator(p_); });
-    Brancher(&p_.changLocator, &PictChangLocator::texteChange,
-             [this](const QString&) { SurTexteLocator(p_); });
+    Brancher(&p_.changLocator, &PictChangLocator::texteChange, [this] { SurTexteLocator(p_); });
     Brancher(&p_.changLocator, &PictChangLocator::entree, [this] { SurEntreeLocator(p_); });
     Brancher(&p_.changLocator, &PictChangLocator::valider, [this] { ValiderLocator(p_); });
     Brancher(&p_.changLocator, &PictChangLocator::annuler, [this] { AnnulerLocator(p_); });

@@ -11,14 +11,15 @@ namespace orvalis {
 void Orvalis::BrancherQsl() {
     PictFeuilleQSL* panneau = &p_.feuilleQSL;
     Brancher(&p_.fiche.Boite(static_cast<std::size_t>(Champ::MQSL)), &ZoneSaisie::cliquee,
-             [this](int) { CliquerMaQsl(p_); });
+             [this] { CliquerMaQsl(p_); });
     Brancher(panneau, &PictFeuilleQSL::choix, [this](int k) { SurChoix(p_, k); });
     Brancher(panneau, &PictFeuilleQSL::tag, [this](int k) { SurTag(p_, k); });
-    Brancher(panneau, &PictFeuilleQSL::boiteSaisie, [this](int boite, const QString& texte) {
-        SurSaisieEtiquette(p_, static_cast<std::size_t>(boite), S(texte));
-    });
+    Brancher(panneau, &PictFeuilleQSL::boiteSaisie,
+             [this](std::size_t boite, const QString& texte) {
+                 SurSaisieEtiquette(p_, boite, S(texte));
+             });
     Brancher(panneau, &PictFeuilleQSL::boiteEntree,
-             [this](int boite) { SurEntreeEtiquette(p_, static_cast<std::size_t>(boite)); });
+             [this](std::size_t boite) { SurEntreeEtiquette(p_, boite); });
     Brancher(panneau, &PictFeuilleQSL::voieChoisie, [this](VoieQSL voie) { SurVoie(p_, voie); });
     Brancher(panneau, &PictFeuilleQSL::valider, [this] { ValiderEtiquette(p_); });
     Brancher(panneau, &PictFeuilleQSL::supprimer, [this] { SupprimerEtiquette(p_); });

@@ -12,7 +12,7 @@ namespace orvalis {
 PictChangLocator::PictChangLocator(QWidget* parent)
     : QFrame(parent), ui_(std::make_unique<Ui::PictChangLocator>()) {
     ui_->setupUi(this);
-    FiltrerMajuscules(*ui_->ChangLocText, kLargeurLocator);
+    new FiltreEdition(*ui_->ChangLocText, Touches::Majuscules, kLargeurLocator);
     ui_->ChangLocText->installEventFilter(this);
     TeinterFond(*ui_->BtChangAnnul, Teinte::RougeClair);
     connect(ui_->ChangLocText, &QLineEdit::textChanged, this, &PictChangLocator::texteChange);

@@ -31,7 +31,7 @@ class PictChangLocator : public QFrame {
 
   Q_SIGNALS:
     void foyerTexte(); ///< the box takes the focus
-    void texteChange(const QString& texte);
+    void texteChange();
     void entree();
     void valider();
     void annuler();

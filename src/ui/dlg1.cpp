@@ -28,8 +28,8 @@ Dlg1::Dlg1(std::filesystem::path lecteur, Systeme& systeme, QWidget* parent)
     GarderPlace(*ui_->Dlg1Fra3);
     ui_->Dlg1Fra3->hide();
     constexpr std::size_t kLongueurIndicatif = 20;
-    FiltrerMajuscules(*ui_->Dlg1Fra2Text1, kLongueurIndicatif);
-    FiltrerMajuscules(*ui_->Dlg1Fra2Text2, kLargeurLocator);
+    new FiltreEdition(*ui_->Dlg1Fra2Text1, Touches::Majuscules, kLongueurIndicatif);
+    new FiltreEdition(*ui_->Dlg1Fra2Text2, Touches::Majuscules, kLargeurLocator);
     for (QLineEdit* boite : {ui_->Dlg1Fra2Text1, ui_->Dlg1Fra2Text2}) {
         boite->installEventFilter(this);
         // What was accepted no longer holds once the operator types on.

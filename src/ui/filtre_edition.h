@@ -6,24 +6,25 @@
 
 #include <QValidator>
 
-#include <functional>
-
 class QLineEdit;
 
 namespace orvalis {
 
 class FiltreEdition : public QValidator {
   public:
-    using Regle = std::function<TexteEdite(const TexteEdite& nouveau)>;
-
-    FiltreEdition(Regle regle, QObject* parent) : QValidator(parent), regle_(std::move(regle)) {}
+    /// Makes `boite`, which owns the filter, take at most `longueur` of the characters of
+    /// `touches`.
+    FiltreEdition(QLineEdit& boite, Touches touches, std::size_t longueur);
+    /// Shows a text as it is, past the rules, and clears the undo history.
+    void Montrer(const QString& texte);
     [[nodiscard]] State validate(QString& texte, int& curseur) const override;
 
   private:
-    Regle regle_;
+    QLineEdit& boite_;
+    Touches touches_;
+    std::size_t longueur_;
+    std::string precedent_; ///< text before the edit that the filter looks at
+    bool programme_ = false;
 };
-
-/// Makes `boite` take at most `longueur` characters, in upper case.
-void FiltrerMajuscules(QLineEdit& boite, std::size_t longueur);
 
 } // namespace orvalis

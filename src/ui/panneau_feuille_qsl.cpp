@@ -25,7 +25,7 @@ struct DescriptionBoiteEditeur {
     const char* legende;
     std::size_t longueur;
     Touches touches;
-    int rangee; ///< row of the editor, from 1
+    std::size_t rangee; ///< row of the editor, from 1
     const char* bulle;
 };
 
@@ -147,18 +147,18 @@ void PictFeuilleQSL::FaireBoites() {
     const std::array<QHBoxLayout*, 5> rangees = {ui_->rangee1, ui_->rangee2, ui_->rangee3,
                                                  ui_->rangee4, ui_->rangee5};
     for (std::size_t i = 0; i < kNbBoitesEtiquette; ++i)
-        FaireBoite(i, *rangees[static_cast<std::size_t>(kBoitesEditeur[i].rangee) - 1]);
+        FaireBoite(i, *rangees[kBoitesEditeur[i].rangee - 1]);
     ui_->rangee1->addStretch(1);
 }
 
 void PictFeuilleQSL::FaireBoite(std::size_t rang, QHBoxLayout& rangee) {
     const DescriptionBoiteEditeur& d = kBoitesEditeur[rang];
-    const int numero = static_cast<int>(d.boite);
     BoiteEditeur& boite = boites_[rang];
     boite.legende = new QLabel(QString::fromUtf8(d.legende), ui_->PictTag);
     boite.legende->setFont(PoliceAjustee(boite.legende->font(), kPetite));
     boite.texte = new QLineEdit(ui_->PictTag);
-    boite.texte->setObjectName(Nom("FLdText_", numero));
+    boite.filtre = new FiltreEdition(*boite.texte, d.touches, d.longueur);
+    boite.texte->setObjectName(Nom("FLdText_", static_cast<int>(d.boite)));
     boite.texte->setAccessibleName(QString::fromUtf8(d.legende));
     boite.texte->setToolTip(QString::fromUtf8(d.bulle));
     boite.legende->setBuddy(boite.texte);
@@ -179,18 +179,10 @@ void PictFeuilleQSL::FaireBoite(std::size_t rang, QHBoxLayout& rangee) {
     cellule->addWidget(boite.legende);
     cellule->addWidget(boite.texte);
     rangee.addLayout(cellule, static_cast<int>(d.longueur));
-    boite.texte->setValidator(new FiltreEdition(
-        [this, &boite, &d](const TexteEdite& nouveau) {
-            return programme_ ? nouveau
-                              : FiltrerEdition(d.touches, d.longueur, boite.precedent, nouveau);
-        },
-        this));
-    connect(boite.texte, &QLineEdit::textChanged, this,
-            [&boite](const QString& texte) { boite.precedent = S(texte); });
     connect(boite.texte, &QLineEdit::textEdited, this,
-            [this, numero](const QString& texte) { Q_EMIT boiteSaisie(numero, texte); });
+            [this, &d](const QString& texte) { Q_EMIT boiteSaisie(d.boite, texte); });
     connect(boite.texte, &QLineEdit::returnPressed, this,
-            [this, numero] { Q_EMIT boiteEntree(numero); });
+            [this, &d] { Q_EMIT boiteEntree(d.boite); });
 }
 
 void PictFeuilleQSL::BrancherBoutons() {
@@ -258,12 +250,11 @@ void PictFeuilleQSL::MontrerPlaces(const FeuilleQSL& feuille) {
 }
 
 void PictFeuilleQSL::MontrerBoites(const FeuilleQSL& feuille) {
-    programme_ = true;
     for (const DescriptionBoiteEditeur& d : kBoitesEditeur) {
         BoiteEditeur& boite = Boite(d.boite);
         const QString texte = Q(feuille.boites[d.boite]);
         if (boite.texte->text() != texte) {
-            boite.texte->setText(texte);
+            boite.filtre->Montrer(texte);
             boite.texte->setCursorPosition(0);
         }
         if (EstUnRappel(d.boite))
@@ -271,7 +262,6 @@ void PictFeuilleQSL::MontrerBoites(const FeuilleQSL& feuille) {
         else
             boite.texte->setReadOnly(!feuille.fraiche);
     }
-    programme_ = false;
     // A label that was read has report and mode in each other's box; the captions follow them.
     const bool echanges = feuille.vue.supprimer;
     const auto legende = [](std::size_t boite) {

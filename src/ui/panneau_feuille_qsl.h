@@ -20,6 +20,8 @@ class PictFeuilleQSL;
 
 namespace orvalis {
 
+class FiltreEdition;
+
 class PictFeuilleQSL : public QFrame {
     Q_OBJECT
   public:
@@ -41,8 +43,8 @@ class PictFeuilleQSL : public QFrame {
   Q_SIGNALS:
     void choix(int k); ///< BtChoix of place `k`
     void tag(int k);   ///< BtTag of place `k`
-    void boiteSaisie(int boite, const QString& texte);
-    void boiteEntree(int boite); ///< Enter, either one
+    void boiteSaisie(std::size_t boite, const QString& texte);
+    void boiteEntree(std::size_t boite); ///< Enter, either one
     void voieChoisie(orvalis::VoieQSL voie);
     void valider();
     void supprimer();
@@ -60,7 +62,7 @@ class PictFeuilleQSL : public QFrame {
     struct BoiteEditeur {
         QLineEdit* texte = nullptr;
         QLabel* legende = nullptr;
-        std::string precedent; ///< text before the edit that the filter looks at
+        FiltreEdition* filtre = nullptr;
     };
 
     [[nodiscard]] Place FairePlace(int k);
@@ -78,7 +80,6 @@ class PictFeuilleQSL : public QFrame {
     std::unique_ptr<Ui::PictFeuilleQSL> ui_;
     std::array<Place, kNbEtiquettes> places_;
     std::array<BoiteEditeur, kNbBoitesEtiquette> boites_;
-    bool programme_ = false; ///< the program writes into the boxes: nothing is filtered
 };
 
 } // namespace orvalis

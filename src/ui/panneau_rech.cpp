@@ -14,7 +14,7 @@ namespace orvalis {
 PictRech::PictRech(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::PictRech>()) {
     ui_->setupUi(this);
     constexpr std::size_t kLongueur = 40;
-    FiltrerMajuscules(*ui_->RechText, kLongueur);
+    new FiltreEdition(*ui_->RechText, Touches::Majuscules, kLongueur);
     ui_->RechText->installEventFilter(this);
     ui_->RechText->setMinimumWidth(QFontMetrics(font()).averageCharWidth() * 18);
     ui_->RechText->setClearButtonEnabled(true);

@@ -18,29 +18,17 @@ constexpr std::size_t kBoiteSaQsl = 15;
 } // namespace
 
 ZoneSaisie::ZoneSaisie(const DescriptionBoite& boite, QWidget* parent)
-    : QLineEdit(parent), boite_(boite), couleur_(CouleurAuRepos(boite.index)) {
-    const int index = static_cast<int>(boite.index);
-    setObjectName(QStringLiteral("TxtField_%1").arg(index));
+    : QLineEdit(parent), boite_(boite),
+      filtre_(new FiltreEdition(*this, boite.touches, boite.longueur)),
+      couleur_(CouleurAuRepos(boite.index)) {
+    setObjectName(QStringLiteral("TxtField_%1").arg(boite.index));
     if (boite.centre)
         setAlignment(Qt::AlignCenter);
-    setValidator(new FiltreEdition(
-        [this](const TexteEdite& nouveau) {
-            return programme_
-                       ? nouveau
-                       : FiltrerEdition(boite_.touches, boite_.longueur, S(precedent_), nouveau);
-        },
-        this));
-    connect(this, &QLineEdit::textChanged, this, [this, index](const QString& texte) {
-        precedent_ = texte;
-        Q_EMIT changee(index, texte);
-    });
     PeindreSelonBureau(*this, [this] { AppliquerCouleur(); });
 }
 
 void ZoneSaisie::Montrer(const QString& texte) {
-    programme_ = true;
-    setText(texte);
-    programme_ = false;
+    filtre_->Montrer(texte);
 }
 
 void ZoneSaisie::Colorer(Couleur couleur) {
@@ -62,17 +50,16 @@ void ZoneSaisie::AppliquerCouleur() {
 }
 
 void ZoneSaisie::keyPressEvent(QKeyEvent* evenement) {
-    const int index = static_cast<int>(boite_.index);
     switch (evenement->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
         evenement->accept();
-        Q_EMIT entree(index);
+        Q_EMIT entree();
         return;
     case Qt::Key_F2:
         evenement->accept();
-        Q_EMIT pressee(index);
-        Q_EMIT cliquee(index);
+        Q_EMIT pressee();
+        Q_EMIT cliquee();
         return;
     default:
         // A refused key is swallowed before it can replace what is selected.
@@ -93,20 +80,20 @@ bool ZoneSaisie::Refusee(const QKeyEvent& evenement) const {
 void ZoneSaisie::focusInEvent(QFocusEvent* evenement) {
     QLineEdit::focusInEvent(evenement);
     if (!FoyerVenuDAilleurs(evenement->reason()))
-        Q_EMIT focusPris(static_cast<int>(boite_.index));
+        Q_EMIT focusPris();
 }
 
 void ZoneSaisie::focusOutEvent(QFocusEvent* evenement) {
     QLineEdit::focusOutEvent(evenement);
     if (!FoyerVenuDAilleurs(evenement->reason()))
-        Q_EMIT focusPerdu(static_cast<int>(boite_.index));
+        Q_EMIT focusPerdu();
 }
 
 void ZoneSaisie::mousePressEvent(QMouseEvent* evenement) {
     QLineEdit::mousePressEvent(evenement);
     pressionRecue_ = evenement->button() == Qt::LeftButton;
     if (pressionRecue_)
-        Q_EMIT pressee(static_cast<int>(boite_.index));
+        Q_EMIT pressee();
 }
 
 void ZoneSaisie::mouseMoveEvent(QMouseEvent* evenement) {
@@ -118,7 +105,7 @@ void ZoneSaisie::mouseMoveEvent(QMouseEvent* evenement) {
 void ZoneSaisie::mouseReleaseEvent(QMouseEvent* evenement) {
     QLineEdit::mouseReleaseEvent(evenement);
     if (pressionRecue_ && rect().contains(evenement->pos()))
-        Q_EMIT cliquee(static_cast<int>(boite_.index));
+        Q_EMIT cliquee();
     pressionRecue_ = false;
 }
 

@@ -9,6 +9,8 @@
 
 namespace orvalis {
 
+class FiltreEdition;
+
 class ZoneSaisie : public QLineEdit {
     Q_OBJECT
   public:
@@ -20,12 +22,11 @@ class ZoneSaisie : public QLineEdit {
     void Colorer(Couleur couleur);
 
   Q_SIGNALS:
-    void entree(int index);                        ///< Enter, either one
-    void focusPris(int index);                     ///< by key, mouse or program
-    void focusPerdu(int index);                    ///< to another control of the window
-    void pressee(int index);                       ///< mouse press, or F2
-    void cliquee(int index);                       ///< press and release, or F2
-    void changee(int index, const QString& texte); ///< any change of the text
+    void entree();     ///< Enter, either one
+    void focusPris();  ///< by key, mouse or program
+    void focusPerdu(); ///< to another control of the window
+    void pressee();    ///< mouse press, or F2
+    void cliquee();    ///< press and release, or F2
 
   protected:
     void keyPressEvent(QKeyEvent* evenement) override;
@@ -40,8 +41,7 @@ class ZoneSaisie : public QLineEdit {
     [[nodiscard]] bool Refusee(const QKeyEvent& evenement) const;
 
     const DescriptionBoite& boite_;
-    QString precedent_; ///< text before the edit that the filter looks at
-    bool programme_ = false;
+    FiltreEdition* filtre_;
     bool pressionRecue_ = false;
     Couleur couleur_;
 };

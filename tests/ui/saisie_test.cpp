@@ -119,7 +119,8 @@ TEST(Recherche, IndicatifDateEtDoublons) {
     const std::string jumelle = Octets("F6ABC/P|13/05/02|10:00||7.050");
     Banc banc(Contacts(2) + Octets("f6abc") + jumelle + jumelle + Fin());
     banc.Suivre({
-        {"@RechText =f6abc", "ContactsListe",
+        {"@RechText RechText+f6ab !Ctrl+A RechText+\u0007", "RechText", "F6AB"},
+        {"!End =c", "ContactsListe",
          "3     Le          à       sur  Mhz            |4     Le 13/05/02 à 10:00 sur 7.050 Mhz   "
          "    |5     Le 13/05/02 à 10:00 sur 7.050 Mhz       "},
         {"", "NbreContacts NoFicheLab @ ?PictRech", "3 Contacts réalisés| Fiche N° 3 |ListeLog|C"},
