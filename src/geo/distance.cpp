@@ -21,9 +21,8 @@ int Signe(double valeur) {
 }
 
 double ArcCosinus(double cosinus) {
-    if (cosinus == 0) {
+    if (cosinus == 0)
         return kPi / 2;
-    }
     const double sinus = std::sqrt(std::max(0.0, 1 - cosinus * cosinus));
     return std::atan(sinus / cosinus) + kPi / 2 * (1 - Signe(cosinus));
 }
@@ -48,9 +47,8 @@ float Azimut(const MemoireDistance& m, double cosDelta, double cosAngle, double 
     auto azimut = static_cast<float>(360 - std::floor(relevement * 180 / kPi + 0.5));
     // Kept on purpose: with longitudes positive to the West this mirrors the bearing of every
     // correspondent that lies East.
-    if (m.longitude1 > m.longitude2) {
+    if (m.longitude1 > m.longitude2)
         azimut = 360.0F - azimut;
-    }
     return azimut;
 }
 

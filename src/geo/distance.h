@@ -6,8 +6,8 @@
 
 namespace orvalis {
 
-// The last coordinates obtained from each of the two locators (degrees, West positive). It belongs
-// to the caller, so that the routine has no state of its own.
+/// The last coordinates obtained from each of the two locators (degrees, West positive). It belongs
+/// to the caller, so that the routine has no state of its own.
 struct MemoireDistance {
     double latitude1 = 0;
     double longitude1 = 0;
@@ -16,18 +16,18 @@ struct MemoireDistance {
 };
 
 struct TextesDistance {
-    std::string distance; // 10 characters, e.g. "1234.5 Km "
-    std::string azimut;   // 4 characters (UTF-8, five bytes), e.g. "045°"
+    std::string distance; ///< 10 characters, e.g. "1234.5 Km "
+    std::string azimut;   ///< 4 characters (UTF-8, five bytes), e.g. "045°"
 };
 
-// Distance in kilometres, cut to one decimal, and azimuth in whole degrees from locator1 (the own
-// station) to locator2 (the correspondent). An invalid locator does not stop the computation: the
-// coordinates that `memoire` keeps from an earlier call stand in for it.
-//
-// Where the formulas have no value, the result is guarded and never fails:
-//  - a quarter of a great circle is 90 degrees of arc, a bearing of cosine 0 is 90 degrees;
-//  - a cosine that rounding pushes beyond 1 counts as 1, and due North is 0 degrees;
-//  - two points that coincide are 0 km apart, in the direction 90 degrees.
+/// Distance in kilometres, cut to one decimal, and azimuth in whole degrees from locator1 (the own
+/// station) to locator2 (the correspondent). An invalid locator does not stop the computation: the
+/// coordinates that `memoire` keeps from an earlier call stand in for it.
+///
+/// Where the formulas have no value, the result is guarded and never fails:
+///  - a quarter of a great circle is 90 degrees of arc, a bearing of cosine 0 is 90 degrees;
+///  - a cosine that rounding pushes beyond 1 counts as 1, and due North is 0 degrees;
+///  - two points that coincide are 0 km apart, in the direction 90 degrees.
 [[nodiscard]] TextesDistance DistanceAzimut(MemoireDistance& memoire, std::string_view locator1,
                                             std::string_view locator2);
 

@@ -1,6 +1,7 @@
 #include "geo/dlg2.h"
 
 #include "geo/locator.h"
+#include "ui/gestes.h"
 #include "ui_dlg2.h"
 
 #include <QFocusEvent>
@@ -25,10 +26,10 @@ constexpr int kLimiteLongitude = 180;
 // box itself would cut a pasted text before its refused characters are dropped.
 class Filtre : public QValidator {
   public:
-    Filtre(const RegleBoite& regleBoite, QObject* parent) : QValidator(parent), regle(regleBoite) {}
+    Filtre(const RegleBoite& regle, QObject* parent) : QValidator(parent), regle_(regle) {}
 
     State validate(QString& texte, int& curseur) const override {
-        const auto filtre = FiltrerTexte(regle, texte.toStdU16String(),
+        const auto filtre = FiltrerTexte(regle_, texte.toStdU16String(),
                                          static_cast<std::size_t>(std::max(curseur, 0)));
         texte = QString::fromStdU16String(filtre.texte);
         curseur = static_cast<int>(filtre.curseur);
@@ -36,15 +37,11 @@ class Filtre : public QValidator {
     }
 
   private:
-    RegleBoite regle;
+    RegleBoite regle_;
 };
 
 bool EstLettre(const RegleBoite& regle) {
     return regle.genre == GenreBoite::Hemisphere || regle.genre == GenreBoite::Cote;
-}
-
-bool EstEntree(const QKeyEvent& touche) {
-    return touche.key() == Qt::Key_Return || touche.key() == Qt::Key_Enter;
 }
 
 int Entier(const QLineEdit* champ) {
@@ -71,37 +68,35 @@ void AjusterLargeur(QLineEdit* champ, int caracteres) {
 
 } // namespace
 
-Dlg2::Dlg2(QWidget* parent) : QDialog(parent), ui(std::make_unique<Ui::Dlg2>()) {
-    ui->setupUi(this);
+Dlg2::Dlg2(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::Dlg2>()) {
+    ui_->setupUi(this);
     using enum GenreBoite;
     constexpr RegleBoite kSoixante{Chiffres, 2, 60};
     constexpr RegleBoite kDecimal{Decimal, 0, 0};
-    boites = {{
-        {ui->Fr1DegText1, {Chiffres, 2, kLimiteLatitude}, Notation::Dms, ui->Fr1MinText1},
-        {ui->Fr1MinText1, kSoixante, Notation::Dms, ui->Fr1SecText1},
-        {ui->Fr1SecText1, kSoixante, Notation::Dms, ui->Fr1LatSgnText},
-        {ui->Fr1LatSgnText, {Hemisphere, 1, 0}, Notation::Dms, ui->Fr1DegText2},
-        {ui->Fr1DegText2, {Chiffres, 3, kLimiteLongitude}, Notation::Dms, ui->Fr1MinText2},
-        {ui->Fr1MinText2, kSoixante, Notation::Dms, ui->Fr1SecText2},
-        {ui->Fr1SecText2, kSoixante, Notation::Dms, ui->Fr1LonSgnText},
-        {ui->Fr1LonSgnText, {Cote, 1, 0}, Notation::Dms, ui->Fr1CmdFermer},
-        {ui->Fr1LatCent, kDecimal, Notation::Decimale, ui->Fr1LonCent},
-        {ui->Fr1LonCent, kDecimal, Notation::Decimale, ui->Fr1CmdFermer},
-        {ui->Fr1TextLocator,
+    boites_ = {{
+        {ui_->Fr1DegText1, {Chiffres, 2, kLimiteLatitude}, Notation::Dms, ui_->Fr1MinText1},
+        {ui_->Fr1MinText1, kSoixante, Notation::Dms, ui_->Fr1SecText1},
+        {ui_->Fr1SecText1, kSoixante, Notation::Dms, ui_->Fr1LatSgnText},
+        {ui_->Fr1LatSgnText, {Hemisphere, 1, 0}, Notation::Dms, ui_->Fr1DegText2},
+        {ui_->Fr1DegText2, {Chiffres, 3, kLimiteLongitude}, Notation::Dms, ui_->Fr1MinText2},
+        {ui_->Fr1MinText2, kSoixante, Notation::Dms, ui_->Fr1SecText2},
+        {ui_->Fr1SecText2, kSoixante, Notation::Dms, ui_->Fr1LonSgnText},
+        {ui_->Fr1LonSgnText, {Cote, 1, 0}, Notation::Dms, ui_->Fr1CmdFermer},
+        {ui_->Fr1LatCent, kDecimal, Notation::Decimale, ui_->Fr1LonCent},
+        {ui_->Fr1LonCent, kDecimal, Notation::Decimale, ui_->Fr1CmdFermer},
+        {ui_->Fr1TextLocator,
          {GenreBoite::Locator, kLargeurLocator, 0},
          Notation::Locator,
-         ui->Fr1CmdFermer},
+         ui_->Fr1CmdFermer},
     }};
-    QFont grand = ui->Fr1TextLocator->font();
+    QFont grand = ui_->Fr1TextLocator->font();
     grand.setBold(true);
-    ui->Fr1TextLocator->setFont(grand);
-    for (const Boite& boite : boites) {
+    ui_->Fr1TextLocator->setFont(grand);
+    for (const Boite& boite : boites_)
         PreparerBoite(boite);
-    }
-    for (QLabel* legende : {ui->Fr1LabDms, ui->Fr1LabCent, ui->Fr1LabLocator}) {
+    for (QLabel* legende : {ui_->Fr1LabDms, ui_->Fr1LabCent, ui_->Fr1LabLocator})
         legende->installEventFilter(this);
-    }
-    connect(ui->Fr1CmdFermer, &QPushButton::clicked, this, &QDialog::accept);
+    connect(ui_->Fr1CmdFermer, &QPushButton::clicked, this, &QDialog::accept);
 }
 
 Dlg2::~Dlg2() = default;
@@ -117,72 +112,64 @@ void Dlg2::PreparerBoite(const Boite& boite) {
 }
 
 std::optional<std::string> Dlg2::LocatorModifie() const {
-    return modifie ? std::optional(locator) : std::nullopt;
+    return modifie_ ? std::optional(locator_) : std::nullopt;
 }
 
 void Dlg2::showEvent(QShowEvent* evenement) {
     // Coming back from an icon or from another window is no new opening.
-    if (!evenement->spontaneous()) {
+    if (!evenement->spontaneous())
         Ouvrir();
-    }
     QDialog::showEvent(evenement);
 }
 
 // The button is no default button, which would look pressed by Enter in the boxes too; so Enter has
 // to be brought to it when it has the focus.
 void Dlg2::keyPressEvent(QKeyEvent* evenement) {
-    if (EstEntree(*evenement) && ui->Fr1CmdFermer->hasFocus()) {
-        ui->Fr1CmdFermer->click();
-    } else {
+    if (EstEntree(*evenement) && ui_->Fr1CmdFermer->hasFocus())
+        ui_->Fr1CmdFermer->click();
+    else
         QDialog::keyPressEvent(evenement);
-    }
 }
 
 void Dlg2::Ouvrir() {
-    notation = Notation::Locator;
-    locator = kLocatorOuverture;
-    locatorEdite = false;
-    modifie = false;
-    ui->Fr1TextLocator->setText(QString::fromStdString(locator));
+    notation_ = Notation::Locator;
+    locator_ = kLocatorOuverture;
+    locatorEdite_ = false;
+    modifie_ = false;
+    ui_->Fr1TextLocator->setText(QString::fromStdString(locator_));
     AfficherDepuisLocator();
-    ui->Fr1CmdFermer->setFocus();
+    ui_->Fr1CmdFermer->setFocus();
 }
 
 bool Dlg2::eventFilter(QObject* objet, QEvent* evenement) {
     // The shortcut of a notation's caption is the keyboard's way to click its first box.
     const auto* legende = qobject_cast<QLabel*>(objet);
     const QObject* vise = legende != nullptr ? legende->buddy() : objet;
-    const auto boite =
-        std::find_if(boites.begin(), boites.end(), [&](const Boite& b) { return b.champ == vise; });
-    if (boite == boites.end()) {
+    const auto boite = std::find_if(boites_.begin(), boites_.end(),
+                                    [&](const Boite& b) { return b.champ == vise; });
+    if (boite == boites_.end())
         return QDialog::eventFilter(objet, evenement);
-    }
     if (legende != nullptr) {
-        if (evenement->type() == QEvent::Shortcut) {
+        if (evenement->type() == QEvent::Shortcut)
             Choisir(*boite);
-        }
         return false;
     }
     switch (evenement->type()) {
     case QEvent::KeyPress:
         return TraiterTouche(*boite, *static_cast<QKeyEvent*>(evenement));
     case QEvent::MouseButtonRelease:
-        if (static_cast<QMouseEvent*>(evenement)->button() == Qt::LeftButton) {
+        if (static_cast<QMouseEvent*>(evenement)->button() == Qt::LeftButton)
             Choisir(*boite);
-        }
         return false;
     case QEvent::FocusIn:
     case QEvent::FocusOut: {
         // A window that comes and goes, or a context menu, neither enters a box nor leaves it.
-        const auto raison = static_cast<QFocusEvent*>(evenement)->reason();
-        if (raison == Qt::ActiveWindowFocusReason || raison == Qt::PopupFocusReason) {
+        if (FoyerVenuDAilleurs(static_cast<QFocusEvent*>(evenement)->reason()))
             return false;
-        }
-        if (evenement->type() == QEvent::FocusOut) {
+        if (evenement->type() == QEvent::FocusOut)
             Quitter(*boite);
-        } else {
+        else
             boite->champ->selectAll();
-        }
         return false;
     }
     default:
@@ -198,14 +185,12 @@ bool Dlg2::TraiterTouche(const Boite& boite, const QKeyEvent& touche) {
         return true;
     }
     // Kept on purpose: Backspace does not empty a letter box.
-    if (EstLettre(boite.regle) && touche.key() == Qt::Key_Backspace) {
+    if (EstLettre(boite.regle) && touche.key() == Qt::Key_Backspace)
         return true;
-    }
     const QString texte = touche.text();
     const bool commande = (touche.modifiers() & ~Qt::ShiftModifier) == Qt::ControlModifier;
-    if (commande || texte.isEmpty() || !texte.front().isPrint()) {
+    if (commande || texte.isEmpty() || !texte.front().isPrint())
         return false;
-    }
     const bool plein = boite.regle.largeur > 0 && !boite.champ->hasSelectedText() &&
                        boite.champ->text().size() >= static_cast<int>(boite.regle.largeur);
     return plein || FiltrerCaractere(boite.regle.genre, texte.front().unicode()) == 0;
@@ -216,9 +201,8 @@ bool Dlg2::TraiterTouche(const Boite& boite, const QKeyEvent& touche) {
 void Dlg2::Confirmer(const Boite& boite) {
     if (boite.notation == Notation::Locator) {
         const std::string saisi = boite.champ->text().toStdString();
-        if (!LocatorValide(saisi)) {
+        if (!LocatorValide(saisi))
             return;
-        }
         RetenirLocator(saisi);
         AfficherDepuisLocator();
     }
@@ -228,35 +212,33 @@ void Dlg2::Confirmer(const Boite& boite) {
 // Kept on purpose: only choosing a notation, by a click or by the shortcut of its caption, makes
 // its boxes drive the others; passing through a box with the Tab key does not.
 void Dlg2::Choisir(const Boite& boite) {
-    notation = boite.notation;
+    notation_ = boite.notation;
     boite.champ->selectAll();
 }
 
 void Dlg2::Quitter(const Boite& boite) {
-    if (boite.notation != Notation::Locator) {
+    if (boite.notation != Notation::Locator)
         return;
-    }
     const std::string saisi = boite.champ->text().toStdString();
     if (boite.champ->text().size() < static_cast<int>(kLargeurLocator)) {
-        boite.champ->setText(QString::fromStdString(locator));
+        boite.champ->setText(QString::fromStdString(locator_));
         AfficherDepuisLocator();
-    } else if (locatorEdite && LocatorValide(saisi)) {
+    } else if (locatorEdite_ && LocatorValide(saisi)) {
         // Left without Enter, a complete locator would contradict the coordinates beside it.
         RetenirLocator(saisi);
         AfficherDepuisLocator();
     }
-    locatorEdite = false;
+    locatorEdite_ = false;
 }
 
 void Dlg2::TraiterChangement(const Boite& boite) {
     if (boite.notation == Notation::Locator) {
-        locatorEdite = true;
-    } else if (boite.notation == notation) {
-        if (notation == Notation::Dms) {
+        locatorEdite_ = true;
+    } else if (boite.notation == notation_) {
+        if (notation_ == Notation::Dms)
             ChangerDms(boite);
-        } else {
+        else
             ChangerDecimal(boite);
-        }
     }
 }
 
@@ -268,16 +250,15 @@ void Dlg2::ChangerDms(const Boite& boite) {
     }
     CalculerDepuisDMS();
     const bool complet = boite.champ->text().size() == static_cast<int>(boite.regle.largeur);
-    if (!refuse && (complet || EstLettre(boite.regle))) {
+    if (!refuse && (complet || EstLettre(boite.regle)))
         boite.suivant->setFocus();
-    }
 }
 
 void Dlg2::ChangerDecimal(const Boite& boite) {
     const float lu = LireDecimal(boite.champ->text().toStdString());
-    (boite.champ == ui->Fr1LatCent ? latitude : longitude) = lu;
-    if (std::abs(latitude) < kLimiteLatitude && std::abs(longitude) < kLimiteLongitude) {
-        RetenirLocator(CoordVersLocator(latitude, longitude));
+    (boite.champ == ui_->Fr1LatCent ? latitude_ : longitude_) = lu;
+    if (std::abs(latitude_) < kLimiteLatitude && std::abs(longitude_) < kLimiteLongitude) {
+        RetenirLocator(CoordVersLocator(latitude_, longitude_));
         AfficherDms();
     }
 }
@@ -287,58 +268,53 @@ void Dlg2::CalculerDepuisDMS() {
                          const QLineEdit* secondes) {
         return DmsVersDecimal({Entier(degres), Entier(minutes), Entier(secondes)});
     };
-    latitude = lire(ui->Fr1DegText1, ui->Fr1MinText1, ui->Fr1SecText1);
-    longitude = lire(ui->Fr1DegText2, ui->Fr1MinText2, ui->Fr1SecText2);
-    if (ui->Fr1LatSgnText->text() == QLatin1String("S")) {
-        latitude = -latitude;
-    }
-    if (ui->Fr1LonSgnText->text() == QLatin1String("E")) {
-        longitude = -longitude;
-    }
+    latitude_ = lire(ui_->Fr1DegText1, ui_->Fr1MinText1, ui_->Fr1SecText1);
+    longitude_ = lire(ui_->Fr1DegText2, ui_->Fr1MinText2, ui_->Fr1SecText2);
+    if (ui_->Fr1LatSgnText->text() == QLatin1String("S"))
+        latitude_ = -latitude_;
+    if (ui_->Fr1LonSgnText->text() == QLatin1String("E"))
+        longitude_ = -longitude_;
     AfficherDecimal();
-    RetenirLocator(CoordVersLocator(latitude, longitude));
+    RetenirLocator(CoordVersLocator(latitude_, longitude_));
 }
 
 void Dlg2::AfficherDepuisLocator() {
-    latitude = static_cast<float>(LocatorVersLatitude(locator));
-    longitude = static_cast<float>(LocatorVersLongitude(locator));
+    latitude_ = static_cast<float>(LocatorVersLatitude(locator_));
+    longitude_ = static_cast<float>(LocatorVersLongitude(locator_));
     AfficherDecimal();
     AfficherDms();
 }
 
 void Dlg2::AfficherDecimal() {
-    ui->Fr1LatCent->setText(QString::fromStdString(FormaterDecimal(latitude)));
-    ui->Fr1LonCent->setText(QString::fromStdString(FormaterDecimal(longitude)));
+    ui_->Fr1LatCent->setText(QString::fromStdString(FormaterDecimal(latitude_)));
+    ui_->Fr1LonCent->setText(QString::fromStdString(FormaterDecimal(longitude_)));
 }
 
 void Dlg2::AfficherDms() {
     // A zero leaves the letter as it was.
-    if (latitude != 0) {
-        ui->Fr1LatSgnText->setText(latitude < 0 ? QStringLiteral("S") : QStringLiteral("N"));
-    }
-    if (longitude != 0) {
-        ui->Fr1LonSgnText->setText(longitude < 0 ? QStringLiteral("E") : QStringLiteral("O"));
-    }
-    const Dms lat = DecimalVersDms(latitude);
-    AfficherEntier(ui->Fr1DegText1, lat.degres, 2);
-    AfficherEntier(ui->Fr1MinText1, lat.minutes, 2);
-    AfficherEntier(ui->Fr1SecText1, lat.secondes, 2);
-    const Dms lon = DecimalVersDms(longitude);
-    AfficherEntier(ui->Fr1DegText2, lon.degres, 3);
-    AfficherEntier(ui->Fr1MinText2, lon.minutes, 2);
-    AfficherEntier(ui->Fr1SecText2, lon.secondes, 2);
+    if (latitude_ != 0)
+        ui_->Fr1LatSgnText->setText(latitude_ < 0 ? QStringLiteral("S") : QStringLiteral("N"));
+    if (longitude_ != 0)
+        ui_->Fr1LonSgnText->setText(longitude_ < 0 ? QStringLiteral("E") : QStringLiteral("O"));
+    const Dms lat = DecimalVersDms(latitude_);
+    AfficherEntier(ui_->Fr1DegText1, lat.degres, 2);
+    AfficherEntier(ui_->Fr1MinText1, lat.minutes, 2);
+    AfficherEntier(ui_->Fr1SecText1, lat.secondes, 2);
+    const Dms lon = DecimalVersDms(longitude_);
+    AfficherEntier(ui_->Fr1DegText2, lon.degres, 3);
+    AfficherEntier(ui_->Fr1MinText2, lon.minutes, 2);
+    AfficherEntier(ui_->Fr1SecText2, lon.secondes, 2);
 }
 
 // Takes over what the operator worked out; the few points that rounding pushes off the globe have
 // no locator and leave the last one.
 void Dlg2::RetenirLocator(const std::string& nouveau) {
-    if (!LocatorValide(nouveau)) {
+    if (!LocatorValide(nouveau))
         return;
-    }
-    locator = nouveau;
-    locatorEdite = false;
-    modifie = true;
-    ui->Fr1TextLocator->setText(QString::fromStdString(locator));
+    locator_ = nouveau;
+    locatorEdite_ = false;
+    modifie_ = true;
+    ui_->Fr1TextLocator->setText(QString::fromStdString(locator_));
 }
 
 } // namespace orvalis

@@ -27,8 +27,8 @@ class Dlg2 : public QDialog {
     explicit Dlg2(QWidget* parent = nullptr);
     ~Dlg2() override;
 
-    // The last valid locator that the operator worked out since the dialog was opened, or nothing
-    // when he changed nothing. It holds until the next opening.
+    /// The last valid locator that the operator worked out since the dialog was opened, or nothing
+    /// when he changed nothing. It holds until the next opening.
     [[nodiscard]] std::optional<std::string> LocatorModifie() const;
 
     bool eventFilter(QObject* objet, QEvent* evenement) override;
@@ -38,14 +38,14 @@ class Dlg2 : public QDialog {
     void showEvent(QShowEvent* evenement) override;
 
   private:
-    // The editing mode: which notation the operator has chosen to type in.
+    /// The editing mode: which notation the operator has chosen to type in.
     enum class Notation { Dms = 1, Locator = 2, Decimale = 3 };
 
     struct Boite {
         QLineEdit* champ;
         RegleBoite regle;
         Notation notation;
-        QWidget* suivant; // where the focus goes when the box is complete
+        QWidget* suivant; ///< where the focus goes when the box is complete
     };
 
     void PreparerBoite(const Boite& boite);
@@ -65,15 +65,15 @@ class Dlg2 : public QDialog {
     void AfficherDecimal();
     void RetenirLocator(const std::string& nouveau);
 
-    std::unique_ptr<Ui::Dlg2> ui;
-    std::array<Boite, 11> boites;
+    std::unique_ptr<Ui::Dlg2> ui_;
+    std::array<Boite, 11> boites_;
 
-    Notation notation = Notation::Locator;
-    float latitude = 0;        // positive to the North
-    float longitude = 0;       // positive to the West
-    std::string locator;       // always valid once the dialog has been opened
-    bool locatorEdite = false; // the locator box was typed in since it was last taken over
-    bool modifie = false;
+    Notation notation_ = Notation::Locator;
+    float latitude_ = 0;        ///< positive to the North
+    float longitude_ = 0;       ///< positive to the West
+    std::string locator_;       ///< always valid once the dialog has been opened
+    bool locatorEdite_ = false; ///< the locator box was typed in since it was last taken over
+    bool modifie_ = false;
 };
 
 } // namespace orvalis

@@ -22,9 +22,8 @@ int Code(std::string_view locator, std::size_t rang) {
 }
 
 char Caractere(float valeur, char base) {
-    if (!(valeur >= -32768.0F && valeur <= 32767.0F)) {
+    if (!(valeur >= -32768.0F && valeur <= 32767.0F))
         throw std::overflow_error("coordinates out of range");
-    }
     const int code = static_cast<int>(valeur) + base;
     // No locator holds a "?": what left the alphabet stays recognisably invalid.
     return code > ' ' && code < 127 ? static_cast<char>(code) : '?';
@@ -42,14 +41,11 @@ std::array<char, 3> DecouperAxe(float valeur) {
 } // namespace
 
 bool LocatorValide(std::string_view locator) {
-    if (locator.size() != kPlages.size()) {
+    if (locator.size() != kPlages.size())
         return false;
-    }
-    for (std::size_t i = 0; i < kPlages.size(); ++i) {
-        if (locator[i] < kPlages[i].premier || locator[i] > kPlages[i].dernier) {
+    for (std::size_t i = 0; i < kPlages.size(); ++i)
+        if (locator[i] < kPlages[i].premier || locator[i] > kPlages[i].dernier)
             return false;
-        }
-    }
     return true;
 }
 

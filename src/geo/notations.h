@@ -8,46 +8,46 @@
 
 namespace orvalis {
 
-// Unsigned: the side of the equator or of the meridian is a letter beside it.
+/// Unsigned: the side of the equator or of the meridian is a letter beside it.
 struct Dms {
     int degres = 0;
     int minutes = 0;
     int secondes = 0;
 };
 
-// Decimal degrees, without sign. Minutes become hundredths of a degree rounded to a whole
-// hundredth, seconds divided by 0.6 become ten-thousandths: 44° 08' 45" is 44.1375, not 44.1458.
+/// Decimal degrees, without sign. Minutes become hundredths of a degree rounded to a whole
+/// hundredth, seconds divided by 0.6 become ten-thousandths: 44° 08' 45" is 44.1375, not 44.1458.
 [[nodiscard]] float DmsVersDecimal(const Dms& dms);
 
-// Undoes exactly that scale for the absolute value of `decimal` (|decimal| below 32768). A value
-// within half a ten-thousandth below the next degree gives 60 minutes.
+/// Undoes exactly that scale for the absolute value of `decimal` (|decimal| below 32768). A value
+/// within half a ten-thousandth below the next degree gives 60 minutes.
 [[nodiscard]] Dms DecimalVersDms(float decimal);
 
-// Four decimals and a point whatever the locale, an exact half away from zero; a value that shows
-// as zero has no sign.
+/// Four decimals and a point whatever the locale, an exact half away from zero; a value that shows
+/// as zero has no sign.
 [[nodiscard]] std::string FormaterDecimal(float degres);
 
-// The number at the start of the text, 0 when there is none: "-", "." and "/" may be typed
-// anywhere, and the first one that does not continue the number ends it. Values beyond any
-// coordinate are limited to 1000.
+/// The number at the start of the text, 0 when there is none: "-", "." and "/" may be typed
+/// anywhere, and the first one that does not continue the number ends it. Values beyond any
+/// coordinate are limited to 1000.
 [[nodiscard]] float LireDecimal(std::string_view texte);
 
 enum class GenreBoite {
-    Chiffres,   // digits
-    Hemisphere, // "N" or "S"
-    Cote,       // "E" or "O"
-    Decimal,    // digits, "-", "." and "/"
-    Locator,    // anything printable, in upper case
+    Chiffres,   ///< digits
+    Hemisphere, ///< "N" or "S"
+    Cote,       ///< "E" or "O"
+    Decimal,    ///< digits, "-", "." and "/"
+    Locator,    ///< anything printable, in upper case
 };
 
 struct RegleBoite {
     GenreBoite genre = GenreBoite::Chiffres;
-    std::size_t largeur = 0; // in characters; 0: free
-    int limite = 0;          // values from here on are refused; 0: none
+    std::size_t largeur = 0; ///< in characters; 0: free
+    int limite = 0;          ///< values from here on are refused; 0: none
 };
 
-// The character the box takes for the one typed or pasted (turned to upper case where the box wants
-// it), or 0 when it takes none.
+/// The character the box takes for the one typed or pasted (turned to upper case where the box
+/// wants it), or 0 when it takes none.
 [[nodiscard]] char16_t FiltrerCaractere(GenreBoite genre, char16_t caractere);
 
 struct TexteFiltre {
@@ -55,8 +55,8 @@ struct TexteFiltre {
     std::size_t curseur = 0;
 };
 
-// What remains of a text after an insertion that ends at `curseur`: refused characters are dropped
-// first, then the inserted text is cut from its end until the box's width is kept.
+/// What remains of a text after an insertion that ends at `curseur`: refused characters are dropped
+/// first, then the inserted text is cut from its end until the box's width is kept.
 [[nodiscard]] TexteFiltre FiltrerTexte(const RegleBoite& regle, std::u16string_view texte,
                                        std::size_t curseur);
 
