@@ -255,12 +255,13 @@ void Dlg2::ChangerDms(const Boite& boite) {
 }
 
 void Dlg2::ChangerDecimal(const Boite& boite) {
+    const bool estLatitude = boite.champ == ui_->Fr1LatCent;
     const float lu = LireDecimal(boite.champ->text().toStdString());
-    (boite.champ == ui_->Fr1LatCent ? latitude_ : longitude_) = lu;
-    if (std::abs(latitude_) < kLimiteLatitude && std::abs(longitude_) < kLimiteLongitude) {
-        RetenirLocator(CoordVersLocator(latitude_, longitude_));
-        AfficherDms();
-    }
+    if (std::abs(lu) >= static_cast<float>(estLatitude ? kLimiteLatitude : kLimiteLongitude))
+        return;
+    (estLatitude ? latitude_ : longitude_) = lu;
+    RetenirLocator(CoordVersLocator(latitude_, longitude_));
+    AfficherDms();
 }
 
 void Dlg2::CalculerDepuisDMS() {

@@ -21,10 +21,6 @@ inline constexpr std::string_view kVoieBureau = "BUREAU";
 inline constexpr std::string_view kVoieDirect = "DIRECT";
 inline constexpr std::string_view kPlusDEtiquette = " Plus d'étiquette disponible ! ";
 
-/// Captions of the two buttons that lie beside the sheet.
-inline constexpr std::string_view kLegendeImprimer = "Imprimer";
-inline constexpr std::string_view kLegendeRestaurer = "Restaurer";
-
 enum class EtatEtiquette : unsigned char {
     Libre,    ///< free and available
     Preparee, ///< holds a label

@@ -21,7 +21,7 @@ APropos::APropos(Systeme& systeme, QWidget* parent)
                                       QSysInfo::currentCpuArchitecture()));
 #ifdef Q_OS_WIN
     connect(ui_->BtInfosSysteme, &QPushButton::clicked, this, [this, &systeme] {
-        if (const auto raison = systeme.Lancer(QStringLiteral("msinfo32"), {}))
+        if (const auto raison = systeme.Lancer(QStringLiteral("msinfo32")))
             systeme.Avertir(this, *raison);
     });
 #else

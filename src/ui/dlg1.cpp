@@ -35,7 +35,8 @@ Dlg1::Dlg1(std::filesystem::path lecteur, Systeme& systeme, QWidget* parent)
         // What was accepted no longer holds once the operator types on.
         connect(boite, &QLineEdit::textEdited, ui_->Dlg1Fra3, &QWidget::hide);
     }
-    ui_->Dlg1Fra3CmdValider->installEventFilter(this);
+    for (QPushButton* bouton : findChildren<QPushButton*>())
+        bouton->installEventFilter(this);
     connect(ui_->BtAppelLocator, &QPushButton::clicked, this, &Dlg1::CalculerLocator);
     connect(ui_->Dlg1Fra3CmdValider, &QPushButton::clicked, this, &Dlg1::Valider);
     connect(ui_->Dlg1Fra2CmdArreter, &QPushButton::clicked, this, &QDialog::reject);
@@ -52,7 +53,7 @@ bool Dlg1::eventFilter(QObject* objet, QEvent* evenement) {
     else if (objet == ui_->Dlg1Fra2Text2)
         AccepterLocator();
     else
-        ui_->Dlg1Fra3CmdValider->click();
+        static_cast<QPushButton*>(objet)->click();
     return true;
 }
 

@@ -95,7 +95,7 @@ void AfficherHeure(Plateau& p) {
 void LancerCompagnon(Plateau& p, std::string_view nom) {
     const fs::path dossier = DossierProgramme(p.session.lecteur);
     const auto lancer = [&](std::string_view programme) {
-        return p.systeme.Lancer(Q(TrouverFichier(dossier, programme).string()), {});
+        return p.systeme.Lancer(Q(TrouverFichier(dossier, programme).string()));
     };
     std::optional<QString> raison = lancer(nom);
 #ifndef Q_OS_WIN

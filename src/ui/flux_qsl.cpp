@@ -177,7 +177,9 @@ void SurSaisieEtiquette(Plateau& p, std::size_t boite, const std::string& texte)
 void SurEntreeEtiquette(Plateau& p, std::size_t boite) {
     EntrerBoite(p.feuille);
     Peindre(p);
-    if (!p.feuille.fraiche || boite >= kBoiteManager)
+    if (p.feuille.fraiche && boite == kBoiteNumeroFiche)
+        p.feuilleQSL.DonnerFoyerBoite(kBoiteIndicatif);
+    else if (!p.feuille.fraiche || boite >= kBoiteManager)
         p.feuilleQSL.DonnerFoyerValider();
     else if (boite == kBoiteLigne2)
         p.feuilleQSL.DonnerFoyerVoie();

@@ -29,6 +29,8 @@ struct DescriptionBoiteEditeur {
     const char* bulle;
 };
 
+constexpr std::size_t kRangeeContact = 1; // whose label it is, captions beside the boxes
+
 constexpr std::array<DescriptionBoiteEditeur, kNbBoitesEtiquette> kBoitesEditeur = {{
     {kBoiteIndicatif, "Indicatif", Largeur(ChampEtiquette::Indicatif), Touches::Majuscules, 2,
      "Indicatif du correspondant"},
@@ -45,10 +47,10 @@ constexpr std::array<DescriptionBoiteEditeur, kNbBoitesEtiquette> kBoitesEditeur
      "Imprimée après « Via QSL Manager » ; l'étiquette en garde 15 caractères"},
     {kBoiteManager, "QSL manager", Largeur(ChampEtiquette::Voie), Touches::Majuscules, 5,
      "Indicatif du manager, quand la carte ne part ni par le bureau ni en direct"},
-    {kBoiteRappel, "Contact", Largeur(ChampEtiquette::Indicatif), Touches::Majuscules, 1,
-     "Station à qui la carte est destinée"},
-    {kBoiteNumeroFiche, "Fiche N°", Largeur(ChampEtiquette::NumeroFiche), Touches::Chiffres, 1,
-     "Numéro du contact dans le cahier"},
+    {kBoiteRappel, "Contact", Largeur(ChampEtiquette::Indicatif), Touches::Majuscules,
+     kRangeeContact, "Station à qui la carte est destinée"},
+    {kBoiteNumeroFiche, "Fiche N°", Largeur(ChampEtiquette::NumeroFiche), Touches::Chiffres,
+     kRangeeContact, "Numéro du contact dans le cahier"},
 }};
 
 constexpr bool DansLOrdre() {
@@ -58,11 +60,6 @@ constexpr bool DansLOrdre() {
     return true;
 }
 static_assert(DansLOrdre(), "the table is indexed by box");
-
-// Shown, never typed into.
-constexpr bool EstUnRappel(std::size_t boite) {
-    return boite == kBoiteRappel || boite == kBoiteNumeroFiche;
-}
 
 constexpr int kTraitEtudiee = 2; // width of the frame of the place that the editor is about
 
@@ -148,7 +145,7 @@ void PictFeuilleQSL::FaireBoites() {
                                                  ui_->rangee4, ui_->rangee5};
     for (std::size_t i = 0; i < kNbBoitesEtiquette; ++i)
         FaireBoite(i, *rangees[kBoitesEditeur[i].rangee - 1]);
-    ui_->rangee1->addStretch(1);
+    ui_->rangee1->insertStretch(2, 1); // the callsign left, the number of the contact right
 }
 
 void PictFeuilleQSL::FaireBoite(std::size_t rang, QHBoxLayout& rangee) {
@@ -165,20 +162,22 @@ void PictFeuilleQSL::FaireBoite(std::size_t rang, QHBoxLayout& rangee) {
     const int chiffre = boite.texte->fontMetrics().horizontalAdvance(QLatin1Char('0'));
     constexpr int kBords = 14;
     boite.texte->setMinimumWidth(static_cast<int>(d.longueur) * chiffre + kBords);
-    if (EstUnRappel(d.boite)) {
+    if (d.boite == kBoiteRappel) { // shown, never typed into
         boite.texte->setFrame(false);
         boite.texte->setReadOnly(true);
         boite.texte->setFocusPolicy(Qt::ClickFocus);
+    }
+    if (d.rangee == kRangeeContact) {
         rangee.addWidget(boite.legende);
         rangee.addWidget(boite.texte);
-        return;
+    } else {
+        auto* cellule = new QVBoxLayout;
+        cellule->setSpacing(1);
+        cellule->addStretch(1);
+        cellule->addWidget(boite.legende);
+        cellule->addWidget(boite.texte);
+        rangee.addLayout(cellule, static_cast<int>(d.longueur));
     }
-    auto* cellule = new QVBoxLayout;
-    cellule->setSpacing(1);
-    cellule->addStretch(1);
-    cellule->addWidget(boite.legende);
-    cellule->addWidget(boite.texte);
-    rangee.addLayout(cellule, static_cast<int>(d.longueur));
     connect(boite.texte, &QLineEdit::textEdited, this,
             [this, &d](const QString& texte) { Q_EMIT boiteSaisie(d.boite, texte); });
     connect(boite.texte, &QLineEdit::returnPressed, this,
@@ -206,7 +205,7 @@ void PictFeuilleQSL::BrancherBoutons() {
 
 // The editor, its buttons, those of the sheet, then the places in the order of their numbers.
 void PictFeuilleQSL::OrdonnerTabulation() {
-    std::vector<QWidget*> ordre;
+    std::vector<QWidget*> ordre = {Boite(kBoiteNumeroFiche).texte};
     for (std::size_t i = kBoiteIndicatif; i <= kBoiteLigne2; ++i)
         ordre.push_back(Boite(i).texte);
     ordre.insert(ordre.end(),
@@ -257,7 +256,7 @@ void PictFeuilleQSL::MontrerBoites(const FeuilleQSL& feuille) {
             boite.filtre->Montrer(texte);
             boite.texte->setCursorPosition(0);
         }
-        if (EstUnRappel(d.boite))
+        if (d.boite == kBoiteRappel)
             boite.legende->setVisible(!texte.isEmpty());
         else
             boite.texte->setReadOnly(!feuille.fraiche);

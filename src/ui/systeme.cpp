@@ -83,8 +83,8 @@ QString SystemeReel::ChoisirFichier(QWidget* parent, const DemandeFichier& deman
     return dialogue.selectedFiles().constFirst();
 }
 
-std::optional<QString> SystemeReel::Lancer(const QString& chemin, const QStringList& arguments) {
-    if (QProcess::startDetached(chemin, arguments))
+std::optional<QString> SystemeReel::Lancer(const QString& chemin) {
+    if (QProcess::startDetached(chemin, {}))
         return std::nullopt;
     return RaisonDeLancement(chemin);
 }

@@ -52,8 +52,7 @@ class Systeme {
     /// Lets the operator choose the printer for every print to come.
     virtual void ConfigurerImprimante(QWidget* parent) = 0;
     /// Starts another program without waiting; the reason in French when it does not start.
-    [[nodiscard]] virtual std::optional<QString> Lancer(const QString& chemin,
-                                                        const QStringList& arguments) = 0;
+    [[nodiscard]] virtual std::optional<QString> Lancer(const QString& chemin) = 0;
     /// Ends the program with this status.
     virtual void Quitter(int code) = 0;
 };
@@ -71,8 +70,7 @@ class SystemeReel : public Systeme {
     [[nodiscard]] QString ChoisirFichier(QWidget* parent, const DemandeFichier& demande) override;
     [[nodiscard]] std::unique_ptr<Imprimante> PreparerImpression(QWidget* parent) override;
     void ConfigurerImprimante(QWidget* parent) override;
-    [[nodiscard]] std::optional<QString> Lancer(const QString& chemin,
-                                                const QStringList& arguments) override;
+    [[nodiscard]] std::optional<QString> Lancer(const QString& chemin) override;
     void Quitter(int code) override;
 
   private:

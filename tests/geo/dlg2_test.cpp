@@ -80,7 +80,8 @@ TEST_F(Dlg2Test, LesDegresDecimauxEntrainentLeReste) {
         // The same notation: entering the next box is enough. 180 itself is out of range.
         {"!Tab :18a0,", kTout, "33|52|12|S|018|00|00|O|-33.872|180|IF16AD|Fr1LonCent"},
         {"!Backspace", kTout, "33|52|12|S|018|00|00|O|-33.872|18|IF16AD|Fr1LonCent"},
-        {"Fr1LatCent :" + std::string(44, '9'), "Fr1TextLocator", "IJ18AX"}, // of 9
+        // Of 9, in single precision; what is out of range does not hold the other box back.
+        {"Fr1LatCent :" + std::string(44, '9') + " !Tab :20", "Fr1TextLocator", "IJ08AX"},
     });
 }
 

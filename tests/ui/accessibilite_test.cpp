@@ -69,7 +69,7 @@ TEST(Accessibilite, NomsEtClavierDansChaqueEtat) {
                        {"^S", ""},
                        {"^R =f5qso", ""},
                        {"MnuJumeler", ""},
-                       {"MnuGestionFeuilleQSL", "FLdText_10 FLdText_11 "}}) {
+                       {"MnuGestionFeuilleQSL", "FLdText_10 "}}) {
         Banc banc(Contacts(30) + Fin());
         banc.Faire(gestes);
         EXPECT_EQ(Defauts(*banc.fenetre), voulus) << gestes;

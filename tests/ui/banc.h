@@ -41,8 +41,7 @@ class SystemeDEssai : public Systeme {
     }
     void ConfigurerImprimante(QWidget* /*parent*/) override { demandes << Q("imprimante"); }
     /// No other program is there.
-    [[nodiscard]] std::optional<QString> Lancer(const QString& chemin,
-                                                const QStringList& /*arguments*/) override {
+    [[nodiscard]] std::optional<QString> Lancer(const QString& chemin) override {
         demandes << chemin;
         return QStringLiteral("absent");
     }

@@ -120,7 +120,7 @@ TEST(Qsl, VieDUneEtiquette) {
                                        "T 6500 1650 8g Courrier Pse / Tnx  QSL via  F6?X"}));
     EXPECT_EQ(Ecart(banc, Cahier("21/11/26", ""), liberee), "");
     banc.Suivre({
-        {"MnuGestionFeuilleQSL BtTag_5 =f1zzz", "FLdText_10", "F1ZZZ"},
+        {"MnuGestionFeuilleQSL BtTag_5 @FLdText_11 =2 =f1zzz", "FLdText_10 FLdText_11", "F1ZZZ|2"},
         {"^V", "",
          "Etiquette N° 1 (F1ZZZ) : aucune fiche du cahier ne lui correspond, aucune n'a été "
          "modifiée."},
