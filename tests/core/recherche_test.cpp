@@ -88,14 +88,5 @@ TEST_F(Recherche, Doublons) {
               "1      VP2/F1AAA/Le 12/05/02 à 18:30          ");
 }
 
-TEST_F(Recherche, GrandCahier) {
-    std::string octets;
-    for (int k = 1; k <= 40'000; ++k)
-        octets += Contact(k % 20'000 < 2 ? std::string{"F5ABC"} : std::to_string(k));
-    Poser(octets + Fin());
-    EXPECT_EQ(Dire(Chercher("f5abc")), "1 20000 20001 40000 | 4 Contacts réalisés | ");
-    EXPECT_EQ(Dire(ChercherDoublons(journal, nb)), "20000 | 1 | Doublon trouvé");
-}
-
 } // namespace
 } // namespace orvalis

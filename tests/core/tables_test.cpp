@@ -1,9 +1,9 @@
-// Texts, dates, departments, pages and the filters of the boxes.
+// Texts, dates, departments, the filters of the boxes and the commands of each state.
 #include "aides.h"
 #include "core/boites.h"
+#include "core/commandes.h"
 #include "core/dates.h"
 #include "core/departements.h"
-#include "core/pages.h"
 #include "core/texte.h"
 
 namespace orvalis {
@@ -76,31 +76,6 @@ TEST(Departements, NomDuCode) {
     EXPECT_EQ(Suite(nom, "|96|976|AB|0"), "||||");
 }
 
-TEST(Pages, NombreEtPlages) {
-    // contacts, pages, range of the last page
-    for (const auto& [nb, pages, premiere, derniere] : {std::array{0, 1, 1, 0},
-                                                        {1, 1, 1, 1},
-                                                        {25, 1, 1, 25},
-                                                        {26, 2, 26, 26},
-                                                        {50, 2, 26, 50},
-                                                        {51, 3, 51, 51}}) {
-        EXPECT_EQ(CalculerPages(nb), pages);
-        EXPECT_EQ(CalculerPlage(pages, nb).premiere, premiere) << nb;
-        EXPECT_EQ(CalculerPlage(pages, nb).derniere, derniere) << nb;
-    }
-    EXPECT_EQ(CalculerPlage(CalculerPages(32767), 40000).derniere, 32767);
-}
-
-TEST(Pages, LigneDeLaListe) {
-    QsoRecord fiche;
-    MettreChamp(fiche, Champ::DQSO, "12/05/02");
-    MettreChamp(fiche, Champ::HDEB, "18:30");
-    EXPECT_EQ(LigneListe(7, fiche), "7      :           :12/05/02:18:30      ");
-    MettreChamp(fiche, Champ::CSGN, "VP2/F5XYZ/MM");
-    EXPECT_EQ(LigneListe(32767, fiche), "32767  : VP2/F5XYZ/:12/05/02:18:30      ");
-    EXPECT_EQ(NumeroDeLigne("32767  : VP2/F5XYZ/"), 32767);
-}
-
 TEST(Boites, TouchesDeChaqueBoite) {
     EXPECT_EQ(FiltrerTouches(Touches::Majuscules, "f6é-\t\n"), "F6É-");
     EXPECT_EQ(FiltrerTouches(Touches::DateHeureFreq, "-./09:;+a 漢,"), "./09:");
@@ -141,6 +116,44 @@ TEST(Boites, UneEditionNeFiltreQueCeQuElleApporte) {
         EXPECT_EQ(edite.texte, c.texte);
         EXPECT_EQ(edite.curseur, c.curseur) << c.texte;
     }
+}
+
+/// The commands refused, in the order of the table. A state is N, then what is under way or the
+/// other logbook on show.
+std::string Refusees(const std::string& etat) {
+    const std::string suite = etat.substr(1);
+    Session session;
+    session.journal = Journal("/dev/null", ModeFichier::Lecture);
+    session.indicatif = "F5ABC";
+    session.nbFiches = etat[0] - '0';
+    session.autreJournal = suite[0] == 'F' ? suite : "";
+    session.saisie.EnSaisie = suite == "saisie";
+    session.saisie.NbModifs = suite == "modif" ? 1 : 0;
+    std::string refusees;
+    for (const RegleCommande& regle : kReglesCommandes)
+        if (!CommandePermise(regle.commande, session))
+            refusees += std::string{regle.nom.empty() ? "Modifier" : regle.nom} + " ";
+    return refusees;
+}
+
+TEST(Commandes, RefuseesDansChaqueEtat) {
+    const std::string edition = "BtNewQSO BtKillFiche Modifier ";
+    const std::string jumelage = "MnuJumeler BtPjumeler BtPjSauvegarder ";
+    const Textes cas = {
+        {"2", "MnuChangerLocator "},
+        {"1", "MnuClasser MnuChangerLocator "},
+        {"0", "MnuCreateMDB MnuCopieSurDisque MnuClasser MnuSauver MnuImpPage MnuChangerLocator "
+              "BtKillFiche Modifier "},
+        {"2saisie", "MnuCourantF MnuAutreF " + jumelage +
+                        "MnuCreateMDB MnuCopieSurDisque MnuClasser MnuSauver MnuConfigImp "
+                        "MnuImpPage MnuImpPageVierge MnuVirginTags MnuGestionFeuilleQSL " +
+                        edition},
+        {"2modif", "MnuCreateMDB MnuChangerLocator MnuVirginTags MnuGestionFeuilleQSL "},
+        {"2F6XYZ", jumelage + "MnuSauver MnuChangerLocator " + edition},
+        {"2F5ABC", jumelage + "MnuSauver MnuChangerLocator "},
+    };
+    Verifier(Refusees, cas);
+    EXPECT_FALSE(CommandePermise(Commande::MnuGestionFeuilleQSL, Session{}));
 }
 
 } // namespace

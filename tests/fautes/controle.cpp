@@ -57,17 +57,14 @@ std::string DegatDeLaFeuille(const std::string& a, const std::string& b, const s
         return {};
     if (t.size() != b.size())
         return "sheet of " + std::to_string(t.size()) + " bytes";
-    std::vector<std::string> indicatifs;
     for (std::size_t i = 0; i < t.size(); i += kTailleEtiquette) {
         const std::string place = t.substr(i, kTailleEtiquette);
         const bool ancienne = !a.empty() && place == a.substr(i, kTailleEtiquette);
         if (place != b.substr(i, kTailleEtiquette) && !ancienne)
             return "torn label [" + place + "]";
-        indicatifs.push_back(place.substr(0, 15));
     }
     for (const std::string& fiche : Lire(cahier))
-        if (fiche.substr(143, 8) == "En cours" &&
-            std::count(indicatifs.begin(), indicatifs.end(), fiche.substr(0, 15)) == 0)
+        if (fiche.substr(143, 8) == "En cours" && t.find(fiche.substr(0, 15)) == t.npos)
             return "without a label: " + fiche;
     return {};
 }

@@ -18,9 +18,11 @@ struct Enregistreur : Imprimante {
     std::string famille;
     int x0 = 0, y0 = 0; ///< origin of the coordinates written down
     std::vector<std::string> operations;
+    std::vector<std::string>* copie = nullptr; ///< where they stay when the printer has gone
 
     explicit Enregistreur(std::string familleUsuelle = {}, int x = 0, int y = 0)
         : famille(std::move(familleUsuelle)), x0(x), y0(y) {}
+    explicit Enregistreur(std::vector<std::string>& apres) : copie(&apres) {}
 
     void ChoisirPapier(Papier, Orientation o) override {
         operations.emplace_back(o == Orientation::Portrait ? "P A4 portrait" : "P A4 paysage");
@@ -41,7 +43,11 @@ struct Enregistreur : Imprimante {
     }
     void TracerLigne(int x1, int y1, int x2, int y2) override { Tracer('L', x1, y1, x2, y2); }
     void TracerRectangle(int x1, int y1, int x2, int y2) override { Tracer('R', x1, y1, x2, y2); }
-    void TerminerDocument() override { operations.emplace_back("FIN"); }
+    void TerminerDocument() override {
+        operations.emplace_back("FIN");
+        if (copie != nullptr)
+            *copie = operations;
+    }
 
     [[nodiscard]] std::ptrdiff_t Compter(std::string_view debut) const {
         return std::count_if(operations.begin(), operations.end(),

@@ -36,19 +36,6 @@ const std::string kEtiquetteXyz = "F6XYZ/P        F5ABC          BEAM 3 EL      
 const std::string kEtiquette1 = "F1QSO          F5ABC                         F6?X           "
                                 "12/05/0200:0114.210            SSB  2         ";
 
-// A printer that leaves its operations behind.
-struct Rapporteur : Enregistreur {
-    explicit Rapporteur(std::vector<std::string>& vers)
-        : Enregistreur("Comic sans MS"), vers_(vers) {}
-    void TerminerDocument() override {
-        Enregistreur::TerminerDocument();
-        vers_ = operations;
-    }
-
-  private:
-    std::vector<std::string>& vers_;
-};
-
 TEST(Qsl, VieDUneEtiquette) {
     const std::string autre = Contacts(2).substr(kTailleFiche);
     Banc banc(autre + Cahier("", ""));
@@ -111,7 +98,7 @@ TEST(Qsl, VieDUneEtiquette) {
     EXPECT_EQ(Ecart(banc, Cahier("En cours", ""), liberee + kEtiquette1), "");
 
     // For good; then a label of nobody's.
-    banc.systeme.imprimante = [&] { return std::make_unique<Rapporteur>(operations); };
+    banc.systeme.imprimante = [&] { return std::make_unique<Enregistreur>(operations); };
     banc.Suivre({{"BtPrintQSL ^T", "?PictFeuilleQSL", "C"}});
     const QString page = banc.Controle<FeuilleLog>("PageText1")->toPlainText();
     EXPECT_TRUE(page.contains(Q("21/11/26")));
@@ -167,7 +154,7 @@ TEST(Qsl, LeServiceAttend) {
 TEST(Impression, PagesPlanchesEtReglage) {
     Banc banc(Contacts(30) + Fin());
     std::vector<std::string> operations;
-    banc.systeme.imprimante = [&] { return std::make_unique<Rapporteur>(operations); };
+    banc.systeme.imprimante = [&] { return std::make_unique<Enregistreur>(operations); };
     const auto ligne26 = testing::Contains("T 160 1920 8 MS sans Serif 000026");
     banc.Faire("MnuImpPage");
     EXPECT_THAT(operations, ligne26);
@@ -180,9 +167,10 @@ TEST(Impression, PagesPlanchesEtReglage) {
     banc.Faire("CmdSensBas MnuImpPage");
     EXPECT_THAT(operations, ligne26);
     banc.Suivre({{"MnuVirginTags MnuConfigImp", "?PictCtrlImpression !", "C|imprimante"}});
-    EXPECT_THAT(operations,
-                testing::IsSupersetOf({"R 6100 14260 11300 16040", // place 16
-                                       "T 500 420 10g  F5ABC   Confirming QSO with"}));
+    EXPECT_THAT(
+        operations,
+        testing::IsSupersetOf({"R 6100 14260 11300 16040", // place 16
+                               "T 500 420 10g Comic sans MS  F5ABC   Confirming QSO with"}));
 }
 
 } // namespace
