@@ -51,28 +51,25 @@ TEST_F(Fiches, UneFicheEcriteEstCoupeeOuCompletee) {
 }
 
 TEST_F(Fiches, ComptageDesCahiersSainsEtAbimes) {
-    const struct {
-        std::string octets;
-        std::int32_t nb;
-        bool fin, entiere;
-    } cas[] = {
-        {"", 0, false, true},
-        {f, 0, true, true},
-        {a + b + f + a + a, 2, true, true}, // remains behind the end of the log
-        {a + a + a, 3, false, true},
-        {a + a.substr(0, 20), 2, false, false},
-        {a + "\\", 1, true, false},
-        {a + Contact("  \\"), 1, true, true},
-        {std::string(1000, 'x'), 7, false, false},
-        {std::string(1601 * 165, 'y') + f + a, 1601, true, true},
+    const std::pair<std::string, const char*> cas[] = {
+        // N, F with an end of log, E of whole records
+        {"", "0E"},
+        {f, "0FE"},
+        {a + b + f + a + a, "2FE"}, // remains behind the end of the log
+        {a + a + a, "3E"},
+        {a + a.substr(0, 20), "2"},
+        {a + "\\", "1F"},
+        {a + Contact("  \\"), "1FE"},
+        {std::string(1000, 'x'), "7"},
+        {std::string(1601 * 165, 'y') + f + a, "1601FE"},
     };
-    for (const auto& essai : cas) {
-        SCOPED_TRACE(essai.octets.size());
-        Poser(essai.octets);
-        EXPECT_EQ(session.nbFiches, essai.nb);
-        EXPECT_EQ(session.prochaineFiche, essai.nb + 1);
-        EXPECT_EQ(ExaminerJournal(session).finPresente, essai.fin);
-        EXPECT_EQ(ExaminerJournal(session).longueurEntiere, essai.entiere);
+    for (const auto& [octets, attendu] : cas) {
+        Poser(octets);
+        const EtatJournal etat = ExaminerJournal(session);
+        EXPECT_EQ(std::to_string(session.nbFiches) + (etat.finPresente ? "F" : "") +
+                      (etat.longueurEntiere ? "E" : ""),
+                  attendu);
+        EXPECT_EQ(session.prochaineFiche, session.nbFiches + 1);
     }
 }
 

@@ -6,13 +6,6 @@
 namespace orvalis::essais {
 namespace {
 
-std::string Inverser(const std::string& fiches) {
-    std::string sortie;
-    for (std::size_t i = fiches.size(); i > 0; i -= kTailleFiche)
-        sortie += fiches.substr(i - kTailleFiche, kTailleFiche);
-    return sortie;
-}
-
 /// Other stations than those of Contacts().
 std::string Autres(int n) {
     std::string fiches = Contacts(n);
@@ -51,7 +44,7 @@ std::vector<Operation> Operations() {
         {"suppression", Contacts(130) + fin + Autres(2), "CmdSensHaut #1 BtKillFiche", "FraCmdOui"},
         {"suppression-derniere", Contacts(25) + fin, "BtKillFiche", "FraCmdOui"},
         {"locator", Contacts(2) + fin, locator, "BtChangValid"},
-        {"tri", Inverser(Contacts(60)) + fin, "", "MnuClasser"},
+        {"tri", Contacts(60).substr(30 * kTailleFiche) + Contacts(30) + fin, "", "MnuClasser"},
         {"jumelage", Contacts(24) + fin, "<AUTRE.Vek MnuJumeler", "BtPjumeler"},
         {"sauvegarde", Contacts(60) + fin, "<VekSave/F5ABC.Vek", "MnuSauver"},
         {"etiquette-placee", Contacts(25) + fin, "TxtField_14 =F5ABC ^B", "^V", 0},

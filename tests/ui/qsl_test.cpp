@@ -115,12 +115,9 @@ TEST(Qsl, VieDUneEtiquette) {
 }
 
 TEST(Qsl, LeServiceAttend) {
-    const struct {
-        const char *etat, *gestes;
-        bool menu;     ///< the sheet opens from the menu
-        bool case14;   ///< and from the press on box 14
-        bool modifiee; ///< after which the card is under modification
-    } cas[] = {
+    // A state and the gestures to it; whether the sheet opens from the menu and from the press on
+    // box 14, and whether the card is under modification after that.
+    const std::tuple<const char*, std::string, bool, bool, bool> cas[] = {
         {"idle", "", true, true, false},
         {"MQSL not empty", "#0", true, false, true},
         {"entry", "BtNewQSO", false, false, false},
@@ -131,21 +128,21 @@ TEST(Qsl, LeServiceAttend) {
         {"another logbook", "<F6XYZ.Vek MnuAutreF", true, false, false},
         {"a copy of the own logbook", "<VekSave/F5ABC.Vek MnuAutreF", true, false, true},
     };
-    for (const auto& c : cas) {
-        SCOPED_TRACE(c.etat);
+    for (const auto& [etat, gestes, menu, case14, modifiee] : cas) {
+        SCOPED_TRACE(etat);
         const std::string cahier = Cahier("OK", "");
         Banc banc(cahier);
         std::filesystem::create_directory(banc.Dossier() / "VekSave");
         banc.Ecrire("VekSave/F5ABC.Vek", cahier);
         banc.Ecrire("F6XYZ.Vek", Contacts(2) + Fin());
         banc.Suivre({
-            {c.gestes, "", ""},
-            {"MnuGestionFeuilleQSL", "?PictFeuilleQSL", c.menu ? "A" : "C"},
-            {c.menu ? "^Q" : "", "?PictFeuilleQSL", "C"},
-            {"TxtField_14", "?PictFeuilleQSL", c.case14 ? "A" : "C"},
+            {gestes, "", ""},
+            {"MnuGestionFeuilleQSL", "?PictFeuilleQSL", menu ? "A" : "C"},
+            {menu ? "^Q" : "", "?PictFeuilleQSL", "C"},
+            {"TxtField_14", "?PictFeuilleQSL", case14 ? "A" : "C"},
         });
         const QPalette palette = banc.Controle<QLineEdit>("TxtField_14")->palette();
-        EXPECT_EQ(!c.case14 && palette.color(QPalette::Base) == QColor(255, 192, 192), c.modifiee);
+        EXPECT_EQ(!case14 && palette.color(QPalette::Base) == QColor(255, 192, 192), modifiee);
         EXPECT_EQ(Ecart(banc, cahier, ""), "");
     }
 }
