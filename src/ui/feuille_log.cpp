@@ -148,7 +148,7 @@ void FeuilleLog::PeindreTete(QPainter& peintre) const {
         peintre.drawLine(x, memeGroupe ? moitie : 0, x, mesures_.hauteur);
     }
     peintre.setPen(encres.tete);
-    peintre.drawLine(0, mesures_.tete, mesures_.largeur, mesures_.tete);
+    peintre.drawLine(0, mesures_.tete, mesures_.largeur - 1, mesures_.tete);
     peintre.drawRect(0, 0, mesures_.largeur - 1, mesures_.hauteur - 1);
 }
 
@@ -161,7 +161,7 @@ void FeuilleLog::PeindreRangees(QPainter& peintre) const {
         if (rang < rangees_.size() && rangees_[rang].numero == marquee_ && marquee_ != 0)
             peintre.fillRect(0, y, mesures_.largeur, mesures_.ligne, encres.marque);
         peintre.setPen(encres.filet);
-        peintre.drawLine(0, y + mesures_.ligne, mesures_.largeur, y + mesures_.ligne);
+        peintre.drawLine(0, y + mesures_.ligne, mesures_.largeur - 1, y + mesures_.ligne);
         if (rang >= rangees_.size())
             continue;
         peintre.setPen(encres.encre);
