@@ -7,11 +7,8 @@
 namespace orvalis {
 namespace {
 
-constexpr std::size_t kLargeurDistance = 10;
-constexpr std::size_t kLargeurAzimut = 4;
-
 const std::string& Zone(const Session& session, Champ champ) {
-    return session.zones[static_cast<std::size_t>(champ)];
+    return session.zones[NumeroZone(champ)];
 }
 
 } // namespace

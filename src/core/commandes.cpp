@@ -11,7 +11,7 @@ constexpr bool DansLOrdre() {
 }
 static_assert(DansLOrdre(), "the table is indexed by command");
 
-/// The conditions that the session meets.
+// The conditions that the session meets.
 unsigned ConditionsRemplies(const Session& session) {
     const auto si = [](bool vrai, Condition condition) {
         return vrai ? static_cast<unsigned>(condition) : 0U;

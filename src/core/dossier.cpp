@@ -11,8 +11,8 @@ namespace fs = std::filesystem;
 namespace {
 
 struct PointDeMontage {
-    std::array<std::string_view, 2> debut; ///< leading folders, the second may be empty
-    std::size_t profondeur;                ///< components of the volume's root, "/" not counted
+    std::array<std::string_view, 2> debut; // leading folders, the second may be empty
+    std::size_t profondeur;                // components of the volume's root, "/" not counted
 };
 
 constexpr std::array<PointDeMontage, 4> kPointsDeMontage = {{

@@ -48,7 +48,7 @@ void CompterFiches(Session& session) {
 Zones ZonesDeFiche(const QsoRecord& fiche) {
     Zones zones;
     for (const DescriptionChamp& d : kChamps)
-        zones[static_cast<std::size_t>(d.champ)] = TexteRogne(fiche, d.champ);
+        zones[NumeroZone(d.champ)] = TexteRogne(fiche, d.champ);
     const std::string info = TexteChamp(fiche, Champ::INFO);
     zones[kZoneInfo] = info;
     zones[kZoneRemarque] = Rogner(Gauche(info, kLargeurDemiInfo));
@@ -60,7 +60,7 @@ QsoRecord FicheDesZones(const Zones& zones) {
     QsoRecord fiche;
     for (const DescriptionChamp& d : kChamps) {
         const bool info = d.champ == Champ::INFO;
-        MettreChamp(fiche, d.champ, zones[info ? kZoneInfo : static_cast<std::size_t>(d.champ)]);
+        MettreChamp(fiche, d.champ, zones[info ? kZoneInfo : NumeroZone(d.champ)]);
     }
     return fiche;
 }
@@ -94,8 +94,8 @@ void AjouterFiche(Session& session, const QsoRecord& fin) {
 
 namespace {
 
-/// Moves records `k` + 1 to `derniere` down one place and the blank record `k` behind them, in
-/// pieces that are replaced whole: at every instant the file holds each record exactly once.
+// Moves records `k` + 1 to `derniere` down one place and the blank record `k` behind them, in
+// pieces that are replaced whole: at every instant the file holds each record exactly once.
 void DescendreFiches(Journal& journal, std::int32_t k, std::int32_t derniere) {
     if (journal.Support().Taille() < PositionFiche(derniere + 1))
         journal.Ecrire(derniere, journal.Lire(derniere));

@@ -24,7 +24,7 @@ void ChangerLocatorStation(Session& session, std::string_view texte, bool garder
     }
     session.monLocator = locator;
     if (session.saisie.EnSaisie)
-        session.zones[static_cast<std::size_t>(Champ::MLOC)] = locator;
+        session.zones[NumeroZone(Champ::MLOC)] = locator;
 }
 
 } // namespace orvalis

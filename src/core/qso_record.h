@@ -60,6 +60,11 @@ inline constexpr std::array<DescriptionChamp, kNbChamps> kChamps = {{
 
 static_assert(Contigus(kChamps, kTailleFiche));
 
+/// Number of a field's entry box and working slot.
+[[nodiscard]] constexpr std::size_t NumeroZone(Champ champ) {
+    return static_cast<std::size_t>(champ);
+}
+
 /// One contact.
 using QsoRecord = FicheOctets<Champ, kTailleFiche>;
 static_assert(sizeof(QsoRecord) == kTailleFiche);

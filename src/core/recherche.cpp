@@ -34,7 +34,7 @@ class Pliage {
             c = Plier(c);
         return sortie;
     }
-    /// Whether `cherche`, already folded, occurs in `octets`.
+    // Whether `cherche`, already folded, occurs in `octets`.
     [[nodiscard]] bool Contient(std::string_view octets, std::string_view cherche) const {
         const auto memeLettre = [this](char a, char b) { return Plier(a) == b; };
         return std::search(octets.begin(), octets.end(), cherche.begin(), cherche.end(),

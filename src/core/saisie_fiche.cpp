@@ -79,7 +79,7 @@ Reponse PresserBoite(const Session& session, std::size_t boite, std::string_view
     Reponse r = SansEffet(session);
     if (r.saisie.EnSaisie) {
         r.couleurs.push_back({boite, Couleur::VertClair});
-        if (boite == static_cast<std::size_t>(Champ::MLOC)) {
+        if (boite == NumeroZone(Champ::MLOC)) {
             r.ouvrirLocator = true;
             r.saisie.DerniereZone = static_cast<std::int16_t>(boite);
         }
@@ -102,7 +102,7 @@ Reponse PreparerSaisie(const Session& session) {
     r.saisie.TexteSaisi.clear();
     r.zones.fill({});
     // The slot too, so that the contact carries it whichever button stores it.
-    r.zones[static_cast<std::size_t>(Champ::MLOC)] = session.monLocator;
+    r.zones[NumeroZone(Champ::MLOC)] = session.monLocator;
     for (const DescriptionBoite& boite : kBoites) {
         r.textes.push_back({boite.index, r.zones[boite.index]});
         r.couleurs.push_back({boite.index, Couleur::Repos});
@@ -127,8 +127,8 @@ ContactFini FinirContact(const Session& session, FinDeSaisie fin, bool suivantAc
     contact.verdict = Verdict::Enregistrer;
     contact.zones = session.zones;
     if (session.saisie.tempsReel)
-        contact.zones[static_cast<std::size_t>(Champ::HFIN)] = HeureCourte(maintenant);
-    std::string& monLocator = contact.zones[static_cast<std::size_t>(Champ::MLOC)];
+        contact.zones[NumeroZone(Champ::HFIN)] = HeureCourte(maintenant);
+    std::string& monLocator = contact.zones[NumeroZone(Champ::MLOC)];
     if (suivant) {
         monLocator = texteBoite16;
         contact.fin = FicheFinDeLog(session.monLocator);

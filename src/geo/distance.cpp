@@ -14,7 +14,6 @@ constexpr double kPi = 3.14159265358979;   // fifteen digits, on purpose: result
 constexpr double kRadian = kPi / 180;      // one degree
 constexpr float kKmParDegre = 111.283095F; // single precision, on purpose
 constexpr double kDecalage = 0.0001;       // degrees; keeps two points of one meridian apart
-constexpr std::size_t kLargeurDistance = 10;
 
 int Signe(double valeur) {
     return (valeur > 0) - (valeur < 0);

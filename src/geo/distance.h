@@ -1,6 +1,7 @@
 // Great-circle distance and azimuth between two locators, as the texts the card shows.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -15,9 +16,13 @@ struct MemoireDistance {
     double longitude2 = 0;
 };
 
+/// Characters of the two texts.
+inline constexpr std::size_t kLargeurDistance = 10;
+inline constexpr std::size_t kLargeurAzimut = 4;
+
 struct TextesDistance {
-    std::string distance; ///< 10 characters, e.g. "1234.5 Km "
-    std::string azimut;   ///< 4 characters (UTF-8, five bytes), e.g. "045°"
+    std::string distance; ///< e.g. "1234.5 Km "
+    std::string azimut;   ///< e.g. "045°", which is five bytes
 };
 
 /// Distance in kilometres, cut to one decimal, and azimuth in whole degrees from locator1 (the own

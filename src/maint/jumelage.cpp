@@ -17,7 +17,7 @@ void RognerIndicatif(QsoRecord& fiche) {
     std::fill(std::copy(texte, fin, debut), fin, ' ');
 }
 
-/// Reads records `k` on of `source` into `bloc`, at most up to record `nombre`.
+// Reads records `k` on of `source` into `bloc`, at most up to record `nombre`.
 std::span<const QsoRecord> LireBloc(const Journal& source, std::int32_t k, std::int32_t nombre,
                                     std::vector<QsoRecord>& bloc) {
     const auto n = std::min(kFichesParBloc, static_cast<std::size_t>(nombre - k + 1));

@@ -10,14 +10,14 @@ namespace orvalis {
 namespace {
 
 constexpr auto kTaille = static_cast<std::int64_t>(kTailleFiche);
-/// Records that one write of the file moves at most.
+// Records that one write of the file moves at most.
 constexpr auto kFichesParEcriture = static_cast<std::int32_t>(kPlusGrandePiece / kTailleFiche);
 
 // Kept on purpose: each word is shown one pass late ("Dates" while the years are compared).
 constexpr std::array<std::string_view, kNbPasses> kMots = {"Dates", "Années", "Mois", "Jours",
                                                            "Heures"};
 
-/// A field trimmed and padded again to its width.
+// A field trimmed and padded again to its width.
 template<Champ champ> auto Cle(const char* fiche) {
     constexpr DescriptionChamp kDescription = Description(champ);
     std::array<char, kDescription.largeur> cle;
@@ -30,7 +30,7 @@ template<Champ champ> auto Cle(const char* fiche) {
     return cle;
 }
 
-/// Number formed by the leading digits of two characters.
+// Number formed by the leading digits of two characters.
 int Nombre(const char* deux) {
     const int dizaines = deux[0] - '0';
     const int unites = deux[1] - '0';
@@ -58,7 +58,7 @@ int Minutes(const CleHeure& heure) {
     return Nombre(heure.data() + 3);
 }
 
-/// Whether pass `passe` exchanges neighbours `a` and `b`.
+// Whether pass `passe` exchanges neighbours `a` and `b`.
 template<int passe> bool Echanger(const char* a, const char* b) {
     const CleDate dateA = Cle<Champ::DQSO>(a);
     const CleDate dateB = Cle<Champ::DQSO>(b);

@@ -17,10 +17,10 @@ constexpr int kNbRangees = 8;
 
 constexpr int kPoliceGrande = 10;
 constexpr int kPolicePetite = 8;
-constexpr std::size_t kEnTeteLong = 47; ///< characters from which a heading takes the small font
+constexpr std::size_t kEnTeteLong = 47; // characters from which a heading takes the small font
 
 constexpr std::string_view kPoliceEtiquette = "Comic sans MS";
-/// Kept on purpose: spelled with a double r, so that the system's usual substitute is taken.
+// Kept on purpose: spelled with a double r, so that the system's usual substitute is taken.
 constexpr std::string_view kPoliceValeurs = "Courrier";
 
 constexpr std::array kFilets = {600, 880, 1160};
@@ -51,7 +51,7 @@ void RognerDonnees(DonneesEtiquette& donnees) {
         *texte = std::string{Rogner(*texte)};
 }
 
-/// One label being drawn: the printer with the label's corner as origin.
+// One label being drawn: the printer with the label's corner as origin.
 class Dessin {
   public:
     Dessin(Imprimante& imprimante, OrigineEtiquette origine) : imp_(imprimante), o_(origine) {}

@@ -16,15 +16,15 @@ namespace {
 
 constexpr int kTwipsParPouce = 1440;
 constexpr int kTwipsParPoint = 20;
-constexpr double kEpaisseurTrait = 8; ///< twips
+constexpr double kEpaisseurTrait = 8; // twips
 
-/// A device that prints up to the edge (a PDF file) names no margin. Ten points centre the page
-/// and the sheet of labels on A4 and keep a PDF printable on any printer.
+// A device that prints up to the edge (a PDF file) names no margin. Ten points centre the page
+// and the sheet of labels on A4 and keep a PDF printable on any printer.
 constexpr QMarginsF kMargesParDefaut{10, 10, 10, 10};
 
-/// Families that stand in for one the system lacks, best first. The layouts are measured for the
-/// narrow faces asked for; what the system would pick by itself crosses the rules, and for the
-/// second is a script with swashes. A family that is not here gets the system's choice.
+// Families that stand in for one the system lacks, best first. The layouts are measured for the
+// narrow faces asked for; what the system would pick by itself crosses the rules, and for the
+// second is a script with swashes. A family that is not here gets the system's choice.
 struct Remplacants {
     std::string_view famille;
     std::array<std::string_view, 3> par;
@@ -57,7 +57,7 @@ QString Refus(const QPrinter& imprimante) {
         .arg(imprimante.printerName());
 }
 
-/// A full disk shows only in the file: its last line is missing.
+// A full disk shows only in the file: its last line is missing.
 bool PdfComplet(const QString& chemin) {
     constexpr qint64 kQueue = 16;
     QFile fichier(chemin);

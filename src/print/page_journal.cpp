@@ -34,12 +34,12 @@ constexpr Trait SousTete(int x1, int x2) {
     return {x1, 1440, x2, 1440};
 }
 
-/// Rule across a row; it leaves the frame's own left side free.
+// Rule across a row; it leaves the frame's own left side free.
 constexpr Trait Rangee(int y) {
     return {kGauche + 10, y, kDroite, y};
 }
 
-/// Column rules from left to right; a rule between two halves of a column starts below its head.
+// Column rules from left to right; a rule between two halves of a column starts below its head.
 constexpr std::array kTraits = {
     Vertical(700),        Vertical(1350),         SousTete(1400, 2200),  Vertical(1800, 1560),
     Vertical(2250),       Vertical(3000),         Vertical(4900),        SousTete(5000, 5850),
@@ -67,9 +67,9 @@ constexpr std::array kTetes = {
 };
 
 constexpr int kXNumero = 160;
-constexpr std::size_t kIndicatifCourt = 10; ///< longest callsign that keeps the larger font
+constexpr std::size_t kIndicatifCourt = 10; // longest callsign that keeps the larger font
 
-/// Where the columns of the page begin, after that of the number.
+// Where the columns of the page begin, after that of the number.
 constexpr std::array kXColonnes = {720,  1380, 1830, 2300, 3100,  5000,
                                    5500, 6000, 6600, 8600, 10100, 10800};
 constexpr std::size_t kColonneIndicatif = 5;
@@ -85,7 +85,7 @@ void MettrePolice(Imprimante& imprimante, int taille, bool gras) {
     imprimante.ChoisirGras(gras);
 }
 
-/// Contacts of the page on show, up to the end of the log.
+// Contacts of the page on show, up to the end of the log.
 std::vector<QsoRecord> LirePage(const Session& session) {
     const std::int32_t reste = session.nbFiches - session.premiereAffichee + 1;
     std::vector<QsoRecord> fiches(static_cast<std::size_t>(std::clamp(reste, 0, kFichesParPage)));

@@ -18,13 +18,13 @@ bool Vide(const QslSlotRecord& etiquette, ChampEtiquette champ) {
     return Rogner(OctetsChamp(etiquette, champ)).empty();
 }
 
-/// The label's callsign; a label without one has nobody's.
+// The label's callsign; a label without one has nobody's.
 bool MemeIndicatif(const QsoRecord& fiche, const QslSlotRecord& etiquette) {
     return !Vide(etiquette, ChampEtiquette::Indicatif) &&
            Egaux(fiche, Champ::CSGN, etiquette, ChampEtiquette::Indicatif);
 }
 
-/// The label's date and time, or both without.
+// The label's date and time, or both without.
 bool MemeMoment(const QsoRecord& fiche, const QslSlotRecord& etiquette) {
     return Egaux(fiche, Champ::DQSO, etiquette, ChampEtiquette::Date) &&
            Egaux(fiche, Champ::HDEB, etiquette, ChampEtiquette::Heure);
@@ -38,7 +38,7 @@ bool EstEnCours(const QsoRecord& fiche) {
     return Rogner(OctetsChamp(fiche, Champ::MQSL)) == kEnCours;
 }
 
-/// The number on the label; 0 when it names no contact of the logbook.
+// The number on the label; 0 when it names no contact of the logbook.
 std::int32_t Numero(const Session& session, const QslSlotRecord& etiquette) {
     const int numero = ValeurNumerique(TexteRogne(etiquette, ChampEtiquette::NumeroFiche));
     return numero <= session.nbFiches ? numero : 0;
@@ -48,12 +48,12 @@ bool Exact(const QsoRecord& fiche, const QslSlotRecord& etiquette) {
     return MemeIndicatif(fiche, etiquette) && MemeMoment(fiche, etiquette);
 }
 
-/// From the surest answer to the least: a contact that one label has taken is no other's.
+// From the surest answer to the least: a contact that one label has taken is no other's.
 struct Recherche {
     Recherche(const Session& s, std::span<const QslSlotRecord> e)
         : session(s), etiquettes(e), trouves(e.size()) {}
 
-    /// The numbered contact, when callsign, date and time agree.
+    // The numbered contact, when callsign, date and time agree.
     void CroireLesNumeros() {
         for (std::size_t i = 0; i < etiquettes.size(); ++i) {
             const std::int32_t k = Numero(session, etiquettes[i]);
@@ -65,7 +65,7 @@ struct Recherche {
         }
     }
 
-    /// The one contact anywhere of the same callsign, date and time.
+    // The one contact anywhere of the same callsign, date and time.
     void ChercherLesExacts() {
         std::vector<std::size_t> reste;
         for (std::size_t i = 0; i < etiquettes.size(); ++i)
@@ -85,8 +85,8 @@ struct Recherche {
         }
     }
 
-    /// The numbered contact, when its callsign or its date and time were corrected since and it
-    /// is not the contact of another label.
+    // The numbered contact, when its callsign or its date and time were corrected since and it
+    // is not the contact of another label.
     void AdmettreLesRetouches() {
         for (std::size_t i = 0; i < etiquettes.size(); ++i) {
             const std::int32_t k =

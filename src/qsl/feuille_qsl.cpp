@@ -12,8 +12,8 @@ namespace {
 
 struct LienBoite {
     ChampEtiquette champ;
-    std::size_t ecrite; ///< box that the field is written from
-    std::size_t lue;    ///< box that the field is read into
+    std::size_t ecrite; // box that the field is written from
+    std::size_t lue;    // box that the field is read into
 };
 
 // Kept on purpose: report and mode are written from their own boxes but read into each other's,

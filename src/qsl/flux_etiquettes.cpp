@@ -27,7 +27,7 @@ void MontrerRevue(FeuilleQSL& feuille, bool revue) {
     feuille.vue.valider = false;
 }
 
-/// An editor without a label: what is typed into it is fresh.
+// An editor without a label: what is typed into it is fresh.
 void CommencerEtiquette(FeuilleQSL& feuille) {
     MontrerRevue(feuille, false);
     ViderBoites(feuille);
@@ -41,7 +41,7 @@ std::string Rappel(int k, const QslSlotRecord& etiquette) {
            " : aucune fiche du cahier ne lui correspond, aucune n'a été modifiée.";
 }
 
-/// Sets MQSL of the contact of label `k`, or tells that there is none.
+// Sets MQSL of the contact of label `k`, or tells that there is none.
 void Marquer(Session& session, std::int32_t fiche, std::string_view maQsl, int k,
              const QslSlotRecord& etiquette, ReponseQSL& reponse) {
     if (fiche != 0) {
@@ -54,7 +54,7 @@ void Marquer(Session& session, std::int32_t fiche, std::string_view maQsl, int k
     reponse.message += Rappel(k, etiquette);
 }
 
-/// Writes place `k` free from the boxes, of which the first `derniere` are emptied before.
+// Writes place `k` free from the boxes, of which the first `derniere` are emptied before.
 void LibererPlace(FeuilleQSL& feuille, int k, std::size_t derniere) {
     ViderBoites(feuille, derniere);
     feuille.boites[kBoiteIndicatif] = kMarqueLibre;
@@ -63,7 +63,7 @@ void LibererPlace(FeuilleQSL& feuille, int k, std::size_t derniere) {
     feuille.indicatifs[FeuilleQSL::Rang(k)].clear();
 }
 
-/// Why the boxes may not become a label now; empty when they may.
+// Why the boxes may not become a label now; empty when they may.
 std::string_view RefusDeValider(const Session& session, const FeuilleQSL& feuille) {
     const std::string_view indicatif = Rogner(feuille.boites[kBoiteIndicatif]);
     if (!session.JournalPropre())

@@ -10,7 +10,7 @@ namespace orvalis {
 
 void Orvalis::BrancherQsl() {
     PictFeuilleQSL* panneau = &p_.feuilleQSL;
-    Brancher(&p_.fiche.Boite(static_cast<std::size_t>(Champ::MQSL)), &ZoneSaisie::cliquee,
+    Brancher(&p_.fiche.Boite(NumeroZone(Champ::MQSL)), &ZoneSaisie::cliquee,
              [this] { CliquerMaQsl(p_); });
     Brancher(panneau, &PictFeuilleQSL::choix, [this](int k) { SurChoix(p_, k); });
     Brancher(panneau, &PictFeuilleQSL::tag, [this](int k) { SurTag(p_, k); });

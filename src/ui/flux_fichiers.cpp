@@ -152,7 +152,7 @@ void OuvrirJournalCourant(Plateau& p) {
 void OuvrirAutre(Plateau& p) {
     if (!CommandePermise(Commande::MnuAutreF, p.session))
         return;
-    p.liste.setEnabled(true);
+    RendreListe(p);
     p.enrs.hide();
     const QString choisi = p.systeme.ChoisirFichier(
         &p.fenetre,
@@ -169,6 +169,7 @@ void OuvrirAutre(Plateau& p) {
     LacherFoyer();
     AbandonnerModification(p);
     p.jumelage.hide();
+    p.liste.setEnabled(true);
     InitialiserFenetre(p);
     PrevenirSiIncomplet(p, bilan.etat);
 }
@@ -185,7 +186,7 @@ void CopierSurDisque(Plateau& p) {
         return;
     CopierVers(
         p, {true, DossierAmovible(), NomDuFichier(p.session), QStringLiteral("Copier le cahier")});
-    p.session.lecteur = p.systeme.Lecteur();
+    p.session.lecteur = p.systeme.Lecteur(); // the dialog may have changed the current folder
 }
 
 } // namespace orvalis

@@ -21,7 +21,7 @@ void FermerChangLocator(Plateau& p) {
     p.changLocator.hide();
     if (!p.fiche.TexteBoite(1).empty())
         p.fiche.MontrerActiveRech(true);
-    p.fiche.MontrerBoite(16, Rogner(p.session.monLocator));
+    p.fiche.MontrerBoite(NumeroZone(Champ::MLOC), Rogner(p.session.monLocator));
     DonnerFoyer(p, static_cast<std::size_t>(p.session.saisie.DerniereZone));
 }
 

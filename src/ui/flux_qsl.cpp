@@ -29,7 +29,7 @@ namespace orvalis {
 namespace {
 
 constexpr int kColonneFiche = 0;
-constexpr std::size_t kMaQsl = static_cast<std::size_t>(Champ::MQSL);
+constexpr std::size_t kMaQsl = NumeroZone(Champ::MQSL);
 
 // The page on show and the card, read again; the line that was selected stays selected.
 void Rafraichir(Plateau& p) {
@@ -66,6 +66,14 @@ void Peindre(Plateau& p) {
         RemettreLaFiche(p);
 }
 
+// Another panel waits for the operator, so that the QSL service must wait too.
+bool UnPanneauAttend(const Plateau& p) {
+    const EtatSaisie& saisie = p.session.saisie;
+    return saisie.EnSaisie || saisie.NbModifs != 0 || p.msgFiche.isVisible() ||
+           p.changLocator.isVisible() || p.classer.isVisible() || p.jumelage.isVisible() ||
+           p.feuille.vue.panneau || p.feuille.vue.controle;
+}
+
 // Shows what an action on the sheet did, to contacts too.
 void Repondre(Plateau& p, const ReponseQSL& reponse) {
     if (reponse.marque)
@@ -97,13 +105,6 @@ int PremierePreparee(const FeuilleQSL& feuille) {
 }
 
 } // namespace
-
-bool UnPanneauAttend(const Plateau& p) {
-    const EtatSaisie& saisie = p.session.saisie;
-    return saisie.EnSaisie || saisie.NbModifs != 0 || p.msgFiche.isVisible() ||
-           p.changLocator.isVisible() || p.classer.isVisible() || p.jumelage.isVisible() ||
-           p.feuille.vue.panneau || p.feuille.vue.controle;
-}
 
 void ChargerFeuille(Plateau& p) {
     try {

@@ -10,10 +10,6 @@
 
 namespace orvalis {
 
-/// Another panel waits for the operator, so that the QSL service must wait too: an entry, an
-/// unanswered modification or deletion, a sort, the pairing, the own locator, the sheet itself.
-[[nodiscard]] bool UnPanneauAttend(const Plateau& p);
-
 /// Loads the sheet of the program folder; a failure is told, and the service does without.
 void ChargerFeuille(Plateau& p);
 

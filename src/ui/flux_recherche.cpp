@@ -97,6 +97,7 @@ void FermerContacts(Plateau& p) {
 
 void MontrerDoublons(Plateau& p) {
     const Sablier sablier;
+    // Kept on purpose: the list answers again during entry, though it chooses no card.
     if (p.session.saisie.EnSaisie)
         p.liste.setEnabled(true);
     p.fiche.MontrerActiveRech(false);

@@ -44,8 +44,9 @@ void OuvrirFicheVierge(Plateau& p) {
 // Returns false when the card must stay as it is: a contact without a callsign.
 bool Enregistrer(Plateau& p, FinDeSaisie fin) {
     LacherFoyer(); // text without Enter is not stored, that of the box in hand neither
-    const ContactFini contact = FinirContact(p.session, fin, p.enrs.SuivantArme(),
-                                             p.fiche.TexteBoite(16), p.systeme.Maintenant());
+    const ContactFini contact =
+        FinirContact(p.session, fin, p.enrs.SuivantArme(),
+                     p.fiche.TexteBoite(NumeroZone(Champ::MLOC)), p.systeme.Maintenant());
     if (contact.verdict == Verdict::IndicatifManquant) {
         p.enrs.ActiverAnnuler(true); // the way out for who has no callsign to give
         DonnerFoyer(p, 1);

@@ -13,7 +13,7 @@ namespace {
 
 struct Entree {
     std::string_view nom;
-    std::string_view legende; ///< as designed, blanks included
+    std::string_view legende; // as designed, blanks included
     bool tete;
 };
 

@@ -25,7 +25,7 @@ struct DescriptionBoiteEditeur {
     const char* legende;
     std::size_t longueur;
     Touches touches;
-    std::size_t rangee; ///< row of the editor, from 1
+    std::size_t rangee; // row of the editor, from 1
     const char* bulle;
 };
 

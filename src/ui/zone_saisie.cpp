@@ -11,11 +11,7 @@
 #include <QPalette>
 
 namespace orvalis {
-namespace {
-
-constexpr std::size_t kBoiteSaQsl = 15;
-
-} // namespace
+namespace {} // namespace
 
 ZoneSaisie::ZoneSaisie(const DescriptionBoite& boite, QWidget* parent)
     : QLineEdit(parent), boite_(boite),
@@ -38,7 +34,7 @@ void ZoneSaisie::Colorer(Couleur couleur) {
 
 void ZoneSaisie::AppliquerCouleur() {
     QPalette palette;
-    const bool saQsl = boite_.index == kBoiteSaQsl;
+    const bool saQsl = boite_.index == NumeroZone(Champ::SQSL);
     const std::optional<Rvb> fond = FondDe(couleur_);
     if (fond) {
         palette.setColor(QPalette::Base, QColor(fond->rouge, fond->vert, fond->bleu));

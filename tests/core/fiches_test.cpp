@@ -16,7 +16,7 @@ struct Fiches : ::testing::Test {
     Dossier dossier;
     Session session;
     const std::string a = Contact("F1AAA"), b = Contact("F2BBB"), c = Contact("F3CCC"), f = Fin();
-    const std::string saisie = Brute({{0, "F2BBB"}}); ///< what a typed callsign alone makes
+    const std::string saisie = Brute({{0, "F2BBB"}}); // what a typed callsign alone makes
 };
 
 TEST_F(Fiches, UneFicheLueRemplitLesZones) {
@@ -80,7 +80,7 @@ TEST_F(Fiches, AjoutsEtSuppressionsOctetParOctet) {
     const std::string g = Fin("IN95AA");
     const struct {
         std::string avant;
-        std::int32_t k; ///< deleted; 0: a contact is added
+        std::int32_t k; // deleted; 0: a contact is added
         std::string apres;
     } cas[] = {
         {a + f + b + c, 0, a + saisie + g + c},

@@ -19,7 +19,7 @@ struct Recherche : ::testing::Test {
     std::int32_t nb = 0;
 };
 
-/// Record numbers found, then both texts of the panel; "-": the label keeps what it shows.
+// Record numbers found, then both texts of the panel; "-": the label keeps what it shows.
 std::string Dire(const ResultatRecherche& resultat) {
     std::string numeros;
     for (const std::string& ligne : resultat.lignes)

@@ -118,8 +118,8 @@ TEST(Boites, UneEditionNeFiltreQueCeQuElleApporte) {
     }
 }
 
-/// The commands refused, in the order of the table. A state is N, then what is under way or the
-/// other logbook on show.
+// The commands refused, in the order of the table. A state is N, then what is under way or the
+// other logbook on show.
 std::string Refusees(const std::string& etat) {
     const std::string suite = etat.substr(1);
     Session session;

@@ -8,7 +8,7 @@ namespace {
 
 using Fiches = std::vector<std::string>;
 
-/// The contacts before the end-of-log record, sorted.
+// The contacts before the end-of-log record, sorted.
 Fiches Lire(const std::string& octets) {
     Fiches fiches;
     for (std::size_t i = 0; i < octets.size() && octets.compare(i, 2, "\\ ") != 0;
@@ -18,7 +18,7 @@ Fiches Lire(const std::string& octets) {
     return fiches;
 }
 
-/// The contacts of `fiches` less those of `autres`, one for one.
+// The contacts of `fiches` less those of `autres`, one for one.
 Fiches Sans(const Fiches& fiches, const Fiches& autres) {
     Fiches reste;
     std::set_difference(fiches.begin(), fiches.end(), autres.begin(), autres.end(),

@@ -49,7 +49,7 @@ bool Suivi(int descripteur) {
            std::string_view(chemin.data()).find("orvalis-atelier") != std::string_view::npos;
 }
 
-/// Makes the call `vrai` with the number of bytes that the plan leaves it.
+// Makes the call `vrai` with the number of bytes that the plan leaves it.
 template<typename T, typename Vrai> T Passer(bool suivi, const Appel& appel, Vrai vrai) {
     if (!suivi)
         return T(vrai(appel.octets));

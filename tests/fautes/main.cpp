@@ -19,7 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Keeps the window from painting: Qt paints with threads, which a forked process does not have.
+// Keeps the window from painting: Qt paints with threads, which a forked process does not have.
 class SansPeinture : public QObject {
   public:
     bool eventFilter(QObject* /*objet*/, QEvent* evenement) override {
@@ -36,8 +36,8 @@ Fichiers LireFichiers(const fs::path& dossier) {
     return fichiers;
 }
 
-/// What the operator was told, "killed" or "crashed"; the files are put back in place before,
-/// under what has them open.
+// What the operator was told, "killed" or "crashed"; the files are put back in place before,
+// under what has them open.
 std::string Essayer(const Operation& operation, Banc& banc, const Fichiers& avant, const Plan& plan,
                     Bilan& bilan) {
     for (const auto& entree : fs::directory_iterator(banc.Dossier()))
@@ -60,7 +60,7 @@ std::string Essayer(const Operation& operation, Banc& banc, const Fichiers& avan
     return statut == 0 ? bilan.message.data() : "crashed";
 }
 
-/// What is wrong after a fault; empty when nothing is.
+// What is wrong after a fault; empty when nothing is.
 std::string Juger(const Plan& plan, const std::string& message, const Fichiers& avant,
                   const Fichiers& apres, const Fichiers& trouves) {
     const bool tue = plan.faute.tue;
@@ -109,8 +109,8 @@ void Parcourir(const Operation& operation, Bilan& bilan, Compte& compte) {
         }
 }
 
-/// The operation in this process, between two marks that strace sees, on `lecteur`; or, when
-/// `juge`, on a drive of its own, and what is wrong on `lecteur` beside it.
+// The operation in this process, between two marks that strace sees, on `lecteur`; or, when
+// `juge`, on a drive of its own, and what is wrong on `lecteur` beside it.
 std::string Seule(const Operation& operation, const fs::path& lecteur, bool juge) {
     Banc banc;
     if (!juge)

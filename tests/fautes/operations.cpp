@@ -6,7 +6,7 @@
 namespace orvalis::essais {
 namespace {
 
-/// Other stations than those of Contacts().
+// Other stations than those of Contacts().
 std::string Autres(int n) {
     std::string fiches = Contacts(n);
     for (std::size_t i = 0; i < fiches.size(); i += kTailleFiche)
@@ -14,7 +14,7 @@ std::string Autres(int n) {
     return fiches;
 }
 
-/// A sheet with labels of the first contacts.
+// A sheet with labels of the first contacts.
 std::string Feuille(int etiquettes) {
     std::string feuille;
     for (int k = 1; k <= kNbEtiquettes; ++k) {

@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 using namespace essai;
 using namespace testing;
 
-/// What fails on a file.
+// What fails on a file.
 auto EchoueSur(const fs::path& chemin) {
     return Throws<ErreurFichier>(Property(&ErreurFichier::Chemin, chemin));
 }

@@ -11,7 +11,7 @@ using namespace essai;
 
 constexpr std::int64_t kToutDroit = 1'000'000'000;
 
-/// A logbook of these bytes, and its sort.
+// A logbook of these bytes, and its sort.
 struct Banc {
     Dossier dossier;
     Session session;

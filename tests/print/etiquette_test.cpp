@@ -6,7 +6,7 @@
 namespace orvalis {
 namespace {
 
-/// Frame, table and texts of every label, from its own corner.
+// Frame, table and texts of every label, from its own corner.
 const std::string kCommun = R"(R 0 0 5200 1780;
  L 120 600 5100 600; L 120 880 5100 880; L 120 1160 5100 1160;
  L 120 600 120 1160; L 1600 600 1600 1160; L 2300 600 2300 1160; L 2810 600 2810 1160;

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 struct Mot {
     std::string texte;
-    double x, y, largeur; ///< twips from the corner of the printable area
+    double x, y, largeur; // twips from the corner of the printable area
 };
 
 auto Porte(const char* texte, double x, double y) {
@@ -36,7 +36,7 @@ struct ImprimanteQtTest : Test {
         pdf.setOutputFileName(sortie);
     }
 
-    /// The words of the document, which is one page of A4 portrait.
+    // The words of the document, which is one page of A4 portrait.
     std::vector<Mot> Relire() {
         QProcess lecteur;
         lecteur.start(u"pdftotext"_s, {u"-tsv"_s, chemin, u"-"_s});

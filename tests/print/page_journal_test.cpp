@@ -10,7 +10,7 @@ namespace {
 using namespace essai;
 using namespace testing;
 
-/// What both kinds of page carry.
+// What both kinds of page carry.
 const std::string kCommun = R"(P A4 portrait;
  T 400 400 14g Cahier de Trafic de ; R 2950 340 4500 720; T 3050 390 14g F5XYZ;
  R 120 1080 11400 13800;
@@ -24,7 +24,7 @@ const std::string kCommun = R"(P A4 portrait;
  T 10500 1100 10 QSL; L 10150 1440 11300 1440; T 10300 1480 10 Ma; L 10750 1560 10750 13800;
  T 10950 1480 10 Sa; L 130 1800 11400 1800; FIN;)";
 
-/// Prints page `page` of a logbook of these bytes.
+// Prints page `page` of a logbook of these bytes.
 Enregistreur Imprimer(const std::string& octets, std::int32_t page, std::int32_t aiguillage = 1) {
     const Dossier dossier;
     Session session = Ouvrir(dossier.Poser("F5ABC.Vek", octets));

@@ -20,8 +20,8 @@ using namespace essai;
 
 const std::string kLibre = Brute({{0, "***"}}, 106);
 
-/// Records of words like "F18x": a callsign, an hour, and x at the offset `fin`, with '+' for
-/// "En cours" and dots for blanks.
+// Records of words like "F18x": a callsign, an hour, and x at the offset `fin`, with '+' for
+// "En cours" and dots for blanks.
 std::string Fiches(const std::string& mots, std::size_t date = 15, std::size_t fin = 143,
                    std::size_t taille = kTailleFiche) {
     std::string octets;
@@ -35,24 +35,24 @@ std::string Fiches(const std::string& mots, std::size_t date = 15, std::size_t f
     return octets;
 }
 
-/// Labels likewise, with the number of their contact at the end.
+// Labels likewise, with the number of their contact at the end.
 std::string Etiquettes(const std::string& mots) {
     return Fiches(mots, 60, 96, 106);
 }
 
-/// A sheet whose other places are free.
+// A sheet whose other places are free.
 std::string Planche(std::string premieres) {
     while (premieres.size() < std::size_t{16} * 106)
         premieres += kLibre;
     return premieres;
 }
 
-/// A program folder with a logbook and a label sheet.
+// A program folder with a logbook and a label sheet.
 struct Banc {
     Dossier dossier;
     Session session;
     FeuilleQSL feuille;
-    ReponseQSL reponse; ///< to the last gesture that has one
+    ReponseQSL reponse; // to the last gesture that has one
 
     Banc(const std::string& fiches, const std::string& planche) {
         session = Ouvrir(dossier.Poser("F5ABC.Vek", fiches + Fin()));
@@ -61,9 +61,9 @@ struct Banc {
     }
     [[nodiscard]] std::string OctetsFeuille() const { return Lire(dossier / "feuilleQSL.TXT"); }
 
-    /// Gestures with a blank between them: "choix3" for BtChoix_3, "boite1=F6" for a typed text
-    /// with dots for blanks, "autre" to look at another logbook. Returns a letter for each part
-    /// then on show, NrTag, and the labels or the logbook of a message.
+    // Gestures with a blank between them: "choix3" for BtChoix_3, "boite1=F6" for a typed text
+    // with dots for blanks, "autre" to look at another logbook. Returns a letter for each part
+    // then on show, NrTag, and the labels or the logbook of a message.
     std::string Faire(const std::string& gestes) {
         std::string texte;
         const std::map<std::string, std::function<void(int)>> actions = {
@@ -100,7 +100,7 @@ struct Banc {
     }
 };
 
-/// Contacts and labels before, gestures, contacts and labels afterwards, what is on show.
+// Contacts and labels before, gestures, contacts and labels afterwards, what is on show.
 void Essayer(const std::vector<std::array<std::string, 6>>& table) {
     for (const auto& [fiches, etiquettes, gestes, fichesApres, etiquettesApres, montre] : table) {
         SCOPED_TRACE(testing::PrintToString(std::tie(fiches, etiquettes, gestes)));

@@ -26,7 +26,7 @@ namespace {
 const std::string kIndicatif = "F4YZX";
 const std::string kLocator = "JN18DU";
 
-/// The column order of the table. The remark and the manager are the two halves of INFO.
+// The column order of the table. The remark and the manager are the two halves of INFO.
 enum Colonne : std::size_t {
     Indicatif,
     Date,
@@ -68,7 +68,6 @@ constexpr std::array<ChampDeColonne, 14> kChampsDesColonnes = {{
     {MaQsl, Champ::MQSL},
     {SaQsl, Champ::SQSL},
 }};
-constexpr std::size_t kDemiInfo = 15;
 
 Ligne Decouper(const std::string& texte) {
     Ligne ligne;
@@ -87,7 +86,7 @@ void Verifier(const Ligne& ligne, const std::string& texte) {
     for (const auto& [colonne, champ] : kChampsDesColonnes)
         if (Longueur(ligne[colonne]) > Description(champ).largeur)
             throw std::runtime_error("value too long in: " + texte);
-    if (Longueur(ligne[Infos]) > kDemiInfo || Longueur(ligne[Manager]) > kDemiInfo)
+    if (Longueur(ligne[Infos]) > kLargeurDemiInfo || Longueur(ligne[Manager]) > kLargeurDemiInfo)
         throw std::runtime_error("remark or manager too long in: " + texte);
     const auto accepte = [](const Controle& c, const std::string& valeur) {
         return c.ValiditeOK && c.texte == valeur;
@@ -104,7 +103,7 @@ QsoRecord Fiche(const Ligne& ligne) {
     QsoRecord fiche;
     for (const auto& [colonne, champ] : kChampsDesColonnes)
         MettreChamp(fiche, champ, ligne[colonne]);
-    MettreChamp(fiche, Champ::INFO, Cadrer(ligne[Infos], kDemiInfo) + ligne[Manager]);
+    MettreChamp(fiche, Champ::INFO, Cadrer(ligne[Infos], kLargeurDemiInfo) + ligne[Manager]);
     MettreChamp(fiche, Champ::MLOC, kLocator);
     return fiche;
 }
@@ -144,7 +143,7 @@ std::vector<QslSlotRecord> Etiquettes(const std::vector<QsoRecord>& fiches) {
         // The heading reads "F4YZX  Confirming QSO with  ...".
         MettreChamp(etiquette, ChampEtiquette::Ligne1, kIndicatif);
         MettreChamp(etiquette, ChampEtiquette::Ligne2,
-                    Rogner(Gauche(TexteChamp(fiche, Champ::INFO), kDemiInfo)));
+                    Rogner(Gauche(TexteChamp(fiche, Champ::INFO), kLargeurDemiInfo)));
         MettreChamp(etiquette, ChampEtiquette::Voie, kVoieBureau);
         MettreChamp(etiquette, ChampEtiquette::NumeroFiche, std::to_string(i + 1));
     }
