@@ -72,7 +72,8 @@ void Orvalis::ActualiserMenus() {
     // Looked for in the menu bar alone: through all controls of the window, this after each flow
     // took half of what Enter in a box costs.
     for (const RegleCommande& regle : kReglesCommandes)
-        if (auto* action = menuBar()->findChild<QAction*>(Q(regle.nom)))
+        if (auto* action = regle.nom.empty() ? nullptr // an empty name would find any action
+                                             : menuBar()->findChild<QAction*>(Q(regle.nom)))
             action->setEnabled(!Attend(regle.commande) &&
                                CommandePermise(regle.commande, session_));
     for (const char* nom : {"MnuEditLocator", "MnuVoir"})

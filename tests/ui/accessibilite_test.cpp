@@ -107,7 +107,7 @@ TEST(Accessibilite, CouleursSuiventLeBureau) {
 
 TEST(Accessibilite, F10OuvreLesMenus) {
     Banc banc(Contacts(1) + Fin());
-    banc.Suivre({{"!F10", "?NmuFilect", "A"}, {"!Right", "?MnuLister", "A"}});
+    banc.Suivre({{"^N !F10", "?NmuFilect", "A"}, {"!Right", "?MnuLister", "A"}});
 }
 
 } // namespace
