@@ -255,6 +255,8 @@ void Dlg2::ChangerDms(const Boite& boite) {
 }
 
 void Dlg2::ChangerDecimal(const Boite& boite) {
+    // Kept on purpose: a value out of range is passed over, and the other box goes on from the last
+    // one that was in range.
     const bool estLatitude = boite.champ == ui_->Fr1LatCent;
     const float lu = LireDecimal(boite.champ->text().toStdString());
     if (std::abs(lu) >= static_cast<float>(estLatitude ? kLimiteLatitude : kLimiteLongitude))

@@ -96,9 +96,9 @@ Tri::Tri(Journal& journal, std::int32_t nbFiches) : journal_(journal), nbFiches_
 }
 
 void Tri::Avancer(std::int64_t pasMax) {
-    const std::int64_t dernierPas = etat_.pas + pasMax;
-    if (!etat_.termine)
-        MarcherPasse(dernierPas);
+    if (etat_.termine)
+        return;
+    MarcherPasse(etat_.pas + pasMax);
     if (etat_.position == nbFiches_)
         FinirPasse();
     PoserEchanges();

@@ -4,6 +4,7 @@
 #include "core/creation.h"
 #include "core/dossier.h"
 #include "core/fiches.h"
+#include "core/messages.h"
 #include "core/parametres.h"
 #include "ui/chang_locator.h"
 #include "ui/dlg1.h"
@@ -59,9 +60,11 @@ Demarrage ChargerParametres(Plateau& p) {
         Dlg1 creation(s.lecteur, p.systeme, &p.fenetre);
         return creation.exec() == QDialog::Accepted ? Demarrage::Recommencer : Demarrage::Arreter;
     }
-    const Sablier sablier;
     const Parametres parametres = LireParametres(chemin);
-    OuvrirJournal(s, TrouverFichier(dossier, parametres.nomFichier));
+    {
+        const Sablier sablier;
+        OuvrirJournal(s, TrouverFichier(dossier, parametres.nomFichier));
+    }
     s.indicatif = parametres.indicatif;
     s.nomFichier = parametres.nomFichier;
     s.monLocator = parametres.monLocator;
@@ -77,8 +80,6 @@ void InitialiserFenetre(Plateau& p) {
     AfficherHeure(p);
     RemplirListe(p);
     SelectionnerDerniereLigne(p);
-    if (s.nbFiches != 0)
-        ChargerFeuille(p);
     ReactiverBoutons(p);
     p.rech.setVisible(s.nbFiches != 0);
     if (s.nbFiches != 0)
@@ -86,6 +87,8 @@ void InitialiserFenetre(Plateau& p) {
     else
         p.menu.DonnerFoyerNouveau();
     p.fenetre.setWindowTitle(Q(Titre(s)));
+    if (s.nbFiches != 0)
+        ChargerFeuille(p);
 }
 
 void AfficherHeure(Plateau& p) {
@@ -94,8 +97,12 @@ void AfficherHeure(Plateau& p) {
 
 void LancerCompagnon(Plateau& p, std::string_view nom) {
     const fs::path dossier = DossierProgramme(p.session.lecteur);
-    const auto lancer = [&](std::string_view programme) {
-        return p.systeme.Lancer(Q(TrouverFichier(dossier, programme).string()));
+    const auto lancer = [&](std::string_view programme) -> std::optional<QString> {
+        try {
+            return p.systeme.Lancer(Q(TrouverFichier(dossier, programme).string()));
+        } catch (const ErreurFichier& echec) { // the folder cannot be listed
+            return Q(RaisonFrancaise(echec.code()));
+        }
     };
     std::optional<QString> raison = lancer(nom);
 #ifndef Q_OS_WIN

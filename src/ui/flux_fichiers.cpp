@@ -1,6 +1,7 @@
 // Other logbooks, backup, copy and pairing: the commands of flux_maintenance.h that ask for a
-// file. When the other file fails, the operator is told and the program goes on, since the open
-// logbook is as it was; a failure of the open logbook itself ends the program as everywhere.
+// file, and the way back to the own logbook. When the other file or the Settings file fails, the
+// operator is told and the program goes on, since the open logbook is as it was; a failure of the
+// open logbook itself ends the program as everywhere.
 #include "core/commandes.h"
 #include "core/dossier.h"
 #include "core/fiches.h"
@@ -152,7 +153,7 @@ void OuvrirJournalCourant(Plateau& p) {
 void OuvrirAutre(Plateau& p) {
     if (!CommandePermise(Commande::MnuAutreF, p.session))
         return;
-    RendreListe(p);
+    RendreListe(p); // not under the pairing panel, which may still be on show after a No
     p.enrs.hide();
     const QString choisi = p.systeme.ChoisirFichier(
         &p.fenetre,

@@ -135,7 +135,9 @@ void ImprimerEtiquettesVierges(Plateau& p) {
 }
 
 void CliquerMaQsl(Plateau& p) {
-    if (UnPanneauAttend(p) || !Rogner(p.fiche.TexteBoite(kMaQsl)).empty() || !ChargerAuBesoin(p))
+    const Session& s = p.session;
+    if (UnPanneauAttend(p) || !s.JournalPropre() || s.ficheCourante < 1 ||
+        !Rogner(p.fiche.TexteBoite(kMaQsl)).empty() || !ChargerAuBesoin(p))
         return;
     const ReponseClic clic = PreparerEtiquette(p.session, p.feuille, p.session.ficheCourante);
     if (clic.suite == SuiteClic::Ordinaire)

@@ -82,7 +82,7 @@ void CliquerRecherche(Plateau& p) {
 
 void FermerContacts(Plateau& p) {
     Cacher(p.contacts);
-    p.rech.show();
+    p.rech.show(); // Kept on purpose: on an empty logbook and during entry too.
     if (IndicatifSurLaCarte(p))
         p.fiche.MontrerActiveRech(true);
     if (p.session.EnEdition()) {

@@ -21,9 +21,11 @@ ListeLignes::ListeLignes(QWidget* parent) : QListWidget(parent) {
 
 void ListeLignes::Remplir(std::span<const std::string> lignes) {
     const QSignalBlocker silence(this);
-    clear();
+    QStringList textes;
     for (const std::string& ligne : lignes)
-        addItem(Q(ligne));
+        textes << Q(ligne);
+    clear();
+    addItems(textes);
 }
 
 void ListeLignes::Selectionner(int ligne) {

@@ -11,7 +11,6 @@
 #include <QPalette>
 
 namespace orvalis {
-namespace {} // namespace
 
 ZoneSaisie::ZoneSaisie(const DescriptionBoite& boite, QWidget* parent)
     : QLineEdit(parent), boite_(boite),
