@@ -174,13 +174,17 @@ void TournerPage(benchmark::State& etat, const Carnet& carnet) {
     }
 }
 
+void FermerLaListe(const Banc& banc) {
+    if (banc.Texte("?BtContactsFermer") != "C")
+        banc.Cliquer("BtContactsFermer");
+}
+
 void Chercher(benchmark::State& etat, const Carnet& carnet, const std::string& texte) {
     const BancOuvert banc(carnet);
     Chronometrer(
         etat,
         [&] {
-            if (banc.Texte("?BtContactsFermer") != "C")
-                banc.Cliquer("BtContactsFermer");
+            FermerLaListe(banc);
             banc.Controle<QWidget>("RechText")->setFocus();
             banc.Taper(texte);
         },
@@ -199,11 +203,7 @@ void ChercherDate(benchmark::State& etat, const Carnet& carnet) {
 void Doublons(benchmark::State& etat, const Carnet& carnet) {
     const BancOuvert banc(carnet);
     Chronometrer(
-        etat,
-        [&] {
-            if (banc.Texte("?BtContactsFermer") != "C")
-                banc.Cliquer("BtContactsFermer");
-        },
+        etat, [&] { FermerLaListe(banc); },
         [&] {
             banc.Menu("MnuDoublons");
             Peindre(*banc.fenetre);

@@ -78,8 +78,7 @@ void InitialiserFenetre(Plateau& p) {
     p.contacts.hide();
     p.rech.Vider();
     AfficherHeure(p);
-    RemplirListe(p);
-    SelectionnerDerniereLigne(p);
+    RelireCahier(p);
     ReactiverBoutons(p);
     p.rech.setVisible(s.nbFiches != 0);
     if (s.nbFiches != 0)

@@ -12,8 +12,8 @@ void CacherPanneaux(Plateau& p);
 
 enum class Demarrage { Pret, Recommencer, Arreter };
 
-/// Reads the Settings file and opens the logbook it names (Pret). Without program folder or
-/// Settings file the creation dialog runs first: Recommencer once it has written them, Arreter
+/// Reads the Settings file, opens the logbook it names and shows it (Pret). Without program folder
+/// or Settings file the creation dialog runs first: Recommencer once it has written them, Arreter
 /// when the operator gave up. Throws ErreurFichier, ErreurParametres, ErreurVerrou.
 [[nodiscard]] Demarrage ChargerParametres(Plateau& p);
 

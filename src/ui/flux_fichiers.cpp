@@ -96,8 +96,7 @@ void OuvrirJumelage(Plateau& p) {
         return;
     LacherFoyer();
     AbandonnerModification(p);
-    RemplirListe(p);
-    SelectionnerDerniereLigne(p);
+    RelireCahier(p);
     p.liste.setEnabled(false);
     p.jumelage.Ouvrir(p.session.cheminJournal.filename().string());
 }
@@ -114,8 +113,7 @@ void Jumeler(Plateau& p) {
         const Sablier sablier;
         JumelerJournal(p.session, std::filesystem::path(S(source)));
     });
-    RemplirListe(p);
-    SelectionnerDerniereLigne(p);
+    RelireCahier(p);
 }
 
 void SauvegarderAvantJumelage(Plateau& p) {

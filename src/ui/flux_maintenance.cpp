@@ -76,8 +76,7 @@ void Classer(Plateau& p) {
         if (p.arret)
             return;
     }
-    RemplirListe(p);
-    SelectionnerDerniereLigne(p);
+    RelireCahier(p);
     p.classer.Terminer();
     p.classer.hide();
     p.liste.setEnabled(true);

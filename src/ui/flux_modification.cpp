@@ -11,10 +11,6 @@
 #include "ui/panneau_menu.h"
 #include "ui/panneau_rech.h"
 
-#include <QCoreApplication>
-
-#include <algorithm>
-
 namespace orvalis {
 namespace {
 
@@ -23,10 +19,7 @@ void Supprimer(Plateau& p) {
     const std::int32_t page = CalculerPages(s.ficheCourante);
     SupprimerFiche(s, s.ficheCourante);
     Cacher(p.contacts); // its numbers no longer hold
-    RemplirListe(p);
-    MontrerPage(p, std::min(page, s.pageAffichee));
-    SelectionnerDerniereLigne(p);
-    MontrerNomDuJournal(p);
+    RelireCahier(p, page);
     p.rech.setVisible(s.nbFiches != 0);
 }
 

@@ -38,8 +38,7 @@ void ViderCarte(Plateau& p) {
     p.fiche.MontrerActiveRech(false);
 }
 
-} // namespace
-
+// The name of the open logbook, how many contacts it holds, and whether it is read-only.
 void MontrerNomDuJournal(Plateau& p) {
     const Session& s = p.session;
     const QString nom =
@@ -48,6 +47,8 @@ void MontrerNomDuJournal(Plateau& p) {
                                  .arg(s.nbFiches)
                                  .arg(s.nbFiches < 2 ? QString() : QStringLiteral("s")));
 }
+
+} // namespace
 
 void MontrerPage(Plateau& p, std::int32_t page) {
     Session& s = p.session;
@@ -71,12 +72,6 @@ void MontrerPage(Plateau& p, std::int32_t page) {
     p.page.Marquer(s.ficheCourante);
 }
 
-void RemplirListe(Plateau& p) {
-    CompterFiches(p.session);
-    MontrerPage(p, NbPages(p.session));
-    MontrerNomDuJournal(p);
-}
-
 // The list itself is asked: a blank page printed leaves the first record of the page at 0.
 int LigneDeFiche(const Plateau& p, std::int32_t k) {
     const std::int32_t ligne = k - p.liste.NumeroDe(0);
@@ -89,7 +84,10 @@ void SelectionnerLigne(Plateau& p, int ligne) {
         ChoisirFiche(p, k);
 }
 
-void SelectionnerDerniereLigne(Plateau& p) {
+void RelireCahier(Plateau& p, std::int32_t page) {
+    CompterFiches(p.session);
+    MontrerPage(p, std::min(page, NbPages(p.session)));
+    MontrerNomDuJournal(p);
     if (p.liste.NbLignes() > 0) {
         SelectionnerLigne(p, p.liste.NbLignes() - 1);
     } else if (!p.session.saisie.EnSaisie) {

@@ -6,6 +6,7 @@
 #include "ui/plateau.h"
 
 #include <cstdint>
+#include <limits>
 
 namespace orvalis {
 
@@ -13,20 +14,15 @@ namespace orvalis {
 /// show and its first record, and the paging buttons.
 void MontrerPage(Plateau& p, std::int32_t page);
 
-/// Shows the name of the open logbook, how many contacts it holds, and whether it is read-only.
-void MontrerNomDuJournal(Plateau& p);
-
-/// Recounts the logbook, sets the scroll bar's range and shows the last page.
-void RemplirListe(Plateau& p);
+/// Recounts the logbook, shows page `page`, or the last one when there are fewer, and selects its
+/// last line, which shows that card, except during entry; without contacts, an empty card.
+void RelireCahier(Plateau& p, std::int32_t page = std::numeric_limits<std::int32_t>::max());
 
 /// Line (from 0) of record `k` in the list; -1 when the page on show does not hold it.
 [[nodiscard]] int LigneDeFiche(const Plateau& p, std::int32_t k);
 
 /// Selects a line of the list (from 0). Counts as a click on it, except during entry.
 void SelectionnerLigne(Plateau& p, int ligne);
-
-/// The same with the last line.
-void SelectionnerDerniereLigne(Plateau& p);
 
 /// Makes record `k` the current one and shows its card. Changes of the old card that wait for an
 /// answer are dropped. Does nothing during entry.

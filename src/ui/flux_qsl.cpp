@@ -117,9 +117,8 @@ void ChargerFeuille(Plateau& p) {
 }
 
 void GererFeuille(Plateau& p) {
-    if (UnPanneauAttend(p) || !CommandePermise(Commande::MnuGestionFeuilleQSL, p.session))
-        return;
-    if (!ChargerAuBesoin(p))
+    if (UnPanneauAttend(p) || !CommandePermise(Commande::MnuGestionFeuilleQSL, p.session) ||
+        !ChargerAuBesoin(p))
         return;
     OuvrirPanneau(p.feuille);
     Peindre(p);

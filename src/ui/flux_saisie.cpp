@@ -30,8 +30,7 @@ void OuvrirFicheVierge(Plateau& p) {
     p.enrs.ActiverAnnuler(false);
     p.enrs.ArmerSuivant(false);
     p.liste.setEnabled(true);
-    RemplirListe(p);
-    SelectionnerDerniereLigne(p);
+    RelireCahier(p);
     p.liste.setEnabled(false);
     p.enrs.show();
     p.fiche.MontrerNumero(NumeroNouvelleFiche(p.session.prochaineFiche));
@@ -79,7 +78,6 @@ void EnregistrerEtSuivre(Plateau& p) {
 void EnregistrerEtTerminer(Plateau& p) {
     if (!Enregistrer(p, FinDeSaisie::Terminer))
         return;
-    LacherFoyer();
     p.session.saisie.EnSaisie = false;
     p.enrs.hide();
     Cacher(p.contacts);
@@ -87,10 +85,8 @@ void EnregistrerEtTerminer(Plateau& p) {
     p.fiche.MontrerNonEnregistre(false);
     p.menu.show();
     p.liste.setEnabled(true);
-    RemplirListe(p);
+    RelireCahier(p);
     p.rech.setVisible(p.session.nbFiches != 0);
-    AbandonnerModification(p);
-    SelectionnerDerniereLigne(p);
     p.liste.DonnerFoyer();
 }
 
