@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-namespace orvalis::essai {
+namespace orvalis::aides {
 
 /// A folder that goes with its test.
 class Dossier {
@@ -99,4 +99,4 @@ template<class F> std::string Suite(F fonction, const std::string& textes) {
     return suite.substr(0, suite.size() - 1);
 }
 
-} // namespace orvalis::essai
+} // namespace orvalis::aides

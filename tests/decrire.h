@@ -8,7 +8,7 @@
 #include <sstream>
 #include <tuple>
 
-namespace orvalis::essai {
+namespace orvalis::aides {
 
 /// z = slot, t = box text, c = box colour, * = one more change counted and modification left; the
 /// rest by name. In that order, separated by blanks.
@@ -73,4 +73,4 @@ void Derouler(Scene scene, Regle regle, const std::string& table) {
     EXPECT_TRUE(cas.eof()) << "table cut short behind box " << boite;
 }
 
-} // namespace orvalis::essai
+} // namespace orvalis::aides

@@ -17,7 +17,7 @@
 namespace orvalis::bench {
 namespace {
 
-using essais::Banc;
+using operateur::Banc;
 
 // As on a laptop's screen; the offscreen one is smaller, and what lies outside it is painted too.
 constexpr QSize kFenetre{1320, 740};
@@ -274,7 +274,7 @@ template<std::size_t... i> int InscrireEntrees(std::index_sequence<i...> /*boite
 
 // The child of LancerProgramme.
 int DemarrerSeul(const char* lecteur) {
-    essais::SystemeDEssai systeme;
+    operateur::SystemeDEssai systeme;
     systeme.lecteur = lecteur;
     Orvalis fenetre(systeme);
     MontrerEtDemarrer(fenetre);

@@ -7,7 +7,7 @@
 namespace orvalis {
 namespace {
 
-using namespace essai;
+using namespace aides;
 
 TEST(Parametres, FormesLues) {
     const Dossier dossier;

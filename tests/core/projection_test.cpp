@@ -15,7 +15,7 @@ constexpr std::size_t kIci = 2048; // a piece from here lies over the border of 
 constexpr std::size_t kPiece = kPlusGrandePiece;
 
 Fichier FichierDe(char octet) {
-    Fichier fichier(essai::Dossier() / "essai", ModeFichier::Creation);
+    Fichier fichier(aides::Dossier() / "essai", ModeFichier::Creation);
     const std::string page(kTaille / 2, octet); // each page by itself, or they are kept as one
     fichier.Ecrire(0, page);
     fichier.Ecrire(kTaille / 2, page);

@@ -4,7 +4,7 @@
 namespace orvalis {
 namespace {
 
-using namespace essai;
+using namespace aides;
 
 struct Recherche : ::testing::Test {
     void Poser(const std::string& octets) {

@@ -8,7 +8,7 @@
 namespace orvalis {
 namespace {
 
-using namespace essai;
+using namespace aides;
 
 constexpr Instant kMaintenant{2026, 11, 21, 7, 5, 9};
 

@@ -9,7 +9,7 @@
 namespace orvalis {
 namespace {
 
-using namespace essai;
+using namespace aides;
 
 TEST(Texte, ChaqueOctetSurvitALaLectureEtALEcriture) {
     std::string octets;

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-namespace orvalis::essais {
+namespace orvalis::operateur {
 namespace {
 
 using Fiches = std::vector<std::string>;
@@ -84,4 +84,4 @@ std::string Degat(Fichiers avant, Fichiers apres, Fichiers trouves) {
     return degat;
 }
 
-} // namespace orvalis::essais
+} // namespace orvalis::operateur

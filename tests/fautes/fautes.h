@@ -6,7 +6,7 @@
 #include <array>
 #include <map>
 
-namespace orvalis::essais {
+namespace orvalis::operateur {
 
 /// The files of the program folder by name.
 using Fichiers = std::map<std::string, std::string>;
@@ -72,4 +72,4 @@ void Armer(const std::string& lecteur, const Plan& plan, Bilan& bilan);
 /// label sheet has whole labels and each contact "En cours" its own, and the Settings are whole.
 [[nodiscard]] std::string Degat(Fichiers avant, Fichiers apres, Fichiers trouves);
 
-} // namespace orvalis::essais
+} // namespace orvalis::operateur

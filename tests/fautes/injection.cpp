@@ -12,7 +12,7 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-namespace orvalis::essais {
+namespace orvalis::operateur {
 namespace {
 
 constexpr std::size_t kPage = 4096;
@@ -88,9 +88,9 @@ std::vector<Plan> Fautes(const Appel& appel, std::size_t rang) {
     return plans;
 }
 
-} // namespace orvalis::essais
+} // namespace orvalis::operateur
 
-using namespace orvalis::essais;
+using namespace orvalis::operateur;
 
 // A function of the C library: its type and name, its parameters, whether it is on a file of the
 // drive, its sort, bytes and position, and the call of the system that it is, with `n` bytes.

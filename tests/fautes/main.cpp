@@ -14,7 +14,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace orvalis::essais {
+namespace orvalis::operateur {
 namespace {
 
 namespace fs = std::filesystem;
@@ -32,7 +32,7 @@ Fichiers LireFichiers(const fs::path& dossier) {
     Fichiers fichiers;
     for (const auto& entree : fs::directory_iterator(dossier))
         fichiers[entree.path().filename()] =
-            entree.is_regular_file() ? essai::Lire(entree.path()) : std::string();
+            entree.is_regular_file() ? aides::Lire(entree.path()) : std::string();
     return fichiers;
 }
 
@@ -125,10 +125,10 @@ std::string Seule(const Operation& operation, const fs::path& lecteur, bool juge
 }
 
 } // namespace
-} // namespace orvalis::essais
+} // namespace orvalis::operateur
 
 int main(int argc, char** argv) {
-    using namespace orvalis::essais;
+    using namespace orvalis::operateur;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     SansPeinture filtre;

@@ -3,7 +3,7 @@
 #include "qsl/feuille_qsl.h"
 #include "ui/texte_qt.h"
 
-namespace orvalis::essais {
+namespace orvalis::operateur {
 namespace {
 
 // Other stations than those of Contacts().
@@ -20,8 +20,8 @@ std::string Feuille(int etiquettes) {
     for (int k = 1; k <= kNbEtiquettes; ++k) {
         const std::string n = std::to_string(k);
         const std::string heure = "12/05/0200:0" + n;
-        feuille += k > etiquettes ? essai::Brute({{0, kMarqueLibre}}, kTailleEtiquette)
-                                  : essai::Brute({{0, "F" + n + "QSO"}, {60, heure}, {96, n}},
+        feuille += k > etiquettes ? aides::Brute({{0, kMarqueLibre}}, kTailleEtiquette)
+                                  : aides::Brute({{0, "F" + n + "QSO"}, {60, heure}, {96, n}},
                                                  kTailleEtiquette);
     }
     return feuille;
@@ -82,4 +82,4 @@ std::string Agir(const Operation& operation, Banc& banc) {
     return texte;
 }
 
-} // namespace orvalis::essais
+} // namespace orvalis::operateur

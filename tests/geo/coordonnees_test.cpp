@@ -9,7 +9,7 @@
 namespace orvalis {
 namespace {
 
-using namespace essai;
+using namespace aides;
 
 TEST(Locator, Validite) {
     for (const char* locator : {"JN04SD", "AA00AA", "RR99XX"})

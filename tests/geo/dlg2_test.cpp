@@ -5,7 +5,7 @@
 #include <QLineEdit>
 #include <QTest>
 
-namespace orvalis::essais {
+namespace orvalis::operateur {
 namespace {
 
 // Every box in the order of the screen, then what has the focus.
@@ -107,4 +107,4 @@ TEST_F(Dlg2Test, SeuleLaNotationChoisieEntraine) {
 }
 
 } // namespace
-} // namespace orvalis::essais
+} // namespace orvalis::operateur

@@ -10,7 +10,7 @@ namespace orvalis {
 namespace {
 
 namespace fs = std::filesystem;
-using namespace essai;
+using namespace aides;
 using namespace testing;
 
 // What fails on a file.

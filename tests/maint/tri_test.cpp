@@ -7,17 +7,17 @@
 namespace orvalis {
 namespace {
 
-using namespace essai;
+using namespace aides;
 
 constexpr std::int64_t kToutDroit = 1'000'000'000;
 
 // A logbook of these bytes, and its sort.
-struct Banc {
+struct CahierATrier {
     Dossier dossier;
     Session session;
     Tri tri;
 
-    explicit Banc(const std::string& octets)
+    explicit CahierATrier(const std::string& octets)
         : session(Ouvrir(dossier.Poser("J.Vek", octets))), tri(session.journal, session.nbFiches) {}
     [[nodiscard]] std::string Octets() const { return Lire(dossier / "J.Vek"); }
 };
@@ -27,15 +27,15 @@ TEST(Tri, PetitesMarches) {
         std::string octets, bilan;
         for (std::size_t i = 0; i < debuts.size(); i += 14)
             octets += Contact(std::string(1, "ABCDE"[i / 14]), debuts.substr(i, 13));
-        Banc banc(octets + Fin());
-        const EtatTri& etat = banc.tri.Etat();
+        CahierATrier cahier(octets + Fin());
+        const EtatTri& etat = cahier.tri.Etat();
         int passes = 0;
         for (; !etat.termine; ++passes)
-            banc.tri.Avancer(kToutDroit);
+            cahier.tri.Avancer(kToutDroit);
         EXPECT_EQ(passes, octets.size() > 165 ? kNbPasses : 0);
         EXPECT_EQ(etat.position, 1);
         for (std::size_t i = 0; i < octets.size(); i += 165)
-            bilan += banc.Octets()[i];
+            bilan += cahier.Octets()[i];
         return bilan + ' ' + std::to_string(etat.pas) + ' ' + std::to_string(etat.echanges);
     };
     // Dates and starts of contacts A to E: their order, steps, exchanges.
@@ -76,15 +76,15 @@ TEST(Tri, EgaleUnTriStableEtNePerdRienEnRoute) {
         trie += fiche;
     std::set<std::pair<std::int64_t, std::int64_t>> comptes;
     for (const std::int64_t tranche : {std::int64_t{1}, std::int64_t{37}, kToutDroit}) {
-        Banc banc(depart + suite);
-        const EtatTri& etat = banc.tri.Etat();
+        CahierATrier cahier(depart + suite);
+        const EtatTri& etat = cahier.tri.Etat();
         while (!etat.termine) {
-            banc.tri.Avancer(tranche);
-            const std::string octets = banc.Octets();
+            cahier.tri.Avancer(tranche);
+            const std::string octets = cahier.Octets();
             for (const auto& [moment, fiche] : ordre)
                 ASSERT_NE(octets.find(fiche), octets.npos) << "lost, step " << etat.pas;
         }
-        EXPECT_EQ(banc.Octets(), trie + suite);
+        EXPECT_EQ(cahier.Octets(), trie + suite);
         comptes.emplace(etat.pas, etat.echanges);
     }
     EXPECT_EQ(comptes.size(), 1) << "slices change the walk";
@@ -92,12 +92,12 @@ TEST(Tri, EgaleUnTriStableEtNePerdRienEnRoute) {
 
 TEST(Tri, DerniereFicheCourteEtLectureSeule) {
     std::string courte = Contact("B", "01/01/01").substr(0, 28);
-    Banc banc(Contact("A", "01/01/02") + courte);
-    while (!banc.tri.Etat().termine)
-        banc.tri.Avancer(kToutDroit);
+    CahierATrier cahier(Contact("A", "01/01/02") + courte);
+    while (!cahier.tri.Etat().termine)
+        cahier.tri.Avancer(kToutDroit);
     courte.resize(165, ' ');
-    EXPECT_EQ(banc.Octets(), courte + Contact("A", "01/01/02"));
-    Journal lecture(banc.dossier / "J.Vek", ModeFichier::Lecture);
+    EXPECT_EQ(cahier.Octets(), courte + Contact("A", "01/01/02"));
+    Journal lecture(cahier.dossier / "J.Vek", ModeFichier::Lecture);
     EXPECT_THROW(Tri(lecture, 2).Avancer(kToutDroit), ErreurFichier);
 }
 

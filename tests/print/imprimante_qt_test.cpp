@@ -54,9 +54,9 @@ struct ImprimanteQtTest : Test {
 };
 
 TEST_F(ImprimanteQtTest, PageDuCahier) {
-    const essai::Dossier autre;
-    const std::string fiche = essai::Brute({{0, "HB9\xC9\xC0"}, {151, "12/05/02"}});
-    Session session = essai::Ouvrir(autre.Poser("F5ABC.Vek", fiche + fiche));
+    const aides::Dossier autre;
+    const std::string fiche = aides::Brute({{0, "HB9\xC9\xC0"}, {151, "12/05/02"}});
+    Session session = aides::Ouvrir(autre.Poser("F5ABC.Vek", fiche + fiche));
     session.indicatif = "F5XYZ";
     session.pageAffichee = 3;
     ImprimanteQt imprimante(pdf);

@@ -7,7 +7,7 @@
 namespace orvalis {
 namespace {
 
-using namespace essai;
+using namespace aides;
 using namespace testing;
 
 // What both kinds of page carry.

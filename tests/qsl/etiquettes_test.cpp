@@ -16,7 +16,7 @@
 namespace orvalis {
 namespace {
 
-using namespace essai;
+using namespace aides;
 
 const std::string kLibre = Brute({{0, "***"}}, 106);
 
@@ -48,13 +48,13 @@ std::string Planche(std::string premieres) {
 }
 
 // A program folder with a logbook and a label sheet.
-struct Banc {
+struct ServiceQSL {
     Dossier dossier;
     Session session;
     FeuilleQSL feuille;
     ReponseQSL reponse; // to the last gesture that has one
 
-    Banc(const std::string& fiches, const std::string& planche) {
+    ServiceQSL(const std::string& fiches, const std::string& planche) {
         session = Ouvrir(dossier.Poser("F5ABC.Vek", fiches + Fin()));
         dossier.Poser("feuilleQSL.TXT", planche);
         ChargerFeuilleQSL(feuille, dossier / "");
@@ -104,10 +104,10 @@ struct Banc {
 void Essayer(const std::vector<std::array<std::string, 6>>& table) {
     for (const auto& [fiches, etiquettes, gestes, fichesApres, etiquettesApres, montre] : table) {
         SCOPED_TRACE(testing::PrintToString(std::tie(fiches, etiquettes, gestes)));
-        Banc banc(Fiches(fiches), Planche(Etiquettes(etiquettes)));
-        EXPECT_EQ(banc.Faire(gestes), montre);
-        EXPECT_EQ(Lire(banc.session.cheminJournal), Fiches(fichesApres) + Fin());
-        EXPECT_EQ(banc.OctetsFeuille(), Planche(Etiquettes(etiquettesApres)));
+        ServiceQSL service(Fiches(fiches), Planche(Etiquettes(etiquettes)));
+        EXPECT_EQ(service.Faire(gestes), montre);
+        EXPECT_EQ(Lire(service.session.cheminJournal), Fiches(fichesApres) + Fin());
+        EXPECT_EQ(service.OctetsFeuille(), Planche(Etiquettes(etiquettesApres)));
     }
 }
 
@@ -123,10 +123,10 @@ TEST(FeuilleQSL, UneFeuilleAbimeeGardeSesOctets) {
         {Planche("") + Etiquettes("F18"), 0},
     };
     for (const auto& [octets, attendu] : cas) {
-        const Banc banc("", octets);
-        EXPECT_EQ(EtiquettesAImprimer(banc.feuille).size(), attendu);
-        EXPECT_EQ(banc.OctetsFeuille(), octets);
-        EXPECT_FALSE(std::filesystem::exists(banc.dossier / "FeuilleQSL.txt"));
+        const ServiceQSL service("", octets);
+        EXPECT_EQ(EtiquettesAImprimer(service.feuille).size(), attendu);
+        EXPECT_EQ(service.OctetsFeuille(), octets);
+        EXPECT_FALSE(std::filesystem::exists(service.dossier / "FeuilleQSL.txt"));
     }
 }
 
@@ -135,12 +135,12 @@ TEST(FeuilleQSL, UneEtiquetteRelueEchangeReportEtMode) {
     for (const auto& [champ, voie] : cas) {
         const std::string_view debut = "F5ABC          Bonne ann\351e    QRP",
                                suite = "21/11/2618:0514.250    59+20dB SSB  7";
-        Banc banc("", Brute({{0, debut}, {45, champ}, {60, suite}}, 106));
-        BoitesEtiquette& boites = banc.feuille.boites;
+        ServiceQSL service("", Brute({{0, debut}, {45, champ}, {60, suite}}, 106));
+        BoitesEtiquette& boites = service.feuille.boites;
         boites[kBoiteManager] = "reste";
-        LireEtiquette(banc.feuille, 1);
-        EXPECT_EQ("-BD"[static_cast<int>(banc.feuille.voie)] + boites[kBoiteManager], voie);
-        ChoisirVoie(banc.feuille, VoieQSL::Direct); // a route needs no manager
+        LireEtiquette(service.feuille, 1);
+        EXPECT_EQ("-BD"[static_cast<int>(service.feuille.voie)] + boites[kBoiteManager], voie);
+        ChoisirVoie(service.feuille, VoieQSL::Direct); // a route needs no manager
         EXPECT_EQ(boites, (BoitesEtiquette{"", "F5ABC", "21/11/26", "18:05", "14.250", "59+20dB",
                                            "SSB", "Bonne année", "QRP", "", "F5ABC", "7"}));
     }
@@ -194,20 +194,20 @@ TEST(FluxEtiquettes, UnContactSansMarqueRecoitSaSeuleMarque) {
         {"F18", "A17 P188", "fiche1", "F18", "A17 P188", "PQI 3"},
         {"F18+ F18", "F181", "fiche2", "F18+ F18", "F181", "PQI 2"}, // another contact's label
     });
-    Banc banc(Fiches("F18"), Planche(Etiquettes("F181")));
-    const ReponseClic clic = PreparerEtiquette(banc.session, banc.feuille, 1);
+    ServiceQSL service(Fiches("F18"), Planche(Etiquettes("F181")));
+    const ReponseClic clic = PreparerEtiquette(service.session, service.feuille, 1);
     EXPECT_EQ(clic.suite, SuiteClic::Retabli);
     EXPECT_TRUE(clic.reponse.marque);
 }
 
 TEST(FluxEtiquettes, LaFeuilleSeRemplit) {
     const std::string z = Etiquettes("Z01");
-    Banc banc(Fiches("F18"), z + kLibre + Fois(14, z));
-    banc.Faire("fiche1");
-    EXPECT_EQ(banc.feuille.boites,
+    ServiceQSL service(Fiches("F18"), z + kLibre + Fois(14, z));
+    service.Faire("fiche1");
+    EXPECT_EQ(service.feuille.boites,
               (BoitesEtiquette{"", "F", "21/11/26", "18", "", "", "", "", "", "", "F", "1"}));
     Verifier(
-        [&banc](const std::string& gestes) { return banc.Faire(gestes); },
+        [&service](const std::string& gestes) { return service.Faire(gestes); },
         Textes{{"choix2 fiche1", "PQIR 16"},
                {"boite9=F6QSL direct valider", "PVQIR  Plus d'étiquette disponible ! "},
                {"restaurer", "PVQI 2"},
@@ -218,7 +218,7 @@ TEST(FluxEtiquettes, LaFeuilleSeRemplit) {
                {"boite1=N valider", "QIR  Plus d'étiquette disponible ! "},
                {"choix1 tag1 supprimer", "QIR  Plus d'étiquette disponible ! "},
                {"choix16 choix1 direct laisser boite1=N boite11=1 valider", "QIR 16\n16 (N)"}});
-    EXPECT_EQ(banc.OctetsFeuille(),
+    EXPECT_EQ(service.OctetsFeuille(),
               z + Brute({{0, "F"}, {45, "DIRECT"}, {60, "21/11/2618"}, {96, "1"}}, 106) +
                   Fois(13, z) + Brute({{0, "N"}, {96, "1"}}, 106));
 }

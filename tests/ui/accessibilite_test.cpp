@@ -13,7 +13,7 @@
 
 #include <set>
 
-namespace orvalis::essais {
+namespace orvalis::operateur {
 namespace {
 
 bool EstUn(const QWidget* widget, std::initializer_list<const char*> classes) {
@@ -62,7 +62,7 @@ std::string Defauts(const QWidget& fenetre) {
 }
 
 TEST(Accessibilite, NomsEtClavierDansChaqueEtat) {
-    for (const auto& [gestes, voulus] : essai::Textes{{"", ""},
+    for (const auto& [gestes, voulus] : aides::Textes{{"", ""},
                                                       {"^N =f5xyz", ""},
                                                       {"^N MnuChangerLocator =jn07wv", ""},
                                                       {"^S", ""},
@@ -111,4 +111,4 @@ TEST(Accessibilite, F10OuvreLesMenus) {
 }
 
 } // namespace
-} // namespace orvalis::essais
+} // namespace orvalis::operateur

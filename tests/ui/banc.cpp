@@ -10,7 +10,7 @@
 
 #include <sstream>
 
-namespace orvalis::essais {
+namespace orvalis::operateur {
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -183,4 +183,4 @@ void Banc::Taper(const std::string& utf8) const {
     }
 }
 
-} // namespace orvalis::essais
+} // namespace orvalis::operateur

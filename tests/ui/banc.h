@@ -11,7 +11,7 @@
 
 #include <functional>
 
-namespace orvalis::essais {
+namespace orvalis::operateur {
 
 /// Answers at once, and keeps what it was asked.
 class SystemeDEssai : public Systeme {
@@ -54,7 +54,7 @@ class SystemeDEssai : public Systeme {
 [[nodiscard]] std::string Contacts(int n);
 /// The end-of-log record with the own locator in MLOC.
 [[nodiscard]] inline std::string Fin(std::string_view monLocator = "JN04SD") {
-    return essai::Fin(monLocator);
+    return aides::Fin(monLocator);
 }
 
 /// First record in which two logbooks differ, for a failed test; empty when they are equal.
@@ -81,7 +81,7 @@ class Banc {
     [[nodiscard]] std::filesystem::path Dossier() const { return systeme.lecteur / "Orvalis"; }
     [[nodiscard]] QString Chemin(const char* nom) const { return Q((Dossier() / nom).string()); }
     [[nodiscard]] std::string Lire(const std::string& nom) const {
-        return essai::Lire(Dossier() / nom);
+        return aides::Lire(Dossier() / nom);
     }
     void Ecrire(const std::string& nom, const std::string& octets) const {
         std::ofstream(Dossier() / nom, std::ios::binary) << octets;
@@ -120,4 +120,4 @@ class Banc {
     [[nodiscard]] QString Regarder(const std::string& regard) const;
 };
 
-} // namespace orvalis::essais
+} // namespace orvalis::operateur

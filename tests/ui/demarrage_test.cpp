@@ -6,7 +6,7 @@
 #include <QTest>
 #include <QTimer>
 
-namespace orvalis::essais {
+namespace orvalis::operateur {
 namespace {
 
 // Takes these steps in the creation dialog as soon as it is open, then cancels it.
@@ -50,7 +50,7 @@ TEST(Demarrage, FichiersAbimesFinissentEnMessage) {
     const std::string incomplet =
         "Le fichier de paramètres « ~/Parvel.cfg » est incomplet : il doit contenir l'indicatif, "
         "le nom du cahier et le locator de la station.";
-    const essai::Textes cas = {
+    const aides::Textes cas = {
         {"\"F5ABC\",\"F5ABC.Vek\"\r\n", incomplet},
         {"", incomplet},
         {"\"F5ABC\",\"absent.Vek\",\"JN04SD\"\r\n",
@@ -95,4 +95,4 @@ TEST(Demarrage, HorlogeEtFin) {
 }
 
 } // namespace
-} // namespace orvalis::essais
+} // namespace orvalis::operateur

@@ -1,7 +1,7 @@
 // Sort, pairing, other logbooks, backup and copy through the window's menus.
 #include "ui/banc.h"
 
-namespace orvalis::essais {
+namespace orvalis::operateur {
 namespace {
 
 TEST(Maintenance, ClasserMontreEtGele) {
@@ -69,4 +69,4 @@ TEST(Maintenance, ErreursDesAutresFichiersSeDisentSansRienPerdre) {
 }
 
 } // namespace
-} // namespace orvalis::essais
+} // namespace orvalis::operateur

@@ -4,7 +4,7 @@
 
 #include <QScrollBar>
 
-namespace orvalis::essais {
+namespace orvalis::operateur {
 namespace {
 
 TEST(Navigation, TaillesDeJournal) {
@@ -74,4 +74,4 @@ TEST(Navigation, CarteListeEtFeuilleMontrentLesOctets) {
 }
 
 } // namespace
-} // namespace orvalis::essais
+} // namespace orvalis::operateur

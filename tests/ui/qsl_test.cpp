@@ -9,10 +9,10 @@
 
 #include <gmock/gmock.h>
 
-namespace orvalis::essais {
+namespace orvalis::operateur {
 namespace {
 
-const std::string kLibre = essai::Brute({{0, "***"}}, 106);
+const std::string kLibre = aides::Brute({{0, "***"}}, 106);
 
 // Two contacts, the sent QSL of each as given.
 std::string Cahier(std::string_view maQsl1, std::string_view maQsl2) {
@@ -72,7 +72,7 @@ TEST(Qsl, VieDUneEtiquette) {
         {"", "?BtQuitQSL @", "C|BtLeaveQSL"},
         {"^S", "BtTag_1", "Etiquette  [1] libre"},
     });
-    const std::string liberee = essai::Brute({{0, "***"}, {96, "3"}}, 106); // its number stays
+    const std::string liberee = aides::Brute({{0, "***"}, {96, "3"}}, 106); // its number stays
     EXPECT_EQ(Ecart(banc, Cahier("En cours", ""), liberee + kEtiquette1), "");
 
     // Withdrawn places are skipped and never written. Printed: cancelled, failed, to be seen again.
@@ -171,4 +171,4 @@ TEST(Impression, PagesPlanchesEtReglage) {
 }
 
 } // namespace
-} // namespace orvalis::essais
+} // namespace orvalis::operateur

@@ -1,7 +1,7 @@
 // Contacts typed, corrected, deleted and found through the real window; the file is read back.
 #include "ui/banc.h"
 
-namespace orvalis::essais {
+namespace orvalis::operateur {
 namespace {
 
 TEST(Saisie, QuaranteContactsDansLesDeuxModes) {
@@ -88,7 +88,7 @@ TEST(Saisie, LocatorFauxGeleUneSeconde) {
 
 TEST(Saisie, ChangementDeLocatorGardeOuNon) {
     for (const auto& [gestes, garde] :
-         essai::Textes{{"", "JN04SD"}, {"ChangLocChk @BtChangValid", "JN18DU"}}) {
+         aides::Textes{{"", "JN04SD"}, {"ChangLocChk @BtChangValid", "JN18DU"}}) {
         Banc banc(Fin());
         banc.Suivre({
             {"BtNewQSO =f6abc TxtField_16", "@", "ChangLocText"},
@@ -133,4 +133,4 @@ TEST(Recherche, IndicatifDateEtDoublons) {
 }
 
 } // namespace
-} // namespace orvalis::essais
+} // namespace orvalis::operateur
