@@ -1,15 +1,19 @@
-// What the tests share: a folder of their own, records set by hand, tables of texts.
+// What the tests share: a folder of their own, records set by hand, tables and walks of texts.
+//
+// A walk has a step on each line, `name : what is done -> what is seen`; the name is shown when the
+// step fails. A line set in by two blanks or more goes on with the line above it. A text with a
+// separator in it, or with blanks around it, stands between double quotes.
 #pragma once
 
 #include "core/fiches.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
-#include <gtest/gtest.h>
-#include <iterator>
+#include <functional>
+#include <gmock/gmock.h>
+#include <map>
 #include <sstream>
-#include <utility>
-#include <vector>
 
 namespace orvalis::aides {
 
@@ -81,6 +85,44 @@ inline Session Ouvrir(const std::filesystem::path& chemin) {
     return session;
 }
 
+/// The pieces of a text between separators, without the blanks and then the quotes around them;
+/// between quotes there is no separator. None when the text is empty.
+inline std::vector<std::string> Couper(const std::string& texte, const std::string& separateur) {
+    std::vector<std::string> morceaux(texte.empty() ? 0 : 1);
+    bool protege = false;
+    for (std::size_t i = 0; i < texte.size(); ++i) {
+        protege = protege != (texte[i] == '"');
+        if (!protege && texte.compare(i, separateur.size(), separateur) == 0) {
+            morceaux.emplace_back();
+            i += separateur.size() - 1;
+        } else {
+            morceaux.back() += texte[i];
+        }
+    }
+    for (std::string& m : morceaux) {
+        m = std::string(Rogner(m));
+        if (m.size() > 1 && m.front() == '"' && m.find('"', 1) == m.size() - 1)
+            m = m.substr(1, m.size() - 2);
+    }
+    return morceaux;
+}
+
+/// Name, what is done and what is seen, for each step of a walk.
+inline std::vector<std::array<std::string, 3>> Etapes(std::string chemin) {
+    for (std::size_t p = 0; (p = chemin.find("\n  ")) != chemin.npos;)
+        chemin.replace(p, chemin.find_first_not_of(" \n", p) - p, " ");
+    std::vector<std::array<std::string, 3>> etapes;
+    for (const std::string& ligne : Couper(chemin, "\n")) {
+        const auto nom = Couper(ligne, " : ");
+        const auto faits = Couper(ligne.empty() ? "" : nom.back(), "->");
+        if (!ligne.empty() && (nom.size() != 2 || faits.empty() || faits.size() > 2))
+            throw std::invalid_argument("not a step: " + ligne);
+        if (!ligne.empty())
+            etapes.push_back({nom[0], faits[0], faits.size() > 1 ? faits[1] : ""});
+    }
+    return etapes;
+}
+
 /// Texts and what a function makes of each.
 template<class R> using Table = std::vector<std::pair<std::string, R>>;
 using Textes = Table<std::string>;
@@ -92,11 +134,10 @@ template<class F, class R> void Verifier(F fonction, const Table<R>& table) {
 
 /// What a function makes of each of the texts between strokes.
 template<class F> std::string Suite(F fonction, const std::string& textes) {
-    std::istringstream flux(textes + '|');
     std::string suite;
-    for (std::string texte; std::getline(flux, texte, '|');)
-        suite += fonction(texte) + '|';
-    return suite.substr(0, suite.size() - 1);
+    for (const std::string& texte : Couper(textes, "|"))
+        suite += '|' + fonction(texte);
+    return suite.substr(1);
 }
 
 } // namespace orvalis::aides

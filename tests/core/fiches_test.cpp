@@ -1,10 +1,7 @@
 // Records, logbook files and the operations on contacts, against bytes set by hand.
 #include "aides.h"
 
-namespace orvalis {
-namespace {
-
-using namespace aides;
+namespace orvalis::aides::fiches {
 
 struct Fiches : ::testing::Test {
     void Poser(const std::string& octets) {
@@ -52,23 +49,22 @@ TEST_F(Fiches, UneFicheEcriteEstCoupeeOuCompletee) {
 
 TEST_F(Fiches, ComptageDesCahiersSainsEtAbimes) {
     const std::pair<std::string, const char*> cas[] = {
-        // N, F with an end of log, E of whole records
-        {"", "0E"},
-        {f, "0FE"},
-        {a + b + f + a + a, "2FE"}, // remains behind the end of the log
-        {a + a + a, "3E"},
+        // A logbook; N, whether it has an end of log and is of whole records.
+        {"", "0 entier"},
+        {f, "0 fini entier"},
+        {a + b + f + a + a, "2 fini entier"}, // remains behind the end of the log
+        {a + a + a, "3 entier"},
         {a + a.substr(0, 20), "2"},
-        {a + "\\", "1F"},
-        {a + Contact("  \\"), "1FE"},
+        {a + "\\", "1 fini"},
+        {a + Contact("  \\"), "1 fini entier"},
         {std::string(1000, 'x'), "7"},
-        {std::string(1601 * 165, 'y') + f + a, "1601FE"},
-    };
+        {std::string(1601 * 165, 'y') + f + a, "1601 fini entier"}};
     for (const auto& [octets, attendu] : cas) {
         Poser(octets);
         const EtatJournal etat = ExaminerJournal(session);
-        EXPECT_EQ(std::to_string(session.nbFiches) + (etat.finPresente ? "F" : "") +
-                      (etat.longueurEntiere ? "E" : ""),
-                  attendu);
+        const std::string nombre = std::to_string(session.nbFiches),
+                          fin = etat.finPresente ? " fini" : "";
+        EXPECT_EQ(nombre + fin + (etat.longueurEntiere ? " entier" : ""), attendu);
         EXPECT_EQ(session.prochaineFiche, session.nbFiches + 1);
     }
 }
@@ -78,11 +74,8 @@ TEST_F(Fiches, AjoutsEtSuppressionsOctetParOctet) {
     for (int k = 1; k <= 3300; ++k)
         blocs += Contact(std::to_string(k));
     const std::string g = Fin("IN95AA");
-    const struct {
-        std::string avant;
-        std::int32_t k; // deleted; 0: a contact is added
-        std::string apres;
-    } cas[] = {
+    // A logbook, the contact deleted (0: one is added), the logbook afterwards.
+    const std::tuple<std::string, std::int32_t, std::string> cas[] = {
         {a + f + b + c, 0, a + saisie + g + c},
         {a.substr(0, 30), 0, Brute({{0, "F1AAA"}}) + saisie + g}, // cut in a record
         {a + b + c + f, 1, b + c + f + f},                        // the file keeps its length
@@ -91,18 +84,17 @@ TEST_F(Fiches, AjoutsEtSuppressionsOctetParOctet) {
         {a + f, 1, f + f},
         {a + b + c, 1, b + c + f},
         {a + b + c.substr(0, 9), 1, b + Brute({{0, "F3CCC"}}) + f},
-        {blocs + f, 2, blocs.substr(0, 165) + blocs.substr(330) + f + f},
-    };
-    for (const auto& essai : cas) {
-        Poser(essai.avant);
-        const std::int32_t attendu = session.nbFiches + (essai.k == 0 ? 1 : -1);
+        {blocs + f, 2, blocs.substr(0, 165) + blocs.substr(330) + f + f}};
+    for (const auto& [avant, k, apres] : cas) {
+        Poser(avant);
+        const std::int32_t attendu = session.nbFiches + (k == 0 ? 1 : -1);
         session.zones[1] = "F2BBB";
-        if (essai.k == 0)
+        if (k == 0)
             AjouterFiche(session, FicheFinDeLog("IN95AA"));
         else
-            SupprimerFiche(session, essai.k);
-        EXPECT_EQ(Octets(), essai.apres);
-        EXPECT_EQ(session.zones[1], essai.k == 0 ? "F2BBB" : "");
+            SupprimerFiche(session, k);
+        EXPECT_EQ(Octets(), apres);
+        EXPECT_EQ(session.zones[1], k == 0 ? "F2BBB" : "");
         EXPECT_EQ(session.nbFiches, attendu);
         EXPECT_EQ(session.prochaineFiche, attendu + 1);
         EXPECT_EQ(session.journal.Compter(), attendu);
@@ -119,5 +111,4 @@ TEST_F(Fiches, UnCahierNeSOuvrePasDeuxFois) {
     EXPECT_EQ(session.journal.Lire(1).octets[0], '\\'); // the old one stays open
 }
 
-} // namespace
-} // namespace orvalis
+} // namespace orvalis::aides::fiches

@@ -4,10 +4,7 @@
 #include "core/locator_station.h"
 #include "core/parametres.h"
 
-namespace orvalis {
-namespace {
-
-using namespace aides;
+namespace orvalis::aides::parametres {
 
 TEST(Parametres, FormesLues) {
     const Dossier dossier;
@@ -19,11 +16,10 @@ TEST(Parametres, FormesLues) {
             return std::string{"refusés"};
         }
     };
-    const Textes cas = {{"\"F5ABC\",\"F5ABC.Vek\",\"JN18AA\"\r\n", "F5ABC|F5ABC.Vek|JN18AA"},
-                        {"F5ABC , F5ABC.Vek, JN18AA", "F5ABC|F5ABC.Vek|JN18AA"},
-                        {"\"F5\"\"A,B\",\"\xE9.Vek\",\"JN18AABB\"\n", "F5\"A,B|é.Vek|JN18AA"},
-                        {"\"F5ABC\"\r\n\"F5ABC.Vek\"\r\n\"\"\r\n", "F5ABC|F5ABC.Vek|      "}};
-    Verifier(lire, cas);
+    Verifier(lire, Textes{{"\"F5ABC\",\"F5ABC.Vek\",\"JN18AA\"\r\n", "F5ABC|F5ABC.Vek|JN18AA"},
+                          {"F5ABC , F5ABC.Vek, JN18AA", "F5ABC|F5ABC.Vek|JN18AA"},
+                          {"\"F5\"\"A,B\",\"\xE9.Vek\",\"JN18AABB\"\n", "F5\"A,B|é.Vek|JN18AA"},
+                          {"\"F5ABC\"\r\n\"F5ABC.Vek\"\r\n\"\"\r\n", "F5ABC|F5ABC.Vek|      "}});
     for (const char* octets : {"", "\r\n", "\"F5ABC\"", "\"A\",\"B\"", "\"\",\"\",\"\""})
         EXPECT_EQ(lire(octets), "refusés") << octets;
     EXPECT_THROW(static_cast<void>(LireParametres(dossier / "rien")), ErreurFichier);
@@ -76,5 +72,4 @@ TEST(LocatorStation, LesAutresReglagesRestentCeuxDuFichier) {
     EXPECT_EQ(session.monLocator, "JN05BB");
 }
 
-} // namespace
-} // namespace orvalis
+} // namespace orvalis::aides::parametres

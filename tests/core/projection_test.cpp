@@ -1,21 +1,19 @@
 #include "aides.h"
 #include "core/projection.h"
 
-#include <algorithm>
 #include <csignal>
 #include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace orvalis {
-namespace {
+namespace orvalis::aides::projection {
 
 constexpr std::size_t kTaille = 8192;
 constexpr std::size_t kIci = 2048; // a piece from here lies over the border of two pages
 constexpr std::size_t kPiece = kPlusGrandePiece;
 
 Fichier FichierDe(char octet) {
-    Fichier fichier(aides::Dossier() / "essai", ModeFichier::Creation);
+    Fichier fichier(Dossier() / "essai", ModeFichier::Creation);
     const std::string page(kTaille / 2, octet); // each page by itself, or they are kept as one
     fichier.Ecrire(0, page);
     fichier.Ecrire(kTaille / 2, page);
@@ -37,9 +35,8 @@ TEST(Projection, RemplaceToutOuRien) {
     EXPECT_EQ(lu, attendu);
 
     // The second page no longer takes anything: the part before it is put back.
-    ASSERT_EQ(
-        ::mprotect(const_cast<char*>(projection.Octets()) + kTaille / 2, kTaille / 2, PROT_READ),
-        0);
+    auto* page = const_cast<char*>(projection.Octets()) + kTaille / 2;
+    ASSERT_EQ(::mprotect(page, kTaille / 2, PROT_READ), 0);
     Remplir(projection, 'c');
     EXPECT_THROW(projection.Remplacer(kIci, kPiece), ErreurFichier);
     EXPECT_EQ(std::string(projection.Octets(), kTaille), attendu);
@@ -72,5 +69,4 @@ TEST(Projection, TueePendantUnRemplacement) {
     }
 }
 
-} // namespace
-} // namespace orvalis
+} // namespace orvalis::aides::projection

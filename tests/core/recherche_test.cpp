@@ -1,10 +1,7 @@
 #include "aides.h"
 #include "core/recherche.h"
 
-namespace orvalis {
-namespace {
-
-using namespace aides;
+namespace orvalis::aides::recherche {
 
 struct Recherche : ::testing::Test {
     void Poser(const std::string& octets) {
@@ -33,16 +30,15 @@ TEST_F(Recherche, ParIndicatif) {
           Contact(" F5ABC") + Contact("F5ABC/MM") + Contact("5ABC") + Contact("\xE9T\xE9") + Fin() +
           Contact("F5ABC"));
     const auto dire = [this](std::string_view texte) { return Dire(Chercher(texte)); };
-    const Textes cas = {
-        {"F5ABC", "1 3 4 6 7 | 5 Contacts réalisés | "},
-        {"F5ABCD", "2 | 1 Contact réalisé | "},
-        {"F5ABC/MM", "7 | 1 Contact réalisé | "},
-        {" 5ABC ", "8 | 1 Contact réalisé | "},
-        {"éTÉ", "9 | 1 Contact réalisé | "},
-        {"F5AB", "| 0 Contact réalisé | "},
-        {"18:30", "| 0 Contact réalisé | "}, // too short for a date or a time: a callsign
-        {"   ", "| 0 Contact réalisé | "}};
-    Verifier(dire, cas);
+    Verifier(dire, Textes{{"F5ABC", "1 3 4 6 7 | 5 Contacts réalisés | "},
+                          {"F5ABCD", "2 | 1 Contact réalisé | "},
+                          {"F5ABC/MM", "7 | 1 Contact réalisé | "},
+                          {" 5ABC ", "8 | 1 Contact réalisé | "},
+                          {"éTÉ", "9 | 1 Contact réalisé | "},
+                          {"F5AB", "| 0 Contact réalisé | "},
+                          {"18:30",
+                           "| 0 Contact réalisé | "}, // too short for a date or a time: a callsign
+                          {"   ", "| 0 Contact réalisé | "}});
     const auto lignes = Chercher("F5ABC").lignes;
     EXPECT_EQ(lignes[0], "1     Le 12/05/02 à 18:30 sur 14.250 Mhz      ");
     EXPECT_EQ(lignes[1], "3     Le 1/5/02   à 9:5   sur  Mhz            ");
@@ -53,11 +49,12 @@ TEST_F(Recherche, ParDate) {
     const std::string autre = Contact("F2BBB", "13/05/02");
     Poser(jour + autre + jour + Contact("12/05/02") + jour + autre + Contact("F3CCC", "12.05.02"));
     const auto dire = [this](std::string_view texte) { return Dire(Chercher(texte)); };
-    const Textes cas = {
-        {"12/05/02", "1 3 5 | 3 | Contacts"}, {"13/05/02", "2 6 | 2 | -"},
-        {"12.05.02", "7 | 1 | Contact"},      {"12/05/02 OU 13/05/02", "1 2 3 5 6 | 5 | Contacts"},
-        {"12/05/0", "| 0 | Contact"},         {"18:30:00", "| 0 | Contact"}};
-    Verifier(dire, cas);
+    Verifier(dire, Textes{{"12/05/02", "1 3 5 | 3 | Contacts"},
+                          {"13/05/02", "2 6 | 2 | -"},
+                          {"12.05.02", "7 | 1 | Contact"},
+                          {"12/05/02 OU 13/05/02", "1 2 3 5 6 | 5 | Contacts"},
+                          {"12/05/0", "| 0 | Contact"},
+                          {"18:30:00", "| 0 | Contact"}});
     EXPECT_EQ(Chercher("12/05/02").lignes[0], "1     Le 12/05/02 à 18:30 sur 7.05 Mhz        ");
 }
 
@@ -77,8 +74,7 @@ TEST_F(Recherche, Doublons) {
         {a + contact("F1AAA", "18:46"), "| 0 | Doublon trouvé"},
         {a + contact("f1aaa"), "| 0 | Doublon trouvé"},
         {a + contact(" F1AAA"), "| 0 | Doublon trouvé"},
-        {a + contact("F2BBB") + a, "| 0 | Doublon trouvé"},
-    };
+        {a + contact("F2BBB") + a, "| 0 | Doublon trouvé"}};
     for (const auto& [octets, attendu] : cas) {
         Poser(octets);
         EXPECT_EQ(Dire(ChercherDoublons(journal, nb)), attendu);
@@ -88,5 +84,4 @@ TEST_F(Recherche, Doublons) {
               "1      VP2/F1AAA/Le 12/05/02 à 18:30          ");
 }
 
-} // namespace
-} // namespace orvalis
+} // namespace orvalis::aides::recherche

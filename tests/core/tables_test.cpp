@@ -6,10 +6,7 @@
 #include "core/departements.h"
 #include "core/texte.h"
 
-namespace orvalis {
-namespace {
-
-using namespace aides;
+namespace orvalis::aides::tables {
 
 TEST(Texte, ChaqueOctetSurvitALaLectureEtALEcriture) {
     std::string octets;
@@ -42,7 +39,7 @@ TEST(Texte, CasseDesLettresAccentuees) {
 
 TEST(Texte, ValeurDesPremiersChiffres) {
     const auto valeur = [](std::string_view t) { return std::to_string(ValeurNumerique(t)); };
-    EXPECT_EQ(Suite(valeur, "A1|2A|007| 5|-3|99999999999999"), "0|2|7|0|0|999999999");
+    EXPECT_EQ(Suite(valeur, "A1|2A|007|\" 5\"|-3|99999999999999"), "0|2|7|0|0|999999999");
 }
 
 TEST(Dates, Controles) {
@@ -92,43 +89,36 @@ TEST(Boites, UneEditionNeFiltreQueCeQuElleApporte) {
     constexpr auto L = Touches::Libres, M = Touches::Majuscules, C = Touches::Chiffres;
     const std::string enorme(10'000, 'z');
     const std::string controles{"a\0\tb", 4};
-    const struct {
-        Touches touches;
-        std::size_t longueur;
-        std::string_view ancien;
-        TexteEdite nouveau;
-        std::string_view texte;
-        std::size_t curseur;
-    } cas[] = {
-        {C, 3, "", {"7a5b12", 6}, "751", 3},
-        {C, 3, "2A", {"2A7x", 4}, "2A7", 3}, // a stored letter stays
-        {M, 15, "abc", {"abxyc", 4}, "abXYc", 4},
-        {M, 15, "ab", {"abab", 2}, "ABab", 2}, // pasted before its like
-        {M, 6, "JN18AA", {"JN18AAx", 7}, "JN18AA", 6},
-        {M, 6, "éa", {"ééa", 2}, "éÉa", 2},
-        {L, 15, "Jean", {"Jea", 3}, "Jea", 3}, // Backspace
-        {L, 15, "Jean", {"", 0}, "", 0},
-        {M, 15, "F", {enorme, 10'000}, "ZZZZZZZZZZZZZZZ", 15},
-        {L, 8, "", {controles, 4}, "ab", 2},
-    };
-    for (const auto& c : cas) {
-        const TexteEdite edite = FiltrerEdition(c.touches, c.longueur, c.ancien, c.nouveau);
-        EXPECT_EQ(edite.texte, c.texte);
-        EXPECT_EQ(edite.curseur, c.curseur) << c.texte;
+    // Keys and length of a box, its text before and after an edit; text and cursor kept of that.
+    const std::tuple<Touches, std::size_t, std::string, TexteEdite, std::string, std::size_t>
+        cas[] = {{C, 3, "", {"7a5b12", 6}, "751", 3},
+                 {C, 3, "2A", {"2A7x", 4}, "2A7", 3}, // a stored letter stays
+                 {M, 15, "abc", {"abxyc", 4}, "abXYc", 4},
+                 {M, 15, "ab", {"abab", 2}, "ABab", 2}, // pasted before its like
+                 {M, 6, "JN18AA", {"JN18AAx", 7}, "JN18AA", 6},
+                 {M, 6, "éa", {"ééa", 2}, "éÉa", 2},
+                 {L, 15, "Jean", {"Jea", 3}, "Jea", 3}, // Backspace
+                 {L, 15, "Jean", {"", 0}, "", 0},
+                 {M, 15, "F", {enorme, 10'000}, "ZZZZZZZZZZZZZZZ", 15},
+                 {L, 8, "", {controles, 4}, "ab", 2}};
+    for (const auto& [touches, longueur, ancien, nouveau, texte, curseur] : cas) {
+        const TexteEdite edite = FiltrerEdition(touches, longueur, ancien, nouveau);
+        EXPECT_EQ(edite.texte, texte);
+        EXPECT_EQ(edite.curseur, curseur) << texte;
     }
 }
 
 // The commands refused, in the order of the table. A state is N, then what is under way or the
 // other logbook on show.
 std::string Refusees(const std::string& etat) {
-    const std::string suite = etat.substr(1);
+    const std::string suite = etat.substr(std::min(etat.size(), std::size_t{2}));
     Session session;
     session.journal = Journal("/dev/null", ModeFichier::Lecture);
     session.indicatif = "F5ABC";
     session.nbFiches = etat[0] - '0';
-    session.autreJournal = suite[0] == 'F' ? suite : "";
+    session.autreJournal = suite.starts_with('F') ? suite : "";
     session.saisie.EnSaisie = suite == "saisie";
-    session.saisie.NbModifs = suite == "modif" ? 1 : 0;
+    session.saisie.NbModifs = suite == "modification" ? 1 : 0;
     std::string refusees;
     for (const RegleCommande& regle : kReglesCommandes)
         if (!CommandePermise(regle.commande, session))
@@ -144,17 +134,15 @@ TEST(Commandes, RefuseesDansChaqueEtat) {
         {"1", "MnuClasser MnuChangerLocator "},
         {"0", "MnuCreateMDB MnuCopieSurDisque MnuClasser MnuSauver MnuImpPage MnuChangerLocator "
               "BtKillFiche Modifier "},
-        {"2saisie", "MnuCourantF MnuAutreF " + jumelage +
-                        "MnuCreateMDB MnuCopieSurDisque MnuClasser MnuSauver MnuConfigImp "
-                        "MnuImpPage MnuImpPageVierge MnuVirginTags MnuGestionFeuilleQSL " +
-                        edition},
-        {"2modif", "MnuCreateMDB MnuChangerLocator MnuVirginTags MnuGestionFeuilleQSL "},
-        {"2F6XYZ", jumelage + "MnuSauver MnuChangerLocator " + edition},
-        {"2F5ABC", jumelage + "MnuSauver MnuChangerLocator "},
-    };
+        {"2 saisie", "MnuCourantF MnuAutreF " + jumelage +
+                         "MnuCreateMDB MnuCopieSurDisque MnuClasser MnuSauver MnuConfigImp "
+                         "MnuImpPage MnuImpPageVierge MnuVirginTags MnuGestionFeuilleQSL " +
+                         edition},
+        {"2 modification", "MnuCreateMDB MnuChangerLocator MnuVirginTags MnuGestionFeuilleQSL "},
+        {"2 F6XYZ", jumelage + "MnuSauver MnuChangerLocator " + edition},
+        {"2 F5ABC", jumelage + "MnuSauver MnuChangerLocator "}};
     Verifier(Refusees, cas);
     EXPECT_FALSE(CommandePermise(Commande::MnuGestionFeuilleQSL, Session{}));
 }
 
-} // namespace
-} // namespace orvalis
+} // namespace orvalis::aides::tables

@@ -6,10 +6,7 @@
 
 #include <limits>
 
-namespace orvalis {
-namespace {
-
-using namespace aides;
+namespace orvalis::aides::coordonnees {
 
 TEST(Locator, Validite) {
     for (const char* locator : {"JN04SD", "AA00AA", "RR99XX"})
@@ -58,6 +55,7 @@ std::string Dire(MemoireDistance memoire, std::string_view station, std::string_
 }
 
 TEST(Distance, TextesDepuisLaStation) {
+    const auto dire = [](const std::string& d) { return Dire({}, d.substr(0, 6), d.substr(7)); };
     const Textes cas = {
         {"JN04SD JN04SE", "4.6 Km    000°"},
         {"JN04SD JN05SD", "111.2 Km  000°"},
@@ -74,8 +72,7 @@ TEST(Distance, TextesDepuisLaStation) {
         {"AI08AC JR09AS", "10251.9 Km360°"},
         // Cosine of the bearing beyond 1, next to the South Pole.
         {"AA00AA AA00AF", "23.1 Km   000°"}};
-    Verifier([](const std::string& deux) { return Dire({}, deux.substr(0, 6), deux.substr(7)); },
-             cas);
+    Verifier(dire, cas);
 }
 
 TEST(Distance, LocatorRefuseGardeLesCoordonneesPrecedentes) {
@@ -161,5 +158,4 @@ TEST(Notations, TexteInsere) {
     EXPECT_EQ(filtrer(u"4995"), Filtre(u"45", 1));
 }
 
-} // namespace
-} // namespace orvalis
+} // namespace orvalis::aides::coordonnees

@@ -4,13 +4,9 @@
 #include "maint/jumelage.h"
 #include "maint/ouverture.h"
 
-#include <gmock/gmock.h>
-
-namespace orvalis {
-namespace {
+namespace orvalis::aides::fichiers {
 
 namespace fs = std::filesystem;
-using namespace aides;
 using namespace testing;
 
 // What fails on a file.
@@ -32,8 +28,7 @@ TEST(Jumelage, OctetParOctet) {
         {a + f + a + a + b + a, b + b + f, a + b + b + f + b + a}, // remains behind the end
         {a + f, blanche + bref, a + blanche + courte + f},
         {bref, a + a + f, courte + a + a + f},
-        {longue + f, "", longue + longue + f},
-    };
+        {longue + f, "", longue + longue + f}};
     for (const auto& [avant, octets, apres] : cas) {
         const Dossier dossier;
         const auto cible = dossier.Poser("F5ABC.Vek", avant);
@@ -76,8 +71,7 @@ TEST(Ouverture, AutreJournal) {
         {"F5ABC.Vek", a + a + f, {"F5ABC", "JN33AA", 2, false, true, true}},
         {"Sans.Vek", a + a, {"Sans", "JN18AA", 2, true, false, true}},
         {"Coupe.Vek", a + f + "abc", {"Coupe", "JN33AA", 1, true, true, false}},
-        {".Vek", f, {".Vek", "JN33AA", 0, true, true, true}},
-    };
+        {".Vek", f, {".Vek", "JN33AA", 0, true, true, true}}};
     for (const auto& [nom, octets, attendu] : cas) {
         const Dossier dossier;
         Session session = Ouvrir(dossier.Poser("Station.Vek", Fois(3, a) + f));
@@ -126,5 +120,4 @@ TEST(Echecs, NeChangentRien) {
     EXPECT_EQ(session.monLocator + std::to_string(session.nbFiches), "JN18AA1");
 }
 
-} // namespace
-} // namespace orvalis
+} // namespace orvalis::aides::fichiers

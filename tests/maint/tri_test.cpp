@@ -1,13 +1,9 @@
 #include "aides.h"
 #include "maint/tri.h"
 
-#include <map>
 #include <set>
 
-namespace orvalis {
-namespace {
-
-using namespace aides;
+namespace orvalis::aides::tri {
 
 constexpr std::int64_t kToutDroit = 1'000'000'000;
 
@@ -101,5 +97,4 @@ TEST(Tri, DerniereFicheCourteEtLectureSeule) {
     EXPECT_THROW(Tri(lecture, 2).Avancer(kToutDroit), ErreurFichier);
 }
 
-} // namespace
-} // namespace orvalis
+} // namespace orvalis::aides::tri

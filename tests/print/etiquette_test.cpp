@@ -3,8 +3,7 @@
 
 #include <gmock/gmock.h>
 
-namespace orvalis {
-namespace {
+namespace orvalis::aides::etiquette {
 
 // Frame, table and texts of every label, from its own corner.
 const std::string kCommun = R"(R 0 0 5200 1780;
@@ -64,5 +63,4 @@ TEST(Planche, Vierge) {
     EXPECT_EQ(enTete, "de la remplie");
 }
 
-} // namespace
-} // namespace orvalis
+} // namespace orvalis::aides::etiquette

@@ -7,10 +7,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include <gmock/gmock.h>
-
-namespace orvalis {
-namespace {
+namespace orvalis::aides::imprimante_qt {
 
 using namespace testing;
 using namespace Qt::StringLiterals;
@@ -54,9 +51,9 @@ struct ImprimanteQtTest : Test {
 };
 
 TEST_F(ImprimanteQtTest, PageDuCahier) {
-    const aides::Dossier autre;
-    const std::string fiche = aides::Brute({{0, "HB9\xC9\xC0"}, {151, "12/05/02"}});
-    Session session = aides::Ouvrir(autre.Poser("F5ABC.Vek", fiche + fiche));
+    const Dossier autre;
+    const std::string fiche = Brute({{0, "HB9\xC9\xC0"}, {151, "12/05/02"}});
+    Session session = Ouvrir(autre.Poser("F5ABC.Vek", fiche + fiche));
     session.indicatif = "F5XYZ";
     session.pageAffichee = 3;
     ImprimanteQt imprimante(pdf);
@@ -85,5 +82,4 @@ TEST_F(ImprimanteQtTest, SortiesImpossibles) {
     }
 }
 
-} // namespace
-} // namespace orvalis
+} // namespace orvalis::aides::imprimante_qt

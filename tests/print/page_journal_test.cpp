@@ -2,12 +2,8 @@
 #include "print/enregistreur.h"
 #include "print/page_journal.h"
 
-#include <gmock/gmock.h>
+namespace orvalis::aides::page_journal {
 
-namespace orvalis {
-namespace {
-
-using namespace aides;
 using namespace testing;
 
 // What both kinds of page carry.
@@ -63,24 +59,19 @@ TEST(PageJournal, Vierge) {
 
 TEST(PageJournal, SArreteALaFinDuLog) {
     const std::string dix = Contact("\xC9\xC8XYZ6789A"), onze = Contact("HB9/F4ABC/P");
-    const struct {
-        std::string octets;
-        std::int32_t page, rangees;
-        const char* derniere; // number and callsign of the last row
-    } cas[] = {
+    // A logbook, the page, its rows, number and callsign of the last one.
+    const std::tuple<std::string, std::int32_t, std::int32_t, std::string> cas[] = {
         {Fois(30, dix) + Fin() + dix, 1, 25, "T 160 13440 8 000025; T 3100 13440 10g ÉÈXYZ6789A;"},
         {Fois(30, onze) + Fin() + dix, 2, 5, "T 160 3840 8 000030; T 3100 3840 8g HB9/F4ABC/P;"},
         {Fois(30, dix), 2, 5, "T 160 3840 8 000030;"},
         {Fois(27, dix) + Contact("\\F4ABC") + dix, 2, 2, "T 160 2400 8 000027;"},
-        {Fois(30, dix) + Fin() + dix, 3, 0, ""},
-    };
-    for (const auto& c : cas) {
-        const Enregistreur page = Imprimer(c.octets, c.page);
-        EXPECT_EQ(page.Compter("T 160 "), c.rangees);
-        EXPECT_EQ(page.Compter("L 130 "), 1 + c.rangees);
-        EXPECT_THAT(page.operations, IsSupersetOf(Liste(c.derniere)));
+        {Fois(30, dix) + Fin() + dix, 3, 0, ""}};
+    for (const auto& [octets, numero, rangees, derniere] : cas) {
+        const Enregistreur page = Imprimer(octets, numero);
+        EXPECT_EQ(page.Compter("T 160 "), rangees);
+        EXPECT_EQ(page.Compter("L 130 "), 1 + rangees);
+        EXPECT_THAT(page.operations, IsSupersetOf(Liste(derniere)));
     }
 }
 
-} // namespace
-} // namespace orvalis
+} // namespace orvalis::aides::page_journal
