@@ -128,7 +128,7 @@ void Remplir(const Banc& banc, const char* texte) {
 double TaperContact(const Banc& banc, int boite) {
     double secondes = 0;
     for (const BoiteTapee& b : kSaisie) {
-        if (banc.Texte("@") != "TxtField_" + std::to_string(b.boite))
+        if (banc.Texte("foyer") != "TxtField_" + std::to_string(b.boite))
             throw std::runtime_error("the focus went elsewhere");
         Remplir(banc, b.texte);
         Peindre(*banc.fenetre);
@@ -138,7 +138,7 @@ double TaperContact(const Banc& banc, int boite) {
             secondes =
                 std::chrono::duration<double>(std::chrono::steady_clock::now() - debut).count();
     }
-    if (banc.Texte("@") != "BtEnrSuivant")
+    if (banc.Texte("foyer") != "BtEnrSuivant")
         throw std::runtime_error("the contact cannot be stored");
     return secondes;
 }
@@ -157,7 +157,7 @@ void Suivant(benchmark::State& etat, const Carnet& carnet) {
     banc.Cliquer("BtNewQSO");
     Chronometrer(
         etat, [&] { TaperContact(banc, 0); }, [&] { Presser(banc, Qt::Key_Return); });
-    if (banc.Texte("@") != "TxtField_1")
+    if (banc.Texte("foyer") != "TxtField_1")
         etat.SkipWithError("no next card");
 }
 
@@ -175,7 +175,7 @@ void TournerPage(benchmark::State& etat, const Carnet& carnet) {
 }
 
 void FermerLaListe(const Banc& banc) {
-    if (banc.Texte("?BtContactsFermer") != "C")
+    if (banc.Etat("BtContactsFermer") != "caché")
         banc.Cliquer("BtContactsFermer");
 }
 

@@ -1,8 +1,6 @@
 #include "fautes/fautes.h"
 #include "qsl/qsl_slot_record.h"
 
-#include <algorithm>
-
 namespace orvalis::operateur {
 namespace {
 
@@ -28,14 +26,11 @@ Fiches Sans(const Fiches& fiches, const Fiches& autres) {
 
 std::string DegatDuCahier(const std::string& avant, const std::string& apres,
                           const std::string& trouve) {
-    const Fiches anciens = Lire(avant);
-    const Fiches nouveaux = Lire(apres);
-    const Fiches trouves = Lire(trouve);
+    const Fiches anciens = Lire(avant), nouveaux = Lire(apres), trouves = Lire(trouve);
     if (anciens.size() * kTailleFiche < avant.size() &&
         trouves.size() * kTailleFiche >= trouve.size())
         return "no end-of-log record";
-    const Fiches disparus = Sans(anciens, nouveaux);
-    const Fiches apparus = Sans(nouveaux, anciens);
+    const Fiches disparus = Sans(anciens, nouveaux), apparus = Sans(nouveaux, anciens);
     const Fiches communs = Sans(anciens, disparus);
     if (const Fiches perdus = Sans(communs, trouves); !perdus.empty())
         return "lost " + perdus[0];
@@ -72,8 +67,7 @@ std::string DegatDeLaFeuille(const std::string& a, const std::string& b, const s
 } // namespace
 
 std::string Degat(Fichiers avant, Fichiers apres, Fichiers trouves) {
-    const std::string c = "F5ABC.Vek";
-    const std::string f = "FeuilleQSL.txt";
+    const std::string c = "F5ABC.Vek", f = "FeuilleQSL.txt";
     std::string degat = DegatDuCahier(avant[c], apres[c], trouves[c]);
     if (degat.empty())
         degat = DegatDeLaFeuille(avant[f], apres[f], trouves[f], trouves[c]);

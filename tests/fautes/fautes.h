@@ -3,20 +3,14 @@
 
 #include "ui/banc.h"
 
-#include <array>
-#include <map>
-
 namespace orvalis::operateur {
 
 /// The files of the program folder by name.
 using Fichiers = std::map<std::string, std::string>;
 
-/// What an operator does, up to the last gesture, and that gesture, after which files are written.
+/// What an operator does (see ui/banc.h); the last gesture is the one that writes files.
 struct Operation {
-    const char* nom;
-    std::string cahier;
-    const char* gestes;
-    const char* dernier; ///< none: the window opens
+    std::string nom, cahier, gestes, dernier; ///< without a last gesture the window opens
     int etiquettes = -1; ///< the first contacts with a label on the sheet; -1: there is no sheet
 };
 [[nodiscard]] std::vector<Operation> Operations();
@@ -25,12 +19,8 @@ void Preparer(const Operation& operation, Banc& banc);
 /// Does the last gesture; returns what the operator was told.
 [[nodiscard]] std::string Agir(const Operation& operation, Banc& banc);
 
-enum Sorte : unsigned {
-    kLecture = 1,
-    kEcriture = 2,
-    kPlace = 4, ///< not a write, but it may find the disk full
-    kAutre = 8
-};
+/// kPlace is not a write, but may find the disk full.
+enum Sorte : unsigned { kLecture = 1, kEcriture = 2, kPlace = 4, kAutre = 8 };
 
 /// A call of the system.
 struct Appel {

@@ -23,8 +23,7 @@ constexpr Faute kFautes[] = {
     {.nom = "error", .sortes = kTous, .erreur = EIO},
     {.nom = "disk full", .sortes = kEcriture | kPlace, .erreur = ENOSPC, .plein = true},
     {.nom = "cut short", .sortes = kLecture | kEcriture, .courte = true},
-    {.nom = "cut short, then full", .sortes = kEcriture, .courte = true, .plein = true},
-};
+    {.nom = "cut short, then full", .sortes = kEcriture, .courte = true, .plein = true}};
 
 // The replaced functions have no other way to know; some are called before main().
 struct Etat {

@@ -18,8 +18,7 @@ std::string Autres(int n) {
 std::string Feuille(int etiquettes) {
     std::string feuille;
     for (int k = 1; k <= kNbEtiquettes; ++k) {
-        const std::string n = std::to_string(k);
-        const std::string heure = "12/05/0200:0" + n;
+        const std::string n = std::to_string(k), heure = "12/05/0200:0" + n;
         feuille += k > etiquettes ? aides::Brute({{0, kMarqueLibre}}, kTailleEtiquette)
                                   : aides::Brute({{0, "F" + n + "QSO"}, {60, heure}, {96, n}},
                                                  kTailleEtiquette);
@@ -32,28 +31,30 @@ std::string Feuille(int etiquettes) {
 // Record 25 lies over the border of two pages of the file: what is done to it, or to the place
 // behind 24 contacts, is what a kill can cut.
 std::vector<Operation> Operations() {
-    const std::string fin = Fin();
-    const char* tape =
-        "BtNewQSO =f6new =14.210 =ssb = =57 =jean =lyon =69 =jn25ab =rien = = =f5xyz";
-    const char* locator = "BtNewQSO =f6abc TxtField_16 =jn18du ChangLocChk";
+    const std::string fin = Fin(), c24 = Contacts(24), c25 = Contacts(25) + fin,
+                      saisie = "clic BtNewQSO; valide f6new, 14.210, ssb, , 57, jean, lyon, 69, "
+                               "jn25ab, rien, , , f5xyz",
+                      etiquettes = "menu MnuGestionFeuilleQSL; clic ";
     return {
-        {"suivant", Contacts(24) + fin, tape, "="},
-        {"terminer", Contacts(24) + fin + Autres(3) + fin, tape, "BtEnrTerminer"},
-        {"sans-fin", Contacts(24), tape, "="},
-        {"correction", Contacts(25) + fin, "TxtField_12 =éloïse", "^O"},
-        {"suppression", Contacts(130) + fin + Autres(2), "CmdSensHaut #1 BtKillFiche", "FraCmdOui"},
-        {"suppression-derniere", Contacts(25) + fin, "BtKillFiche", "FraCmdOui"},
-        {"locator", Contacts(2) + fin, locator, "BtChangValid"},
-        {"tri", Contacts(60).substr(30 * kTailleFiche) + Contacts(30) + fin, "", "MnuClasser"},
-        {"jumelage", Contacts(24) + fin, "<AUTRE.Vek MnuJumeler", "BtPjumeler"},
-        {"sauvegarde", Contacts(60) + fin, "<VekSave/F5ABC.Vek", "MnuSauver"},
-        {"etiquette-placee", Contacts(25) + fin, "TxtField_14 =F5ABC ^B", "^V", 0},
-        {"etiquette-supprimee", Contacts(25) + fin, "MnuGestionFeuilleQSL BtChoix_1", "BtDelQSL",
-         1},
-        {"etiquettes-imprimees", Contacts(25) + fin, "MnuGestionFeuilleQSL BtPrintQSL",
-         "BtCtrl_Parfait", 3},
-        {"demarrage", Contacts(2) + fin, "", ""},
-    };
+        // name, logbook, gestures, the last one, labels
+        {"suivant", c24 + fin, saisie, "entree 1"},
+        {"terminer", c24 + fin + Autres(3) + fin, saisie, "clic BtEnrTerminer"},
+        {"sans-fin", c24, saisie, "entree 1"},
+        {"correction", c25, "clic TxtField_12; valide éloïse", "touche Alt+O"},
+        {"suppression", Contacts(130) + fin + Autres(2),
+         "clic CmdSensHaut; ligne 2; clic BtKillFiche", "clic FraCmdOui"},
+        {"suppression-derniere", c25, "clic BtKillFiche", "clic FraCmdOui"},
+        {"locator", Contacts(2) + fin,
+         "clic BtNewQSO; valide f6abc; clic TxtField_16; valide jn18du; clic ChangLocChk",
+         "clic BtChangValid"},
+        {"tri", Contacts(60).substr(30 * kTailleFiche) + Contacts(30) + fin, "", "menu MnuClasser"},
+        {"jumelage", c24 + fin, "fichier AUTRE.Vek; menu MnuJumeler", "clic BtPjumeler"},
+        {"sauvegarde", Contacts(60) + fin, "fichier VekSave/F5ABC.Vek", "menu MnuSauver"},
+        {"etiquette-placee", c25, "clic TxtField_14; valide F5ABC; touche Alt+B", "touche Alt+V",
+         0},
+        {"etiquette-supprimee", c25, etiquettes + "BtChoix_1", "clic BtDelQSL", 1},
+        {"etiquettes-imprimees", c25, etiquettes + "BtPrintQSL", "clic BtCtrl_Parfait", 3},
+        {"demarrage", Contacts(2) + fin, "", ""}};
 }
 
 void Preparer(const Operation& operation, Banc& banc) {
@@ -65,16 +66,20 @@ void Preparer(const Operation& operation, Banc& banc) {
     if (operation.etiquettes >= 0)
         banc.Ecrire("FeuilleQSL.txt", Feuille(operation.etiquettes));
     banc.systeme.imprimante = [] { return std::make_unique<Enregistreur>("Sans"); };
-    if (*operation.dernier != '\0')
+    if (!operation.dernier.empty())
         banc.Ouvrir();
-    banc.Faire(operation.gestes);
+    banc.Suivre(operation.nom + " : " + operation.gestes + " ->");
 }
 
 std::string Agir(const Operation& operation, Banc& banc) {
-    if (*operation.dernier == '\0')
+    if (operation.dernier.empty())
         banc.Ouvrir();
-    banc.Faire(operation.dernier);
     std::string texte;
+    try {
+        banc.Faire(operation.dernier);
+    } catch (const std::exception& erreur) {
+        texte = erreur.what();
+    }
     for (const QString& message : banc.systeme.avertissements)
         texte += S(message);
     if (banc.systeme.codeDeFin && (texte.empty() || *banc.systeme.codeDeFin == 0))

@@ -2,29 +2,30 @@
 #include "geo/dlg2.h"
 #include "ui/banc.h"
 
-#include <QLineEdit>
 #include <QTest>
 
-namespace orvalis::operateur {
-namespace {
+namespace orvalis::operateur::dlg2 {
 
-// Every box in the order of the screen, then what has the focus.
-constexpr const char* kTout = "Fr1DegText1 Fr1MinText1 Fr1SecText1 Fr1LatSgnText Fr1DegText2 "
-                              "Fr1MinText2 Fr1SecText2 Fr1LonSgnText Fr1LatCent Fr1LonCent "
-                              "Fr1TextLocator @";
 constexpr const char* kOuverture = "44|08|35|N|001|32|10|E|44.1458|-1.5417|JN04SD|Fr1CmdFermer";
 constexpr const char* kNewYork = "41|43|55|N|072|42|50|O|41.7292|72.7083|FN31PR|Fr1CmdFermer";
 
 struct Dlg2Test : testing::Test {
-    Dlg2Test() { Montrer(dialogue); }
+    Dlg2Test() {
+        // Every box in the order of the screen, then what has the focus.
+        banc.groupes["vue"] =
+            "Fr1DegText1 Fr1MinText1 Fr1SecText1 Fr1LatSgnText Fr1DegText2 Fr1MinText2 Fr1SecText2 "
+            "Fr1LonSgnText Fr1LatCent Fr1LonCent Fr1TextLocator foyer";
+        Montrer(dialogue);
+    }
     static void Montrer(QWidget& fenetre) {
         fenetre.show();
         fenetre.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&fenetre));
         QCoreApplication::processEvents();
     }
-    std::string Choisi(const char* boite) {
-        return S(banc.Controle<QLineEdit>(boite)->selectedText());
+    /// A step after which every box is as given.
+    void Tout(const std::string& pas, const std::string& vus) {
+        banc.Suivre(pas + " -> vue = " + vus);
     }
 
     Banc banc{Fin()};
@@ -33,78 +34,76 @@ struct Dlg2Test : testing::Test {
 
 TEST_F(Dlg2Test, SeRemplitUneFoisParOuverture) {
     EXPECT_EQ(dialogue.LocatorModifie(), std::nullopt);
-    banc.Suivre({{"", kTout, kOuverture}, {"Fr1TextLocator =fn31pr", kTout, kNewYork}});
+    Tout("opened :", kOuverture);
+    Tout("locator : clic Fr1TextLocator; valide fn31pr", kNewYork);
     Montrer(*banc.fenetre);
     Montrer(dialogue);
-    banc.Suivre({{"", kTout, kNewYork}, {"!Enter", "?Fr1CmdFermer", "C"}});
+    Tout("still open :", kNewYork);
+    banc.Suivre("closed : touche Enter -> caché Fr1CmdFermer");
     EXPECT_EQ(dialogue.LocatorModifie(), "FN31PR");
     Montrer(dialogue);
     EXPECT_EQ(dialogue.LocatorModifie(), std::nullopt);
-    banc.Suivre({{"", kTout, kOuverture}, {"Fr1MinText1 !Esc", "?Fr1CmdFermer", "C"}});
+    Tout("opened again :", kOuverture);
+    banc.Suivre("cancelled : clic Fr1MinText1; touche Esc -> caché Fr1CmdFermer");
 }
 
 TEST_F(Dlg2Test, LesDegresMinutesSecondesEntrainentLeReste) {
-    banc.Suivre({
-        {"Fr1DegText1 :33", "@", "Fr1MinText1"},
-        {":52", "@", "Fr1SecText1"},
-        {":12", "@", "Fr1LatSgnText"},
-        {":s", "@", "Fr1DegText2"},
-        {":151", "@", "Fr1MinText2"},
-        {":12", "@", "Fr1SecText2"},
-        {":34", "@", "Fr1LonSgnText"},
-        {":e", kTout, "33|52|12|S|151|12|34|E|-33.8720|-151.2056|QF56OD|Fr1CmdFermer"},
-        {"Fr1LatSgnText :x !Backspace", "Fr1LatSgnText @", "S|Fr1LatSgnText"},
-        // No letter counts as North.
-        {"!Del", kTout, "33|52|12||151|12|34|E|33.8720|-151.2056|QM53OU|Fr1DegText2"},
-    });
+    banc.Suivre(R"(
+ degrees : clic Fr1DegText1; tape 33 -> foyer = Fr1MinText1
+ minutes : tape 52 -> foyer = Fr1SecText1
+ seconds : tape 12 -> foyer = Fr1LatSgnText
+ South : tape s -> foyer = Fr1DegText2
+ degrees of longitude : tape 151 -> foyer = Fr1MinText2
+ minutes of longitude : tape 12 -> foyer = Fr1SecText2
+ seconds of longitude : tape 34 -> foyer = Fr1LonSgnText
+ East : tape e -> vue = 33|52|12|S|151|12|34|E|-33.8720|-151.2056|QF56OD|Fr1CmdFermer
+ no sign : clic Fr1LatSgnText; tape x; touche Backspace -> Fr1LatSgnText foyer = S|Fr1LatSgnText
+ none is North : touche Del -> vue = 33|52|12||151|12|34|E|33.8720|-151.2056|QM53OU|Fr1DegText2)");
     EXPECT_EQ(dialogue.LocatorModifie(), "QM53OU");
 }
 
 TEST_F(Dlg2Test, UneValeurTropGrandeDevientZero) {
-    const std::array<const char*, 4> cas[] = {
+    const std::array<std::string, 4> cas[] = {
+        // box, text taken, text refused, what stands there then
         {"Fr1DegText1", "89", "90", "00"}, {"Fr1MinText1", "59", "60", "00"},
         {"Fr1SecText1", "59", "95", "00"}, {"Fr1DegText2", "179", "180", "000"},
         {"Fr1MinText2", "59", "60", "00"}, {"Fr1SecText2", "59", "99", "00"}};
     for (const auto& [boite, admis, refuse, zero] : cas) {
-        banc.Suivre({{boite + std::string(" :") + admis, boite, admis},
-                     {boite + std::string(" :") + refuse, "@", boite}});
-        EXPECT_EQ(Choisi(boite), zero);
+        banc.Suivre("taken : clic " + boite + "; tape " + admis + " -> " + boite + " = " + admis +
+                    "\n refused : clic " + boite + "; tape " + refuse + " -> foyer = " + boite);
+        EXPECT_EQ(S(banc.Controle<QLineEdit>(boite)->selectedText()), zero);
     }
-    banc.Suivre({{"", kTout, "00|00|00|N|000|00|00|E|0.0000|0.0000|JJ00AA|Fr1SecText2"},
-                 {"Fr1DegText1 Fr1DegText1+9x5a", "Fr1DegText1", "00"}}); // pasted
+    Tout("zeros :", "00|00|00|N|000|00|00|E|0.0000|0.0000|JJ00AA|Fr1SecText2");
+    banc.Suivre("pasted : clic Fr1DegText1; colle Fr1DegText1 9x5a -> Fr1DegText1 = 00");
 }
 
 TEST_F(Dlg2Test, LesDegresDecimauxEntrainentLeReste) {
-    banc.Suivre({
-        {"Fr1LatCent :-33.872", kTout, "33|52|12|S|001|32|10|E|-33.872|-1.5417|JF06SD|Fr1LatCent"},
-        // The same notation: entering the next box is enough. 180 itself is out of range.
-        {"!Tab :18a0,", kTout, "33|52|12|S|018|00|00|O|-33.872|180|IF16AD|Fr1LonCent"},
-        {"!Backspace", kTout, "33|52|12|S|018|00|00|O|-33.872|18|IF16AD|Fr1LonCent"},
-        // Of 9, in single precision; what is out of range does not hold the other box back.
-        {"Fr1LatCent :" + std::string(44, '9') + " !Tab :20", "Fr1TextLocator", "IJ08AX"},
-    });
+    banc.Suivre(R"(
+ S : clic Fr1LatCent; tape -33.872 -> vue = 33|52|12|S|001|32|10|E|-33.872|-1.5417|JF06SD|Fr1LatCent
+ entering the next box is enough, 180 itself is out of range : touche Tab; tape "18a0,"
+     -> vue = 33|52|12|S|018|00|00|O|-33.872|180|IF16AD|Fr1LonCent
+ within : touche Backspace -> vue = 33|52|12|S|018|00|00|O|-33.872|18|IF16AD|Fr1LonCent)");
+    // In single precision; what is out of range does not hold the other box back.
+    banc.Suivre("nines : clic Fr1LatCent; tape " + std::string(44, '9') +
+                "; touche Tab; tape 20 -> Fr1TextLocator = IJ08AX");
 }
 
 TEST_F(Dlg2Test, LeLocatorIncompletRevient) {
-    banc.Suivre({
-        {"Fr1LatCent :44.1375", "Fr1SecText1", "45"},
-        {"Fr1TextLocator =jn05", "@", "Fr1TextLocator"},
-        {"!Tab", kTout, kOuverture},
-        {"Fr1TextLocator =JS04SD", "@", "Fr1TextLocator"},
-    });
+    banc.Suivre(R"(
+ degrees : clic Fr1LatCent; tape 44.1375 -> Fr1SecText1 = 45
+ four characters : clic Fr1TextLocator; valide jn05 -> foyer = Fr1TextLocator)");
+    Tout("the old one comes back : touche Tab", kOuverture);
+    banc.Suivre("wrong : clic Fr1TextLocator; valide JS04SD -> foyer = Fr1TextLocator");
     EXPECT_EQ(dialogue.LocatorModifie(), "JN04SD");
-    // The seventh character has no room.
-    banc.Suivre({{"!Ctrl+A :FN31PRX !Tab", kTout, kNewYork}});
+    Tout("no room for a seventh : touche Ctrl+A; tape FN31PRX; touche Tab", kNewYork);
 }
 
 TEST_F(Dlg2Test, SeuleLaNotationChoisieEntraine) {
-    banc.Faire("!Tab");
-    EXPECT_EQ(Choisi("Fr1DegText1"), "44");
-    banc.Suivre({
-        {":95", kTout, "95|08|35|N|001|32|10|E|44.1458|-1.5417|JN04SD|Fr1DegText1"},
-        {"^D :43", kTout, "43|08|35|N|001|32|10|E|43.1358|-1.5316|JN03SD|Fr1MinText1"},
-    });
+    banc.Suivre("entered : touche Tab");
+    EXPECT_EQ(S(banc.Controle<QLineEdit>("Fr1DegText1")->selectedText()), "44");
+    banc.Suivre(R"(
+ out of range : tape 95 -> vue = 95|08|35|N|001|32|10|E|44.1458|-1.5417|JN04SD|Fr1DegText1
+ then : touche Alt+D; tape 43 -> vue = 43|08|35|N|001|32|10|E|43.1358|-1.5316|JN03SD|Fr1MinText1)");
 }
 
-} // namespace
-} // namespace orvalis::operateur
+} // namespace orvalis::operateur::dlg2

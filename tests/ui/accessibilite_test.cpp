@@ -1,20 +1,14 @@
 // What a screen reader says and what the keyboard reaches, in every state of the window.
-#include "geo/dlg2.h"
-#include "ui/a_propos.h"
 #include "ui/banc.h"
-#include "ui/dlg1.h"
 
-#include <QAbstractButton>
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
-#include <QLabel>
 #include <QMenuBar>
 
 #include <set>
 
-namespace orvalis::operateur {
-namespace {
+namespace orvalis::operateur::accessibilite {
 
 bool EstUn(const QWidget* widget, std::initializer_list<const char*> classes) {
     return std::any_of(classes.begin(), classes.end(),
@@ -26,14 +20,6 @@ bool EstUnControle(const QWidget& widget) {
                         EstUn(widget.parentWidget(), {"QAbstractButton", "QLineEdit"});
     return !partie && (EstUn(&widget, {"QAbstractButton", "QLineEdit", "QAbstractItemView"}) ||
                        (EstUn(&widget, {"QScrollBar"}) && !widget.objectName().isEmpty()));
-}
-
-QKeySequence Lettre(const QWidget& widget) {
-    if (const auto* bouton = qobject_cast<const QAbstractButton*>(&widget))
-        return bouton->shortcut();
-    const auto* label = qobject_cast<const QLabel*>(&widget);
-    return label != nullptr && label->buddy() != nullptr ? QKeySequence::mnemonic(label->text())
-                                                         : QKeySequence();
 }
 
 // Controls without a name to say, and among what is on show and enabled, what Tab never comes to
@@ -62,29 +48,27 @@ std::string Defauts(const QWidget& fenetre) {
 }
 
 TEST(Accessibilite, NomsEtClavierDansChaqueEtat) {
-    for (const auto& [gestes, voulus] : aides::Textes{{"", ""},
-                                                      {"^N =f5xyz", ""},
-                                                      {"^N MnuChangerLocator =jn07wv", ""},
-                                                      {"^S", ""},
-                                                      {"^R =f5qso", ""},
-                                                      {"MnuJumeler", ""},
-                                                      {"MnuGestionFeuilleQSL", "FLdText_10 "}}) {
+    // How to come to a state, and what is left out there.
+    for (const auto& [chemin, voulus] :
+         aides::Textes{{"idle : ->", ""},
+                       {"entry : touche Alt+N; valide f5xyz", ""},
+                       {"locator : touche Alt+N; menu MnuChangerLocator; valide jn07wv", ""},
+                       {"deletion : touche Alt+S", ""},
+                       {"search : touche Alt+R; valide f5qso", ""},
+                       {"pairing : menu MnuJumeler", ""},
+                       {"labels : menu MnuGestionFeuilleQSL", "FLdText_10 "}}) {
         Banc banc(Contacts(30) + Fin());
-        banc.Faire(gestes);
-        EXPECT_EQ(Defauts(*banc.fenetre), voulus) << gestes;
+        banc.Suivre(chemin);
+        EXPECT_EQ(Defauts(*banc.fenetre), voulus) << chemin;
     }
     SystemeDEssai systeme;
-    const Dlg1 creation({}, systeme, nullptr);
-    const Dlg2 coordonnees;
-    const APropos aPropos(systeme, nullptr);
-    for (const QWidget* dialogue :
-         std::initializer_list<const QWidget*>{&creation, &coordonnees, &aPropos})
+    for (const auto& dialogue : Dialogues(systeme))
         EXPECT_EQ(Defauts(*dialogue), "");
 }
 
 TEST(Accessibilite, CouleursSuiventLeBureau) {
     Banc banc(Contacts(1) + Fin());
-    banc.Faire("MnuGestionFeuilleQSL");
+    banc.Suivre("labels : menu MnuGestionFeuilleQSL");
     const QPalette clair = QApplication::palette();
     const auto couleur = [&banc](const char* nom, QPalette::ColorRole role) {
         return banc.Controle<QWidget>(nom)->palette().color(role);
@@ -99,16 +83,17 @@ TEST(Accessibilite, CouleursSuiventLeBureau) {
         EXPECT_EQ(couleur("BtKillFiche", QPalette::ButtonText), rouge);
         EXPECT_EQ(couleur("TxtField_15", QPalette::Text), rouge);
         EXPECT_EQ(couleur("PictBtEtiq02", QPalette::WindowText), palette.color(QPalette::Mid));
-        EXPECT_EQ(couleur("RechText", QPalette::PlaceholderText).rgb(),
-                  palette.color(QPalette::Text).rgb());
+        const QRgb texte = palette.color(QPalette::Text).rgb();
+        EXPECT_EQ(couleur("RechText", QPalette::PlaceholderText).rgb(), texte);
     }
     QApplication::setPalette(clair);
 }
 
 TEST(Accessibilite, F10OuvreLesMenus) {
     Banc banc(Contacts(1) + Fin());
-    banc.Suivre({{"^N !F10", "?NmuFilect", "A"}, {"!Right", "?MnuLister", "A"}});
+    banc.Suivre(R"(
+ first menu : touche Alt+N, F10 -> actif NmuFilect
+ next menu : touche Right -> actif MnuLister)");
 }
 
-} // namespace
-} // namespace orvalis::operateur
+} // namespace orvalis::operateur::accessibilite

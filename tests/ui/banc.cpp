@@ -1,24 +1,21 @@
 #include "ui/banc.h"
 
+#include "geo/dlg2.h"
+#include "ui/a_propos.h"
+#include "ui/dlg1.h"
 #include "ui/feuille_log.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
-#include <QLineEdit>
+#include <QLabel>
 #include <QListWidget>
 #include <QTest>
-
-#include <sstream>
 
 namespace orvalis::operateur {
 
 using namespace Qt::Literals::StringLiterals;
-
-void SystemeDEssai::Pause(int /*secondes*/) {
-    if (auto action = std::exchange(pendantPause, nullptr))
-        action();
-    QCoreApplication::processEvents();
-}
+using aides::Couper;
 
 std::string Octets(const std::string& champs, std::string_view monLocator) {
     QsoRecord fiche;
@@ -33,8 +30,7 @@ std::string Contacts(int n) {
     std::string octets;
     for (int k = 1; k <= n; ++k) {
         const QString heure = QTime(k / 60 % 24, k % 60).toString(u"HH:mm"_s);
-        const QString champs = u"F%1QSO|12/05/02|%2|%2|14.210|SSB"_s;
-        octets += Octets(S(champs.arg(k).arg(heure)), "JN04SD");
+        octets += Octets(S(u"F%1QSO|12/05/02|%2|%2|14.210|SSB"_s.arg(k).arg(heure)), "JN04SD");
     }
     return octets;
 }
@@ -47,6 +43,19 @@ std::string Difference(const std::string& obtenu, const std::string& attendu) {
         if (const auto a = fiche(obtenu, debut), b = fiche(attendu, debut); a != b)
             return "record " + std::to_string(debut / kTailleFiche + 1) + "\n  " + a + "\n  " + b;
     return {};
+}
+
+QKeySequence Lettre(const QWidget& widget) {
+    if (const auto* bouton = qobject_cast<const QAbstractButton*>(&widget))
+        return bouton->shortcut();
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    return label != nullptr && label->buddy() != nullptr ? QKeySequence::mnemonic(label->text())
+                                                         : QKeySequence();
+}
+
+std::array<std::unique_ptr<QDialog>, 3> Dialogues(Systeme& systeme) {
+    return {std::make_unique<Dlg1>(std::filesystem::path(), systeme, nullptr),
+            std::make_unique<Dlg2>(), std::make_unique<APropos>(systeme, nullptr)};
 }
 
 void Banc::Installer(const std::string& octets) {
@@ -68,98 +77,152 @@ void Banc::Ouvrir() {
     QCoreApplication::processEvents();
 }
 
-QString Banc::Regarder(const std::string& regard) const {
-    const QWidget* foyer = QApplication::focusWidget();
-    if (regard == "@")
-        return foyer == nullptr ? QString() : foyer->objectName();
-    if (regard == "!")
-        return systeme.demandes.join('|'_L1);
-    const bool etat = regard[0] == '?', choix = regard[0] == '#';
-    const auto* controle = Controle<QObject>(regard.c_str() + (etat || choix ? 1 : 0));
-    const auto est = [controle](const char* quoi) { return controle->property(quoi).toBool(); };
-    if (etat && controle->isWidgetType() && !est("visible"))
-        return u"C"_s;
-    if (etat)
-        return !est("enabled")   ? u"G"_s
-               : est("checked")  ? u"X"_s
-               : est("readOnly") ? u"L"_s
-                                 : u"A"_s;
-    const auto* liste = qobject_cast<const QListWidget*>(controle);
-    if (liste == nullptr)
-        return controle->property("text").toString();
-    if (choix)
-        return u"%1/%2"_s.arg(liste->currentRow()).arg(liste->count());
+namespace {
+
+void Exiger(bool condition, const std::string& sinon) {
+    if (!condition)
+        throw std::runtime_error(sinon);
+}
+
+constexpr const char* kManque[] = {" is hidden, disabled or nobody's", " is not refused"};
+
+QString TexteDe(const QObject& controle) {
+    if (const auto* feuille = qobject_cast<const FeuilleLog*>(&controle))
+        return feuille->toPlainText();
+    const auto* liste = qobject_cast<const QListWidget*>(&controle);
     QStringList lignes;
-    for (int i = 0; i < liste->count(); ++i)
+    for (int i = 0; liste != nullptr && i < liste->count(); ++i)
         lignes << liste->item(i)->text();
-    return lignes.join('|'_L1);
+    const QVariant texte = controle.property("text");
+    Exiger(liste != nullptr || texte.isValid(), S(controle.objectName()) + " has no text");
+    return liste == nullptr ? texte.toString() : lignes.join('|'_L1);
 }
 
-std::string Banc::Texte(const std::string& regards) const {
-    QStringList vus;
-    std::istringstream flux(regards);
-    for (std::string regard; flux >> regard;)
-        vus << Regarder(regard);
-    vus << systeme.avertissements;
-    return S(vus.join('|'_L1).replace(Q(Dossier().string()), u"~"_s));
+} // namespace
+
+std::string Banc::Texte(const std::string& nom) const {
+    const QWidget* foyer = QApplication::focusWidget();
+    const auto* liste = Controle<QListWidget>("ListeLog");
+    QString texte = nom == "foyer" && foyer == nullptr ? QString()
+                    : nom == "foyer"                   ? foyer->objectName()
+                    : nom == "demandes"                ? systeme.demandes.join('|'_L1)
+                    : nom == "averti"                  ? systeme.avertissements.join('|'_L1)
+                    : nom == "ligne" ? u"%1/%2"_s.arg(liste->currentRow() + 1).arg(liste->count())
+                                     : TexteDe(*Controle<QObject>(nom));
+    return S(texte.replace(Q(Dossier().string()), u"~"_s).replace('\n'_L1, u"\\n"_s));
 }
 
-void Banc::Suivre(const std::vector<Pas>& chemin) {
-    for (const Pas& pas : chemin) {
-        SCOPED_TRACE(pas.gestes);
-        systeme.demandes.clear();
-        Faire(pas.gestes);
-        EXPECT_EQ(Texte(pas.regards), pas.attendu) << pas.regards;
-        systeme.avertissements.clear();
+std::string Banc::Etat(const std::string& nom) const {
+    const auto* controle = Controle<QObject>(nom);
+    const auto est = [controle](const char* quoi) { return controle->property(quoi).toBool(); };
+    if (!est("enabled") || (controle->isWidgetType() && !est("visible")))
+        return controle->isWidgetType() && !est("visible") ? "caché" : "grisé";
+    return est("checked") ? "coché" : est("readOnly") ? "lecture" : "actif";
+}
+
+void Banc::Constater(const std::string& vu) const {
+    const auto cotes = Couper(vu, "="), parties = Couper(vu, " contient ");
+    std::istringstream mots(groupes.contains(cotes[0]) ? groupes.at(cotes[0]) : cotes[0]);
+    std::string textes, etat;
+    if (cotes.size() == 2) {
+        for (std::string nom; mots >> nom;)
+            textes += '|' + Texte(nom);
+        EXPECT_EQ(textes.substr(1), cotes[1]) << cotes[0];
+    } else if (parties.size() == 2) {
+        EXPECT_PRED_FORMAT2(testing::IsSubstring, parties[1], Texte(parties[0]));
+    } else {
+        mots >> etat;
+        Exiger(!mots.eof(), vu + " is no sight");
+        for (std::string nom; mots >> nom;)
+            EXPECT_EQ(Etat(nom), etat) << nom;
     }
 }
 
-void Banc::Cliquer(const char* nom) const {
-    auto* controle = Controle<QWidget>(nom);
-    ASSERT_TRUE(controle != nullptr && controle->isVisible() && controle->isEnabled()) << nom;
-    QTest::mouseClick(controle, Qt::LeftButton);
+void Banc::Suivre(const std::string& chemin) {
+    std::string pas = chemin;
+    try {
+        for (const auto& [nom, gestes, vus] : aides::Etapes(chemin)) {
+            SCOPED_TRACE(pas = nom);
+            systeme.demandes.clear();
+            Faire(gestes);
+            for (const std::string& vu : Couper(vus, ";"))
+                Constater(vu);
+            EXPECT_TRUE(systeme.avertissements.empty() || vus.find("averti") != vus.npos)
+                << Texte("averti");
+            systeme.avertissements.clear();
+        }
+    } catch (const std::exception& erreur) {
+        ADD_FAILURE() << pas << ": " << erreur.what();
+    }
+}
+
+template<typename T> T* Banc::Atteindre(const std::string& nom, bool refus) const {
+    T* controle = Controle<T>(nom);
+    Exiger((controle->isVisible() && controle->isEnabled()) != refus, nom + kManque[refus]);
+    return controle;
+}
+
+QWidget* Banc::Devant() const {
+    const QWidget* foyer = QApplication::focusWidget();
+    return foyer == nullptr ? fenetre.get() : foyer->window();
+}
+
+void Banc::Cliquer(const std::string& nom, bool refus) const {
+    auto* controle = Atteindre<QWidget>(nom, refus);
+    if (controle->isVisible())
+        QTest::mouseClick(controle, Qt::LeftButton);
     QCoreApplication::processEvents();
 }
 
-void Banc::Menu(const char* nom) const {
-    Controle<QAction>(nom)->trigger();
+void Banc::Menu(const std::string& nom, bool refus) const {
+    Atteindre<QAction>(nom, refus)->trigger();
     QCoreApplication::processEvents();
+}
+
+void Banc::Presser(const std::string& nom, bool refus) const {
+    const QKeySequence touche(Q(nom));
+    Exiger(!touche.isEmpty() && touche[0].key() != Qt::Key_unknown, nom + " is no key");
+    bool repond = !nom.starts_with("Alt+");
+    for (const QWidget* w : Devant()->findChildren<QWidget*>())
+        repond = repond || (w->isVisible() && w->isEnabled() && Lettre(*w) == touche);
+    Exiger(repond != refus, nom + kManque[refus]);
+    Touche(touche[0].key(), touche[0].keyboardModifiers());
 }
 
 void Banc::Faire(const std::string& gestes) {
-    std::istringstream flux(gestes);
-    for (std::string geste; flux >> geste;)
-        FaireUn(geste);
-}
-
-void Banc::FaireUn(const std::string& geste) {
-    const std::string suite = geste.substr(1);
-    const std::size_t colle = geste.find('+');
-    if (geste[0] == '^') {
-        Touche(geste[1], Qt::AltModifier);
-    } else if (geste[0] == '!') {
-        const QKeyCombination touche = QKeySequence(Q(suite))[0];
-        Touche(touche.key(), touche.keyboardModifiers());
-    } else if (geste[0] == '=') {
-        Taper(S(Q(suite).replace('_'_L1, ' '_L1)) + "\n");
-    } else if (geste[0] == ':') {
-        Taper(suite);
-    } else if (geste[0] == '@') {
-        Controle<QWidget>(suite.c_str())->setFocus();
-    } else if (geste[0] == '#') {
-        Controle<QListWidget>("ListeLog")->setCurrentRow(std::stoi(suite));
-    } else if (geste[0] == '%') {
-        const auto* feuille = Controle<FeuilleLog>("PageText1");
-        QTest::mouseClick(feuille->viewport(), Qt::LeftButton, {},
-                          feuille->RectDeRangee(std::stoi(suite)).center());
-    } else if (geste[0] == '<') {
-        systeme.fichierChoisi = Chemin(suite.c_str());
-    } else if (colle != std::string::npos) {
-        Controle<QLineEdit>(geste.substr(0, colle).c_str())->insert(Q(geste.substr(colle + 1)));
-    } else if (geste.starts_with("Mnu")) {
-        Menu(geste.c_str());
-    } else {
-        Cliquer(geste.c_str());
+    using Mot = const std::string&;
+    bool refus = false;
+    const std::map<std::string, std::function<void(Mot)>> actions = {
+        {"clic", [&](Mot nom) { Cliquer(nom, refus); }},
+        {"menu", [&](Mot nom) { Menu(nom, refus); }},
+        {"touche", [&](Mot nom) { Presser(nom, refus); }},
+        {"foyer", [&](Mot nom) { Atteindre<QWidget>(nom, refus)->setFocus(); }},
+        {"entree", [&](Mot n) { Taper(std::string(std::stoul(n), '\n')); }},
+        {"tape", [&](Mot texte) { Taper(texte); }},
+        {"valide", [&](Mot texte) { Taper(texte + '\n'); }},
+        {"colle",
+         [&](Mot mots) {
+             const std::size_t fin = mots.find(' ');
+             Atteindre<QLineEdit>(mots.substr(0, fin))->insert(Q(mots.substr(fin + 1)));
+         }},
+        {"ligne",
+         [&](Mot n) { Atteindre<QListWidget>("ListeLog")->setCurrentRow(std::stoi(n) - 1); }},
+        {"rangee",
+         [&](Mot n) {
+             const auto* feuille = Atteindre<FeuilleLog>("PageText1");
+             QTest::mouseClick(feuille->viewport(), Qt::LeftButton, {},
+                               feuille->RectDeRangee(std::stoi(n) - 1).center());
+         }},
+        {"fichier", [&](Mot nom) { systeme.fichierChoisi = Chemin(nom); }}};
+    for (const std::string& geste : Couper(gestes, ";")) {
+        const std::string mot = geste.substr(0, geste.find(' '));
+        auto suite = Couper(geste.substr(mot.size()), ",");
+        Exiger(actions.contains(mot) && !suite.empty(), geste + " is no gesture");
+        const auto [nom, fin] = std::pair{suite.back(), suite.back().find(" refusé")};
+        refus = mot != "tape" && mot != "valide" && fin != nom.npos;
+        if (refus)
+            suite.back().erase(fin);
+        std::for_each(suite.begin(), suite.end(), actions.at(mot));
     }
 }
 
@@ -169,16 +232,17 @@ void Banc::Touche(int touche, Qt::KeyboardModifiers modificateurs) const {
     if (modificateurs.testFlag(Qt::AltModifier) && foyer != nullptr)
         QTest::keyClick(foyer, static_cast<Qt::Key>(touche), modificateurs);
     else
-        QTest::keyClick((foyer == nullptr ? fenetre.get() : foyer->window())->windowHandle(),
-                        static_cast<Qt::Key>(touche), modificateurs);
+        QTest::keyClick(Devant()->windowHandle(), static_cast<Qt::Key>(touche), modificateurs);
     QCoreApplication::processEvents();
 }
 
 void Banc::Taper(const std::string& utf8) const {
     for (const QChar c : Q(utf8)) {
+        QWidget* foyer = QApplication::focusWidget();
+        Exiger(foyer != nullptr, "nothing has the focus for " + utf8);
         if (c == '\n'_L1)
             Touche(Qt::Key_Return);
-        else if (QWidget* foyer = QApplication::focusWidget()) // QTest::keyClicks knows ASCII only
+        else // QTest::keyClicks knows ASCII only
             QTest::sendKeyEvent(QTest::Click, foyer, Qt::Key_unknown, QString(c), Qt::NoModifier);
     }
 }

@@ -1,4 +1,5 @@
-// A bench for the real window: a drive of its own, a set clock, answers to every question.
+// A bench for the real window: a drive of its own, a set clock, answers to every question, and the
+// words for what an operator does and sees.
 #pragma once
 
 #include "aides.h"
@@ -7,9 +8,10 @@
 #include "ui/systeme.h"
 #include "ui/texte_qt.h"
 
+#include <QCoreApplication>
+#include <QDialog>
+#include <QLineEdit>
 #include <QTemporaryDir>
-
-#include <functional>
 
 namespace orvalis::operateur {
 
@@ -27,13 +29,17 @@ class SystemeDEssai : public Systeme {
 
     [[nodiscard]] std::filesystem::path Lecteur() const override { return lecteur; }
     [[nodiscard]] Instant Maintenant() const override { return maintenant; }
-    void Pause(int secondes) override;
+    void Pause(int /*secondes*/) override {
+        if (auto action = std::exchange(pendantPause, nullptr))
+            action();
+        QCoreApplication::processEvents();
+    }
     void Informer(QWidget* /*parent*/, const QString& titre, const QString& texte) override {
         demandes << titre << texte;
     }
     void Avertir(QWidget* /*parent*/, const QString& texte) override { avertissements << texte; }
     [[nodiscard]] QString ChoisirFichier(QWidget* /*parent*/, const DemandeFichier& d) override {
-        demandes << QString::fromLatin1(d.enregistrer ? ">" : "<") << d.dossier << d.nomPropose;
+        demandes << Q(d.enregistrer ? "enregistrer" : "ouvrir") << d.dossier << d.nomPropose;
         return fichierChoisi;
     }
     [[nodiscard]] std::unique_ptr<Imprimante> PreparerImpression(QWidget* /*parent*/) override {
@@ -60,11 +66,34 @@ class SystemeDEssai : public Systeme {
 /// First record in which two logbooks differ, for a failed test; empty when they are equal.
 [[nodiscard]] std::string Difference(const std::string& obtenu, const std::string& attendu);
 
-/// A step of a walk through the window: gestures, then what must be seen where.
-struct Pas {
-    std::string gestes, regards, attendu;
-};
+/// The letter that answers with Alt for a button, or for a label's neighbour; empty for none.
+[[nodiscard]] QKeySequence Lettre(const QWidget& widget);
 
+/// The dialogs that hold more than a text and buttons, not yet shown.
+[[nodiscard]] std::array<std::unique_ptr<QDialog>, 3> Dialogues(Systeme& systeme);
+
+/// Walks are those of aides.h, with a semicolon between two gestures or sights.
+///
+/// Gestures, each on every one of the names, keys or texts between commas behind its word:
+///   clic A, B         presses controls       touche Tab, Alt+B  presses keys
+///   menu A, B         chooses commands       entree 4           presses Return four times
+///   tape a, b         types                  valide a, b        types each with Return behind it
+///   colle A texte     pastes into A          foyer A            puts the focus on A
+///   ligne 2           of the contact list    rangee 2           of the sheet, both from 1
+///   fichier A.Vek     of the program folder is what the next file dialogs give
+/// Controls and commands must be on show and enabled, a letter with Alt must have an answer; with
+/// "refusé" at the end of clic, menu, touche or foyer they must not.
+///
+/// Sights:
+///   A = texte         the text of a control; of a list, its lines with '|' between them
+///   A B = a|b         several of them; `groupes` gives some a common name
+///   A contient texte
+///   caché A B         the state of controls: caché, grisé, coché, lecture (for reading only),
+///                     actif (none of these)
+///   foyer = A         what has the focus     ligne = 2/25       row chosen, 0 for none, of how
+///   many demandes = a|b    what the system was asked in this step averti = texte    what the
+///   operator was warned of; a warning without this sight is a failure
+/// In what is seen the program folder is "~" and the end of a line "\n".
 class Banc {
   public:
     Banc() { systeme.lecteur = S(disque.path()); }
@@ -79,45 +108,46 @@ class Banc {
     void Ouvrir();
 
     [[nodiscard]] std::filesystem::path Dossier() const { return systeme.lecteur / "Orvalis"; }
-    [[nodiscard]] QString Chemin(const char* nom) const { return Q((Dossier() / nom).string()); }
-    [[nodiscard]] std::string Lire(const std::string& nom) const {
-        return aides::Lire(Dossier() / nom);
+    [[nodiscard]] QString Chemin(const std::string& n) const { return Q((Dossier() / n).string()); }
+    [[nodiscard]] std::string Lire(const std::string& n) const {
+        return aides::Lire(Dossier() / n);
     }
     void Ecrire(const std::string& nom, const std::string& octets) const {
         std::ofstream(Dossier() / nom, std::ios::binary) << octets;
     }
     [[nodiscard]] std::string Journal() const { return Lire("F5ABC.Vek"); }
 
-    template<typename T> [[nodiscard]] T* Controle(const char* nom) const {
-        return fenetre->findChild<T*>(QString::fromLatin1(nom));
-    }
-    /// What is seen, with '|' between: the text of a label, button or box, or the lines of a list;
-    /// for "?BtTag_1" whether it is hidden (C), greyed (G), checked (X), for reading only (L) or
-    /// none of these (A); for "#ListeLog" the row chosen, from 0, and how many there are; for "@"
-    /// what has the focus; for "!" what the system was asked. The program folder is "~". Last comes
-    /// what the operator was warned of.
-    [[nodiscard]] std::string Texte(const std::string& regards) const;
-    /// Takes these steps one after the other; what a warning says must be seen in its step.
-    void Suivre(const std::vector<Pas>& chemin);
+    /// Takes the steps of a walk. A word or a name that is not known and a gesture that cannot be
+    /// made fail under the name of the step and end the walk.
+    void Suivre(const std::string& chemin);
 
-    void Cliquer(const char* nom) const;
-    void Menu(const char* nom) const;
-    /// One gesture after the other: a control clicked, a menu chosen, "^B" for Alt+B, "!PgUp" for a
-    /// key by its name, "=beam_3" typed with Enter after it ('_' is a blank), ":33" typed without,
-    /// "Box+text" pasted, "@Box" for the focus, "#3" for a row of the list, "%3" for one of the
-    /// sheet, both from 0, "<A.Vek" for the file of the program folder that the next dialogs give.
+    // What follows throws when there is no such thing, or when it is not to be used.
+    template<typename T> [[nodiscard]] T* Controle(const std::string& nom) const {
+        if (T* controle = fenetre == nullptr ? nullptr : fenetre->findChild<T*>(Q(nom)))
+            return controle;
+        throw std::invalid_argument("no such control: " + nom);
+    }
+    /// Gestures alone.
     void Faire(const std::string& gestes);
-    /// Types text as a keyboard does, to whatever has the focus; '\n' is Enter.
-    void Taper(const std::string& utf8) const;
+    void Cliquer(const std::string& nom, bool refus = false) const;
+    void Menu(const std::string& nom, bool refus = false) const;
     void Touche(int touche, Qt::KeyboardModifiers modificateurs = Qt::NoModifier) const;
+    /// Types text as a keyboard does, to whatever has the focus; '\n' is Return.
+    void Taper(const std::string& utf8) const;
+    /// What is seen of one name on the left of "=", and the word for the state of a control.
+    [[nodiscard]] std::string Texte(const std::string& nom) const;
+    [[nodiscard]] std::string Etat(const std::string& nom) const;
 
     QTemporaryDir disque;
     SystemeDEssai systeme;
     std::unique_ptr<Orvalis> fenetre;
+    std::map<std::string, std::string> groupes;
 
   private:
-    void FaireUn(const std::string& geste);
-    [[nodiscard]] QString Regarder(const std::string& regard) const;
+    template<typename T> T* Atteindre(const std::string& nom, bool refus = false) const;
+    [[nodiscard]] QWidget* Devant() const;
+    void Presser(const std::string& nom, bool refus) const;
+    void Constater(const std::string& vu) const;
 };
 
 } // namespace orvalis::operateur

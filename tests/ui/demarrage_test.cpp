@@ -2,15 +2,13 @@
 #include "ui/banc.h"
 
 #include <QApplication>
-#include <QDialog>
 #include <QTest>
 #include <QTimer>
 
-namespace orvalis::operateur {
-namespace {
+namespace orvalis::operateur::demarrage {
 
 // Takes these steps in the creation dialog as soon as it is open, then cancels it.
-void DansLaCreation(Banc& banc, const std::vector<Pas>& chemin) {
+void DansLaCreation(Banc& banc, const std::string& chemin) {
     QTimer::singleShot(0, [&banc, chemin] {
         auto* dialogue = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (dialogue == nullptr)
@@ -26,11 +24,11 @@ void DansLaCreation(Banc& banc, const std::vector<Pas>& chemin) {
 
 TEST(Demarrage, PremierLancementCreeLeCahierPuisLOuvre) {
     Banc banc;
-    DansLaCreation(
-        banc,
-        {{"=f5abc/p =jn99zz", "Dlg1Fra2Text2", "ERREUR"},
-         {"=jn04sd", "Dlg1Fra3Lab2", "~/F5ABCP.Vek va être créé "},
-         {"=", "!", " Création réalisée avec succès|   Le fichier F5ABCP.Vek est créé  \n\n"}});
+    DansLaCreation(banc, R"(
+ no such locator : valide f5abc/p, jn99zz -> Dlg1Fra2Text2 = ERREUR
+ announced : valide jn04sd -> Dlg1Fra3Lab2 = "~/F5ABCP.Vek va être créé "
+ created : entree 1 ->
+     demandes = " Création réalisée avec succès|   Le fichier F5ABCP.Vek est créé  \n\n")");
     banc.Ouvrir();
     EXPECT_EQ(banc.Lire("ParVel.cfg"), "\"F5ABC/P\",\"F5ABCP.Vek\",\"JN04SD\"\r\n");
     EXPECT_EQ(banc.Lire("F5ABCP.Vek"), "\\" + std::string(158, ' ') + "JN04SD");
@@ -40,7 +38,7 @@ TEST(Demarrage, PremierLancementCreeLeCahierPuisLOuvre) {
 
 TEST(Demarrage, ToutArreterNeCreeRien) {
     Banc banc;
-    DansLaCreation(banc, {});
+    DansLaCreation(banc, "");
     banc.Ouvrir();
     EXPECT_EQ(banc.systeme.codeDeFin, 0);
     EXPECT_FALSE(std::filesystem::exists(banc.Dossier()));
@@ -50,22 +48,20 @@ TEST(Demarrage, FichiersAbimesFinissentEnMessage) {
     const std::string incomplet =
         "Le fichier de paramètres « ~/Parvel.cfg » est incomplet : il doit contenir l'indicatif, "
         "le nom du cahier et le locator de la station.";
-    const aides::Textes cas = {
-        {"\"F5ABC\",\"F5ABC.Vek\"\r\n", incomplet},
-        {"", incomplet},
-        {"\"F5ABC\",\"absent.Vek\",\"JN04SD\"\r\n",
-         "Impossible d'ouvrir le fichier « ~/absent.Vek » : le fichier n'existe pas."},
-        {"\"F5ABC\",\"dossier\",\"JN04SD\"\r\n",
-         "Impossible d'ouvrir le fichier « ~/dossier » : c'est un dossier, pas un fichier."},
-    };
-    for (const auto& [parametres, message] : cas) {
+    for (const auto& [parametres, message] : aides::Textes{
+             {"\"F5ABC\",\"F5ABC.Vek\"\r\n", incomplet},
+             {"", incomplet},
+             {"\"F5ABC\",\"absent.Vek\",\"JN04SD\"\r\n",
+              "Impossible d'ouvrir le fichier « ~/absent.Vek » : le fichier n'existe pas."},
+             {"\"F5ABC\",\"dossier\",\"JN04SD\"\r\n", "Impossible d'ouvrir le fichier « ~/dossier "
+                                                      "» : c'est un dossier, pas un fichier."}}) {
         Banc banc;
         banc.Installer(Fin());
         banc.Ecrire("Parvel.cfg", parametres);
         std::filesystem::create_directory(banc.Dossier() / "dossier");
         banc.Ouvrir();
         EXPECT_EQ(banc.systeme.codeDeFin, 1);
-        banc.Suivre({{"", "", message}});
+        banc.Suivre("said : -> averti = \"" + message + '"');
         EXPECT_FALSE(std::filesystem::exists(banc.Dossier() / "absent.Vek"));
         EXPECT_EQ(banc.Lire("Parvel.cfg"), parametres);
     }
@@ -76,23 +72,21 @@ TEST(Demarrage, UnSecondProgrammeEstRefuse) {
     Banc second;
     second.systeme.lecteur = banc.systeme.lecteur;
     second.Ouvrir();
-    second.Suivre(
-        {{"", "", "Le cahier « ~/F5ABC.Vek » est déjà ouvert par un autre programme Orvalis."}});
+    second.Suivre("said : -> averti = Le cahier « ~/F5ABC.Vek » est déjà ouvert par un autre "
+                  "programme Orvalis.");
     EXPECT_EQ(second.systeme.codeDeFin, 1);
     EXPECT_EQ(banc.Texte("TxtField_1"), "F3QSO");
 }
 
 TEST(Demarrage, HorlogeEtFin) {
     Banc banc(Fin());
-    banc.Suivre({
-        {"", "LabHeure LabDate ?PictRech", "18:30:15|Samedi 21 Novembre 2026|C"},
-        {"MnuCreateMDB", "!", ""}, // an empty logbook makes no database
-        {"Horloge", "!",
-         "~/Chronel.exe|~/Chronel|Impossible de démarrer « ~/Chronel.exe » : absent."},
-        {"BtFermerLog", "OrvalisLab03", " Au revoir "},
-    });
+    banc.Suivre(R"(
+ clock : -> LabHeure LabDate = 18:30:15|Samedi 21 Novembre 2026; caché PictRech
+ an empty logbook makes no database : menu MnuCreateMDB refusé -> demandes =
+ companion : clic Horloge -> demandes = ~/Chronel.exe|~/Chronel;
+     averti = "Impossible de démarrer « ~/Chronel.exe » : absent."
+ end : clic BtFermerLog -> OrvalisLab03 = " Au revoir ")");
     EXPECT_EQ(banc.systeme.codeDeFin, 0);
 }
 
-} // namespace
-} // namespace orvalis::operateur
+} // namespace orvalis::operateur::demarrage

@@ -1,30 +1,26 @@
 // Sort, pairing, other logbooks, backup and copy through the window's menus.
 #include "ui/banc.h"
 
-namespace orvalis::operateur {
-namespace {
+namespace orvalis::operateur::maintenance {
 
 TEST(Maintenance, ClasserMontreEtGele) {
     Banc banc(Contacts(60).substr(30 * kTailleFiche) + Contacts(30) + Fin());
-    banc.Suivre({
-        {"MnuClasser", "LabEtat_1 LabEtat_2 LabEtat_3 ClasserLab NoFicheLab",
-         "60|Heures|1| Terminé | Fiche N° 60 "},
-        {"", "?PictClasser ?PictRech ?PictContacts ?BtActiveRech ?ListeLog ?TxtField_1",
-         "C|C|C|C|A|A"},
-    });
+    banc.Suivre(R"(
+ steps : menu MnuClasser -> LabEtat_1 LabEtat_2 LabEtat_3 = 60|Heures|1
+ sorted : -> ClasserLab NoFicheLab = " Terminé | Fiche N° 60 "
+ afterwards : -> caché PictClasser PictRech PictContacts BtActiveRech; actif ListeLog TxtField_1)");
     EXPECT_EQ(Difference(banc.Journal(), Contacts(60) + Fin()), "");
 }
 
 TEST(Maintenance, JumelageAvecSauvegarde) {
     Banc banc(Contacts(3) + Fin());
     banc.Ecrire("AUTRE.Vek", Contacts(2) + Fin("IN88AA"));
-    banc.Suivre({
-        {"MnuJumeler", "LabPj_2 ?ListeLog", "F5ABC.Vek|G"},
-        {"BtPjSauvegarder", "?BtPjSauvegarder !", "A|>|~/VekSave|F5ABC.Vek"}, // cancelled
-        {"<VekSave/F5ABC.Vek BtPjSauvegarder", "?BtPjSauvegarder", "G"},
-        {"<AUTRE.Vek BtPjumeler", "NoFicheLab ?PJumelage", " Fiche N° 5 |A"},
-        {"BtPjAnnuler", "@", "ListeLog"},
-    });
+    banc.Suivre(R"(
+ opened : menu MnuJumeler -> LabPj_2 = F5ABC.Vek; grisé ListeLog
+ no : clic BtPjSauvegarder -> demandes = enregistrer|~/VekSave|F5ABC.Vek; actif BtPjSauvegarder
+ backup : fichier VekSave/F5ABC.Vek; clic BtPjSauvegarder -> grisé BtPjSauvegarder
+ pairing : fichier AUTRE.Vek; clic BtPjumeler -> NoFicheLab = " Fiche N° 5 "; actif PJumelage
+ closed : clic BtPjAnnuler -> foyer = ListeLog)");
     EXPECT_EQ(banc.Lire("VekSave/F5ABC.Vek"), Contacts(3) + Fin());
     EXPECT_EQ(Difference(banc.Journal(), Contacts(3) + Contacts(2) + Fin()), "");
 }
@@ -32,18 +28,15 @@ TEST(Maintenance, JumelageAvecSauvegarde) {
 TEST(Maintenance, AutreCahierEnLectureSeulePuisRetour) {
     Banc banc(Contacts(3) + Fin());
     banc.Ecrire("F6XYZ.Vek", Contacts(30) + Fin("IN88AA"));
-    banc.Suivre({
-        // Cancelled, the dialog leaves even a question that waits as it was.
-        {"TxtField_12 =luc MnuAutreF", "?FraMsgFiche", "A"},
-        {"FraCmdNon <F6XYZ.Vek MnuAutreF",
-         "LabJournal ?BtNewQSO ?BtKillFiche ?BtFermerLog ?MnuJumeler ?MnuSauver",
-         "F6XYZ (lecture seule) : 30 contacts|G|G|A|G|G"},
-        {"TxtField_6 =CW", "?FraMsgFiche", "C"},
-        // Lists and searches do not give the buttons back.
-        {"BtActiveRech BtContactsFermer", "?BtNewQSO ?BtKillFiche", "G|G"},
-        {"MnuCourantF", "LabJournal ?BtNewQSO ?BtKillFiche", "F5ABC : 3 contacts|A|A"},
-        {"BtNewQSO", "TxtField_16 ?MnuAutreF", "JN04SD|G"},
-    });
+    banc.Suivre(R"(
+ cancelled, a question waits on : clic TxtField_12; valide luc; menu MnuAutreF -> actif FraMsgFiche
+ another logbook : clic FraCmdNon; fichier F6XYZ.Vek; menu MnuAutreF
+     -> LabJournal = "F6XYZ (lecture seule) : 30 contacts"; actif BtFermerLog;
+     grisé BtNewQSO BtKillFiche MnuJumeler MnuSauver
+ for reading only : clic TxtField_6; valide CW -> caché FraMsgFiche
+ still : clic BtActiveRech, BtContactsFermer -> grisé BtNewQSO BtKillFiche
+ the own one : menu MnuCourantF -> LabJournal = "F5ABC : 3 contacts"; actif BtNewQSO BtKillFiche
+ entry : clic BtNewQSO -> TxtField_16 = JN04SD; grisé MnuAutreF)");
     EXPECT_EQ(banc.Lire("F6XYZ.Vek"), Contacts(30) + Fin("IN88AA"));
 }
 
@@ -51,22 +44,20 @@ TEST(Maintenance, ErreursDesAutresFichiersSeDisentSansRienPerdre) {
     Banc banc(Contacts(3) + Fin());
     banc.Ecrire("coupe.Vek", Contacts(2) + "F1");
     std::filesystem::create_directory(banc.Dossier() / "VekSave");
-    banc.Suivre({
-        {"<absent.Vek MnuAutreF", "",
-         "Impossible d'ouvrir le fichier « ~/absent.Vek » : le fichier n'existe pas."},
-        {"<absent/copie.Vek MnuSauver", "",
-         "Impossible de créer le fichier « ~/absent/copie.Vek » : le dossier n'existe pas."},
-        {"<VekSave MnuCopieSurDisque", "",
-         "Impossible de créer le fichier « ~/VekSave » : c'est un dossier, pas un fichier."},
-        {"</dev/full MnuCopieSurDisque", "",
-         "Impossible d'écrire dans le fichier « /dev/full » : le disque est plein."},
-        {"<coupe.Vek MnuAutreF", "NoFicheLab",
-         " Fiche N° 3 |Le cahier « ~/coupe.Vek » est peut-être abîmé : il n'a pas d'enregistrement "
-         "de fin et sa longueur n'est pas un nombre entier de fiches."},
-    });
+    banc.Suivre(R"(
+ opened, missing : fichier absent.Vek; menu MnuAutreF -> averti =
+     "Impossible d'ouvrir le fichier « ~/absent.Vek » : le fichier n'existe pas."
+ saved into no folder : fichier absent/copie.Vek; menu MnuSauver -> averti =
+     "Impossible de créer le fichier « ~/absent/copie.Vek » : le dossier n'existe pas."
+ copied onto a folder : fichier VekSave; menu MnuCopieSurDisque -> averti =
+     "Impossible de créer le fichier « ~/VekSave » : c'est un dossier, pas un fichier."
+ copied to a full disk : fichier /dev/full; menu MnuCopieSurDisque -> averti =
+     "Impossible d'écrire dans le fichier « /dev/full » : le disque est plein."
+ opened, damaged : fichier coupe.Vek; menu MnuAutreF -> NoFicheLab = " Fiche N° 3 "; averti =
+     "Le cahier « ~/coupe.Vek » est peut-être abîmé : il n'a pas d'enregistrement de fin
+     et sa longueur n'est pas un nombre entier de fiches.")");
     EXPECT_EQ(banc.Journal(), Contacts(3) + Fin());
     EXPECT_FALSE(banc.systeme.codeDeFin);
 }
 
-} // namespace
-} // namespace orvalis::operateur
+} // namespace orvalis::operateur::maintenance

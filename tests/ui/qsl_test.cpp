@@ -2,15 +2,10 @@
 #include "print/enregistreur.h"
 #include "print/imprimante_qt.h"
 #include "ui/banc.h"
-#include "ui/feuille_log.h"
 
-#include <QLineEdit>
 #include <QPrinter>
 
-#include <gmock/gmock.h>
-
-namespace orvalis::operateur {
-namespace {
+namespace orvalis::operateur::qsl {
 
 const std::string kLibre = aides::Brute({{0, "***"}}, 106);
 
@@ -40,25 +35,23 @@ TEST(Qsl, VieDUneEtiquette) {
     const std::string autre = Contacts(2).substr(kTailleFiche);
     Banc banc(autre + Cahier("", ""));
     // With the mouse and mnemonics.
-    banc.Suivre({
-        {"TxtField_14", "?PictFeuilleQSL ?PictFiche ?PictListe", "A|C|G"},
-        {"", "NrTag FLdText_8 ?BtValidQSL", "Etiquette N° 1|BEAM 3 EL      DL9ABC|C"},
-        {"", "?MnuCourantF ?MnuClasser ?MnuImpPage ?MnuDoublons ?MnuVirginTags", "G|G|G|G|G"},
-        {"", "?MnuGestionFeuilleQSL ?MnuQuitter ?MnuEditLocator ?MnuVoir", "G|A|A|A"},
-        {"=F5ABC", "?BtValidQSL", "A"},
-        {"^B ^V", "?PictFeuilleQSL ?PictFiche ?PictListe", "C|A|A"},
-        {"", "TxtField_14 @ #ListeLog", "En cours|ListeLog|2/3"},
-    });
+    banc.Suivre(R"(
+ press on box 14 : clic TxtField_14 -> actif PictFeuilleQSL; caché PictFiche; grisé PictListe
+ a fresh label : -> NrTag FLdText_8 = Etiquette N° 1|BEAM 3 EL      DL9ABC; caché BtValidQSL
+ meanwhile : -> grisé MnuCourantF MnuClasser MnuImpPage MnuDoublons MnuVirginTags
+     MnuGestionFeuilleQSL; actif MnuQuitter MnuEditLocator MnuVoir
+ heading : valide F5ABC -> actif BtValidQSL
+ stored : touche Alt+B, Alt+V -> caché PictFeuilleQSL; actif PictFiche PictListe
+ marked : -> TxtField_14 foyer ligne = En cours|ListeLog|3/3)");
     EXPECT_EQ(Ecart(banc, autre + Cahier("", "En cours"), kEtiquetteXyz), "");
     // With the keyboard alone; the header is that of the last label.
-    banc.Suivre({
-        {"#1 @TxtField_14 !F2", "FLdText_7 @", "F5ABC|OptBureau"},
-        {"!Return FLdText_9+f6", "?OptBureau", "A"},
-        {"!Return", "?OptBureau FLdText_9", "X|"},
-        {"FLdText_9+f6\u0002Ωx", "?OptBureau FLdText_9", "A|F6?X"},
-        {"@FLdText_9 !Enter", "@", "BtValidQSL"},
-        {"!Enter", "?PictFeuilleQSL", "C"},
-    });
+    banc.Suivre("F2 in box 14 : ligne 2; foyer TxtField_14; touche F2 "
+                "-> FLdText_7 foyer = F5ABC|OptBureau\n"
+                "manager : touche Return; colle FLdText_9 f6 -> actif OptBureau\n"
+                "bureau instead : touche Return -> coché OptBureau; FLdText_9 =\n"
+                "manager again : colle FLdText_9 f6\u0002Ωx -> actif OptBureau; FLdText_9 = F6?X\n"
+                "Enter : foyer FLdText_9; touche Enter -> foyer = BtValidQSL\n"
+                "stored : touche Enter -> caché PictFeuilleQSL");
     EXPECT_EQ(Ecart(banc, autre + Cahier("En cours", "En cours"), kEtiquetteXyz + kEtiquette1), "");
 
     // Another day what was prepared is there; without the first contact its numbers are stale. A
@@ -66,12 +59,12 @@ TEST(Qsl, VieDUneEtiquette) {
     banc.fenetre.reset();
     banc.Ecrire("F5ABC.Vek", Cahier("En cours", "En cours"));
     banc.Ouvrir();
-    banc.Suivre({
-        {"MnuGestionFeuilleQSL", "BtTag_1 BtTag_3 @", "F6XYZ/P [1]|Etiquette  [3] libre|BtChoix_1"},
-        {"!Return", "FLdText_5 FLdText_6 ?FLdText_7", "59+20dB|SSB|L"},
-        {"", "?BtQuitQSL @", "C|BtLeaveQSL"},
-        {"^S", "BtTag_1", "Etiquette  [1] libre"},
-    });
+    banc.Suivre(R"(
+ sheet : menu MnuGestionFeuilleQSL
+     -> BtTag_1 BtTag_3 foyer = F6XYZ/P [1]|Etiquette  [3] libre|BtChoix_1
+ review : touche Return -> FLdText_5 FLdText_6 = 59+20dB|SSB; lecture FLdText_7
+ the way out : -> caché BtQuitQSL; foyer = BtLeaveQSL
+ taken off : touche Alt+S -> BtTag_1 = Etiquette  [1] libre)");
     const std::string liberee = aides::Brute({{0, "***"}, {96, "3"}}, 106); // its number stays
     EXPECT_EQ(Ecart(banc, Cahier("En cours", ""), liberee + kEtiquette1), "");
 
@@ -79,70 +72,66 @@ TEST(Qsl, VieDUneEtiquette) {
     std::vector<std::string> operations;
     QPrinter pdf(QPrinter::HighResolution);
     pdf.setOutputFormat(QPrinter::PdfFormat);
-    banc.Suivre({
-        {"BtChoix_1", "BtChoix_1 ?BtTag_1 NrTag", "Libérer|G|Etiquette N° 3"},
-        {"BtRestore", "NrTag ?BtRestore", "Etiquette N° 1|C"},
-        {"BtPrintQSL", "?PictCtrlImpression", "C"},
-    });
+    banc.Suivre(R"(
+ withdrawn : clic BtChoix_1 -> BtChoix_1 NrTag = Libérer|Etiquette N° 3; grisé BtTag_1
+ restored : clic BtRestore -> NrTag = Etiquette N° 1; caché BtRestore
+ print cancelled : clic BtPrintQSL -> caché PictCtrlImpression)");
     banc.systeme.imprimante = [&pdf] { return std::make_unique<ImprimanteQt>(pdf); };
     pdf.setOutputFileName(QStringLiteral("/dev/full"));
-    banc.Suivre({{"BtPrintQSL", "?PictCtrlImpression",
-                  "C|Impossible d'écrire le fichier PDF « /dev/full »."}});
+    banc.Suivre("print failed : clic BtPrintQSL -> caché PictCtrlImpression; averti = Impossible "
+                "d'écrire le fichier PDF « /dev/full ».");
     pdf.setOutputFileName(banc.Chemin("essai.pdf"));
-    banc.Suivre({
-        {"BtPrintQSL ^Q ^I ^V", "?PictFeuilleQSL ?PictCtrlImpression ?BtChoix_2 ?MnuVoir @",
-         "A|A|G|G|BtCtrl_Revoir"},
-        {"!Return", "?PictCtrlImpression", "C"},
-    });
+    banc.Suivre(R"(
+ printed : clic BtPrintQSL; touche Alt+Q, Alt+I, Alt+V refusé -> actif PictFeuilleQSL
+     PictCtrlImpression; grisé BtChoix_2 MnuVoir; foyer = BtCtrl_Revoir
+ to be seen again : touche Return -> caché PictCtrlImpression)");
     EXPECT_TRUE(banc.Lire("essai.pdf").starts_with("%PDF"));
     EXPECT_EQ(Ecart(banc, Cahier("En cours", ""), liberee + kEtiquette1), "");
 
     // For good; then a label of nobody's.
     banc.systeme.imprimante = [&] { return std::make_unique<Enregistreur>(operations); };
-    banc.Suivre({{"BtPrintQSL ^T", "?PictFeuilleQSL", "C"}});
-    const QString page = banc.Controle<FeuilleLog>("PageText1")->toPlainText();
-    EXPECT_TRUE(page.contains(Q("21/11/26")));
+    banc.Suivre("perfect : clic BtPrintQSL; touche Alt+T -> caché PictFeuilleQSL; "
+                "PageText1 contient 21/11/26");
     EXPECT_THAT(operations,
                 testing::IsSupersetOf({"R 6100 400 11300 2180", // place 2
                                        "T 6500 1650 8g Courrier Pse / Tnx  QSL via  F6?X"}));
     EXPECT_EQ(Ecart(banc, Cahier("21/11/26", ""), liberee), "");
-    banc.Suivre({
-        {"MnuGestionFeuilleQSL BtTag_5 @FLdText_11 =2 =f1zzz", "FLdText_10 FLdText_11", "F1ZZZ|2"},
-        {"^V", "",
-         "Etiquette N° 1 (F1ZZZ) : aucune fiche du cahier ne lui correspond, aucune n'a été "
-         "modifiée."},
-    });
+    banc.Suivre(R"(
+ nobody's : menu MnuGestionFeuilleQSL; clic BtTag_5; foyer FLdText_11; valide 2, f1zzz
+     -> FLdText_10 FLdText_11 = F1ZZZ|2
+ stored : touche Alt+V -> averti = "Etiquette N° 1 (F1ZZZ) : aucune fiche du cahier ne lui
+     correspond, aucune n'a été modifiée.")");
 }
 
 TEST(Qsl, LeServiceAttend) {
-    // A state and the gestures to it; whether the sheet opens from the menu and from the press on
-    // box 14, and whether the card is under modification after that.
-    const std::tuple<const char*, std::string, bool, bool, bool> cas[] = {
-        {"idle", "", true, true, false},
-        {"MQSL not empty", "#0", true, false, true},
-        {"entry", "BtNewQSO", false, false, false},
-        {"modification unanswered", "TxtField_12 =luc", false, false, true},
-        {"deletion unanswered", "BtKillFiche", false, false, true},
-        {"pairing", "MnuJumeler", false, false, true},
-        {"contacts list", "BtActiveRech", true, true, false},
-        {"another logbook", "<F6XYZ.Vek MnuAutreF", true, false, false},
-        {"a copy of the own logbook", "<VekSave/F5ABC.Vek MnuAutreF", true, false, true},
-    };
-    for (const auto& [etat, gestes, menu, case14, modifiee] : cas) {
-        SCOPED_TRACE(etat);
+    // A state and the gestures to it; what the command of the menu does, then a press on box 14:
+    // panneau opens the sheet, modifie begins a correction, grisé is refused, rien does nothing.
+    const char* montre[] = {" -> caché PictFeuilleQSL", " -> actif PictFeuilleQSL"};
+    for (const auto& [etat, gestes, suites] : aides::Etapes(R"(
+ idle : -> panneau, panneau
+ MQSL not empty : ligne 1 -> panneau, modifie
+ entry : clic BtNewQSO -> grisé, rien
+ modification unanswered : clic TxtField_12; valide luc -> grisé, modifie
+ deletion unanswered : clic BtKillFiche -> rien, modifie
+ pairing : menu MnuJumeler -> rien, modifie
+ contacts list : clic BtActiveRech -> panneau, panneau
+ another logbook : fichier F6XYZ.Vek; menu MnuAutreF -> panneau, rien
+ a copy of the own logbook : fichier VekSave/F5ABC.Vek; menu MnuAutreF -> panneau, modifie)")) {
         const std::string cahier = Cahier("OK", "");
         Banc banc(cahier);
         std::filesystem::create_directory(banc.Dossier() / "VekSave");
         banc.Ecrire("VekSave/F5ABC.Vek", cahier);
         banc.Ecrire("F6XYZ.Vek", Contacts(2) + Fin());
-        banc.Suivre({
-            {gestes, "", ""},
-            {"MnuGestionFeuilleQSL", "?PictFeuilleQSL", menu ? "A" : "C"},
-            {menu ? "^Q" : "", "?PictFeuilleQSL", "C"},
-            {"TxtField_14", "?PictFeuilleQSL", case14 ? "A" : "C"},
-        });
+        const auto suite = aides::Couper(suites, ",");
+        const bool menu = suite[0] == "panneau", case14 = suite[1] == "panneau";
+        banc.Suivre(etat + " : " + gestes + " ->\n" + etat + ", menu : menu MnuGestionFeuilleQSL" +
+                    (suite[0] == "grisé" ? " refusé" : "") + montre[menu]);
+        if (menu)
+            banc.Suivre(etat + ", left : touche Alt+Q" + montre[false]);
+        banc.Suivre(etat + ", box 14 : clic TxtField_14" + montre[case14]);
         const QPalette palette = banc.Controle<QLineEdit>("TxtField_14")->palette();
-        EXPECT_EQ(!case14 && palette.color(QPalette::Base) == QColor(255, 192, 192), modifiee);
+        const bool rouge = palette.color(QPalette::Base) == QColor(255, 192, 192);
+        EXPECT_EQ(!case14 && rouge, suite[1] == "modifie") << etat;
         EXPECT_EQ(Ecart(banc, cahier, ""), "");
     }
 }
@@ -153,22 +142,23 @@ TEST(Impression, PagesPlanchesEtReglage) {
     std::vector<std::string> operations;
     banc.systeme.imprimante = [&] { return std::make_unique<Enregistreur>(operations); };
     const auto ligne26 = testing::Contains("T 160 1920 8 MS sans Serif 000026");
-    banc.Faire("MnuImpPage");
+    banc.Suivre("page : menu MnuImpPage");
     EXPECT_THAT(operations, ligne26);
-    banc.Faire("MnuImpPageVierge");
+    banc.Suivre("blank page : menu MnuImpPageVierge");
     EXPECT_THAT(operations, testing::Not(ligne26));
     operations.clear();
-    banc.Faire("MnuImpPage");
+    banc.Suivre("now blank : menu MnuImpPage");
     EXPECT_THAT(operations, testing::AllOf(testing::Contains("FIN"), testing::Not(ligne26)));
-    banc.Suivre({{"%1", "TxtField_1 #ListeLog", "F27QSO|1/5"}});
-    banc.Faire("CmdSensBas MnuImpPage");
+    banc.Suivre(R"(
+ row of the sheet : rangee 2 -> TxtField_1 ligne = F27QSO|2/5
+ shown again : clic CmdSensBas; menu MnuImpPage)");
     EXPECT_THAT(operations, ligne26);
-    banc.Suivre({{"MnuVirginTags MnuConfigImp", "?PictCtrlImpression !", "C|imprimante"}});
+    banc.Suivre("blank labels : menu MnuVirginTags, MnuConfigImp "
+                "-> caché PictCtrlImpression; demandes = imprimante");
     EXPECT_THAT(
         operations,
         testing::IsSupersetOf({"R 6100 14260 11300 16040", // place 16
                                "T 500 420 10g Comic sans MS  F5ABC   Confirming QSO with"}));
 }
 
-} // namespace
-} // namespace orvalis::operateur
+} // namespace orvalis::operateur::qsl
