@@ -1,76 +1,86 @@
-// An answer of the entry rules as one line of text: everything it shows and everything that it
-// changes, so that a table says at once what must happen and that nothing else may.
+// An answer of the entry rules in words: everything it shows and everything that it changes, so
+// that a table says at once what must happen and that nothing else may.
 #pragma once
 
+#include "aides.h"
 #include "core/saisie.h"
-
-#include <gtest/gtest.h>
-#include <sstream>
-#include <tuple>
 
 namespace orvalis::aides {
 
-/// z = slot, t = box text, c = box colour, * = one more change counted and modification left; the
-/// rest by name. In that order, separated by blanks.
+/// In this order, with commas between them, "rien" for none: zone n=text (slots), boite n=text
+/// (texts shown), repos, gris, jaune, rouge or vert n (colours of boxes); saisi (the typed text as
+/// the rule leaves it), date, freq and mode (remembered), derniere (box), modifs (changes counted);
+/// "corrigé" for one more, modification left and the frame shown; flags and controls by their
+/// names, "sans" for off; dist, azim and dept (labels), choisi (text selected), erreur and foyer
+/// with their box.
 inline std::string Decrire(const Session& avant, const Reponse& r) {
-    std::ostringstream sortie;
-    const auto change = [&sortie](const std::string& nom, const auto& ancien, const auto& nouveau) {
+    std::ostringstream dit;
+    std::string dernier;
+    const auto dire = [&](const std::string& nom, const auto& valeur) {
+        std::ostringstream texte;
+        texte << valeur;
+        dit << (nom == dernier ? " " : ", " + nom + ' ')
+            << (texte.str().empty() ? "\"\"" : texte.str());
+        dernier = nom;
+    };
+    const auto change = [&dire](const std::string& nom, const auto& ancien, const auto& nouveau) {
         if (ancien != nouveau)
-            sortie << ' ' << nom << '=' << nouveau;
+            dire(nom, nouveau);
     };
     for (std::size_t i = 0; i < kNbZones; ++i)
-        change('z' + std::to_string(i), avant.zones[i], r.zones[i]);
+        if (avant.zones[i] != r.zones[i])
+            dire("zone", std::to_string(i) + '=' + r.zones[i]);
     for (const TexteDeBoite& t : r.textes)
-        sortie << " t" << t.boite << '=' << t.texte;
+        dire("boite", std::to_string(t.boite) + '=' + t.texte);
     for (const CouleurDeBoite& c : r.couleurs)
-        sortie << " c" << c.boite << '=' << static_cast<int>(c.couleur);
+        dire(Couper("repos,gris,jaune,rouge,vert", ",").at(static_cast<std::size_t>(c.couleur) - 1),
+             c.boite);
     const EtatSaisie &a = avant.saisie, &n = r.saisie;
-    change("texte", a.TexteSaisi, n.TexteSaisi);
+    change("saisi", a.TexteSaisi, n.TexteSaisi);
     change("date", a.DerniereDate, n.DerniereDate);
     change("freq", a.DerniereFreq, n.DerniereFreq);
     change("mode", a.DernierMode, n.DernierMode);
-    change("zone", a.DerniereZone, n.DerniereZone);
-    const bool comptee = n.NbModifs == a.NbModifs + 1 && a.EnModification && !n.EnModification;
-    if (comptee)
-        sortie << " *";
-    else
-        change("modifs", a.NbModifs, n.NbModifs);
+    change("derniere", a.DerniereZone, n.DerniereZone);
+    const bool corrige =
+        n.NbModifs == a.NbModifs + 1 && a.EnModification && !n.EnModification && r.montrerCadre;
+    change("modifs", a.NbModifs + (corrige ? 1 : 0), n.NbModifs);
     for (const auto& [nom, ancien, nouveau] :
-         {std::tuple{"QsoCommence", a.QsoCommence, n.QsoCommence},
-          {"EnModification", a.EnModification && !comptee, n.EnModification},
+         {std::tuple{"corrigé", false, corrige},
+          {"QsoCommence", a.QsoCommence, n.QsoCommence},
+          {"EnModification", a.EnModification && !corrige, n.EnModification},
           {"EnSaisie", a.EnSaisie, n.EnSaisie},
           {"ActiveRech", false, r.montrerActiveRech},
           {"Annuler", false, r.activerAnnuler},
           {"Suivant", false, r.activerSuivant},
-          {"Cadre", false, r.montrerCadre},
+          {"Cadre", corrige, r.montrerCadre},
           {"Locator", false, r.ouvrirLocator}})
         if (ancien != nouveau)
-            sortie << (nouveau ? " +" : " -") << nom;
+            dit << (nouveau ? ", " : ", sans ") << nom;
     for (const auto& [nom, label] :
          {std::pair{"dist", r.labDist}, {"azim", r.labAzim}, {"dept", r.labDept}})
         change(nom, std::string{"-"}, label.value_or("-"));
-    change("sel", std::size_t{0}, r.selection);
-    change("ERREUR", std::size_t{0}, r.boiteEnErreur);
+    change("choisi", std::size_t{0}, r.selection);
+    change("erreur", std::size_t{0}, r.boiteEnErreur);
     if (r.foyer != kFoyerInchange)
-        sortie << " ->" << r.foyer;
-    return sortie.str().erase(0, 1);
+        dire("foyer", r.foyer == kFoyerSuivant ? "BtEnrSuivant" : std::to_string(r.foyer));
+    return dit.str().empty() ? "rien" : dit.str().substr(2);
 }
 
-/// Events of boxes, each "box state 'text' what comes of it;": the state before as letters that
-/// `scene` knows, the text that is typed, and what Decrire says, nothing at all when it is missing.
-template<class Scene, class Regle>
-void Derouler(Scene scene, Regle regle, const std::string& table) {
-    std::istringstream cas(table);
-    std::size_t boite = 0;
-    for (std::string etat, texte, attendu; cas >> boite;) {
-        std::getline(cas >> std::ws, etat, '\'');
-        std::getline(cas, texte, '\'');
-        std::getline(cas, attendu, ';');
-        const Session session = scene(etat, texte);
-        const std::string dit = Decrire(session, regle(session, boite, texte));
-        EXPECT_EQ(dit.empty() ? "" : ' ' + dit, attendu) << boite << ' ' << etat << texte;
+/// Cases of a box, with semicolons between them: `box state tape texts : what comes of each text`,
+/// the words of the state before as `scene` knows them, the texts with commas between them.
+template<class Scene, class Regle> void Derouler(Scene scene, Regle regle, std::string table) {
+    std::erase(table, '\n');
+    for (const std::string& cas : Couper(table, ";")) {
+        const auto cotes = Couper(cas, " : ");
+        const std::size_t tape = cas.find(" tape ");
+        SCOPED_TRACE(cas);
+        ASSERT_TRUE(cotes.size() == 2 && tape < cotes[0].size());
+        const std::size_t boite = std::stoul(cas), debut = cas.find(' ');
+        for (const std::string& texte : Couper(cotes[0].substr(tape + 6), ",")) {
+            const Session session = scene(cas.substr(debut, tape - debut), texte);
+            EXPECT_EQ(Decrire(session, regle(session, boite, texte)), cotes[1]);
+        }
     }
-    EXPECT_TRUE(cas.eof()) << "table cut short behind box " << boite;
 }
 
 } // namespace orvalis::aides
