@@ -1,9 +1,9 @@
 // A generated logbook in a folder of its own, gone with the object.
 #pragma once
 
-#include "core/fiches.h"
-#include "core/journal.h"
+#include "core/cahier.h"
 #include "core/qso_record.h"
+#include "core/station.h"
 
 #include <array>
 #include <cerrno>
@@ -85,19 +85,18 @@ class Carnet {
 
     /// Makes the file hold exactly these records.
     void Ecrire(std::span<const QsoRecord> fiches) const {
-        Journal journal(Chemin(), ModeFichier::Creation);
-        journal.Ecrire(1, fiches);
+        FichierFiches fichier(Chemin(), ModeFichier::Creation);
+        fichier.Ecrire(1, fiches);
         std::filesystem::resize_file(Chemin(), fiches.size_bytes());
     }
-    /// A session on this logbook, as the window has it after start-up.
-    [[nodiscard]] Session Ouvrir() const {
-        Session session;
-        session.indicatif = "BENCH";
-        session.monLocator = "JN18DU";
-        OuvrirJournal(session, Chemin());
-        CompterFiches(session);
-        return session;
+    /// The logbook as the window has it after start-up.
+    [[nodiscard]] Cahier Ouvrir() const {
+        Cahier cahier;
+        OuvrirCahier(cahier, Chemin());
+        CompterFiches(cahier);
+        return cahier;
     }
+    [[nodiscard]] static Station Poste() { return {{}, "BENCH", "JN18DU"}; }
 
     [[nodiscard]] std::filesystem::path Dossier() const { return dossier_; }
     [[nodiscard]] std::filesystem::path Chemin() const { return dossier_ / "BENCH.Vek"; }

@@ -8,13 +8,12 @@ namespace {
 
 // Every round stores the same record N + 1, so that the logbook keeps its size.
 void Ajouter(benchmark::State& etat, const Carnet& carnet) {
-    Session session = carnet.Ouvrir();
-    session.zones = ZonesDeFiche(carnet.Fiches().front());
-    const QsoRecord fin = FicheFinDeLog(session.monLocator);
+    Cahier cahier = carnet.Ouvrir();
+    const QsoRecord contact = carnet.Fiches().front();
+    const QsoRecord fin = FicheFinDeLog(Carnet::Poste().monLocator);
     for ([[maybe_unused]] auto _ : etat) {
-        AjouterFiche(session, fin);
-        --session.nbFiches;
-        --session.prochaineFiche;
+        AjouterFiche(cahier, contact, fin);
+        --cahier.nbFiches;
     }
 }
 
@@ -29,24 +28,26 @@ void PlancherAjout(benchmark::State& etat, const Carnet& carnet) {
 
 // The file keeps its length, so every round moves as many records as the first.
 void Supprimer(benchmark::State& etat, const Carnet& carnet) {
-    Session session = carnet.Ouvrir();
+    Cahier cahier = carnet.Ouvrir();
+    const Station poste = Carnet::Poste();
     for ([[maybe_unused]] auto _ : etat) {
-        session.nbFiches = carnet.NbFiches();
-        SupprimerFiche(session, 1);
+        cahier.nbFiches = carnet.NbFiches();
+        SupprimerFiche(cahier, 1, poste.monLocator);
     }
 }
 
 // A second logbook of the same size is appended, and the whole is counted.
 void Jumeler(benchmark::State& etat, const Carnet& carnet) {
     const Carnet autre(carnet.NbFiches(), Lieu::Memoire);
-    Session session = carnet.Ouvrir();
+    Cahier cahier = carnet.Ouvrir();
+    const Station poste = Carnet::Poste();
     Chronometrer(
         etat,
         [&] {
             carnet.Ecrire(carnet.Fiches());
-            session.nbFiches = carnet.NbFiches();
+            cahier.nbFiches = carnet.NbFiches();
         },
-        [&] { JumelerJournal(session, autre.Chemin()); });
+        [&] { JumelerCahier(cahier, poste, autre.Chemin()); });
 }
 
 void PlancherJumelage(benchmark::State& etat, const Carnet& carnet) {
@@ -69,10 +70,11 @@ std::filesystem::path Cible(const Carnet& carnet) {
 }
 
 void Sauver(benchmark::State& etat, const Carnet& carnet) {
-    const Session session = carnet.Ouvrir();
+    const Cahier cahier = carnet.Ouvrir();
+    const Station poste = Carnet::Poste();
     Chronometrer(
         etat, [&] { std::filesystem::remove(Cible(carnet)); },
-        [&] { CopierJournal(session, Cible(carnet)); });
+        [&] { CopierCahier(cahier, poste, Cible(carnet)); });
 }
 
 void PlancherCopie(benchmark::State& etat, const Carnet& carnet) {

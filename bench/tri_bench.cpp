@@ -10,12 +10,12 @@ namespace {
 // Sorts `fiches` in the slices of the maintenance panel.
 void Trier(benchmark::State& etat, const Carnet& carnet, std::span<const QsoRecord> fiches) {
     constexpr std::int64_t kTranche = 4000;
-    Session session = carnet.Ouvrir();
+    Cahier cahier = carnet.Ouvrir();
     EtatTri fin;
     Chronometrer(
         etat, [&] { carnet.Ecrire(fiches); },
         [&] {
-            Tri tri(session.journal, carnet.NbFiches());
+            Tri tri(cahier.fichier, carnet.NbFiches());
             while (!tri.Etat().termine)
                 tri.Avancer(kTranche);
             fin = tri.Etat();

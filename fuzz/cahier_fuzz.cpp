@@ -1,6 +1,5 @@
 // A small logbook of arbitrary bytes. The first byte of the input chooses what is done to it.
-#include "core/carte.h"
-#include "core/fiches.h"
+#include "core/cahier.h"
 #include "core/page_texte.h"
 #include "core/pages.h"
 #include "core/recherche.h"
@@ -9,6 +8,7 @@
 #include "maint/copie.h"
 #include "maint/jumelage.h"
 #include "maint/tri.h"
+#include "ui/carte/carte.h"
 
 #include <algorithm>
 #include <vector>
@@ -18,105 +18,110 @@ namespace {
 
 using fuzz::Exiger;
 
-std::vector<QsoRecord> Contacts(const Session& session) {
+constexpr const char* kLocator = "JN18AA";
+
+std::vector<QsoRecord> Contacts(const Cahier& cahier) {
     std::vector<QsoRecord> fiches;
-    for (std::int32_t k = 1; k <= session.nbFiches; ++k)
-        fiches.push_back(session.journal.Lire(k));
+    for (std::int32_t k = 1; k <= cahier.nbFiches; ++k)
+        fiches.push_back(FicheDuCahier(cahier, k));
     return fiches;
 }
 
-void Regarder(Session& session) {
-    for (std::int32_t k = 1; k <= session.nbFiches + 1; ++k) {
-        LireFiche(session, k);
-        Exiger(Longueur(LigneListe(k, session.tampon)) == 40);
-        static_cast<void>(LignePage(CellulesDeFiche(k, session.tampon)));
-        static_cast<void>(TextesDeFiche(session, k));
+void Regarder(const Cahier& cahier) {
+    Carte carte;
+    for (std::int32_t k = 1; k <= cahier.nbFiches + 1; ++k) {
+        LireFiche(carte, cahier, k);
+        Exiger(Longueur(LigneListe(k, carte.tampon)) == 40);
+        static_cast<void>(LignePage(CellulesDeFiche(k, carte.tampon)));
+        MontrerLabels(carte, k);
     }
-    LireFiche(session, 1);
-    for (const std::string& texte : {session.zones[1], session.zones[2], session.zones[3]})
-        static_cast<void>(ChercherContacts(session.journal, session.nbFiches, texte));
-    static_cast<void>(ChercherDoublons(session.journal, session.nbFiches));
-    static_cast<void>(ExaminerJournal(session));
+    LireFiche(carte, cahier, 1);
+    for (const Boite boite : {Boite::Indicatif, Boite::Date, Boite::Debut})
+        static_cast<void>(ChercherContacts(cahier, carte.zones[boite]));
+    static_cast<void>(ChercherDoublons(cahier));
+    static_cast<void>(ExaminerCahier(cahier));
 }
 
-void Recrire(Session& session, std::int32_t k) {
+void Recrire(Cahier& cahier, std::int32_t k) {
     // A record read and written again keeps its bytes, but for blanks in front of a text.
-    LireFiche(session, k);
-    EcrireFiche(session, k);
-    const Zones zones = session.zones;
-    LireFiche(session, k);
-    Exiger(session.zones == zones);
+    Carte carte;
+    LireFiche(carte, cahier, k);
+    EcrireFiche(carte, cahier, k);
+    const Zones zones = carte.zones;
+    LireFiche(carte, cahier, k);
+    Exiger(carte.zones == zones);
 }
 
-void Trier(Session& session) {
+void Trier(Cahier& cahier) {
     const auto texte = [](const QsoRecord& f) {
         return std::string(f.octets.begin(), f.octets.end());
     };
     std::vector<std::string> avant;
-    for (const QsoRecord& fiche : Contacts(session))
+    for (const QsoRecord& fiche : Contacts(cahier))
         avant.push_back(texte(fiche));
-    Tri tri(session.journal, session.nbFiches);
+    Tri tri(cahier.fichier, cahier.nbFiches);
     while (!tri.Etat().termine)
         tri.Avancer(1000);
     std::vector<std::string> apres;
-    for (const QsoRecord& fiche : Contacts(session))
+    for (const QsoRecord& fiche : Contacts(cahier))
         apres.push_back(texte(fiche));
     std::sort(avant.begin(), avant.end());
     std::sort(apres.begin(), apres.end());
     Exiger(avant == apres);
 }
 
-void Ajouter(Session& session) {
-    std::vector<QsoRecord> attendues = Contacts(session);
-    session.zones[1] = "F6NEW";
-    attendues.push_back(FicheDesZones(session.zones));
-    AjouterFiche(session, FicheFinDeLog(session.monLocator));
-    CompterFiches(session);
-    Exiger(Contacts(session) == attendues);
+void Ajouter(Cahier& cahier) {
+    std::vector<QsoRecord> attendues = Contacts(cahier);
+    QsoRecord contact;
+    MettreChamp(contact, Champ::CSGN, "F6NEW");
+    attendues.push_back(contact);
+    AjouterFiche(cahier, contact, FicheFinDeLog(kLocator));
+    CompterFiches(cahier);
+    Exiger(Contacts(cahier) == attendues);
 }
 
-void Supprimer(Session& session, std::int32_t k) {
-    std::vector<QsoRecord> attendues = Contacts(session);
+void Supprimer(Cahier& cahier, std::int32_t k) {
+    std::vector<QsoRecord> attendues = Contacts(cahier);
     attendues.erase(attendues.begin() + (k - 1));
-    SupprimerFiche(session, k);
-    CompterFiches(session);
-    Exiger(Contacts(session) == attendues);
+    SupprimerFiche(cahier, k, kLocator);
+    CompterFiches(cahier);
+    Exiger(Contacts(cahier) == attendues);
 }
 
-void Jumeler(Session& session, const std::filesystem::path& autre) {
-    const auto nb = static_cast<std::size_t>(session.nbFiches);
-    const std::vector<QsoRecord> anciennes = Contacts(session);
-    JumelerJournal(session, autre);
-    const std::vector<QsoRecord> toutes = Contacts(session);
+void Jumeler(Cahier& cahier, const std::filesystem::path& autre) {
+    const auto nb = static_cast<std::size_t>(cahier.nbFiches);
+    const std::vector<QsoRecord> anciennes = Contacts(cahier);
+    JumelerCahier(cahier, {{}, {}, kLocator}, autre);
+    const std::vector<QsoRecord> toutes = Contacts(cahier);
     Exiger(toutes.size() >= nb && std::equal(anciennes.begin(), anciennes.end(), toutes.begin()));
 }
 
-void Copier(Session& session) {
+void Copier(const Cahier& cahier) {
     const std::filesystem::path cible = fuzz::Dossier() / "copie.Vek";
-    CopierJournal(session, cible);
-    const Journal copie(cible, ModeFichier::Lecture);
-    Exiger(copie.Compter() == session.nbFiches);
-    for (std::int32_t k = 1; k <= session.nbFiches; ++k)
-        Exiger(copie.Lire(k) == session.journal.Lire(k));
+    CopierCahier(cahier, {{}, {}, kLocator}, cible);
+    const FichierFiches copie(cible, ModeFichier::Lecture);
+    Exiger(copie.Compter() == cahier.nbFiches);
+    for (std::int32_t k = 1; k <= cahier.nbFiches; ++k)
+        Exiger(copie.Lire(k) == FicheDuCahier(cahier, k));
 }
 
-void Agir(std::uint8_t action, Session& session, const std::filesystem::path& chemin) {
-    const std::int32_t k = session.nbFiches == 0 ? 0 : 1 + action / 8 % session.nbFiches;
+void Agir(std::uint8_t action, Cahier& cahier, const std::filesystem::path& chemin) {
+    const std::int32_t k = cahier.nbFiches == 0 ? 0 : 1 + action / 8 % cahier.nbFiches;
     switch (action % 8) {
     case 0:
-        return Trier(session);
+        return Trier(cahier);
     case 1:
-        return Ajouter(session);
+        return Ajouter(cahier);
     case 2:
-        return k == 0 ? Regarder(session) : Supprimer(session, k);
+        return k == 0 ? Regarder(cahier) : Supprimer(cahier, k);
     case 3:
-        return Jumeler(session, chemin);
+        return Jumeler(cahier, chemin);
     case 4:
-        return Copier(session);
+        return Copier(cahier);
     case 5:
-        return k == 0 ? Regarder(session) : Recrire(session, k);
+        return k == 0 ? Regarder(cahier) : Recrire(cahier, k);
     default:
-        return Regarder(session);
+        return Regarder(cahier);
     }
 }
 
@@ -128,14 +133,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t n)
     if (n == 0)
         return 0;
     const auto chemin = fuzz::Poser("cahier.Vek", octets + 1, n - 1);
-    Session session;
-    session.lecteur = fuzz::Dossier();
-    session.monLocator = "JN18AA";
-    OuvrirJournal(session, chemin);
-    CompterFiches(session);
+    Cahier cahier;
+    OuvrirCahier(cahier, chemin);
+    CompterFiches(cahier);
     // The last contact may be cut short, but it begins in the file.
-    fuzz::Exiger(session.nbFiches == 0 ||
-                 PositionFiche(session.nbFiches) < session.journal.Support().Taille());
-    Agir(octets[0], session, chemin);
+    fuzz::Exiger(cahier.nbFiches == 0 ||
+                 PositionFiche(cahier.nbFiches) < cahier.fichier.Support().Taille());
+    Agir(octets[0], cahier, chemin);
     return 0;
 }

@@ -1,28 +1,28 @@
 // A label sheet of arbitrary bytes beside a small logbook. The input is a count, that many actions
 // of the operator, and the bytes of the sheet.
-#include "core/fiches.h"
+#include "core/cahier.h"
 #include "fichier_fuzz.h"
-#include "qsl/flux_etiquettes.h"
+#include "qsl/vie_etiquette.h"
 
 #include <algorithm>
 
 namespace orvalis {
 namespace {
 
-void Agir(std::uint8_t action, Session& session, FeuilleQSL& feuille) {
+void Agir(std::uint8_t action, Cahier& cahier, FeuilleQSL& feuille) {
     const int place = 1 + action / 16;
     switch (action % 16) {
     case 0:
-        static_cast<void>(PreparerEtiquette(session, feuille, 1 + place % 5));
+        static_cast<void>(PreparerEtiquette(cahier, feuille, 1 + place % 5));
         break;
     case 1:
-        static_cast<void>(Valider(session, feuille));
+        static_cast<void>(ValiderEtiquette(cahier, feuille));
         break;
     case 2:
-        static_cast<void>(Supprimer(session, feuille));
+        static_cast<void>(SupprimerEtiquette(cahier, feuille));
         break;
     case 3:
-        static_cast<void>(ToutEstParfait(session, feuille, "21/11/26"));
+        static_cast<void>(ToutEstParfait(cahier, feuille, "21/11/26"));
         break;
     case 4:
         DemanderControle(feuille);
@@ -37,16 +37,16 @@ void Agir(std::uint8_t action, Session& session, FeuilleQSL& feuille) {
         CliquerTag(feuille, place);
         break;
     case 8:
-        Laisser(feuille);
+        LaisserEtiquette(feuille);
         break;
     case 9:
-        Restaurer(feuille);
+        RestaurerFeuille(feuille);
         break;
     case 10:
-        OuvrirPanneau(feuille);
+        MontrerFeuille(feuille);
         break;
     case 11:
-        SaisirBoite(feuille, static_cast<std::size_t>(1 + place % 11), "F1QSOÉ");
+        SaisirBoiteEtiquette(feuille, static_cast<std::size_t>(1 + place % 11), "F1QSOÉ");
         break;
     default:
         CliquerChoix(feuille, place);
@@ -55,7 +55,7 @@ void Agir(std::uint8_t action, Session& session, FeuilleQSL& feuille) {
         static_cast<void>(VoirPlace(feuille, k));
 }
 
-std::string Cahier() {
+std::string OctetsCahier() {
     std::string octets;
     for (const char* indicatif : {"F1QSO", "F2QSO", "F3QSO", "F4QSO", "\\"}) {
         QsoRecord fiche;
@@ -73,23 +73,21 @@ std::string Cahier() {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t n) {
     using namespace orvalis;
-    static const std::string kCahier = Cahier();
+    static const std::string kCahier = OctetsCahier();
     if (n == 0)
         return 0;
     const std::size_t actions = std::min<std::size_t>(octets[0] % 16, n - 1);
     const auto chemin = fuzz::Poser("FeuilleQSL.txt", octets + 1 + actions, n - 1 - actions);
     fuzz::Poser("F5ABC.Vek", reinterpret_cast<const std::uint8_t*>(kCahier.data()), kCahier.size());
-    Session session;
-    session.lecteur = fuzz::Dossier();
-    session.monLocator = "JN18AA";
-    OuvrirJournal(session, fuzz::Dossier() / "F5ABC.Vek");
-    CompterFiches(session);
+    Cahier cahier;
+    OuvrirCahier(cahier, fuzz::Dossier() / "F5ABC.Vek");
+    CompterFiches(cahier);
     FeuilleQSL feuille;
     ChargerFeuilleQSL(feuille, fuzz::Dossier());
     for (std::size_t i = 1; i <= actions; ++i)
-        Agir(octets[i], session, feuille);
+        Agir(octets[i], cahier, feuille);
     // Labels touch nothing of the contacts but their MQSL.
-    std::string apres = fuzz::Relire(session.cheminJournal);
+    std::string apres = fuzz::Relire(cahier.chemin);
     fuzz::Exiger(apres.size() == kCahier.size());
     for (std::size_t i = 143; i < apres.size(); i += kTailleFiche)
         apres.replace(i, 8, kCahier, i, 8);

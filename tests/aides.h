@@ -5,7 +5,8 @@
 // separator in it, or with blanks around it, stands between double quotes.
 #pragma once
 
-#include "core/fiches.h"
+#include "core/cahier.h"
+#include "core/station.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -75,14 +76,17 @@ inline QsoRecord Enregistrement(std::string_view octets) {
     return fiche;
 }
 
-/// A session on the logbook `chemin`, counted.
-inline Session Ouvrir(const std::filesystem::path& chemin) {
-    Session session;
-    session.indicatif = "F5ABC";
-    session.monLocator = "JN18AA";
-    OuvrirJournal(session, chemin);
-    CompterFiches(session);
-    return session;
+/// The logbook `chemin`, open and counted.
+inline Cahier Ouvrir(const std::filesystem::path& chemin) {
+    Cahier cahier;
+    OuvrirCahier(cahier, chemin);
+    CompterFiches(cahier);
+    return cahier;
+}
+
+/// The station whose logbooks the tests write.
+inline Station MaStation() {
+    return {{}, "F5ABC", "JN18AA"};
 }
 
 /// The pieces of a text between separators, without the blanks and then the quotes around them;

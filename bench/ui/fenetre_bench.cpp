@@ -1,9 +1,9 @@
 // What the operator waits for: from a key or a click in the real window to everything it changes
 // being computed and painted, on the offscreen screen. Questions and pauses are answered at once.
 #include "mesures.h"
-#include "print/imprimante_qt.h"
 #include "print/page_journal.h"
 #include "ui/banc.h"
+#include "ui/bureau/imprimante_qt.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -152,6 +152,16 @@ template<int boite> void Entree(benchmark::State& etat, const Carnet& carnet) {
     }
 }
 
+// A letter typed into a box during entry, with what follows from it, and taken back again.
+void Lettre(benchmark::State& etat, const Carnet& carnet) {
+    const BancOuvert banc(carnet);
+    banc.Cliquer("BtNewQSO");
+    Chronometrer(
+        etat, [&] { banc.Touche(Qt::Key_Backspace); }, [&] { banc.Touche(Qt::Key_A); });
+    if (banc.Texte("TxtField_1") != "A")
+        etat.SkipWithError("the letter went elsewhere");
+}
+
 void Suivant(benchmark::State& etat, const Carnet& carnet) {
     const BancOuvert banc(carnet);
     banc.Cliquer("BtNewQSO");
@@ -230,14 +240,15 @@ QString Imprime(const Carnet& carnet) {
 }
 
 void ImprimerPdf(benchmark::State& etat, const Carnet& carnet) {
-    Session session = carnet.Ouvrir();
-    session.premiereAffichee = carnet.NbFiches() - 24;
+    const Cahier cahier = carnet.Ouvrir();
+    const Station poste = Carnet::Poste();
+    const PageAffichee page{1, carnet.NbFiches() - 24, carnet.NbFiches()};
     for ([[maybe_unused]] auto _ : etat) {
         QPrinter pdf(QPrinter::HighResolution);
         pdf.setOutputFormat(QPrinter::PdfFormat);
         pdf.setOutputFileName(Imprime(carnet));
         ImprimanteQt imprimante(pdf);
-        ImprimerPage(imprimante, session, session.premiereAffichee);
+        ImprimerPage(imprimante, cahier, poste, page, page.premiere);
     }
 }
 
@@ -253,6 +264,7 @@ void EcrirePdf(benchmark::State& etat, const Carnet& carnet) {
 [[maybe_unused]] const int kInscrites = Inscrire({
     {"Window: start-up to the shown card", Demarrer, LireTout},
     {"Process: launch to the shown card and exit", LancerProgramme, LireTout},
+    {"Window: a typed letter", Lettre, {}},
     {"Window: Suivant to the next card", Suivant, LireTout},
     {"Window: turn a page", TournerPage, LireUnePage},
     {"Window: search by callsign", ChercherIndicatif, LireTout},

@@ -1,7 +1,7 @@
 #include "core/creation.h"
 
+#include "core/cahier.h"
 #include "core/dossier.h"
-#include "core/fiches.h"
 #include "core/texte.h"
 #include "geo/locator.h"
 
@@ -26,13 +26,13 @@ bool CreerCahier(const fs::path& lecteur, const Parametres& parametres) {
     // Kept on purpose: callsigns of 1, 8, 9, 16 or 17 characters create nothing, silently.
     if ((kLargeurLocator & Longueur(parametres.indicatif)) == 0)
         return false;
-    Journal journal(TrouverFichier(dossier, parametres.nomFichier), ModeFichier::Creation);
-    if (!journal.Support().Verrouiller())
+    FichierFiches fichier(TrouverFichier(dossier, parametres.nomFichier), ModeFichier::Creation);
+    if (!fichier.Support().Verrouiller())
         throw ErreurVerrou((dossier / parametres.nomFichier).string());
     EcrireParametres(CheminParametres(dossier), parametres);
     // An existing logbook is not emptied: only its first record becomes the end of the log.
-    journal.Ecrire(1, FicheFinDeLog(parametres.monLocator));
-    journal.Support().Synchroniser();
+    fichier.Ecrire(1, FicheFinDeLog(parametres.monLocator));
+    fichier.Support().Synchroniser();
     return true;
 }
 

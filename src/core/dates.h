@@ -15,6 +15,7 @@ struct Instant {
     int heures = 0;
     int minutes = 0;
     int secondes = 0;
+    friend bool operator==(const Instant&, const Instant&) = default;
 };
 
 /// Result of a check: the validity flag and, when it is set, the normalised text.

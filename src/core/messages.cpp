@@ -1,6 +1,6 @@
 #include "core/messages.h"
 
-#include "core/fiches.h"
+#include "core/cahier.h"
 #include "core/parametres.h"
 
 #include <array>

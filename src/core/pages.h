@@ -26,6 +26,13 @@ struct PlagePage {
     std::int32_t derniere = 0; ///< last record; below `premiere` when the page is empty
 };
 
+/// The page on show.
+struct PageAffichee {
+    std::int32_t numero = 1;   ///< from 1
+    std::int32_t premiere = 1; ///< F, its first record; 0 after a blank page was printed
+    std::int32_t derniere = 0; ///< its last record
+};
+
 /// Records of page `page` (from 1) in a logbook of `nbFiches` contacts.
 [[nodiscard]] PlagePage CalculerPlage(std::int32_t page, std::int32_t nbFiches);
 
@@ -34,6 +41,9 @@ struct PlagePage {
 
 /// Record number that begins a line of the log list or of the contacts list.
 [[nodiscard]] std::int32_t NumeroDeLigne(std::string_view ligne);
+
+/// The paging buttons.
+enum class BoutonPage { Premiere, Precedente, Suivante, Derniere };
 
 enum class ToucheListe { PagePrecedente, PageSuivante, Haut, Bas };
 

@@ -54,6 +54,9 @@ inline constexpr std::array<DescriptionChamp, kNbChamps> kChamps = {{
     {Champ::MLOC, 159, 6},
 }};
 
+/// INFO is the remark and the QSL manager, each of this width.
+inline constexpr std::size_t kLargeurDemiInfo = 15;
+
 [[nodiscard]] constexpr const DescriptionChamp& Description(Champ champ) {
     return kChamps[static_cast<std::size_t>(champ) - 1];
 }

@@ -63,17 +63,16 @@ std::string LigneDoublon(std::int32_t k, const QsoRecord& seconde) {
 }
 
 template<typename Retenir>
-std::vector<std::string> Parcourir(const Journal& journal, std::int32_t nbFiches, Retenir retenir) {
+std::vector<std::string> Parcourir(const Cahier& cahier, Retenir retenir) {
     std::vector<std::string> lignes;
-    LecteurFiches lecteur(journal);
-    for (std::int32_t k = 1; k <= nbFiches; ++k)
+    LecteurFiches lecteur(cahier.fichier);
+    for (std::int32_t k = 1; k <= cahier.nbFiches; ++k)
         if (const QsoRecord& fiche = lecteur.Lire(k); retenir(fiche))
             lignes.push_back(LigneContact(k, fiche));
     return lignes;
 }
 
-ResultatRecherche ParIndicatif(const Journal& journal, std::int32_t nbFiches,
-                               std::string_view texte) {
+ResultatRecherche ParIndicatif(const Cahier& cahier, std::string_view texte) {
     const Pliage pliage;
     const std::string cherche = pliage.Plier(VersCp1252(Rogner(texte)));
     // The lengths first: they settle most records without looking at their letters.
@@ -85,7 +84,7 @@ ResultatRecherche ParIndicatif(const Journal& journal, std::int32_t nbFiches,
     };
     ResultatRecherche resultat;
     if (!cherche.empty())
-        resultat.lignes = Parcourir(journal, nbFiches, estContact);
+        resultat.lignes = Parcourir(cahier, estContact);
     const std::size_t nb = resultat.lignes.size();
     resultat.nbreContacts =
         std::to_string(nb) + (nb < 2 ? " Contact réalisé" : " Contacts réalisés");
@@ -93,7 +92,7 @@ ResultatRecherche ParIndicatif(const Journal& journal, std::int32_t nbFiches,
     return resultat;
 }
 
-ResultatRecherche ParDate(const Journal& journal, std::int32_t nbFiches, std::string_view texte) {
+ResultatRecherche ParDate(const Cahier& cahier, std::string_view texte) {
     const Pliage pliage;
     const std::string cherche = VersCp1252(Rogner(texte));
     const auto estListee = [&](const QsoRecord& fiche) {
@@ -103,7 +102,7 @@ ResultatRecherche ParDate(const Journal& journal, std::int32_t nbFiches, std::st
     };
     ResultatRecherche resultat;
     if (cherche.size() >= kLargeurDate)
-        resultat.lignes = Parcourir(journal, nbFiches, estListee);
+        resultat.lignes = Parcourir(cahier, estListee);
     const std::size_t nb = resultat.lignes.size();
     resultat.nbreContacts = std::to_string(nb);
     // Kept on purpose: with exactly two the label keeps what it showed before.
@@ -122,17 +121,15 @@ bool EstDateOuHeure(std::string_view texte) {
     return separateurEn(3) && separateurEn(6);
 }
 
-ResultatRecherche ChercherContacts(const Journal& journal, std::int32_t nbFiches,
-                                   std::string_view texte) {
-    return EstDateOuHeure(texte) ? ParDate(journal, nbFiches, texte)
-                                 : ParIndicatif(journal, nbFiches, texte);
+ResultatRecherche ChercherContacts(const Cahier& cahier, std::string_view texte) {
+    return EstDateOuHeure(texte) ? ParDate(cahier, texte) : ParIndicatif(cahier, texte);
 }
 
-ResultatRecherche ChercherDoublons(const Journal& journal, std::int32_t nbFiches) {
+ResultatRecherche ChercherDoublons(const Cahier& cahier) {
     ResultatRecherche resultat;
-    LecteurFiches lecteur(journal);
+    LecteurFiches lecteur(cahier.fichier);
     std::array<char, kOctetsDoublon> precedente = {};
-    for (std::int32_t k = 1; k <= nbFiches && nbFiches > 1; ++k) {
+    for (std::int32_t k = 1; k <= cahier.nbFiches && cahier.nbFiches > 1; ++k) {
         const QsoRecord& fiche = lecteur.Lire(k);
         if (k > 1 && std::memcmp(precedente.data(), fiche.octets.data(), kOctetsDoublon) == 0)
             resultat.lignes.push_back(LigneDoublon(k - 1, fiche));

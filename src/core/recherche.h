@@ -2,7 +2,7 @@
 // the raw records, of which only those found are decoded.
 #pragma once
 
-#include "core/journal.h"
+#include "core/cahier.h"
 
 #include <cstdint>
 #include <optional>
@@ -24,13 +24,12 @@ struct ResultatRecherche {
 /// and 6.
 [[nodiscard]] bool EstDateOuHeure(std::string_view texte);
 
-/// Contacts among records 1 to `nbFiches` for a searched text: by date when it looks like one,
+/// Contacts of the logbook, which is counted, for a searched text: by date when it looks like one,
 /// else by callsign, suffixed forms (F5ABC/P for F5ABC) included. Throws ErreurFichier.
-[[nodiscard]] ResultatRecherche ChercherContacts(const Journal& journal, std::int32_t nbFiches,
-                                                 std::string_view texte);
+[[nodiscard]] ResultatRecherche ChercherContacts(const Cahier& cahier, std::string_view texte);
 
-/// Neighbouring records of equal callsign, date, times and frequency among 1 to `nbFiches`, each
-/// pair under the number of its first record. Throws ErreurFichier.
-[[nodiscard]] ResultatRecherche ChercherDoublons(const Journal& journal, std::int32_t nbFiches);
+/// Neighbouring records of equal callsign, date, times and frequency among 1 to N, each pair under
+/// the number of its first record. Throws ErreurFichier.
+[[nodiscard]] ResultatRecherche ChercherDoublons(const Cahier& cahier);
 
 } // namespace orvalis

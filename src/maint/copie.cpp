@@ -1,7 +1,6 @@
 #include "maint/copie.h"
 
 #include "core/dossier.h"
-#include "core/fiches.h"
 
 #include <algorithm>
 #include <vector>
@@ -19,22 +18,22 @@ std::filesystem::path CheminSauvegardes(const std::filesystem::path& lecteur) {
     return dossier;
 }
 
-void CopierJournal(const Session& session, const std::filesystem::path& cible) {
-    const Journal& journal = session.journal;
-    if (journal.Support().EstLeMeme(cible))
+void CopierCahier(const Cahier& cahier, const Station& station,
+                  const std::filesystem::path& cible) {
+    if (cahier.fichier.Support().EstLeMeme(cible))
         return;
-    Journal copie(cible, ModeFichier::Creation);
+    FichierFiches copie(cible, ModeFichier::Creation);
     if (!copie.Support().Verrouiller())
         throw ErreurVerrou(cible.string());
     std::vector<QsoRecord> bloc(kFichesParBloc);
-    const std::int32_t derniere = session.nbFiches + 1;
+    const std::int32_t derniere = cahier.nbFiches + 1;
     for (std::int32_t k = 1; k <= derniere;) {
         const auto n = std::min(kFichesParBloc, static_cast<std::size_t>(derniere - k + 1));
         const auto fiches = std::span(bloc).first(n);
-        static_cast<void>(journal.Lire(k, fiches));
+        static_cast<void>(cahier.fichier.Lire(k, fiches));
         k += static_cast<std::int32_t>(n);
         if (k > derniere && !EstFinDeLog(fiches.back()))
-            fiches.back() = FicheFinDeLog(session.monLocator);
+            fiches.back() = FicheFinDeLog(station.monLocator);
         copie.Ecrire(k - static_cast<std::int32_t>(n), fiches);
     }
     copie.Support().Synchroniser();

@@ -1,7 +1,8 @@
 // Backup and copy of the open logbook, record by record.
 #pragma once
 
-#include "core/session.h"
+#include "core/cahier.h"
+#include "core/station.h"
 
 #include <filesystem>
 
@@ -11,14 +12,14 @@ namespace orvalis {
 /// there; created when missing. Throws ErreurFichier naming it when that fails.
 [[nodiscard]] std::filesystem::path CheminSauvegardes(const std::filesystem::path& lecteur);
 
-/// Writes records 1 to N + 1 of the session's logbook (N being counted), the end-of-log record
+/// Writes records 1 to N + 1 of the logbook (N being counted), the end-of-log record
 /// included, as records 1 to N + 1 of `cible`, and returns when they are on the disk. An existing
 /// file keeps its records beyond. A logbook without an end-of-log record gives a copy with one,
-/// carrying the own locator: a blank record in its place would count as a contact. When `cible`
-/// is the open logbook itself, under whatever name, nothing happens.
+/// carrying the station's locator: a blank record in its place would count as a contact. When
+/// `cible` is the open logbook itself, under whatever name, nothing happens.
 ///
 /// Throws ErreurVerrou when another program has `cible` open, and ErreurFichier naming `cible`
 /// when it cannot be written; the logbook is only read.
-void CopierJournal(const Session& session, const std::filesystem::path& cible);
+void CopierCahier(const Cahier& cahier, const Station& station, const std::filesystem::path& cible);
 
 } // namespace orvalis

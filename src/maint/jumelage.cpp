@@ -1,6 +1,5 @@
 #include "maint/jumelage.h"
 
-#include "core/fiches.h"
 #include "core/texte.h"
 
 #include <algorithm>
@@ -18,8 +17,8 @@ void RognerIndicatif(QsoRecord& fiche) {
 }
 
 // Reads records `k` on of `source` into `bloc`, at most up to record `nombre`.
-std::span<const QsoRecord> LireBloc(const Journal& source, std::int32_t k, std::int32_t nombre,
-                                    std::vector<QsoRecord>& bloc) {
+std::span<const QsoRecord> LireBloc(const FichierFiches& source, std::int32_t k,
+                                    std::int32_t nombre, std::vector<QsoRecord>& bloc) {
     const auto n = std::min(kFichesParBloc, static_cast<std::size_t>(nombre - k + 1));
     const auto fiches = std::span(bloc).first(n);
     static_cast<void>(source.Lire(k, fiches));
@@ -29,30 +28,31 @@ std::span<const QsoRecord> LireBloc(const Journal& source, std::int32_t k, std::
 
 } // namespace
 
-std::int32_t JumelerJournal(Session& session, const std::filesystem::path& source) {
-    const Journal autre(source, ModeFichier::Lecture);
+std::int32_t JumelerCahier(Cahier& cahier, const Station& station,
+                           const std::filesystem::path& source) {
+    const FichierFiches autre(source, ModeFichier::Lecture);
     const std::int32_t nombre = autre.Compter();
-    Journal& journal = session.journal;
-    const std::int32_t suivante = session.nbFiches + 1;
-    const QsoRecord fin = FicheFinDeLog(session.monLocator);
+    FichierFiches& fichier = cahier.fichier;
+    const std::int32_t suivante = cahier.Prochaine();
+    const QsoRecord fin = FicheFinDeLog(station.monLocator);
     std::vector<QsoRecord> bloc(kFichesParBloc);
 
     // A logbook that had no end-of-log record gets one before anything is written behind it.
-    if (nombre == 0 || !EstFinDeLog(journal.Lire(suivante)))
-        journal.Ecrire(suivante, fin);
+    if (nombre == 0 || !EstFinDeLog(fichier.Lire(suivante)))
+        fichier.Ecrire(suivante, fin);
     for (std::int32_t k = 2; k <= nombre;) {
         const auto fiches = LireBloc(autre, k, nombre, bloc);
-        journal.Ecrire(session.nbFiches + k, fiches);
+        fichier.Ecrire(cahier.nbFiches + k, fiches);
         k += static_cast<std::int32_t>(fiches.size());
     }
     if (nombre > 0)
-        journal.Ecrire(suivante + nombre, fin);
-    journal.Support().Synchroniser();
+        fichier.Ecrire(suivante + nombre, fin);
+    SynchroniserCahier(cahier);
     if (nombre > 0) {
-        journal.Ecrire(suivante, LireBloc(autre, 1, 1, bloc));
-        journal.Support().Synchroniser();
+        fichier.Ecrire(suivante, LireBloc(autre, 1, 1, bloc));
+        SynchroniserCahier(cahier);
     }
-    CompterFiches(session);
+    CompterFiches(cahier);
     return nombre;
 }
 

@@ -85,14 +85,14 @@ std::string_view MotDePasse(int passe) {
     return kMots[static_cast<std::size_t>(passe) - 1];
 }
 
-Tri::Tri(Journal& journal, std::int32_t nbFiches) : journal_(journal), nbFiches_(nbFiches) {
+Tri::Tri(FichierFiches& fichier, std::int32_t nbFiches) : fichier_(fichier), nbFiches_(nbFiches) {
     etat_.termine = nbFiches < 2;
     if (etat_.termine)
         return;
     const std::int64_t taille = nbFiches * kTaille;
-    if (journal.Support().Taille() < taille)
-        journal.Ecrire(nbFiches, journal.Lire(nbFiches));
-    projection_.emplace(journal.Support(), taille);
+    if (fichier.Support().Taille() < taille)
+        fichier.Ecrire(nbFiches, fichier.Lire(nbFiches));
+    projection_.emplace(fichier.Support(), taille);
 }
 
 void Tri::Avancer(std::int64_t pasMax) {
@@ -149,7 +149,7 @@ void Tri::FinirPasse() {
     etat_.position = 1;
     etat_.termine = etat_.passe == kNbPasses;
     if (etat_.termine)
-        journal_.Support().Synchroniser();
+        fichier_.Support().Synchroniser();
     else
         ++etat_.passe;
 }

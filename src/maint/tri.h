@@ -14,7 +14,7 @@
 // every contact exactly once; between two calls of Avancer it stands exactly where Etat says.
 #pragma once
 
-#include "core/journal.h"
+#include "core/fichier_fiches.h"
 #include "core/projection.h"
 
 #include <cstdint>
@@ -41,10 +41,10 @@ struct EtatTri {
 /// One sort under way; it may be dropped at any instant and leaves a logbook with all its contacts.
 class Tri {
   public:
-    /// Sorts records 1 to `nbFiches` of `journal`, which must outlive this object and which nobody
+    /// Sorts records 1 to `nbFiches` of `fichier`, which must outlive this object and which nobody
     /// else may write meanwhile. Fewer than two: ended at once. A short last record is first
     /// filled up with blanks. Throws ErreurFichier, also when the logbook may not be written.
-    Tri(Journal& journal, std::int32_t nbFiches);
+    Tri(FichierFiches& fichier, std::int32_t nbFiches);
 
     /// Walks on for at most `pasMax` steps, and not beyond the end of a pass; when the last pass
     /// ends, what was sorted is flushed to the disk. A few thousand steps take about a tenth of a
@@ -62,7 +62,7 @@ class Tri {
 
     static constexpr std::int32_t kAucune = std::numeric_limits<std::int32_t>::max();
 
-    Journal& journal_;
+    FichierFiches& fichier_;
     std::int32_t nbFiches_;
     std::optional<Projection> projection_;
     EtatTri etat_;

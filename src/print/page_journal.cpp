@@ -1,7 +1,6 @@
 #include "print/page_journal.h"
 
 #include "core/page_texte.h"
-#include "core/pages.h"
 #include "core/texte.h"
 
 #include <algorithm>
@@ -86,10 +85,10 @@ void MettrePolice(Imprimante& imprimante, int taille, bool gras) {
 }
 
 // Contacts of the page on show, up to the end of the log.
-std::vector<QsoRecord> LirePage(const Session& session) {
-    const std::int32_t reste = session.nbFiches - session.premiereAffichee + 1;
+std::vector<QsoRecord> LirePage(const Cahier& cahier, std::int32_t premiere) {
+    const std::int32_t reste = cahier.nbFiches - premiere + 1;
     std::vector<QsoRecord> fiches(static_cast<std::size_t>(std::clamp(reste, 0, kFichesParPage)));
-    static_cast<void>(session.journal.Lire(session.premiereAffichee, fiches));
+    static_cast<void>(cahier.fichier.Lire(premiere, fiches));
     // Kept on purpose: any callsign that begins with "\" ends the page, where the count of the
     // log asks for "\" alone.
     const auto fin = std::find_if(fiches.begin(), fiches.end(), [](const QsoRecord& fiche) {
@@ -132,11 +131,11 @@ void ImprimerRangee(Imprimante& imprimante, int y, std::int32_t k, const QsoReco
     }
 }
 
-void ImprimerFiches(Imprimante& imprimante, const Session& session,
+void ImprimerFiches(Imprimante& imprimante, std::int32_t premiere,
                     std::span<const QsoRecord> fiches) {
     constexpr int kSousTrait = 120;
     int y = kHautFiches;
-    std::int32_t k = session.premiereAffichee;
+    std::int32_t k = premiere;
     for (const QsoRecord& fiche : fiches) {
         ImprimerRangee(imprimante, y + kSousTrait, k++, fiche);
         y += kHauteurRangee;
@@ -155,19 +154,21 @@ std::string NumeroImprime(std::int32_t k) {
     return std::string{Droite("00000" + std::to_string(k), 6)};
 }
 
-void ImprimerPage(Imprimante& imprimante, const Session& session, std::int32_t premiereFiche) {
+void ImprimerPage(Imprimante& imprimante, const Cahier& cahier, const Station& station,
+                  const PageAffichee& page, std::int32_t premiereFiche) {
     const bool remplie = premiereFiche > 0;
-    const std::vector<QsoRecord> fiches = remplie ? LirePage(session) : std::vector<QsoRecord>{};
-    ImprimerTitre(imprimante, session.indicatif);
+    const std::vector<QsoRecord> fiches =
+        remplie ? LirePage(cahier, page.premiere) : std::vector<QsoRecord>{};
+    ImprimerTitre(imprimante, station.indicatif);
     ImprimerColonnes(imprimante);
     if (remplie)
-        ImprimerFiches(imprimante, session, fiches);
+        ImprimerFiches(imprimante, page.premiere, fiches);
     else
         ImprimerRangeesVierges(imprimante);
     imprimante.Placer(8900, 14100);
     imprimante.Ecrire("Page n° ", remplie ? Suite::MemeLigne : Suite::NouvelleLigne);
     if (remplie)
-        imprimante.Ecrire(std::to_string(session.pageAffichee), Suite::NouvelleLigne);
+        imprimante.Ecrire(std::to_string(page.numero), Suite::NouvelleLigne);
     imprimante.TerminerDocument();
 }
 

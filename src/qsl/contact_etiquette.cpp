@@ -39,9 +39,9 @@ bool EstEnCours(const QsoRecord& fiche) {
 }
 
 // The number on the label; 0 when it names no contact of the logbook.
-std::int32_t Numero(const Session& session, const QslSlotRecord& etiquette) {
+std::int32_t Numero(const Cahier& cahier, const QslSlotRecord& etiquette) {
     const int numero = ValeurNumerique(TexteRogne(etiquette, ChampEtiquette::NumeroFiche));
-    return numero <= session.nbFiches ? numero : 0;
+    return numero <= cahier.nbFiches ? numero : 0;
 }
 
 bool Exact(const QsoRecord& fiche, const QslSlotRecord& etiquette) {
@@ -50,16 +50,16 @@ bool Exact(const QsoRecord& fiche, const QslSlotRecord& etiquette) {
 
 // From the surest answer to the least: a contact that one label has taken is no other's.
 struct Recherche {
-    Recherche(const Session& s, std::span<const QslSlotRecord> e)
-        : session(s), etiquettes(e), trouves(e.size()) {}
+    Recherche(const Cahier& c, std::span<const QslSlotRecord> e)
+        : cahier(c), etiquettes(e), trouves(e.size()) {}
 
     // The numbered contact, when callsign, date and time agree.
     void CroireLesNumeros() {
         for (std::size_t i = 0; i < etiquettes.size(); ++i) {
-            const std::int32_t k = Numero(session, etiquettes[i]);
+            const std::int32_t k = Numero(cahier, etiquettes[i]);
             if (k == 0 || EstPris(k))
                 continue;
-            const QsoRecord fiche = session.journal.Lire(k);
+            const QsoRecord fiche = FicheDuCahier(cahier, k);
             if (EstEnCours(fiche) && Exact(fiche, etiquettes[i]))
                 trouves[i] = {k, 1};
         }
@@ -74,8 +74,8 @@ struct Recherche {
         std::vector<std::int32_t> pris;
         for (const ContactTrouve& trouve : trouves)
             pris.push_back(trouve.fiche);
-        LecteurFiches lecteur(session.journal);
-        for (std::int32_t k = 1; k <= session.nbFiches && !reste.empty(); ++k) {
+        LecteurFiches lecteur(cahier.fichier);
+        for (std::int32_t k = 1; k <= cahier.nbFiches && !reste.empty(); ++k) {
             const QsoRecord& fiche = lecteur.Lire(k);
             if (!EstEnCours(fiche) || std::find(pris.begin(), pris.end(), k) != pris.end())
                 continue;
@@ -90,10 +90,10 @@ struct Recherche {
     void AdmettreLesRetouches() {
         for (std::size_t i = 0; i < etiquettes.size(); ++i) {
             const std::int32_t k =
-                trouves[i].nombre == 0 ? ContactNumerote(session, etiquettes[i]) : 0;
+                trouves[i].nombre == 0 ? ContactNumerote(cahier, etiquettes[i]) : 0;
             if (k == 0 || EstPris(k))
                 continue;
-            const QsoRecord fiche = session.journal.Lire(k);
+            const QsoRecord fiche = FicheDuCahier(cahier, k);
             const bool reclame =
                 std::any_of(etiquettes.begin(), etiquettes.end(),
                             [&fiche](const QslSlotRecord& e) { return Exact(fiche, e); });
@@ -107,65 +107,65 @@ struct Recherche {
                            [k](const ContactTrouve& trouve) { return trouve.fiche == k; });
     }
 
-    const Session& session;
+    const Cahier& cahier;
     std::span<const QslSlotRecord> etiquettes;
     std::vector<ContactTrouve> trouves;
 };
 
 } // namespace
 
-std::int32_t ContactNumerote(const Session& session, const QslSlotRecord& etiquette) {
-    const std::int32_t k = Numero(session, etiquette);
+std::int32_t ContactNumerote(const Cahier& cahier, const QslSlotRecord& etiquette) {
+    const std::int32_t k = Numero(cahier, etiquette);
     if (k == 0)
         return 0;
-    const QsoRecord fiche = session.journal.Lire(k);
+    const QsoRecord fiche = FicheDuCahier(cahier, k);
     const bool meme =
         MemeIndicatif(fiche, etiquette) || (MomentConnu(etiquette) && MemeMoment(fiche, etiquette));
     return meme ? k : 0;
 }
 
-std::vector<ContactTrouve> TrouverContacts(const Session& session,
+std::vector<ContactTrouve> TrouverContacts(const Cahier& cahier,
                                            std::span<const QslSlotRecord> etiquettes) {
-    Recherche recherche(session, etiquettes);
+    Recherche recherche(cahier, etiquettes);
     recherche.CroireLesNumeros();
     recherche.ChercherLesExacts();
     recherche.AdmettreLesRetouches();
     return std::move(recherche.trouves);
 }
 
-ContactTrouve ContactDeLaPlace(const Session& session, const FeuilleQSL& feuille, int place) {
+ContactTrouve ContactDeLaPlace(const Cahier& cahier, const FeuilleQSL& feuille, int place) {
     std::vector<QslSlotRecord> etiquettes = {LireEnregistrement(feuille, place)};
     for (int k = 1; k <= kNbEtiquettes; ++k)
         if (k != place && feuille.Etat(k) == EtatEtiquette::Preparee)
             etiquettes.push_back(LireEnregistrement(feuille, k));
-    return TrouverContacts(session, etiquettes).front();
+    return TrouverContacts(cahier, etiquettes).front();
 }
 
-int EtiquetteSansMarque(const Session& session, const FeuilleQSL& feuille, std::int32_t k) {
-    const QsoRecord fiche = session.journal.Lire(k);
+int EtiquetteSansMarque(const Cahier& cahier, const FeuilleQSL& feuille, std::int32_t k) {
+    const QsoRecord fiche = FicheDuCahier(cahier, k);
     std::vector<int> places;
     std::vector<QslSlotRecord> etiquettes;
     for (int place = 1; place <= kNbEtiquettes; ++place) {
         if (feuille.Etat(place) != EtatEtiquette::Preparee)
             continue;
         const QslSlotRecord etiquette = LireEnregistrement(feuille, place);
-        const bool numerote = Numero(session, etiquette) == k && MomentConnu(etiquette);
+        const bool numerote = Numero(cahier, etiquette) == k && MomentConnu(etiquette);
         if (!MemeMoment(fiche, etiquette) || !(numerote || MemeIndicatif(fiche, etiquette)))
             continue;
         places.push_back(place);
         etiquettes.push_back(etiquette);
     }
-    const std::vector<ContactTrouve> trouves = TrouverContacts(session, etiquettes);
+    const std::vector<ContactTrouve> trouves = TrouverContacts(cahier, etiquettes);
     for (std::size_t i = 0; i < places.size(); ++i)
         if (trouves[i].nombre == 0)
             return places[i];
     return 0;
 }
 
-void MarquerContact(Session& session, std::int32_t k, std::string_view maQsl) {
-    QsoRecord fiche = session.journal.Lire(k);
+void MarquerContact(Cahier& cahier, std::int32_t k, std::string_view maQsl) {
+    QsoRecord fiche = FicheDuCahier(cahier, k);
     MettreChamp(fiche, Champ::MQSL, maQsl);
-    session.journal.Ecrire(k, fiche);
+    CorrigerFiche(cahier, k, fiche);
 }
 
 } // namespace orvalis

@@ -3,7 +3,7 @@
 // stay as they are.
 #pragma once
 
-#include "core/session.h"
+#include "core/cahier.h"
 #include "qsl/feuille_qsl.h"
 
 #include <cstdint>
@@ -27,25 +27,26 @@ struct ContactTrouve {
 /// contact is "En cours" and has the label's callsign, date and time. Otherwise the one contact
 /// "En cours" with all three is taken; failing that, the numbered one with the callsign, or the
 /// date and time, unless it is another of these labels'. Reads the logbook once at most.
-[[nodiscard]] std::vector<ContactTrouve> TrouverContacts(const Session& session,
+[[nodiscard]] std::vector<ContactTrouve> TrouverContacts(const Cahier& cahier,
                                                          std::span<const QslSlotRecord> etiquettes);
 
 /// The same for the prepared label at `place`, which must not take the contact of another
 /// prepared label of the sheet.
-[[nodiscard]] ContactTrouve ContactDeLaPlace(const Session& session, const FeuilleQSL& feuille,
+[[nodiscard]] ContactTrouve ContactDeLaPlace(const Cahier& cahier, const FeuilleQSL& feuille,
                                              int place);
 
 /// The contact that a label just written is for: the one it numbers, whatever its MQSL, when that
 /// has the label's callsign, or its date and time; else 0.
-[[nodiscard]] std::int32_t ContactNumerote(const Session& session, const QslSlotRecord& etiquette);
+[[nodiscard]] std::int32_t ContactNumerote(const Cahier& cahier, const QslSlotRecord& etiquette);
 
 /// The place (1 to 16) of a prepared label that was written for contact `k` while the contact was
 /// never marked (the program was killed in between); 0 when there is none. Such a label has the
 /// contact's date and time, and its callsign or number, and no contact "En cours" to it.
-[[nodiscard]] int EtiquetteSansMarque(const Session& session, const FeuilleQSL& feuille,
+[[nodiscard]] int EtiquetteSansMarque(const Cahier& cahier, const FeuilleQSL& feuille,
                                       std::int32_t k);
 
-/// Sets MQSL of contact `k`, cut to 8 characters; its other bytes stay. The caller flushes.
-void MarquerContact(Session& session, std::int32_t k, std::string_view maQsl);
+/// Sets MQSL of contact `k`, cut to 8 characters; its other bytes stay. The caller flushes
+/// (SynchroniserCahier).
+void MarquerContact(Cahier& cahier, std::int32_t k, std::string_view maQsl);
 
 } // namespace orvalis

@@ -34,7 +34,7 @@ std::int64_t Position(int k) {
     return (static_cast<std::int64_t>(k) - 1) * static_cast<std::int64_t>(kTailleEtiquette);
 }
 
-std::string_view TexteVoie(const FeuilleQSL& feuille) {
+std::string_view TexteVoie(const EtatFeuille& feuille) {
     switch (feuille.voie) {
     case VoieQSL::Bureau:
         return kVoieBureau;
@@ -68,13 +68,13 @@ std::string LegendeEtiquette(int k) {
     return "Etiquette N° " + std::to_string(k);
 }
 
-VuePlace VoirPlace(const FeuilleQSL& feuille, int k) {
+VuePlace VoirPlace(const EtatFeuille& feuille, int k) {
     const std::string numero = " [" + std::to_string(k) + "]";
     // The two blanks before the bracket are meant.
     const std::string libre = "Etiquette " + numero + " libre";
     switch (feuille.Etat(k)) {
     case EtatEtiquette::Preparee:
-        return {"Effacer", feuille.indicatifs[FeuilleQSL::Rang(k)] + numero, true, true};
+        return {"Effacer", feuille.indicatifs[EtatFeuille::Rang(k)] + numero, true, true};
     case EtatEtiquette::Retiree:
         return {"Libérer", libre, false, false};
     case EtatEtiquette::Libre:
@@ -101,8 +101,9 @@ void ChargerFeuilleQSL(FeuilleQSL& feuille, const std::filesystem::path& dossier
     for (int k = 1; k <= kNbEtiquettes; ++k) {
         const QslSlotRecord etiquette = LireEnregistrement(feuille, k);
         const bool libre = EstLibre(etiquette);
-        feuille.etats[FeuilleQSL::Rang(k)] = libre ? EtatEtiquette::Libre : EtatEtiquette::Preparee;
-        feuille.indicatifs[FeuilleQSL::Rang(k)] =
+        feuille.etats[EtatFeuille::Rang(k)] =
+            libre ? EtatEtiquette::Libre : EtatEtiquette::Preparee;
+        feuille.indicatifs[EtatFeuille::Rang(k)] =
             libre ? std::string{} : TexteRogne(etiquette, ChampEtiquette::Indicatif);
     }
 }

@@ -1,6 +1,6 @@
 // The sheet of sixteen QSL labels: its file, the state of each place, the label editor's boxes,
 // and what the captions say. The window paints this state and changes it only through the
-// procedures here and in flux_etiquettes.h. File operations throw ErreurFichier.
+// procedures here and in vie_etiquette.h. File operations throw ErreurFichier.
 #pragma once
 
 #include "core/fichier.h"
@@ -57,14 +57,14 @@ struct VueFeuille {
     bool restaurer = false; ///< BtRestore
     bool controle = false;  ///< PictCtrlImpression; meanwhile only its two buttons act
     std::string nrTag;      ///< caption NrTag
+
+    friend bool operator==(const VueFeuille&, const VueFeuille&) = default;
 };
 
-struct FeuilleQSL {
-    std::filesystem::path chemin;
-    Fichier fichier;
+/// What the sheet and the label editor show.
+struct EtatFeuille {
     std::array<EtatEtiquette, kNbEtiquettes> etats{};
     std::array<std::string, kNbEtiquettes> indicatifs; ///< callsigns of the prepared labels
-    QslSlotRecord tampon;                              ///< label last read or written
     BoitesEtiquette boites;
     VoieQSL voie = VoieQSL::Aucune;
     bool fraiche = false;       ///< the boxes hold a label that was never on the sheet
@@ -77,6 +77,14 @@ struct FeuilleQSL {
     [[nodiscard]] static constexpr std::size_t Rang(int k) {
         return static_cast<std::size_t>(k) - 1;
     }
+    friend bool operator==(const EtatFeuille&, const EtatFeuille&) = default;
+};
+
+/// The sheet with its file.
+struct FeuilleQSL : EtatFeuille {
+    std::filesystem::path chemin;
+    Fichier fichier;
+    QslSlotRecord tampon; ///< label last read or written
 };
 
 /// The two buttons of one place.
@@ -86,7 +94,7 @@ struct VuePlace {
     bool jaune = false;       ///< BtChoix is yellow, else the form's ordinary colour
     bool tagActif = true;     ///< BtTag is enabled
 };
-[[nodiscard]] VuePlace VoirPlace(const FeuilleQSL& feuille, int k);
+[[nodiscard]] VuePlace VoirPlace(const EtatFeuille& feuille, int k);
 
 /// "Etiquette N° " and the number.
 [[nodiscard]] std::string LegendeEtiquette(int k);

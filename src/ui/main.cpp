@@ -1,5 +1,5 @@
-#include "ui/orvalis.h"
-#include "ui/systeme.h"
+#include "ui/bureau/systeme.h"
+#include "ui/fenetre/orvalis.h"
 
 #include <QApplication>
 #include <QLibraryInfo>

@@ -1,8 +1,8 @@
 // The Settings file, the program folder and the own locator that is kept in it.
 #include "aides.h"
 #include "core/dossier.h"
-#include "core/locator_station.h"
 #include "core/parametres.h"
+#include "ui/carte/locator_station.h"
 
 namespace orvalis::aides::parametres {
 
@@ -56,20 +56,20 @@ TEST(LocatorStation, SeulsSixCaracteresSontJuges) {
     const Table<VerdictLocator> cas = {
         {"", Rien},         {"JN18A", Rien}, {"JN18AAB", Rien}, {" JN18AA ", Accepte},
         {"JN18ZZ", Refuse}, {"JN18É", Rien}, {"1234ÉÀ", Refuse}};
-    Verifier(ControlerLocatorStation, cas);
+    Verifier(JugerLocatorStation, cas);
 }
 
 TEST(LocatorStation, LesAutresReglagesRestentCeuxDuFichier) {
     const Dossier lecteur;
     std::filesystem::create_directory(lecteur / "Orvalis");
     const auto chemin = lecteur.Poser("Orvalis/PARVEL.cfg", "\"A\",\"B.Vek\",\"JN18AA\"\r\n");
-    Session session;
-    session.lecteur = lecteur / "";
-    ChangerLocatorStation(session, " JN05BB ", true);
+    Station station{lecteur / "", "", ""};
+    Carte carte;
+    ChangerLocatorStation(station, carte, " JN05BB ", true);
     EXPECT_EQ(Lire(chemin), "\"A\",\"B.Vek\",\"JN05BB\"\r\n");
     std::filesystem::remove(chemin);
-    EXPECT_THROW(ChangerLocatorStation(session, "AA00AA", true), ErreurFichier);
-    EXPECT_EQ(session.monLocator, "JN05BB");
+    EXPECT_THROW(ChangerLocatorStation(station, carte, "AA00AA", true), ErreurFichier);
+    EXPECT_EQ(station.monLocator, "JN05BB");
 }
 
 } // namespace orvalis::aides::parametres

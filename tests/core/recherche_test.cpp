@@ -5,15 +5,14 @@ namespace orvalis::aides::recherche {
 
 struct Recherche : ::testing::Test {
     void Poser(const std::string& octets) {
-        journal = Journal(dossier.Poser("a.Vek", octets), ModeFichier::Lecture);
-        nb = journal.Compter();
+        cahier = {};
+        cahier = Ouvrir(dossier.Poser("a.Vek", octets));
     }
     [[nodiscard]] ResultatRecherche Chercher(std::string_view texte) const {
-        return ChercherContacts(journal, nb, texte);
+        return ChercherContacts(cahier, texte);
     }
     Dossier dossier;
-    Journal journal;
-    std::int32_t nb = 0;
+    Cahier cahier;
 };
 
 // Record numbers found, then both texts of the panel; "-": the label keeps what it shows.
@@ -77,10 +76,10 @@ TEST_F(Recherche, Doublons) {
         {a + contact("F2BBB") + a, "| 0 | Doublon trouvé"}};
     for (const auto& [octets, attendu] : cas) {
         Poser(octets);
-        EXPECT_EQ(Dire(ChercherDoublons(journal, nb)), attendu);
+        EXPECT_EQ(Dire(ChercherDoublons(cahier)), attendu);
     }
     Poser(contact("VP2/F1AAA/MM") + contact("VP2/F1AAA/MM"));
-    EXPECT_EQ(ChercherDoublons(journal, nb).lignes.at(0),
+    EXPECT_EQ(ChercherDoublons(cahier).lignes.at(0),
               "1      VP2/F1AAA/Le 12/05/02 à 18:30          ");
 }
 

@@ -1,10 +1,9 @@
-// Texts, dates, departments, the filters of the boxes and the commands of each state.
+// Texts, dates, departments and the filters of the boxes.
 #include "aides.h"
-#include "core/boites.h"
-#include "core/commandes.h"
 #include "core/dates.h"
 #include "core/departements.h"
 #include "core/texte.h"
+#include "ui/carte/boites.h"
 
 namespace orvalis::aides::tables {
 
@@ -106,43 +105,6 @@ TEST(Boites, UneEditionNeFiltreQueCeQuElleApporte) {
         EXPECT_EQ(edite.texte, texte);
         EXPECT_EQ(edite.curseur, curseur) << texte;
     }
-}
-
-// The commands refused, in the order of the table. A state is N, then what is under way or the
-// other logbook on show.
-std::string Refusees(const std::string& etat) {
-    const std::string suite = etat.substr(std::min(etat.size(), std::size_t{2}));
-    Session session;
-    session.journal = Journal("/dev/null", ModeFichier::Lecture);
-    session.indicatif = "F5ABC";
-    session.nbFiches = etat[0] - '0';
-    session.autreJournal = suite.starts_with('F') ? suite : "";
-    session.saisie.EnSaisie = suite == "saisie";
-    session.saisie.NbModifs = suite == "modification" ? 1 : 0;
-    std::string refusees;
-    for (const RegleCommande& regle : kReglesCommandes)
-        if (!CommandePermise(regle.commande, session))
-            refusees += std::string{regle.nom.empty() ? "Modifier" : regle.nom} + " ";
-    return refusees;
-}
-
-TEST(Commandes, RefuseesDansChaqueEtat) {
-    const std::string edition = "BtNewQSO BtKillFiche Modifier ";
-    const std::string jumelage = "MnuJumeler BtPjumeler BtPjSauvegarder ";
-    const Textes cas = {
-        {"2", "MnuChangerLocator "},
-        {"1", "MnuClasser MnuChangerLocator "},
-        {"0", "MnuCreateMDB MnuCopieSurDisque MnuClasser MnuSauver MnuImpPage MnuChangerLocator "
-              "BtKillFiche Modifier "},
-        {"2 saisie", "MnuCourantF MnuAutreF " + jumelage +
-                         "MnuCreateMDB MnuCopieSurDisque MnuClasser MnuSauver MnuConfigImp "
-                         "MnuImpPage MnuImpPageVierge MnuVirginTags MnuGestionFeuilleQSL " +
-                         edition},
-        {"2 modification", "MnuCreateMDB MnuChangerLocator MnuVirginTags MnuGestionFeuilleQSL "},
-        {"2 F6XYZ", jumelage + "MnuSauver MnuChangerLocator " + edition},
-        {"2 F5ABC", jumelage + "MnuSauver MnuChangerLocator "}};
-    Verifier(Refusees, cas);
-    EXPECT_FALSE(CommandePermise(Commande::MnuGestionFeuilleQSL, Session{}));
 }
 
 } // namespace orvalis::aides::tables

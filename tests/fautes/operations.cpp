@@ -1,7 +1,7 @@
 #include "fautes/fautes.h"
 #include "print/enregistreur.h"
 #include "qsl/feuille_qsl.h"
-#include "ui/texte_qt.h"
+#include "ui/bureau/texte_qt.h"
 
 namespace orvalis::operateur {
 namespace {

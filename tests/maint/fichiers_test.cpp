@@ -33,12 +33,12 @@ TEST(Jumelage, OctetParOctet) {
         const Dossier dossier;
         const auto cible = dossier.Poser("F5ABC.Vek", avant);
         const auto source = octets.empty() ? cible : dossier.Poser("Source.Vek", octets);
-        Session session = Ouvrir(cible);
-        const std::int32_t ajoutes = session.nbFiches + JumelerJournal(session, source);
+        Cahier cahier = Ouvrir(cible);
+        const std::int32_t ajoutes = cahier.nbFiches + JumelerCahier(cahier, MaStation(), source);
         EXPECT_EQ(Lire(cible), apres);
         EXPECT_EQ(Lire(source), octets.empty() ? apres : octets);
-        EXPECT_EQ(session.nbFiches, apres.find('\\') / 165);
-        EXPECT_EQ(session.prochaineFiche, ajoutes + 1);
+        EXPECT_EQ(cahier.nbFiches, apres.find('\\') / 165);
+        EXPECT_EQ(cahier.Prochaine(), ajoutes + 1);
     }
 }
 
@@ -51,17 +51,17 @@ TEST(Copie, OctetParOctet) {
         {a + f, x + x + x + x, a + f + x + x},
         {a + a, "", a + a + f}, // no end of log
     };
-    for (const auto& [journal, avant, apres] : cas) {
+    for (const auto& [octets, avant, apres] : cas) {
         const Dossier dossier;
-        const auto chemin = dossier.Poser("F5ABC.Vek", journal);
+        const auto chemin = dossier.Poser("F5ABC.Vek", octets);
         const auto cible = avant.empty() ? dossier / "C.Vek" : dossier.Poser("C.Vek", avant);
-        CopierJournal(Ouvrir(chemin), cible);
+        CopierCahier(Ouvrir(chemin), MaStation(), cible);
         EXPECT_EQ(Lire(cible), apres);
-        EXPECT_EQ(Lire(chemin), journal);
+        EXPECT_EQ(Lire(chemin), octets);
     }
 }
 
-TEST(Ouverture, AutreJournal) {
+TEST(Ouverture, AutreCahier) {
     const std::string a = Contact("A"), f = Fin("JN33AA");
     using Ouvert = std::tuple<std::string, std::string, std::int32_t, bool, bool, bool>;
     const std::tuple<std::string, std::string, Ouvert> cas[] = {
@@ -74,12 +74,13 @@ TEST(Ouverture, AutreJournal) {
         {".Vek", f, {".Vek", "JN33AA", 0, true, true, true}}};
     for (const auto& [nom, octets, attendu] : cas) {
         const Dossier dossier;
-        Session session = Ouvrir(dossier.Poser("Station.Vek", Fois(3, a) + f));
+        Station station = MaStation();
+        Cahier cahier = Ouvrir(dossier.Poser("Station.Vek", Fois(3, a) + f));
         const auto chemin = dossier.Poser(nom, octets);
-        const auto [ouvert, etat] = OuvrirAutreJournal(session, chemin);
-        EXPECT_TRUE(ouvert && session.cheminJournal == chemin);
-        EXPECT_EQ(Ouvert(session.autreJournal, session.monLocator, session.nbFiches,
-                         session.LectureSeule(), etat.finPresente, etat.longueurEntiere),
+        const auto [ouvert, etat] = OuvrirAutreCahier(cahier, station, chemin);
+        EXPECT_TRUE(ouvert && cahier.chemin == chemin);
+        EXPECT_EQ(Ouvert(cahier.autre, station.monLocator, cahier.nbFiches, cahier.lectureSeule,
+                         etat.finPresente, etat.longueurEntiere),
                   attendu);
     }
 }
@@ -100,24 +101,25 @@ TEST(Echecs, NeChangentRien) {
     const std::string octets = Contact("A") + Fin(), deux = Contact("B") + Contact("C") + Fin();
     const auto station = dossier.Poser("F5ABC.Vek", octets), prise = dossier.Poser("P.Vek", deux);
     const auto absente = dossier / "Absente.Vek", ici = dossier / ".";
-    Session session = Ouvrir(station);
-    const Session autreProgramme = Ouvrir(prise);
+    Station nous = MaStation();
+    Cahier cahier = Ouvrir(station);
+    const Cahier autreProgramme = Ouvrir(prise);
     for (const auto& chemin : {absente, ici}) {
-        EXPECT_THAT([&] { JumelerJournal(session, chemin); }, EchoueSur(chemin));
-        EXPECT_THAT([&] { OuvrirAutreJournal(session, chemin); }, EchoueSur(chemin));
+        EXPECT_THAT([&] { JumelerCahier(cahier, nous, chemin); }, EchoueSur(chemin));
+        EXPECT_THAT([&] { OuvrirAutreCahier(cahier, nous, chemin); }, EchoueSur(chemin));
     }
     for (const fs::path& cible : {dossier / "absent/C.Vek", ici, fs::path("/dev/full")})
-        EXPECT_THAT([&] { CopierJournal(session, cible); }, EchoueSur(cible));
-    EXPECT_THROW(OuvrirAutreJournal(session, prise), ErreurVerrou);
-    EXPECT_THROW(CopierJournal(session, prise), ErreurVerrou);
+        EXPECT_THAT([&] { CopierCahier(cahier, nous, cible); }, EchoueSur(cible));
+    EXPECT_THROW(OuvrirAutreCahier(cahier, nous, prise), ErreurVerrou);
+    EXPECT_THROW(CopierCahier(cahier, nous, prise), ErreurVerrou);
 
     fs::create_symlink(station, dossier / "Lien.Vek");
-    CopierJournal(session, dossier / "Lien.Vek");
-    EXPECT_FALSE(OuvrirAutreJournal(session, dossier / "Lien.Vek").ouvert);
+    CopierCahier(cahier, nous, dossier / "Lien.Vek");
+    EXPECT_FALSE(OuvrirAutreCahier(cahier, nous, dossier / "Lien.Vek").ouvert);
     EXPECT_EQ(Lire(station) + Lire(prise), octets + deux);
-    EXPECT_TRUE(session.cheminJournal == station && session.autreJournal.empty());
-    EXPECT_TRUE(session.journal.Support().EstLeMeme(station));
-    EXPECT_EQ(session.monLocator + std::to_string(session.nbFiches), "JN18AA1");
+    EXPECT_TRUE(cahier.chemin == station && cahier.autre.empty());
+    EXPECT_TRUE(cahier.fichier.Support().EstLeMeme(station));
+    EXPECT_EQ(nous.monLocator + std::to_string(cahier.nbFiches), "JN18AA1");
 }
 
 } // namespace orvalis::aides::fichiers

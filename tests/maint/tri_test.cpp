@@ -10,11 +10,11 @@ constexpr std::int64_t kToutDroit = 1'000'000'000;
 // A logbook of these bytes, and its sort.
 struct CahierATrier {
     Dossier dossier;
-    Session session;
+    Cahier cahier;
     Tri tri;
 
     explicit CahierATrier(const std::string& octets)
-        : session(Ouvrir(dossier.Poser("J.Vek", octets))), tri(session.journal, session.nbFiches) {}
+        : cahier(Ouvrir(dossier.Poser("J.Vek", octets))), tri(cahier.fichier, cahier.nbFiches) {}
     [[nodiscard]] std::string Octets() const { return Lire(dossier / "J.Vek"); }
 };
 
@@ -93,7 +93,7 @@ TEST(Tri, DerniereFicheCourteEtLectureSeule) {
         cahier.tri.Avancer(kToutDroit);
     courte.resize(165, ' ');
     EXPECT_EQ(cahier.Octets(), courte + Contact("A", "01/01/02"));
-    Journal lecture(cahier.dossier / "J.Vek", ModeFichier::Lecture);
+    FichierFiches lecture(cahier.dossier / "J.Vek", ModeFichier::Lecture);
     EXPECT_THROW(Tri(lecture, 2).Avancer(kToutDroit), ErreurFichier);
 }
 

@@ -23,12 +23,10 @@ const std::string kCommun = R"(P A4 portrait;
 // Prints page `page` of a logbook of these bytes.
 Enregistreur Imprimer(const std::string& octets, std::int32_t page, std::int32_t aiguillage = 1) {
     const Dossier dossier;
-    Session session = Ouvrir(dossier.Poser("F5ABC.Vek", octets));
-    session.indicatif = "F5XYZ";
-    session.pageAffichee = page;
-    session.premiereAffichee = page * 25 - 24;
+    const Cahier cahier = Ouvrir(dossier.Poser("F5ABC.Vek", octets));
+    const Station station{{}, "F5XYZ", "JN18AA"};
     Enregistreur imprimante("MS sans Serif");
-    ImprimerPage(imprimante, session, aiguillage);
+    ImprimerPage(imprimante, cahier, station, {page, page * 25 - 24, page * 25}, aiguillage);
     return imprimante;
 }
 

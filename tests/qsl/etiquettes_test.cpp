@@ -2,7 +2,7 @@
 
 #include "aides.h"
 #include "qsl/contact_etiquette.h"
-#include "qsl/flux_etiquettes.h"
+#include "qsl/vie_etiquette.h"
 
 namespace orvalis::aides::etiquettes {
 
@@ -37,11 +37,11 @@ std::string Planche(std::string premieres) {
 // A program folder with a logbook and a label sheet.
 struct ServiceQSL {
     Dossier dossier;
-    Session session;
+    Cahier cahier;
     FeuilleQSL feuille;
 
     ServiceQSL(const std::string& fiches, const std::string& planche) {
-        session = Ouvrir(dossier.Poser("F5ABC.Vek", fiches + Fin()));
+        cahier = Ouvrir(dossier.Poser("F5ABC.Vek", fiches + Fin()));
         dossier.Poser("feuilleQSL.TXT", planche);
         ChargerFeuilleQSL(feuille, dossier / "");
     }
@@ -54,19 +54,20 @@ struct ServiceQSL {
         ReponseQSL reponse;
         std::string texte;
         const std::map<std::string, std::function<void(int)>> actions = {
-            {"fiche", [&](int k) { reponse = PreparerEtiquette(session, feuille, k).reponse; }},
+            {"fiche", [&](int k) { reponse = PreparerEtiquette(cahier, feuille, k).reponse; }},
             {"choix", [&](int k) { CliquerChoix(feuille, k); }},
             {"tag", [&](int k) { CliquerTag(feuille, k); }},
-            {"boite", [&](int k) { SaisirBoite(feuille, static_cast<std::size_t>(k), texte); }},
-            {"entree", [&](int) { EntrerBoite(feuille); }},
+            {"boite",
+             [&](int k) { SaisirBoiteEtiquette(feuille, static_cast<std::size_t>(k), texte); }},
+            {"entree", [&](int) { EntrerBoiteEtiquette(feuille); }},
             {"direct", [&](int) { ChoisirVoie(feuille, VoieQSL::Direct); }},
-            {"valider", [&](int) { reponse = Valider(session, feuille); }},
-            {"supprimer", [&](int) { reponse = Supprimer(session, feuille); }},
-            {"laisser", [&](int) { Laisser(feuille); }},
-            {"restaurer", [&](int) { Restaurer(feuille); }},
+            {"valider", [&](int) { reponse = ValiderEtiquette(cahier, feuille); }},
+            {"supprimer", [&](int) { reponse = SupprimerEtiquette(cahier, feuille); }},
+            {"laisser", [&](int) { LaisserEtiquette(feuille); }},
+            {"restaurer", [&](int) { RestaurerFeuille(feuille); }},
             {"imprimer", [&](int) { DemanderControle(feuille); }},
-            {"parfait", [&](int) { reponse = ToutEstParfait(session, feuille, "J"); }},
-            {"autre", [&](int) { session.autreJournal = "AUTRE"; }}, // another logbook on show
+            {"parfait", [&](int) { reponse = ToutEstParfait(cahier, feuille, "J"); }},
+            {"autre", [&](int) { cahier.autre = "AUTRE"; }}, // another logbook on show
         };
         for (const std::string& geste : Couper(gestes, ";")) {
             const auto mots = Couper(geste, " ");
@@ -101,7 +102,7 @@ void Essayer(const std::string& gestes, const std::string& table) {
             fin.insert(fin.begin(), depart.begin(), depart.begin() + 2);
         ServiceQSL service(Fiches(depart.at(0)), Planche(Etiquettes(depart.at(1))));
         EXPECT_EQ(service.Faire(depart.at(2)), fin.at(2));
-        EXPECT_EQ(Lire(service.session.cheminJournal), Fiches(fin[0]) + Fin());
+        EXPECT_EQ(Lire(service.cahier.chemin), Fiches(fin[0]) + Fin());
         EXPECT_EQ(service.OctetsFeuille(), Planche(Etiquettes(fin[1])));
     }
 }
@@ -197,7 +198,7 @@ TEST(FluxEtiquettes, UnContactSansMarqueRecoitSaSeuleMarque) {
  neither : F18h | A17h, P18h 8 | fiche 1 -> panneau quitter imprimer "N° 3"
  another contact's : F18h En cours, F18h | F18h 1 | fiche 2 -> panneau quitter imprimer "N° 2")");
     ServiceQSL service(Fiches("F18h"), Planche(Etiquettes("F18h 1")));
-    const ReponseClic clic = PreparerEtiquette(service.session, service.feuille, 1);
+    const ReponseClic clic = PreparerEtiquette(service.cahier, service.feuille, 1);
     EXPECT_EQ(clic.suite, SuiteClic::Retabli);
     EXPECT_TRUE(clic.reponse.marque);
 }

@@ -1,9 +1,9 @@
 #include "ui/banc.h"
 
-#include "geo/dlg2.h"
-#include "ui/a_propos.h"
-#include "ui/dlg1.h"
-#include "ui/feuille_log.h"
+#include "ui/dialogues/a_propos.h"
+#include "ui/dialogues/dlg1.h"
+#include "ui/dialogues/dlg2.h"
+#include "ui/widgets/vue_page.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -87,7 +87,7 @@ void Exiger(bool condition, const std::string& sinon) {
 constexpr const char* kManque[] = {" is hidden, disabled or nobody's", " is not refused"};
 
 QString TexteDe(const QObject& controle) {
-    if (const auto* feuille = qobject_cast<const FeuilleLog*>(&controle))
+    if (const auto* feuille = qobject_cast<const VuePage*>(&controle))
         return feuille->toPlainText();
     const auto* liste = qobject_cast<const QListWidget*>(&controle);
     QStringList lignes;
@@ -209,7 +209,7 @@ void Banc::Faire(const std::string& gestes) {
          [&](Mot n) { Atteindre<QListWidget>("ListeLog")->setCurrentRow(std::stoi(n) - 1); }},
         {"rangee",
          [&](Mot n) {
-             const auto* feuille = Atteindre<FeuilleLog>("PageText1");
+             const auto* feuille = Atteindre<VuePage>("PageText1");
              QTest::mouseClick(feuille->viewport(), Qt::LeftButton, {},
                                feuille->RectDeRangee(std::stoi(n) - 1).center());
          }},

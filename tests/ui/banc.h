@@ -4,9 +4,9 @@
 
 #include "aides.h"
 #include "print/imprimante.h"
-#include "ui/orvalis.h"
-#include "ui/systeme.h"
-#include "ui/texte_qt.h"
+#include "ui/bureau/systeme.h"
+#include "ui/bureau/texte_qt.h"
+#include "ui/fenetre/orvalis.h"
 
 #include <QCoreApplication>
 #include <QDialog>

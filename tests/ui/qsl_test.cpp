@@ -1,7 +1,7 @@
 // Labels and printed pages through the real window; the files are read back after each step.
 #include "print/enregistreur.h"
-#include "print/imprimante_qt.h"
 #include "ui/banc.h"
+#include "ui/bureau/imprimante_qt.h"
 
 #include <QPrinter>
 

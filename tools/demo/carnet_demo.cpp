@@ -4,7 +4,7 @@
 // refuse.
 #include "core/dates.h"
 #include "core/dossier.h"
-#include "core/journal.h"
+#include "core/fichier_fiches.h"
 #include "core/parametres.h"
 #include "core/texte.h"
 #include "geo/locator.h"
@@ -165,8 +165,8 @@ int main(int nbArguments, char** arguments) try {
     const std::filesystem::path dossier = DossierProgramme(arguments[2]);
     std::filesystem::create_directories(dossier);
     const std::string nom = NomDuJournal(kIndicatif);
-    Journal journal(dossier / nom, ModeFichier::Creation);
-    journal.Ecrire(1, fiches);
+    FichierFiches cahier(dossier / nom, ModeFichier::Creation);
+    cahier.Ecrire(1, fiches);
     const std::vector<QslSlotRecord> etiquettes = Etiquettes(fiches);
     Fichier feuille(dossier / kNomFeuilleQSL, ModeFichier::Creation);
     feuille.Ecrire(0, {etiquettes.data()->octets.data(), etiquettes.size() * kTailleEtiquette});

@@ -1,15 +1,15 @@
 // Prints what the guide shows of paper: orvalis_impression <drive> <folder>. From the logbook and
 // the label sheet of the drive, writes page.pdf (the last full page), etiquettes.pdf (the labels
 // prepared) and vierges.pdf (a sheet of blank labels) into the folder.
+#include "core/cahier.h"
 #include "core/dossier.h"
-#include "core/fiches.h"
 #include "core/pages.h"
 #include "core/parametres.h"
 #include "print/etiquette.h"
-#include "print/imprimante_qt.h"
 #include "print/page_journal.h"
 #include "qsl/feuille_qsl.h"
-#include "qsl/flux_etiquettes.h"
+#include "qsl/vie_etiquette.h"
+#include "ui/bureau/imprimante_qt.h"
 
 #include <QGuiApplication>
 #include <QPrinter>
@@ -62,21 +62,22 @@ int main(int nbArguments, char** arguments) try {
     const fs::path dossier = DossierProgramme(arguments[1]);
     const fs::path sortie = arguments[2];
     const Parametres parametres = LireParametres(TrouverFichier(dossier, kNomParametres));
-    Session session;
-    session.indicatif = parametres.indicatif;
-    OuvrirJournal(session, TrouverFichier(dossier, parametres.nomFichier));
-    CompterFiches(session);
-    session.pageAffichee = std::max(1, session.nbFiches / kFichesParPage);
-    session.premiereAffichee = CalculerPlage(session.pageAffichee, session.nbFiches).premiere;
+    const Station station{arguments[1], parametres.indicatif, parametres.monLocator};
+    Cahier cahier;
+    OuvrirCahier(cahier, TrouverFichier(dossier, parametres.nomFichier));
+    CompterFiches(cahier);
+    const std::int32_t numero = std::max(1, cahier.nbFiches / kFichesParPage);
+    const PlagePage plage = CalculerPlage(numero, cahier.nbFiches);
+    const PageAffichee page{numero, plage.premiere, plage.derniere};
     ImprimerPdf(sortie / "page.pdf", [&](Imprimante& imprimante) {
-        ImprimerPage(imprimante, session, session.premiereAffichee);
+        ImprimerPage(imprimante, cahier, station, page, page.premiere);
     });
     std::string enTete;
     std::vector<EtiquettePlacee> etiquettes = EtiquettesPreparees(dossier);
     ImprimerPdf(sortie / "etiquettes.pdf",
                 [&](Imprimante& imprimante) { ImprimerPlanche(imprimante, etiquettes, enTete); });
     ImprimerPdf(sortie / "vierges.pdf", [&](Imprimante& imprimante) {
-        ImprimerPlancheVierge(imprimante, session.indicatif, enTete);
+        ImprimerPlancheVierge(imprimante, station.indicatif, enTete);
     });
     return 0;
 } catch (const std::exception& erreur) {

@@ -1,7 +1,7 @@
 // Shuffles the logbook of a sample drive after repeating it: orvalis_melange <drive> <number>. A
 // sort of the outcome lasts long enough to be looked at. The same logbook comes out every time.
 #include "core/dossier.h"
-#include "core/journal.h"
+#include "core/fichier_fiches.h"
 #include "core/parametres.h"
 
 #include <cstdio>
@@ -22,9 +22,10 @@ int main(int nbArguments, char** arguments) try {
     }
     const std::filesystem::path dossier = DossierProgramme(arguments[1]);
     const Parametres parametres = LireParametres(TrouverFichier(dossier, kNomParametres));
-    Journal journal(TrouverFichier(dossier, parametres.nomFichier), ModeFichier::LectureEcriture);
-    std::vector<QsoRecord> modele(static_cast<std::size_t>(journal.Compter()) + 1);
-    static_cast<void>(journal.Lire(1, modele));
+    FichierFiches cahier(TrouverFichier(dossier, parametres.nomFichier),
+                         ModeFichier::LectureEcriture);
+    std::vector<QsoRecord> modele(static_cast<std::size_t>(cahier.Compter()) + 1);
+    static_cast<void>(cahier.Lire(1, modele));
     const QsoRecord fin = modele.back();
     modele.pop_back();
     if (modele.empty())
@@ -37,7 +38,7 @@ int main(int nbArguments, char** arguments) try {
     for (std::size_t i = fiches.size(); i > 1; --i)
         std::swap(fiches[i - 1], fiches[hasard() % i]);
     fiches.push_back(fin);
-    journal.Ecrire(1, fiches);
+    cahier.Ecrire(1, fiches);
     return 0;
 } catch (const std::exception& erreur) {
     std::fprintf(stderr, "orvalis_melange: %s\n", erreur.what());

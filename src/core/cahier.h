@@ -1,0 +1,75 @@
+// The logbook: its open file, the number of its contacts, and what is done to them by record
+// number. All of it throws ErreurFichier when the system refuses a file operation.
+#pragma once
+
+#include "core/fichier_fiches.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace orvalis {
+
+/// Thrown when another copy of the program has the logbook open; what() is its path.
+class ErreurVerrou : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// The logbook on show.
+struct Cahier {
+    FichierFiches fichier;
+    std::filesystem::path chemin; ///< of the open file
+    std::string autre;            ///< name of another logbook on show; empty for our own
+    /// Another logbook whose name is not the station's callsign: it may only be looked at.
+    bool lectureSeule = false;
+    std::int32_t nbFiches = 0; ///< N, the number of contacts
+
+    /// The station's own logbook, not one opened as "another", whatever its name.
+    [[nodiscard]] bool EstLeNotre() const { return autre.empty(); }
+    /// Where the next contact will be written.
+    [[nodiscard]] std::int32_t Prochaine() const { return nbFiches + 1; }
+};
+
+/// Opens `chemin` in place of the file that was open, and locks it; N is not counted, whose
+/// logbook it is not settled. A file that may not be written is opened for reading only when
+/// `lectureSeulePermise` is set. When this throws (ErreurFichier, ErreurVerrou) the old file stays
+/// open.
+void OuvrirCahier(Cahier& cahier, const std::filesystem::path& chemin,
+                  bool lectureSeulePermise = false);
+
+/// Counts the contacts up to the end-of-log record: sets N. The file stays open, since its lock
+/// hangs on it; only a file put in its place is opened anew (ErreurFichier, ErreurVerrou).
+void CompterFiches(Cahier& cahier);
+
+/// Record `k` (from 1); blank beyond the end of the file.
+[[nodiscard]] QsoRecord FicheDuCahier(const Cahier& cahier, std::int32_t k);
+
+/// Puts `fiche` in the place of record `k` in one indivisible write. The caller flushes
+/// (SynchroniserCahier).
+void CorrigerFiche(Cahier& cahier, std::int32_t k, const QsoRecord& fiche);
+
+/// Writes `contact` as record N + 1 and `fin`, the end-of-log record, behind it, in one indivisible
+/// write that has reached the disk on return. N grows by one.
+void AjouterFiche(Cahier& cahier, const QsoRecord& contact, const QsoRecord& fin);
+
+/// Deletes record `k` (1 to N): every later record moves down one place and an end-of-log record
+/// with `monLocator` takes the place of the last. Killed at any instant, the file holds every other
+/// contact exactly once, with the deleted one or a blank record somewhere until the end. The file
+/// keeps its length and has reached the disk on return; N shrinks by one.
+void SupprimerFiche(Cahier& cahier, std::int32_t k, std::string_view monLocator);
+
+/// Returns once what was written has reached the disk.
+void SynchroniserCahier(Cahier& cahier);
+
+/// Whether the logbook holds an end-of-log record and a whole number of records.
+struct EtatCahier {
+    bool finPresente = false;
+    bool longueurEntiere = false;
+};
+/// For a logbook that is counted.
+[[nodiscard]] EtatCahier ExaminerCahier(const Cahier& cahier);
+
+} // namespace orvalis

@@ -1,0 +1,63 @@
+#include "core/fichier_fiches.h"
+
+#include <algorithm>
+
+namespace orvalis {
+namespace {
+
+std::span<char> Tampon(std::span<QsoRecord> fiches) {
+    return {fiches.data()->octets.data(), fiches.size_bytes()};
+}
+
+} // namespace
+
+std::span<const char> OctetsFiches(std::span<const QsoRecord> fiches) {
+    return {reinterpret_cast<const char*>(fiches.data()), fiches.size_bytes()};
+}
+
+QsoRecord FichierFiches::Lire(std::int32_t k) const {
+    QsoRecord fiche;
+    static_cast<void>(Lire(k, std::span(&fiche, 1)));
+    return fiche;
+}
+
+std::size_t FichierFiches::Lire(std::int32_t k, std::span<QsoRecord> fiches) const {
+    if (fiches.empty())
+        return 0;
+    const std::span<char> octets = Tampon(fiches);
+    const std::size_t lus = fichier_.Lire(PositionFiche(k), octets);
+    std::fill(octets.begin() + static_cast<std::ptrdiff_t>(lus), octets.end(), ' ');
+    return (lus + kTailleFiche - 1) / kTailleFiche;
+}
+
+void FichierFiches::Ecrire(std::int32_t k, std::span<const QsoRecord> fiches) {
+    EcrireEntier(fichier_, PositionFiche(k), OctetsFiches(fiches));
+}
+
+std::int32_t FichierFiches::Compter() const {
+    std::vector<QsoRecord> bloc(kFichesParBloc);
+    for (std::int32_t k = 1;;) {
+        const std::size_t lus = Lire(k, bloc);
+        for (std::size_t i = 0; i < lus; ++i)
+            if (EstFinDeLog(bloc[i]))
+                return k - 1 + static_cast<std::int32_t>(i);
+        k += static_cast<std::int32_t>(lus);
+        if (lus < bloc.size())
+            return k - 1;
+    }
+}
+
+LecteurFiches::LecteurFiches(const FichierFiches& fichier) : fichier_(fichier) {}
+
+const QsoRecord& LecteurFiches::Lire(std::int32_t k) {
+    if (bloc_.empty())
+        bloc_.resize(kFichesParBloc);
+    const auto taille = static_cast<std::int32_t>(bloc_.size());
+    if (premiere_ == 0 || k < premiere_ || k >= premiere_ + taille) {
+        static_cast<void>(fichier_.Lire(k, bloc_));
+        premiere_ = k;
+    }
+    return bloc_[static_cast<std::size_t>(k - premiere_)];
+}
+
+} // namespace orvalis

@@ -1,0 +1,306 @@
+#include "qsl/vie_etiquette.h"
+
+#include "core/texte.h"
+#include "qsl/contact_etiquette.h"
+
+#include <algorithm>
+#include <array>
+
+namespace orvalis {
+namespace {
+
+constexpr std::string_view kDejaPlacee = " Etiquette déjà placée ! ";
+constexpr std::string_view kSansIndicatif = " Indicatif manquant ! ";
+constexpr std::string_view kConsultation = " Consultation seule ! ";
+constexpr std::string_view kMessageConsultation =
+    "Ce cahier est ouvert en consultation : les étiquettes et les fiches restent inchangées.";
+
+void ChercherPlace(FeuilleQSL& feuille) {
+    int k = 1;
+    ProchaineEtiquetteLibre(feuille, k);
+}
+
+void MontrerRevue(FeuilleQSL& feuille, bool revue) {
+    feuille.vue.supprimer = revue;
+    feuille.vue.laisser = revue;
+    feuille.vue.quitter = !revue;
+    feuille.vue.valider = false;
+}
+
+// An editor without a label: what is typed into it is fresh.
+void CommencerEtiquette(FeuilleQSL& feuille) {
+    MontrerRevue(feuille, false);
+    ViderBoites(feuille);
+    feuille.fraiche = true;
+    feuille.etiquetteEnCours = 0;
+}
+
+std::string Rappel(int k, const QslSlotRecord& etiquette) {
+    const std::string indicatif = TexteRogne(etiquette, ChampEtiquette::Indicatif);
+    return LegendeEtiquette(k) + (indicatif.empty() ? "" : " (" + indicatif + ")") +
+           " : aucune fiche du cahier ne lui correspond, aucune n'a été modifiée.";
+}
+
+// Sets MQSL of the contact of label `k`, or tells that there is none.
+void Marquer(Cahier& cahier, std::int32_t fiche, std::string_view maQsl, int k,
+             const QslSlotRecord& etiquette, ReponseQSL& reponse) {
+    if (fiche != 0) {
+        MarquerContact(cahier, fiche, maQsl);
+        reponse.marque = true;
+        return;
+    }
+    if (!reponse.message.empty())
+        reponse.message += '\n';
+    reponse.message += Rappel(k, etiquette);
+}
+
+// Writes place `k` free from the boxes, of which the first `derniere` are emptied before.
+void LibererPlace(FeuilleQSL& feuille, int k, std::size_t derniere) {
+    ViderBoites(feuille, derniere);
+    feuille.boites[kBoiteIndicatif] = kMarqueLibre;
+    EcrireEtiquette(feuille, k);
+    feuille.etats[EtatFeuille::Rang(k)] = EtatEtiquette::Libre;
+    feuille.indicatifs[EtatFeuille::Rang(k)].clear();
+}
+
+// Why the boxes may not become a label now; empty when they may.
+std::string_view RefusDeValider(const Cahier& cahier, const EtatFeuille& feuille) {
+    const std::string_view indicatif = Rogner(feuille.boites[kBoiteIndicatif]);
+    if (!cahier.EstLeNotre())
+        return kConsultation;
+    if (indicatif.empty() || indicatif == kMarqueLibre)
+        return kSansIndicatif;
+    return feuille.fraiche ? std::string_view{} : kDejaPlacee;
+}
+
+void RemplirBoites(FeuilleQSL& feuille, std::int32_t k, const QsoRecord& fiche) {
+    struct Source {
+        std::size_t boite;
+        Champ champ;
+    };
+    constexpr std::array<Source, 8> kSources = {{
+        {kBoiteIndicatif, Champ::CSGN},
+        {kBoiteDate, Champ::DQSO},
+        {kBoiteHeure, Champ::HDEB},
+        {kBoiteFrequence, Champ::FREQ},
+        {kBoiteMode, Champ::MODE},
+        {kBoiteReport, Champ::SRST},
+        {kBoiteLigne2, Champ::INFO},
+        {kBoiteRappel, Champ::CSGN},
+    }};
+    for (const Source& source : kSources)
+        feuille.boites[source.boite] = TexteRogne(fiche, source.champ);
+    feuille.boites[kBoiteNumeroFiche] = std::to_string(k);
+    feuille.boites[kBoiteLigne1] = feuille.ligneMemorisee;
+}
+
+} // namespace
+
+void MontrerFeuille(FeuilleQSL& feuille) {
+    if (feuille.vue.controle)
+        return;
+    CommencerEtiquette(feuille);
+    feuille.vue.panneau = true;
+    ChercherPlace(feuille);
+    ControlerImpression(feuille);
+}
+
+ReponseClic PreparerEtiquette(Cahier& cahier, FeuilleQSL& feuille, std::int32_t k) {
+    if (!feuille.fichier.EstOuvert() || feuille.vue.controle || !cahier.EstLeNotre() || k < 1 ||
+        k > cahier.nbFiches)
+        return {};
+    const QsoRecord fiche = FicheDuCahier(cahier, k);
+    if (!Rogner(OctetsChamp(fiche, Champ::MQSL)).empty())
+        return {};
+    ReponseClic clic{SuiteClic::Panneau, {}};
+    clic.reponse.fait = true;
+    if (EtiquetteSansMarque(cahier, feuille, k) != 0) {
+        clic.suite = SuiteClic::Retabli;
+        MarquerContact(cahier, k, kEnCours);
+        SynchroniserCahier(cahier);
+        clic.reponse.marque = true;
+        return clic;
+    }
+    MontrerFeuille(feuille);
+    RemplirBoites(feuille, k, fiche);
+    return clic;
+}
+
+void CliquerChoix(FeuilleQSL& feuille, int k) {
+    if (feuille.vue.controle)
+        return;
+    EtatEtiquette& etat = feuille.etats[EtatFeuille::Rang(k)];
+    switch (etat) {
+    case EtatEtiquette::Preparee:
+        MontrerRevue(feuille, true);
+        LireEtiquette(feuille, k);
+        feuille.etiquetteEnCours = k;
+        return;
+    case EtatEtiquette::Libre:
+        etat = EtatEtiquette::Retiree;
+        feuille.vue.restaurer = true;
+        break;
+    case EtatEtiquette::Retiree:
+        etat = EtatEtiquette::Libre;
+        break;
+    }
+    ChercherPlace(feuille);
+}
+
+void CliquerTag(FeuilleQSL& feuille, int k) {
+    if (feuille.vue.controle || feuille.Etat(k) == EtatEtiquette::Retiree)
+        return;
+    CommencerEtiquette(feuille);
+    feuille.boites[kBoiteLigne1] = feuille.ligneMemorisee;
+    ChercherPlace(feuille);
+}
+
+void SaisirBoiteEtiquette(FeuilleQSL& feuille, std::size_t boite, std::string_view texte) {
+    feuille.boites[boite] = texte;
+    if (boite == kBoiteManager && !texte.empty())
+        feuille.voie = VoieQSL::Aucune;
+}
+
+void EntrerBoiteEtiquette(FeuilleQSL& feuille) {
+    if (!feuille.vue.controle && Rogner(feuille.boites[kBoiteIndicatif]) != kMarqueLibre)
+        feuille.vue.valider = true;
+}
+
+void ChoisirVoie(FeuilleQSL& feuille, VoieQSL voie) {
+    if (feuille.vue.controle)
+        return;
+    feuille.voie = voie;
+    feuille.boites[kBoiteManager].clear();
+    feuille.vue.valider = true;
+}
+
+ReponseQSL ValiderEtiquette(Cahier& cahier, FeuilleQSL& feuille) {
+    ReponseQSL reponse;
+    if (feuille.vue.controle)
+        return reponse;
+    if (const std::string_view refus = RefusDeValider(cahier, feuille); !refus.empty()) {
+        feuille.vue.nrTag = refus;
+        return reponse;
+    }
+    int k = 1;
+    ProchaineEtiquetteLibre(feuille, k);
+    if (feuille.Etat(k) != EtatEtiquette::Libre) {
+        feuille.vue.nrTag = kPlusDEtiquette;
+        return reponse;
+    }
+    if (feuille.voie != VoieQSL::Aucune)
+        feuille.boites[kBoiteManager] = feuille.voie == VoieQSL::Direct ? kVoieDirect : kVoieBureau;
+    feuille.etiquetteEnCours = k;
+    feuille.ligneMemorisee = Rogner(feuille.boites[kBoiteLigne1]);
+    EcrireEtiquette(feuille, k);
+    feuille.fichier.Synchroniser();
+    LireEtiquette(feuille, k);
+    feuille.etats[EtatFeuille::Rang(k)] = EtatEtiquette::Preparee;
+    feuille.indicatifs[EtatFeuille::Rang(k)] = feuille.boites[kBoiteIndicatif];
+    Marquer(cahier, ContactNumerote(cahier, feuille.tampon), kEnCours, k, feuille.tampon, reponse);
+    SynchroniserCahier(cahier);
+    ControlerImpression(feuille);
+    QuitterFeuille(feuille);
+    reponse.fait = true;
+    return reponse;
+}
+
+ReponseQSL SupprimerEtiquette(Cahier& cahier, FeuilleQSL& feuille) {
+    ReponseQSL reponse;
+    const int k = feuille.etiquetteEnCours;
+    if (feuille.vue.controle || !feuille.vue.supprimer)
+        return reponse;
+    if (!cahier.EstLeNotre()) {
+        reponse.message = kMessageConsultation;
+        return reponse;
+    }
+    LireEtiquette(feuille, k);
+    Marquer(cahier, ContactDeLaPlace(cahier, feuille, k).fiche, "", k, feuille.tampon, reponse);
+    SynchroniserCahier(cahier);
+    // Kept on purpose: box 11 is not emptied, so that the free place keeps the contact's number.
+    LibererPlace(feuille, k, kBoiteRappel);
+    feuille.fichier.Synchroniser();
+    MontrerRevue(feuille, false);
+    ChercherPlace(feuille);
+    ControlerImpression(feuille);
+    reponse.fait = true;
+    return reponse;
+}
+
+void LaisserEtiquette(FeuilleQSL& feuille) {
+    if (feuille.vue.controle)
+        return;
+    CommencerEtiquette(feuille);
+    ChercherPlace(feuille);
+}
+
+void QuitterFeuille(FeuilleQSL& feuille) {
+    if (!feuille.vue.controle)
+        feuille.vue.panneau = false;
+}
+
+void RestaurerFeuille(FeuilleQSL& feuille) {
+    if (feuille.vue.controle)
+        return;
+    std::replace(feuille.etats.begin(), feuille.etats.end(), EtatEtiquette::Retiree,
+                 EtatEtiquette::Libre);
+    feuille.vue.restaurer = false;
+    ChercherPlace(feuille);
+}
+
+void ControlerImpression(FeuilleQSL& feuille, int depuis) {
+    const auto debut = feuille.etats.begin() + (depuis - 1);
+    feuille.vue.imprimer =
+        std::find(debut, feuille.etats.end(), EtatEtiquette::Preparee) != feuille.etats.end();
+}
+
+std::vector<int> EtiquettesAImprimer(const EtatFeuille& feuille) {
+    std::vector<int> places;
+    for (int k = 1; k <= kNbEtiquettes; ++k)
+        if (feuille.Etat(k) == EtatEtiquette::Preparee)
+            places.push_back(k);
+    return places;
+}
+
+void DemanderControle(FeuilleQSL& feuille) {
+    feuille.vue.controle = true;
+}
+
+ReponseQSL ToutEstParfait(Cahier& cahier, FeuilleQSL& feuille, std::string_view aujourdhui) {
+    ReponseQSL reponse;
+    if (!feuille.vue.controle)
+        return reponse;
+    if (!cahier.EstLeNotre()) {
+        RevoirEtiquettes(feuille);
+        reponse.message = kMessageConsultation;
+        return reponse;
+    }
+    const std::vector<int> places = EtiquettesAImprimer(feuille);
+    std::vector<QslSlotRecord> etiquettes;
+    etiquettes.reserve(places.size());
+    for (const int k : places)
+        etiquettes.push_back(LireEnregistrement(feuille, k));
+    const std::vector<ContactTrouve> trouves = TrouverContacts(cahier, etiquettes);
+    for (std::size_t i = 0; i < places.size(); ++i)
+        Marquer(cahier, trouves[i].fiche, aujourdhui, places[i], etiquettes[i], reponse);
+    SynchroniserCahier(cahier);
+    for (const int k : places)
+        LibererPlace(feuille, k, kNbBoitesEtiquette);
+    feuille.fichier.Synchroniser();
+    feuille.vue.controle = false;
+    MontrerRevue(feuille, false);
+    ControlerImpression(feuille);
+    // Kept on purpose: withdrawn places stay withdrawn although the button that restores them goes.
+    feuille.vue.restaurer = false;
+    feuille.vue.panneau = false;
+    feuille.fraiche = false;
+    reponse.fait = true;
+    return reponse;
+}
+
+void RevoirEtiquettes(FeuilleQSL& feuille) {
+    ControlerImpression(feuille);
+    feuille.vue.controle = false;
+}
+
+} // namespace orvalis

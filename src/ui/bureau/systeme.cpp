@@ -1,0 +1,97 @@
+#include "ui/bureau/systeme.h"
+
+#include "core/dossier.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QEventLoop>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QProcess>
+#include <QTimer>
+
+#include <cmath>
+
+namespace orvalis {
+namespace {
+
+// Seconds since midnight, with their fraction.
+double SecondesDuJour() {
+    return QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
+}
+
+QString RaisonDeLancement(const QString& chemin) {
+    const QFileInfo info(chemin);
+    if (!info.exists())
+        return QStringLiteral("le programme n'existe pas");
+    if (!info.isFile() || !info.isExecutable())
+        return QStringLiteral("ce fichier n'est pas un programme exécutable");
+    return QStringLiteral("le système a refusé de le démarrer");
+}
+
+// A path or a callsign is no markup, whatever stands in it.
+void Dire(QMessageBox::Icon icone, QWidget* parent, const QString& titre, const QString& texte) {
+    QMessageBox boite(icone, titre, texte, QMessageBox::Ok, parent);
+    boite.setTextFormat(Qt::PlainText);
+    boite.exec();
+}
+
+} // namespace
+
+std::filesystem::path SystemeReel::Lecteur() const {
+    return CalculerLecteur(QDir::currentPath().toStdString(), QDir::homePath().toStdString());
+}
+
+Instant SystemeReel::Maintenant() const {
+    const QDateTime t = QDateTime::currentDateTime();
+    return {t.date().year(), t.date().month(),  t.date().day(),
+            t.time().hour(), t.time().minute(), t.time().second()};
+}
+
+void SystemeReel::Pause(int secondes) {
+    const double fin = std::floor(SecondesDuJour() + 0.5) + secondes;
+    QTimer reveil; // wakes the loop while nothing else happens
+    reveil.start(20);
+    // Kept on purpose: no wrap at midnight. A pause that would end after it lasts until the
+    // operator quits.
+    while (!arret_ && SecondesDuJour() < fin)
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}
+
+void SystemeReel::Informer(QWidget* parent, const QString& titre, const QString& texte) {
+    Dire(QMessageBox::Information, parent, titre, texte);
+}
+
+void SystemeReel::Avertir(QWidget* parent, const QString& texte) {
+    Dire(QMessageBox::Warning, parent, QStringLiteral("Orvalis"), texte);
+}
+
+QString SystemeReel::ChoisirFichier(QWidget* parent, const DemandeFichier& demande) {
+    const QString dossier = demande.dossier.isEmpty()
+                                ? QString::fromStdString(DossierProgramme(Lecteur()).string())
+                                : demande.dossier;
+    QFileDialog dialogue(parent, demande.titre, dossier, QStringLiteral("Fichier (*.Vek)"));
+    dialogue.setDefaultSuffix(QStringLiteral("Vek"));
+    dialogue.setAcceptMode(demande.enregistrer ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialogue.setFileMode(demande.enregistrer ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    if (!demande.nomPropose.isEmpty())
+        dialogue.selectFile(demande.nomPropose);
+    if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty())
+        return {};
+    return dialogue.selectedFiles().constFirst();
+}
+
+std::optional<QString> SystemeReel::Lancer(const QString& chemin) {
+    if (QProcess::startDetached(chemin, {}))
+        return std::nullopt;
+    return RaisonDeLancement(chemin);
+}
+
+void SystemeReel::Quitter(int code) {
+    arret_ = true;
+    QCoreApplication::exit(code);
+}
+
+} // namespace orvalis

@@ -1,0 +1,122 @@
+// The seventeen entry boxes of the card: their names, one table, and what each takes from the
+// keyboard.
+#pragma once
+
+#include "core/qso_record.h"
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace orvalis {
+
+/// An entry box, by the number in its name: box `Ville` is the control "TxtField_9". It is also
+/// the name of the working slot behind the box (zones.h).
+enum class Boite : unsigned char {
+    Indicatif = 1,
+    Date,
+    Debut, ///< start time
+    Fin,   ///< end time
+    Frequence,
+    Mode,
+    ReportDonne,
+    ReportRecu,
+    Ville,
+    SonLocator,
+    Departement,
+    Prenom,
+    Remarque, ///< left half of INFO
+    MaQsl,
+    SaQsl,
+    MonLocator,
+    Manager ///< right half of INFO
+};
+
+inline constexpr std::size_t kNbBoites = 17;
+
+/// The number in a box's name, 1 to 17.
+[[nodiscard]] constexpr int Numero(Boite boite) {
+    return static_cast<int>(boite);
+}
+/// Place of a box in an array of seventeen.
+[[nodiscard]] constexpr std::size_t Rang(Boite boite) {
+    return static_cast<std::size_t>(boite) - 1;
+}
+/// The box that shows a field whole; INFO, shown in halves, gives its left one.
+[[nodiscard]] constexpr Boite BoiteDe(Champ champ) {
+    return static_cast<Boite>(champ);
+}
+
+/// What a box does with a typed character. Backspace and Enter always pass.
+enum class Touches {
+    Libres,        ///< everything passes
+    Majuscules,    ///< letters are turned to upper case
+    DateHeureFreq, ///< "." to ":" (codes 46 to 58: point, stroke, digits, colon)
+    Report,        ///< the same and "+"
+    Chiffres       ///< digits only
+};
+
+struct DescriptionBoite {
+    Boite boite;
+    std::string_view
+        nomLegende; ///< objectName of the caption above; empty when it shares the last one
+    std::string_view legende; ///< the caption, underscores and blanks included
+    std::size_t longueur;     ///< most characters the box takes
+    bool centre;
+    Touches touches;
+};
+
+/// In the order of their numbers.
+inline constexpr std::array<DescriptionBoite, kNbBoites> kBoites = {{
+    {Boite::Indicatif, "Frm01Lab01", "_ Indicatif_______________________", 15, false,
+     Touches::Majuscules},
+    {Boite::Date, "Frm01Lab02", "_ Date _____", 8, true, Touches::DateHeureFreq},
+    {Boite::Debut, "Frm01Lab03", "_ Heures   Début /  Fin", 5, true, Touches::DateHeureFreq},
+    {Boite::Fin, "", "", 5, true, Touches::DateHeureFreq},
+    {Boite::Frequence, "Frm01Lab05", "_ Fréquence________", 10, false, Touches::DateHeureFreq},
+    {Boite::Mode, "Frm01Lab06", "_ Mode______", 5, true, Touches::Majuscules},
+    {Boite::ReportDonne, "Frm01Lab07", "_ RST Donné    /    Reçu", 8, true, Touches::Report},
+    {Boite::ReportRecu, "", "", 8, true, Touches::Report},
+    {Boite::Ville, "Frm01Lab09", "_ QTH ______________________________", 25, false,
+     Touches::Majuscules},
+    {Boite::SonLocator, "Frm01Lab10", "_ Son Locator _", 6, true, Touches::Majuscules},
+    {Boite::Departement, "Frm01Lab11", "_ Département ____________", 3, true, Touches::Chiffres},
+    {Boite::Prenom, "Frm01Lab12", "_ Prénom  ___________________________", 15, false,
+     Touches::Libres},
+    {Boite::Remarque, "lblLabels", "_ Infos ____________", 15, false, Touches::Majuscules},
+    {Boite::MaQsl, "Frm01Lab14", "_ Ma QSL ___", 8, true, Touches::Libres},
+    {Boite::SaQsl, "Frm01Lab15", "_ Sa QSL __", 8, true, Touches::Libres},
+    {Boite::MonLocator, "Frm01Lab16", " _Mon Locator__", 6, true, Touches::Majuscules},
+    {Boite::Manager, "lblLabels_17", "_ QSL Manager ______", 15, false, Touches::Majuscules},
+}};
+
+[[nodiscard]] constexpr const DescriptionBoite& Decrire(Boite boite) {
+    return kBoites[Rang(boite)];
+}
+
+/// Order in which the Tab key walks through the boxes; the Enter key has an order of its own.
+inline constexpr std::array<Boite, kNbBoites> kOrdreTabulation = {
+    Boite::Prenom,     Boite::Departement, Boite::SonLocator, Boite::ReportRecu, Boite::ReportDonne,
+    Boite::Mode,       Boite::Frequence,   Boite::Fin,        Boite::Debut,      Boite::Date,
+    Boite::Indicatif,  Boite::Ville,       Boite::SaQsl,      Boite::MaQsl,      Boite::Manager,
+    Boite::MonLocator, Boite::Remarque};
+
+/// The characters of `saisie` (typed or pasted, UTF-8) that a box takes, in the case it takes
+/// them; refused ones are left out.
+[[nodiscard]] std::string FiltrerTouches(Touches touches, std::string_view saisie);
+
+/// Text and cursor of a box after an edit.
+struct TexteEdite {
+    std::string texte;
+    std::size_t curseur = 0; ///< in characters
+};
+
+/// What a box of `longueur` characters holds when an edit turned `ancien` into `nouveau`, leaving
+/// the cursor behind the inserted part: that part alone is filtered by `touches`, then cut to the
+/// room that is left. What stood in the box before is never touched; where nothing of an inserted
+/// part passes, the edit is undone, so that a refused paste does not erase what was selected.
+[[nodiscard]] TexteEdite FiltrerEdition(Touches touches, std::size_t longueur,
+                                        std::string_view ancien, const TexteEdite& nouveau);
+
+} // namespace orvalis

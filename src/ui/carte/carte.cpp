@@ -1,0 +1,89 @@
+#include "ui/carte/carte.h"
+
+#include "core/departements.h"
+#include "core/texte.h"
+#include "geo/locator.h"
+
+namespace orvalis {
+
+std::optional<Rvb> FondDe(Couleur couleur) {
+    static constexpr std::array<std::optional<Rvb>, 5> kFonds = {{
+        std::nullopt,
+        Rvb{224, 224, 224},
+        Rvb{255, 255, 192},
+        Rvb{255, 192, 192},
+        Rvb{192, 255, 192},
+    }};
+    return kFonds[static_cast<std::size_t>(couleur) - 1];
+}
+
+Carte::Carte() {
+    MettreAuRepos(*this);
+}
+
+void MontrerTexte(Carte& carte, Boite boite, std::string_view texte) {
+    if (carte.Texte(boite) != texte)
+        SaisirTexte(carte, boite, texte);
+}
+
+void SaisirTexte(Carte& carte, Boite boite, std::string_view texte) {
+    carte.boites[Rang(boite)].texte = texte;
+    carte.saisie.TexteSaisi = texte;
+}
+
+void MontrerZone(Carte& carte, Boite boite) {
+    MontrerTexte(carte, boite, carte.zones[boite]);
+}
+
+void ColorerZone(Carte& carte, Boite boite, Couleur couleur) {
+    carte.boites[Rang(boite)].couleur = couleur;
+}
+
+void MettreAuRepos(Carte& carte) {
+    for (const DescriptionBoite& d : kBoites)
+        ColorerZone(carte, d.boite, CouleurAuRepos(d.boite));
+}
+
+void LireFiche(Carte& carte, const Cahier& cahier, std::int32_t k) {
+    carte.tampon = FicheDuCahier(cahier, k);
+    carte.zones = ZonesDeFiche(carte.tampon);
+    for (const DescriptionBoite& d : kBoites)
+        MontrerZone(carte, d.boite);
+}
+
+void EcrireFiche(Carte& carte, Cahier& cahier, std::int32_t k) {
+    carte.tampon = FicheDesZones(carte.zones);
+    CorrigerFiche(cahier, k, carte.tampon);
+}
+
+void MontrerLabels(Carte& carte, std::int32_t k) {
+    carte.numero = " Fiche N° " + std::to_string(k) + " ";
+    const std::string& ici = carte.zones[Boite::MonLocator];
+    const std::string& la = carte.zones[Boite::SonLocator];
+    // Two empty locators are equal as well, and show 0 Km.
+    TextesDistance mesure{"", ""};
+    if (ici == la)
+        mesure = {"0 Km", "..."};
+    else if (LocatorValide(la))
+        mesure = DistanceAzimut(carte.memoireDistance, ici, la);
+    carte.distance = Cadrer(mesure.distance, kLargeurDistance);
+    carte.azimut = Cadrer(mesure.azimut, kLargeurAzimut);
+    carte.departement = NomDepartement(carte.zones[Boite::Departement]);
+}
+
+void ViderCarte(Carte& carte) {
+    carte.ficheCourante = 0;
+    carte.zones = {};
+    for (const DescriptionBoite& d : kBoites)
+        MontrerZone(carte, d.boite);
+    carte.numero = "  Fiche N° 0  ";
+    carte.distance.clear();
+    carte.azimut.clear();
+    carte.departement.clear();
+}
+
+std::string NumeroNouvelleFiche(std::int32_t k) {
+    return " Charger fiche N° " + std::to_string(k);
+}
+
+} // namespace orvalis

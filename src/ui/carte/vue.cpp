@@ -1,0 +1,107 @@
+#include "ui/carte/vue.h"
+
+#include "ui/carte/conditions.h"
+#include "ui/carte/foyer.h"
+
+#include <algorithm>
+
+namespace orvalis {
+namespace {
+
+VueCarte VoirCarte(const Carte& carte, const Ecran& ecran) {
+    return {carte.boites,      carte.numero,     carte.distance,        carte.azimut,
+            carte.departement, ecran.activeRech, carte.saisie.EnSaisie, !ecran.classer.montre};
+}
+
+VueBoutons VoirBoutons(const Session& session, const Ecran& ecran, unsigned conditions) {
+    const EtatSaisie& saisie = session.carte.saisie;
+    // Behind the buttons of entry the idle ones wait as they will be when it ends.
+    const unsigned remplies = conditions | kHorsSaisie;
+    VueBoutons vue;
+    vue.saisie = saisie.EnSaisie;
+    vue.menuActif = ecran.menuActif;
+    const bool libres = !ecran.contacts.boutonsGrises && !ecran.classer.montre;
+    vue.nouveau = libres && Permis(kPourNouveau, remplies);
+    vue.supprimer = !ecran.contacts.supprimerGrise && !ecran.classer.montre &&
+                    (ecran.temoinDemarrage != 0 || Permis(kPourSupprimer, remplies));
+    vue.fermer = !ecran.contacts.boutonsGrises;
+    vue.suivantArme = ecran.suivantArme;
+    vue.annuler = ecran.annulerActif;
+    vue.tempsReel = saisie.tempsReel;
+    return vue;
+}
+
+// Where the operator goes on when a wish cannot be granted, first what covers the rest.
+constexpr std::array<Foyer, 8> kReplis = {{
+    {Cible::Revoir},
+    {Cible::Non},
+    {Cible::TexteLocator},
+    {Cible::Sauvegarder},
+    {Cible::Jumeler},
+    {Cible::Liste},
+    {Cible::Contacts},
+    {Cible::Nouveau},
+}};
+
+} // namespace
+
+VueFenetre VoirFenetre(const Session& session, const Ecran& ecran, const EtatFeuille& feuille) {
+    VueFenetre vue;
+    vue.conditions = ConditionsRemplies(session, ecran, feuille);
+    vue.carte = VoirCarte(session.carte, ecran);
+    vue.boutons = VoirBoutons(session, ecran, vue.conditions);
+    vue.liste = ecran.liste;
+    vue.pagination = ecran.liste.nbFiches > kFichesParPage;
+    vue.recherche = ecran.recherche;
+    vue.contacts = ecran.contacts;
+    vue.question = ecran.question;
+    vue.locator = ecran.locator;
+    vue.classer = ecran.classer;
+    vue.jumelage = ecran.jumelage;
+    vue.feuille = feuille;
+    vue.heure = ecran.heure;
+    vue.titre = ecran.titre;
+    vue.adieu = ecran.adieu;
+    return vue;
+}
+
+bool Accessible(const VueFenetre& vue, const Carte& carte, const Ecran& ecran, const Foyer& foyer) {
+    const VueFeuille& feuille = vue.feuille.vue;
+    const bool editeur = feuille.panneau && !feuille.controle;
+    switch (foyer.cible) {
+    case Cible::BoiteEtiquette:
+    case Cible::VoieEtiquette:
+    case Cible::ChoixEtiquette:
+        return editeur;
+    case Cible::ValiderEtiquette:
+        return editeur && feuille.valider;
+    case Cible::LaisserEtiquette:
+        return editeur && feuille.laisser;
+    case Cible::Revoir:
+        return feuille.controle;
+    case Cible::Nouveau:
+        return !feuille.panneau && Joignable(carte, ecran, foyer) && vue.boutons.nouveau;
+    case Cible::Aucune:
+    case Cible::Autre:
+    case Cible::Liste:
+        return Joignable(carte, ecran, foyer);
+    default: // in the column that the sheet covers
+        return !feuille.panneau && Joignable(carte, ecran, foyer);
+    }
+}
+
+bool AccorderFoyer(Session& session, Ecran& ecran, const VueFenetre& vue) {
+    const auto accessible = [&](const Foyer& foyer) {
+        return Accessible(vue, session.carte, ecran, foyer);
+    };
+    if (accessible(ecran.foyer.voeu.value_or(ecran.foyer.ici)))
+        return false;
+    const auto repli = std::find_if(kReplis.begin(), kReplis.end(), accessible);
+    if (repli == kReplis.end())
+        LacherFoyer(session.carte, ecran);
+    else
+        DeplacerFoyer(session.carte, ecran, session.station, *repli);
+    return true;
+}
+
+} // namespace orvalis

@@ -1,0 +1,73 @@
+// What is seen of the window: a pure function of session, screen and label sheet. One painter
+// (ui/fenetre/peintre.h) makes the window so.
+#pragma once
+
+#include "qsl/feuille_qsl.h"
+#include "ui/carte/ecran.h"
+#include "ui/carte/session.h"
+
+#include <array>
+#include <optional>
+#include <string>
+
+namespace orvalis {
+
+/// PictFiche.
+struct VueCarte {
+    std::array<BoiteMontree, kNbBoites> boites;
+    std::string numero;
+    std::string distance;
+    std::string azimut;
+    std::string departement;
+    bool activeRech = false;    ///< BtActiveRech is on show
+    bool nonEnregistre = false; ///< the banner of a contact that is not stored yet
+    bool active = true;
+    friend bool operator==(const VueCarte&, const VueCarte&) = default;
+};
+
+/// The buttons under the card: PictMenu, or PictEnrs in its place.
+struct VueBoutons {
+    bool saisie = false; ///< PictEnrs is on show, else PictMenu
+    bool menuActif = true;
+    bool nouveau = true;
+    bool supprimer = true;
+    bool fermer = true;
+    bool suivantArme = false;
+    bool annuler = true;
+    bool tempsReel = true;
+    friend bool operator==(const VueBoutons&, const VueBoutons&) = default;
+};
+
+struct VueFenetre {
+    VueCarte carte;
+    VueBoutons boutons;
+    ListeDuCahier liste;
+    bool pagination = true; ///< the paging buttons are enabled
+    PanneauRecherche recherche;
+    ListeContacts contacts;
+    std::optional<Question> question;
+    PanneauLocator locator;
+    PanneauClasser classer;
+    PanneauJumelage jumelage;
+    EtatFeuille feuille;
+    std::optional<Instant> heure;
+    std::string titre;
+    std::string adieu;
+    unsigned conditions = 0; ///< those that commands may count on (conditions.h)
+};
+
+[[nodiscard]] VueFenetre VoirFenetre(const Session& session, const Ecran& ecran,
+                                     const EtatFeuille& feuille);
+
+/// Whether a control that rules name can take the focus in this view. Controls that no rule names
+/// are not judged.
+[[nodiscard]] bool Accessible(const VueFenetre& vue, const Carte& carte, const Ecran& ecran,
+                              const Foyer& foyer);
+
+/// When `vue` cannot grant the wish, or what has the focus is hidden or grey in it, the focus goes
+/// where the operator goes on: what asks or waits on top of the rest, else the list. Returns
+/// whether the state has changed, so that the view must be taken again. For the end of a flow,
+/// before painting.
+[[nodiscard]] bool AccorderFoyer(Session& session, Ecran& ecran, const VueFenetre& vue);
+
+} // namespace orvalis

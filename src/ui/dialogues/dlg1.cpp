@@ -1,0 +1,111 @@
+#include "ui/dialogues/dlg1.h"
+
+#include "core/creation.h"
+#include "core/dossier.h"
+#include "core/messages.h"
+#include "core/texte.h"
+#include "geo/locator.h"
+#include "ui/bureau/systeme.h"
+#include "ui/bureau/texte_qt.h"
+#include "ui/carte/boites.h"
+#include "ui/dialogues/dlg2.h"
+#include "ui/widgets/filtre_edition.h"
+#include "ui/widgets/gestes.h"
+#include "ui/widgets/police.h"
+#include "ui_dlg1.h"
+
+#include <QLineEdit>
+
+#include <algorithm>
+
+namespace orvalis {
+
+Dlg1::Dlg1(std::filesystem::path lecteur, Systeme& systeme, QWidget* parent)
+    : QDialog(parent), ui_(std::make_unique<Ui::Dlg1>()), lecteur_(std::move(lecteur)),
+      systeme_(systeme) {
+    ui_->setupUi(this);
+    ui_->LabDisk->setText(Q(" Le disque courant est le disque : " + TexteLecteur(lecteur_)));
+    GarderPlace(*ui_->Dlg1Fra3);
+    ui_->Dlg1Fra3->hide();
+    constexpr std::size_t kLongueurIndicatif = 20;
+    new FiltreEdition(*ui_->Dlg1Fra2Text1, Touches::Majuscules, kLongueurIndicatif);
+    new FiltreEdition(*ui_->Dlg1Fra2Text2, Touches::Majuscules, kLargeurLocator);
+    for (QLineEdit* boite : {ui_->Dlg1Fra2Text1, ui_->Dlg1Fra2Text2}) {
+        boite->installEventFilter(this);
+        // What was accepted no longer holds once the operator types on.
+        connect(boite, &QLineEdit::textEdited, ui_->Dlg1Fra3, &QWidget::hide);
+    }
+    for (QPushButton* bouton : findChildren<QPushButton*>())
+        bouton->installEventFilter(this);
+    connect(ui_->BtAppelLocator, &QPushButton::clicked, this, &Dlg1::CalculerLocator);
+    connect(ui_->Dlg1Fra3CmdValider, &QPushButton::clicked, this, &Dlg1::Valider);
+    connect(ui_->Dlg1Fra2CmdArreter, &QPushButton::clicked, this, &QDialog::reject);
+    ui_->Dlg1Fra2Text1->setFocus();
+}
+
+Dlg1::~Dlg1() = default;
+
+bool Dlg1::eventFilter(QObject* objet, QEvent* evenement) {
+    if (!EstEntree(*evenement))
+        return QDialog::eventFilter(objet, evenement);
+    if (objet == ui_->Dlg1Fra2Text1)
+        AccepterIndicatif();
+    else if (objet == ui_->Dlg1Fra2Text2)
+        AccepterLocator();
+    else
+        static_cast<QPushButton*>(objet)->click();
+    return true;
+}
+
+void Dlg1::AccepterIndicatif() {
+    const std::string texte = S(ui_->Dlg1Fra2Text1->text());
+    if (texte.empty())
+        return;
+    indicatif_ = Majuscules(Rogner(texte));
+    nomFichier_ = NomDuJournal(indicatif_);
+    ui_->Dlg1Fra2Text2->clear();
+    ui_->Dlg1Fra3->hide();
+    ui_->Dlg1Fra2Text2->setFocus();
+}
+
+void Dlg1::AccepterLocator() {
+    const std::string texte = S(ui_->Dlg1Fra2Text2->text());
+    if (!LocatorValide(texte)) {
+        ui_->Dlg1Fra2Text2->setText(QStringLiteral("ERREUR"));
+        ui_->Dlg1Fra2Text2->selectAll();
+        ui_->Dlg1Fra3->hide();
+        return;
+    }
+    monLocator_ = texte;
+    ui_->Dlg1Fra3Lab2->setText(Q(CheminProgrammeTexte(lecteur_, nomFichier_) + " va être créé "));
+    ui_->Dlg1Fra3->show();
+    // A long path takes a second line, which must not come out of the text above.
+    layout()->activate();
+    resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
+    ui_->Dlg1Fra3CmdValider->setFocus();
+}
+
+void Dlg1::CalculerLocator() {
+    Dlg2 coordonnees(this);
+    coordonnees.exec();
+    if (const auto locator = coordonnees.LocatorModifie()) {
+        ui_->Dlg1Fra2Text2->setText(Q(*locator));
+        ui_->Dlg1Fra3->hide();
+        ui_->Dlg1Fra2Text2->setFocus();
+    }
+}
+
+void Dlg1::Valider() {
+    try {
+        if (!CreerCahier(lecteur_, {indicatif_, nomFichier_, monLocator_}))
+            return;
+    } catch (const std::exception& echec) {
+        systeme_.Avertir(this, Q(MessageErreur(echec)));
+        return;
+    }
+    systeme_.Informer(this, QStringLiteral(" Création réalisée avec succès"),
+                      Q("   Le fichier " + nomFichier_ + " est créé  \n\n"));
+    accept();
+}
+
+} // namespace orvalis

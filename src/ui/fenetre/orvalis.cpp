@@ -1,0 +1,295 @@
+#include "ui/fenetre/orvalis.h"
+
+#include "core/messages.h"
+#include "ui/bureau/texte_qt.h"
+#include "ui/flux/flux_demarrage.h"
+#include "ui/panneaux/fra_msg_fiche.h"
+#include "ui/panneaux/p_jumelage.h"
+#include "ui/panneaux/panneau_horloge.h"
+#include "ui/panneaux/pict_chang_locator.h"
+#include "ui/panneaux/pict_classer.h"
+#include "ui/panneaux/pict_contacts.h"
+#include "ui/panneaux/pict_ctrl_impression.h"
+#include "ui/panneaux/pict_enrs.h"
+#include "ui/panneaux/pict_feuille_qsl.h"
+#include "ui/panneaux/pict_fiche.h"
+#include "ui/panneaux/pict_liste.h"
+#include "ui/panneaux/pict_menu.h"
+#include "ui/panneaux/pict_rech.h"
+#include "ui/widgets/gestes.h"
+#include "ui/widgets/vue_page.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QTimer>
+
+#include <utility>
+
+// Resources of a static library are linked only where they are asked for.
+static void ChargerRessources() {
+    Q_INIT_RESOURCE(orvalis);
+}
+
+namespace orvalis {
+namespace {
+
+constexpr int kDureeTic = 1000;
+
+// Something the operator does to a control.
+bool EstUnGeste(QEvent::Type type) {
+    switch (type) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::ContextMenu:
+    case QEvent::Drop:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// Enter on a button, or its mnemonic.
+bool Presse(const QEvent& evenement) {
+    if (evenement.type() == QEvent::Shortcut)
+        return !static_cast<const QShortcutEvent&>(evenement).isAmbiguous();
+    return EstEntree(evenement) && !static_cast<const QKeyEvent&>(evenement).isAutoRepeat();
+}
+
+// A letter held with Alt: a command, or a slip of the hand, but never a letter of a box.
+bool LettreAvecAlt(const QEvent& evenement) {
+#ifdef Q_OS_MACOS
+    return false; // that key makes accented letters there
+#else
+    if (evenement.type() != QEvent::KeyPress)
+        return false;
+    const auto& touche = static_cast<const QKeyEvent&>(evenement);
+    const auto commandes = touche.modifiers() & (Qt::AltModifier | Qt::ControlModifier);
+    return commandes == Qt::AltModifier && !touche.text().isEmpty() &&
+           touche.text().front().isPrint();
+#endif
+}
+
+// A layout without margins of its own.
+template<typename Disposition> Disposition* SansMarges(QWidget* parent) {
+    auto* disposition = new Disposition(parent);
+    disposition->setContentsMargins(0, 0, 0, 0);
+    disposition->setSpacing(6);
+    return disposition;
+}
+
+} // namespace
+
+Orvalis::Orvalis(Systeme& systeme, QWidget* parent)
+    : QMainWindow(parent), exterieur_(systeme, [this](const Action& action) { Sortir(action); }),
+      p_{session_,
+         ecran_,
+         feuille_,
+         enTete_,
+         exterieur_,
+         *this,
+         [this](const Action& action) { Sortir(action); },
+         [this] { close(); }},
+      adieu_(new QLabel(this)), panneaux_{*new PanneauHorloge(this),    *new PictListe(this),
+                                          *new VuePage(this),           *new PictFiche(this),
+                                          *new PictMenu(this),          *new PictEnrs(this),
+                                          *new PictRech(this),          *new PictContacts(this),
+                                          *new FraMsgFiche(this),       *new PictChangLocator(this),
+                                          *new PictClasser(this),       *new PJumelage(this),
+                                          *new QStackedWidget(this),    *new PictFeuilleQSL(this),
+                                          *new PictCtrlImpression(this)},
+      timer1_(new QTimer(this)) {
+    ChargerRessources();
+    setObjectName(QStringLiteral("Orvalis"));
+    setWindowIcon(QIcon(QStringLiteral(":/orvalis.svg")));
+    timer1_->setObjectName(QStringLiteral("Timer1"));
+    Disposer();
+    peintre_ = std::make_unique<Peintre>(*this, panneaux_, *adieu_, BrancherMenus());
+    BrancherBoutons();
+    BrancherListes();
+    BrancherFiche();
+    BrancherFeuille();
+    BrancherFoyer();
+    Peindre();
+    qApp->installEventFilter(this);
+}
+
+Orvalis::~Orvalis() {
+    // The panels go while the state they report to is still there, and nobody listens any more.
+    qApp->removeEventFilter(this);
+    ecran_.arret = true;
+    delete takeCentralWidget();
+}
+
+void Orvalis::Disposer() {
+    auto* centre = new QWidget;
+    auto* ligne = new QHBoxLayout(centre);
+    ligne->setContentsMargins(8, 6, 8, 6);
+    ligne->setSpacing(10);
+    ligne->addWidget(ColonneGauche());
+    panneaux_.droite.addWidget(ColonneDroite());
+    panneaux_.droite.addWidget(&panneaux_.feuilleQSL);
+    panneaux_.feuilleQSL.Accueillir(panneaux_.ctrlImpression);
+    ligne->addWidget(&panneaux_.droite, 1);
+    // On a screen too small for the window, its parts stay within reach.
+    auto* defilement = new QScrollArea(this);
+    defilement->setFrameShape(QFrame::NoFrame);
+    defilement->setWidgetResizable(true);
+    defilement->setFocusPolicy(Qt::NoFocus);
+    defilement->setWidget(centre);
+    setCentralWidget(defilement);
+    const QSize voulue(1320, 740);
+    const QScreen* ecran = QGuiApplication::primaryScreen();
+    resize(ecran == nullptr ? voulue : voulue.boundedTo(ecran->availableSize() - QSize(16, 40)));
+}
+
+QWidget* Orvalis::ColonneGauche() {
+    auto* colonne = new QWidget;
+    auto* pile = SansMarges<QVBoxLayout>(colonne);
+    pile->addWidget(&panneaux_.horloge);
+    pile->addWidget(&panneaux_.liste, 1);
+    adieu_->setObjectName(QStringLiteral("OrvalisLab03"));
+    adieu_->setAlignment(Qt::AlignCenter);
+    pile->addWidget(adieu_);
+    colonne->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    return colonne;
+}
+
+// The card, the buttons under it, then the sheet; whatever asks or answers something lies over the
+// right of the sheet, under the card, and moves nothing.
+QWidget* Orvalis::ColonneDroite() {
+    auto* colonne = new QWidget;
+    auto* pile = SansMarges<QVBoxLayout>(colonne);
+    pile->addWidget(&panneaux_.fiche);
+    auto* boutons = new QWidget(colonne);
+    auto* rangee = SansMarges<QHBoxLayout>(boutons);
+    rangee->addWidget(&panneaux_.menu);
+    rangee->addWidget(&panneaux_.enrs);
+    rangee->addStretch(1);
+    rangee->addWidget(&panneaux_.rech);
+    boutons->setMinimumHeight(panneaux_.menu.sizeHint().height());
+    pile->addWidget(boutons);
+    auto* feuille = new QWidget(colonne);
+    feuille->setObjectName(QStringLiteral("PictPage"));
+    SansMarges<QVBoxLayout>(feuille)->addWidget(&panneaux_.page);
+    auto* reponses = new QVBoxLayout;
+    reponses->setContentsMargins(0, 0, 1, 0);
+    reponses->setSpacing(0);
+    for (QWidget* panneau : std::initializer_list<QWidget*>{
+             &panneaux_.msgFiche, &panneaux_.changLocator, &panneaux_.classer, &panneaux_.jumelage,
+             &panneaux_.contacts}) {
+        // The list takes the height there is; the others are as high as what they say.
+        const bool haut = panneau == &panneaux_.contacts;
+        reponses->addWidget(panneau, haut ? 1 : 0);
+        if (!haut)
+            panneau->setSizePolicy(panneau->sizePolicy().horizontalPolicy(), QSizePolicy::Maximum);
+        panneau->setAutoFillBackground(true);
+        panneau->raise();
+    }
+    reponses->addStretch(0);
+    auto* bas = new QGridLayout;
+    bas->addWidget(feuille, 0, 0, 1, 2);
+    bas->addLayout(reponses, 0, 1);
+    bas->setColumnStretch(0, 1);
+    pile->addLayout(bas, 1);
+    return colonne;
+}
+
+void Orvalis::Executer(const Action& flux, QuandGele quand) {
+    if (ecran_.arret || (ecran_.gel && quand == QuandGele::Non) || peintre_->EnCours())
+        return;
+    ++profondeur_;
+    try {
+        flux();
+    } catch (const std::exception& echec) {
+        if (!std::exchange(ecran_.arret, true)) {
+            exterieur_.Avertir(this, Q(MessageErreur(echec)));
+            QuitterProgramme(p_, 1);
+        }
+    }
+    if (--profondeur_ == 0)
+        Peindre();
+}
+
+void Orvalis::Sortir(const Action& action) {
+    const QScopedValueRollback profondeur(profondeur_, 0);
+    Peindre();
+    action();
+}
+
+void Orvalis::Peindre() {
+    VueFenetre vue = VoirFenetre(session_, ecran_, feuille_);
+    if (AccorderFoyer(session_, ecran_, vue))
+        vue = VoirFenetre(session_, ecran_, feuille_);
+    peintre_->Peindre(std::move(vue), ecran_.foyer);
+}
+
+bool Orvalis::event(QEvent* evenement) {
+    const bool traite = QMainWindow::event(evenement);
+    // The first activation starts the program; where no window manager activates windows, being
+    // shown must do.
+    if (evenement->type() == QEvent::WindowActivate)
+        QTimer::singleShot(0, this, &Orvalis::LancerDemarrage);
+    else if (evenement->type() == QEvent::Show && ecran_.temoinDemarrage == kDemarrageAFaire)
+        QTimer::singleShot(kDureeTic, this, &Orvalis::LancerDemarrage);
+    return traite;
+}
+
+void Orvalis::LancerDemarrage() {
+    if (ecran_.temoinDemarrage != kDemarrageAFaire || demarrageEnCours_ || ecran_.arret)
+        return;
+    demarrageEnCours_ = true;
+    Executer([this] {
+        Demarrer(p_);
+        if (ecran_.temoinDemarrage == 0)
+            timer1_->start(kDureeTic);
+    });
+    demarrageEnCours_ = false;
+}
+
+void Orvalis::closeEvent(QCloseEvent* evenement) {
+    evenement->accept();
+    Executer([this] { QuitterProgramme(p_, 0); }, QuandGele::Oui);
+}
+
+// Enter on a button, or its mnemonic, presses it at once: the usual animation would let the next
+// keystrokes go to the control that is about to lose the focus. While the window is frozen, what
+// the operator does reaches only what quits.
+bool Orvalis::eventFilter(QObject* objet, QEvent* evenement) {
+    if (ecran_.gel && EstUnGeste(evenement->type()) && objet->isWidgetType()) {
+        const auto* widget = static_cast<QWidget*>(objet);
+        const bool quitte = widget->objectName() == QLatin1String("BtFermerLog") ||
+                            qobject_cast<const QMenuBar*>(widget) != nullptr;
+        if (widget->window() == this && !quitte)
+            return true;
+    }
+    if (qobject_cast<QLineEdit*>(objet) != nullptr && LettreAvecAlt(*evenement))
+        return true;
+    auto* bouton = qobject_cast<QAbstractButton*>(objet);
+    if (bouton != nullptr && bouton->window() == this && bouton->isEnabled() &&
+        Presse(*evenement)) {
+        bouton->click();
+        return true;
+    }
+    return QMainWindow::eventFilter(objet, evenement);
+}
+
+} // namespace orvalis

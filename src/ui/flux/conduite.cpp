@@ -1,0 +1,43 @@
+#include "ui/flux/conduite.h"
+
+#include "ui/bureau/systeme.h"
+#include "ui/carte/foyer.h"
+
+#include <utility>
+
+namespace orvalis {
+
+void AppliquerReponse(Plateau& p, Reponse reponse) {
+    const std::optional<Boite> enErreur = reponse.effets.enErreur;
+    Session& s = p.session;
+    Appliquer(s.carte, p.ecran, s.station, std::move(reponse));
+    if (!enErreur)
+        return;
+    MontrerTexte(s.carte, *enErreur, kErreur);
+    if (!AttendreErreur(p))
+        return;
+    MontrerTexte(s.carte, *enErreur, {});
+    DonnerFoyer(p, SurBoite(*enErreur));
+}
+
+void DonnerFoyer(Plateau& p, const Foyer& cible) {
+    DeplacerFoyer(p.session.carte, p.ecran, p.session.station, cible);
+}
+
+void LacherFoyer(Plateau& p) {
+    LacherFoyer(p.session.carte, p.ecran);
+}
+
+Gel::Gel(Ecran& ecran) : ecran_(ecran), avant_(std::exchange(ecran.gel, true)) {}
+
+Gel::~Gel() {
+    ecran_.gel = avant_;
+}
+
+bool AttendreErreur(Plateau& p) {
+    const Gel gel(p.ecran);
+    p.systeme.Pause(1);
+    return !p.ecran.arret;
+}
+
+} // namespace orvalis

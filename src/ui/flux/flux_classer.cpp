@@ -1,0 +1,85 @@
+#include "ui/flux/flux_classer.h"
+
+#include "maint/tri.h"
+#include "ui/bureau/sablier.h"
+#include "ui/bureau/systeme.h"
+#include "ui/carte/foyer.h"
+#include "ui/flux/conduite.h"
+#include "ui/flux/flux_modification.h"
+#include "ui/flux/flux_navigation.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+
+namespace orvalis {
+namespace {
+
+// Steps run on between two moments at which the screen can show something new.
+constexpr int kRythmeMs = 15;
+constexpr std::int64_t kPasParRegard = 4000;
+
+void Montrer(PanneauClasser& classer, int passe, const EtatTri& etat) {
+    classer.mot = MotDePasse(passe);
+    classer.position = std::to_string(etat.position);
+}
+
+// Lets the screen show how far the sort has come. Returns false when the operator quit meanwhile.
+bool Regarder(Plateau& p) {
+    p.dehors([] { QCoreApplication::processEvents(); });
+    return !p.ecran.arret;
+}
+
+// Returns false when the operator quit meanwhile.
+bool Trier(Plateau& p) {
+    PanneauClasser& classer = p.ecran.classer;
+    Tri tri(p.session.cahier.fichier, p.session.cahier.nbFiches);
+    while (!tri.Etat().termine) {
+        Montrer(classer, tri.Etat().passe, tri.Etat());
+        if (!Regarder(p))
+            return false;
+        QElapsedTimer depuis;
+        depuis.start();
+        // Each pass shows its word, however short it is.
+        const int passe = tri.Etat().passe;
+        while (!tri.Etat().termine && tri.Etat().passe == passe && depuis.elapsed() < kRythmeMs)
+            tri.Avancer(kPasParRegard);
+    }
+    Montrer(classer, kNbPasses, tri.Etat());
+    return Regarder(p);
+}
+
+} // namespace
+
+void Classer(Plateau& p) {
+    Ecran& e = p.ecran;
+    if (p.session.cahier.fichier.Support().EstProtege()) {
+        p.systeme.Avertir(&p.fenetre,
+                          QStringLiteral("Ce cahier est protégé en écriture : il ne peut pas être "
+                                         "classé."));
+        return;
+    }
+    LacherFoyer(p);
+    e.contacts.montree = false;
+    AbandonnerModification(p);
+    e.liste.active = false;
+    e.activeRech = false;
+    e.recherche.montre = false;
+    e.jumelage.montre = false;
+    e.classer = {true, " QRX ,Je classe !", std::to_string(p.session.cahier.nbFiches), {}, {}};
+    {
+        const Sablier sablier;
+        const Gel gel(e);
+        if (!Trier(p))
+            return;
+    }
+    RelireCahier(p);
+    e.classer.titre = " Terminé ";
+    e.classer.montre = false;
+    e.liste.active = true;
+    // Kept on purpose, for the operators: the search panel and this button stay hidden after a
+    // sort.
+    e.activeRech = false;
+    DonnerFoyer(p, {Cible::Liste});
+}
+
+} // namespace orvalis

@@ -1,0 +1,140 @@
+#include "ui/flux/flux_demarrage.h"
+
+#include "core/creation.h"
+#include "core/dossier.h"
+#include "core/messages.h"
+#include "core/parametres.h"
+#include "ui/bureau/sablier.h"
+#include "ui/bureau/systeme.h"
+#include "ui/bureau/texte_qt.h"
+#include "ui/carte/foyer.h"
+#include "ui/dialogues/a_propos.h"
+#include "ui/dialogues/dlg1.h"
+#include "ui/dialogues/dlg2.h"
+#include "ui/flux/conduite.h"
+#include "ui/flux/flux_navigation.h"
+#include "ui/flux/flux_qsl.h"
+
+#include <optional>
+
+namespace orvalis {
+namespace fs = std::filesystem;
+namespace {
+
+std::string Titre(const Station& station) {
+    return " Cahier de Trafic de " + station.indicatif + std::string(22, ' ') +
+           "(version " ORVALIS_VERSION ")";
+}
+
+} // namespace
+
+Demarrage ChargerParametres(Plateau& p) {
+    Station& station = p.session.station;
+    Cahier& cahier = p.session.cahier;
+    station.lecteur = p.systeme.Lecteur();
+    const fs::path dossier = DossierProgramme(station.lecteur);
+    const fs::path chemin = TrouverFichier(dossier, kNomParametres);
+    if (!Present(dossier) || !Present(chemin)) {
+        bool cree = false;
+        Dlg1 creation(station.lecteur, p.systeme, &p.fenetre);
+        p.dehors([&] { cree = creation.exec() == QDialog::Accepted; });
+        return cree ? Demarrage::Recommencer : Demarrage::Arreter;
+    }
+    const Parametres parametres = LireParametres(chemin);
+    {
+        const Sablier sablier;
+        OuvrirCahier(cahier, TrouverFichier(dossier, parametres.nomFichier));
+    }
+    station.indicatif = parametres.indicatif;
+    station.monLocator = parametres.monLocator;
+    cahier.autre.clear();
+    cahier.lectureSeule = false;
+    InitialiserFenetre(p);
+    return Demarrage::Pret;
+}
+
+void InitialiserFenetre(Plateau& p) {
+    p.ecran.contacts.montree = false;
+    p.ecran.recherche.texte.clear();
+    AfficherHeure(p);
+    RelireCahier(p);
+    const bool vide = p.session.cahier.nbFiches == 0;
+    RendreBoutons(p.ecran);
+    p.ecran.recherche.montre = !vide;
+    DonnerFoyer(p, {vide ? Cible::Nouveau : Cible::Liste});
+    p.ecran.titre = Titre(p.session.station);
+    if (!vide)
+        ChargerFeuille(p);
+}
+
+void Demarrer(Plateau& p) {
+    for (auto suite = Demarrage::Recommencer; suite == Demarrage::Recommencer;) {
+        {
+            const Gel gel(p.ecran);
+            p.systeme.Pause(1);
+        }
+        if (p.ecran.arret)
+            return;
+        suite = ChargerParametres(p);
+        if (suite == Demarrage::Arreter)
+            return QuitterProgramme(p, 0);
+    }
+    p.ecran.temoinDemarrage = 0;
+}
+
+void AfficherHeure(Plateau& p) {
+    p.ecran.heure = p.systeme.Maintenant();
+}
+
+void LancerCompagnon(Plateau& p, std::string_view nom) {
+    const fs::path dossier = DossierProgramme(p.session.station.lecteur);
+    const auto lancer = [&](std::string_view programme) -> std::optional<QString> {
+        try {
+            return p.systeme.Lancer(Q(TrouverFichier(dossier, programme).string()));
+        } catch (const ErreurFichier& echec) { // the folder cannot be listed
+            return Q(RaisonFrancaise(echec.code()));
+        }
+    };
+    std::optional<QString> raison = lancer(nom);
+#ifndef Q_OS_WIN
+    if (raison)
+        raison = lancer(nom.substr(0, nom.rfind('.')));
+#endif
+    const std::string chemin = CheminProgrammeTexte(p.session.station.lecteur, nom);
+    if (raison)
+        p.systeme.Avertir(
+            &p.fenetre,
+            QStringLiteral("Impossible de démarrer « %1 » : %2.").arg(Q(chemin), *raison));
+}
+
+void ReglerHorloge(Plateau& p) {
+    LancerCompagnon(p, "Chronel.exe");
+}
+
+void CreerBaseDeDonnees(Plateau& p) {
+    LancerCompagnon(p, "dbOrvalis.exe");
+}
+
+void EditerLocator(Plateau& p) {
+    Dlg2 coordonnees(&p.fenetre);
+    p.dehors([&] { coordonnees.exec(); });
+}
+
+void VoirInfos(Plateau& p) {
+    APropos infos(p.systeme, &p.fenetre);
+    p.dehors([&] { infos.exec(); });
+}
+
+void Quitter(Plateau& p) {
+    p.fermer();
+}
+
+void QuitterProgramme(Plateau& p, int code) {
+    p.ecran.arret = true;
+    p.session.cahier.fichier = FichierFiches();
+    p.feuille.fichier.Fermer();
+    p.ecran.adieu = " Au revoir ";
+    p.systeme.Quitter(code);
+}
+
+} // namespace orvalis

@@ -1,0 +1,45 @@
+// Start-up, the clock, the companion programs, the dialogs of their own, the end.
+#pragma once
+
+#include "ui/flux/plateau.h"
+
+#include <string_view>
+
+namespace orvalis {
+
+enum class Demarrage { Pret, Recommencer, Arreter };
+
+/// The first activation of the window: pauses one second and loads the settings, again after the
+/// creation of a logbook. Throws what ChargerParametres throws.
+void Demarrer(Plateau& p);
+
+/// Reads the Settings file, opens the logbook it names and shows it (Pret). Without program folder
+/// or Settings file the creation dialog runs first: Recommencer once it has written them, Arreter
+/// when the operator gave up. Throws ErreurFichier, ErreurParametres, ErreurVerrou.
+[[nodiscard]] Demarrage ChargerParametres(Plateau& p);
+
+/// Fills the window from the open logbook.
+void InitialiserFenetre(Plateau& p);
+
+/// One tick of the clock.
+void AfficherHeure(Plateau& p);
+
+/// Starts a companion program of the program folder without waiting; a failure is told.
+void LancerCompagnon(Plateau& p, std::string_view nom);
+
+/// A click on the clock: starts the time-setting tool.
+void ReglerHorloge(Plateau& p);
+
+/// MnuCreateMDB.
+void CreerBaseDeDonnees(Plateau& p);
+/// MnuEditLocator: the coordinates dialog.
+void EditerLocator(Plateau& p);
+/// MnuVoir: the About box.
+void VoirInfos(Plateau& p);
+/// MnuQuitter and BtFermerLog.
+void Quitter(Plateau& p);
+
+/// Closes every file, says goodbye and ends the program at once, without a question.
+void QuitterProgramme(Plateau& p, int code);
+
+} // namespace orvalis

@@ -1,0 +1,121 @@
+#include "ui/flux/flux_fichiers.h"
+
+#include "core/cahier.h"
+#include "core/dossier.h"
+#include "core/messages.h"
+#include "maint/copie.h"
+#include "maint/ouverture.h"
+#include "ui/bureau/dossier_amovible.h"
+#include "ui/bureau/sablier.h"
+#include "ui/bureau/systeme.h"
+#include "ui/bureau/texte_qt.h"
+#include "ui/flux/conduite.h"
+#include "ui/flux/flux_demarrage.h"
+#include "ui/flux/flux_modification.h"
+#include "ui/flux/flux_navigation.h"
+
+namespace orvalis {
+namespace {
+
+QString NomDuFichier(const Session& session) {
+    return Q(session.cahier.chemin.filename().string());
+}
+
+bool CopierVers(Plateau& p, const DemandeFichier& demande) {
+    const QString cible = p.systeme.ChoisirFichier(&p.fenetre, demande);
+    return !p.ecran.arret && !cible.isEmpty() && Essayer(p, [&] {
+        const Sablier sablier;
+        CopierCahier(p.session.cahier, p.session.station, std::filesystem::path(S(cible)));
+    });
+}
+
+void PrevenirSiIncomplet(Plateau& p, const EtatCahier& etat) {
+    QStringList defauts;
+    if (!etat.finPresente)
+        defauts << QStringLiteral("il n'a pas d'enregistrement de fin");
+    if (!etat.longueurEntiere)
+        defauts << QStringLiteral("sa longueur n'est pas un nombre entier de fiches");
+    if (!defauts.isEmpty())
+        p.systeme.Avertir(&p.fenetre, QStringLiteral("Le cahier « %1 » est peut-être abîmé : %2.")
+                                          .arg(Q(p.session.cahier.chemin.string()),
+                                               defauts.join(QStringLiteral(" et "))));
+}
+
+} // namespace
+
+bool Essayer(Plateau& p, const std::function<void()>& action) {
+    try {
+        action();
+        return true;
+    } catch (const ErreurFichier& echec) {
+        if (echec.Chemin() == p.session.cahier.chemin)
+            throw;
+        p.systeme.Avertir(&p.fenetre, Q(MessageErreur(echec)));
+    } catch (const std::runtime_error& echec) { // taken by another program, damaged Settings
+        p.systeme.Avertir(&p.fenetre, Q(MessageErreur(echec)));
+    }
+    return false;
+}
+
+bool FaireSauvegarde(Plateau& p) {
+    std::filesystem::path dossier;
+    if (!Essayer(p, [&] { dossier = CheminSauvegardes(p.session.station.lecteur); }))
+        return false;
+    return CopierVers(p, {true, Q(dossier.string()), NomDuFichier(p.session),
+                          QStringLiteral("Sauvegarder le cahier")});
+}
+
+void OuvrirCahierCourant(Plateau& p) {
+    LacherFoyer(p);
+    AbandonnerModification(p);
+    p.ecran.jumelage.montre = false;
+    p.ecran.liste.active = true;
+    auto suite = Demarrage::Recommencer;
+    const bool fait = Essayer(p, [&] {
+        while (suite == Demarrage::Recommencer)
+            suite = ChargerParametres(p);
+    });
+    if (fait && suite == Demarrage::Arreter)
+        QuitterProgramme(p, 0);
+    if (fait)
+        return;
+    AfficherFiche(p); // the logbook on show is still open and whole
+    DonnerFoyer(p, {Cible::Liste});
+}
+
+void OuvrirAutre(Plateau& p) {
+    Session& s = p.session;
+    RendreListe(p); // not under the pairing panel, which may still be on show after a No
+    const QString choisi = p.systeme.ChoisirFichier(
+        &p.fenetre,
+        {false, Q(TexteLecteur(s.station.lecteur)), {}, QStringLiteral("Ouvrir un autre cahier")});
+    if (p.ecran.arret || choisi.isEmpty())
+        return;
+    BilanOuverture bilan;
+    const auto ouvrir = [&] {
+        const Sablier sablier;
+        bilan = OuvrirAutreCahier(s.cahier, s.station, S(choisi));
+    };
+    if (!Essayer(p, ouvrir) || !bilan.ouvert)
+        return;
+    s.carte.ficheCourante = 0;
+    LacherFoyer(p);
+    AbandonnerModification(p);
+    p.ecran.jumelage.montre = false;
+    p.ecran.liste.active = true;
+    InitialiserFenetre(p);
+    PrevenirSiIncomplet(p, bilan.etat);
+}
+
+void Sauvegarder(Plateau& p) {
+    static_cast<void>(FaireSauvegarde(p));
+    DonnerFoyer(p, {Cible::Liste});
+}
+
+void CopierSurDisque(Plateau& p) {
+    CopierVers(
+        p, {true, DossierAmovible(), NomDuFichier(p.session), QStringLiteral("Copier le cahier")});
+    p.session.station.lecteur = p.systeme.Lecteur(); // the dialog may have changed the folder
+}
+
+} // namespace orvalis

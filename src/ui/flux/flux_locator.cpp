@@ -1,0 +1,75 @@
+#include "ui/flux/flux_locator.h"
+
+#include "core/messages.h"
+#include "core/texte.h"
+#include "ui/bureau/systeme.h"
+#include "ui/bureau/texte_qt.h"
+#include "ui/carte/foyer.h"
+#include "ui/carte/locator_station.h"
+#include "ui/flux/conduite.h"
+
+namespace orvalis {
+namespace {
+
+void FermerChangLocator(Plateau& p) {
+    LacherFoyer(p);
+    Session& s = p.session;
+    p.ecran.locator.montre = false;
+    p.ecran.activeRech |= !s.carte.Texte(Boite::Indicatif).empty();
+    MontrerTexte(s.carte, Boite::MonLocator, Rogner(s.station.monLocator));
+    DonnerFoyer(p, SurBoite(s.carte.saisie.DerniereZone));
+}
+
+} // namespace
+
+void ChangerDeLocator(Plateau& p) {
+    p.ecran.activeRech = false;
+    p.ecran.contacts.montree = false;
+    OuvrirChangLocator(p.session.carte, p.ecran, p.session.station);
+}
+
+void SurTexteLocator(Plateau& p, std::string_view texte) {
+    SaisirTexteLocator(p.session.carte, p.ecran, texte);
+}
+
+void SurEntreeLocator(Plateau& p) {
+    switch (JugerLocatorStation(p.ecran.locator.texte)) {
+    case VerdictLocator::Rien:
+        break;
+    case VerdictLocator::Accepte:
+        p.ecran.locator.valider = true;
+        DonnerFoyer(p, {Cible::ValiderLocator});
+        break;
+    case VerdictLocator::Refuse:
+        MontrerTexteLocator(p.session.carte, p.ecran, kErreur);
+        p.ecran.foyer.selection = Foyer{Cible::TexteLocator};
+        if (!AttendreErreur(p))
+            break;
+        DonnerFoyer(p, {Cible::TexteLocator});
+        MontrerTexteLocator(p.session.carte, p.ecran, {});
+        break;
+    }
+}
+
+void GarderLocator(Plateau& p, bool garder) {
+    p.ecran.locator.garder = garder;
+}
+
+void ValiderLocator(Plateau& p) {
+    const PanneauLocator& locator = p.ecran.locator;
+    try {
+        ChangerLocatorStation(p.session.station, p.session.carte, locator.texte, locator.garder);
+    } catch (const std::exception& echec) {
+        // The contact under entry is worth more than the Settings file: told, and nothing changed.
+        p.systeme.Avertir(&p.fenetre, Q(MessageErreur(echec)));
+        return;
+    }
+    FermerChangLocator(p);
+}
+
+void AnnulerLocator(Plateau& p) {
+    MontrerTexteLocator(p.session.carte, p.ecran, {});
+    FermerChangLocator(p);
+}
+
+} // namespace orvalis

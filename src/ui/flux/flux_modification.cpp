@@ -1,0 +1,92 @@
+#include "ui/flux/flux_modification.h"
+
+#include "ui/carte/foyer.h"
+#include "ui/carte/modification.h"
+#include "ui/flux/conduite.h"
+#include "ui/flux/flux_navigation.h"
+
+#include <utility>
+
+namespace orvalis {
+namespace {
+
+// The page that held the contact stays on show, as far as it still exists.
+void EffacerFiche(Plateau& p) {
+    Session& s = p.session;
+    const std::int32_t page = CalculerPages(s.carte.ficheCourante);
+    SupprimerFiche(s.cahier, s.carte.ficheCourante, s.station.monLocator);
+    p.ecran.contacts.montree = false; // its numbers no longer hold
+    RelireCahier(p, page);
+    p.ecran.recherche.montre = s.cahier.nbFiches != 0;
+}
+
+void EnregistrerModification(Plateau& p) {
+    Session& s = p.session;
+    const std::int32_t k = s.carte.ficheCourante;
+    EcrireFiche(s.carte, s.cahier, k);
+    SynchroniserCahier(s.cahier);
+    if (const int ligne = LigneDeFiche(p, k); ligne >= 0) {
+        MontrerPage(p, s.page.numero);
+        p.ecran.liste.choisie = ligne;
+    }
+    s.carte = RepondreOui(s.carte);
+    AfficherFiche(p);
+}
+
+void FermerQuestion(Plateau& p) {
+    p.ecran.question.reset();
+    p.ecran.menuActif = true;
+}
+
+// A deletion is asked for the card, a change for what NbModifs counts; Oui and Non go by that.
+bool DemandeEffacement(const Plateau& p) {
+    return p.session.carte.saisie.NbModifs == 0;
+}
+
+} // namespace
+
+void AbandonnerModification(Plateau& p) {
+    OublierModifications(p.session.carte.saisie);
+    FermerQuestion(p);
+    MettreAuRepos(p.session.carte);
+    RendreBoutons(p.ecran);
+}
+
+void DemanderSuppression(Plateau& p) {
+    const Carte& carte = p.session.carte;
+    if (carte.ficheCourante < 1 || carte.ficheCourante > p.session.cahier.nbFiches)
+        return;
+    if (carte.saisie.EnModification || carte.saisie.NbModifs != 0)
+        ChoisirFiche(p, carte.ficheCourante);
+    p.ecran.question = QuestionEffacer(carte);
+    p.ecran.menuActif = false;
+    DonnerFoyer(p, {Cible::Non});
+}
+
+void RepondreOuiAuCadre(Plateau& p) {
+    LacherFoyer(p);
+    FermerQuestion(p);
+    if (DemandeEffacement(p))
+        EffacerFiche(p);
+    else
+        EnregistrerModification(p);
+    RendreBoutons(p.ecran);
+    DonnerFoyer(p, {Cible::Liste});
+}
+
+void RepondreNonAuCadre(Plateau& p) {
+    LacherFoyer(p);
+    FermerQuestion(p);
+    const bool effacement = DemandeEffacement(p);
+    p.session.carte = RepondreNon(p.session.carte);
+    if (effacement)
+        RendreListe(p);
+    else
+        AfficherFiche(p);
+    RendreBoutons(p.ecran);
+    // The callsign field of the buffer always holds fifteen characters: the button always comes.
+    p.ecran.activeRech = true;
+    DonnerFoyer(p, {Cible::Liste});
+}
+
+} // namespace orvalis

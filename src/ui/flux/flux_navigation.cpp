@@ -1,0 +1,157 @@
+#include "ui/flux/flux_navigation.h"
+
+#include "ui/flux/conduite.h"
+#include "ui/flux/flux_modification.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace orvalis {
+namespace {
+
+std::int32_t NbPages(const Cahier& cahier) {
+    return CalculerPages(std::min(cahier.nbFiches, kDerniereListable));
+}
+
+int DerniereLigne(const Plateau& p) {
+    return static_cast<int>(p.ecran.liste.contenu->lignes.size()) - 1;
+}
+
+// A page move selects the line where the operator goes on.
+void AllerPage(Plateau& p, std::int32_t page, bool derniereLigne) {
+    MontrerPage(p, page);
+    ChoisirLigne(p, derniereLigne ? DerniereLigne(p) : 0);
+}
+
+// The name of the open logbook, how many contacts it holds, and whether it is read-only.
+std::string NomMontre(const Session& s) {
+    const std::string nom =
+        s.cahier.lectureSeule ? s.cahier.autre + " (lecture seule)" : s.station.indicatif;
+    return nom + " : " + std::to_string(s.cahier.nbFiches) + " contact" +
+           (s.cahier.nbFiches < 2 ? "" : "s");
+}
+
+std::shared_ptr<const ContenuPage> LirePage(const Cahier& cahier, const PlagePage& plage) {
+    const auto n = static_cast<std::size_t>(std::max(0, plage.derniere - plage.premiere + 1));
+    std::vector<QsoRecord> fiches(n);
+    static_cast<void>(cahier.fichier.Lire(plage.premiere, fiches));
+    auto contenu = std::make_shared<ContenuPage>();
+    for (std::size_t i = 0; i < n && !EstFinDeLog(fiches[i]); ++i) {
+        const std::int32_t k = plage.premiere + static_cast<std::int32_t>(i);
+        contenu->lignes.push_back(LigneListe(k, fiches[i]));
+        contenu->rangees.push_back({k, CellulesDeFiche(k, fiches[i])});
+    }
+    return contenu;
+}
+
+} // namespace
+
+void MontrerPage(Plateau& p, std::int32_t page) {
+    const Cahier& cahier = p.session.cahier;
+    const PlagePage plage = CalculerPlage(page, cahier.nbFiches);
+    ListeDuCahier& liste = p.ecran.liste;
+    liste.contenu = LirePage(cahier, plage);
+    liste.page = page;
+    liste.nbPages = NbPages(cahier);
+    liste.nbFiches = cahier.nbFiches;
+    liste.defilement = std::min(page * kFichesParPage, cahier.nbFiches);
+    liste.choisie = -1;
+    liste.marquee = p.session.carte.ficheCourante;
+    p.session.page = {page, plage.premiere, plage.derniere};
+}
+
+// The list itself is asked: a blank page printed leaves the first record of the page at 0.
+int LigneDeFiche(const Plateau& p, std::int32_t k) {
+    const std::vector<RangeePage>& rangees = p.ecran.liste.contenu->rangees;
+    const auto ici = std::find_if(rangees.begin(), rangees.end(),
+                                  [k](const RangeePage& rangee) { return rangee.numero == k; });
+    return ici == rangees.end() ? -1 : static_cast<int>(ici - rangees.begin());
+}
+
+void ChoisirLigne(Plateau& p, int ligne) {
+    p.ecran.liste.choisie = ligne;
+    const std::vector<RangeePage>& rangees = p.ecran.liste.contenu->rangees;
+    if (ligne >= 0 && static_cast<std::size_t>(ligne) < rangees.size())
+        ChoisirFiche(p, rangees[static_cast<std::size_t>(ligne)].numero);
+}
+
+void ChoisirRangee(Plateau& p, std::int32_t k) {
+    if (!p.session.carte.saisie.EnSaisie)
+        ChoisirLigne(p, LigneDeFiche(p, k));
+}
+
+void RelireCahier(Plateau& p, std::int32_t page) {
+    CompterFiches(p.session.cahier);
+    MontrerPage(p, std::min(page, NbPages(p.session.cahier)));
+    p.ecran.liste.nom = NomMontre(p.session);
+    if (DerniereLigne(p) >= 0) {
+        ChoisirLigne(p, DerniereLigne(p));
+    } else if (!p.session.carte.saisie.EnSaisie) {
+        AbandonnerModification(p);
+        ViderCarte(p.session.carte);
+        p.ecran.activeRech = false;
+    }
+}
+
+void ChoisirFiche(Plateau& p, std::int32_t k) {
+    if (p.session.carte.saisie.EnSaisie || k < 1 || k > p.session.cahier.nbFiches)
+        return;
+    AbandonnerModification(p);
+    p.session.carte.ficheCourante = k;
+    AfficherFiche(p);
+}
+
+void AfficherFiche(Plateau& p) {
+    Carte& carte = p.session.carte;
+    if (carte.saisie.EnSaisie)
+        return;
+    p.ecran.liste.marquee = carte.ficheCourante;
+    if (carte.ficheCourante < 1)
+        return;
+    LireFiche(carte, p.session.cahier, carte.ficheCourante);
+    MontrerLabels(carte, carte.ficheCourante);
+    if (!carte.zones[Boite::Indicatif].empty())
+        p.ecran.activeRech = !p.ecran.contacts.montree;
+}
+
+void RendreListe(Plateau& p) {
+    p.ecran.liste.active = !p.ecran.jumelage.montre && !p.feuille.vue.panneau;
+}
+
+void SurBoutonPage(Plateau& p, BoutonPage bouton) {
+    const std::int32_t page = p.session.page.numero;
+    switch (bouton) {
+    case BoutonPage::Premiere:
+        AllerPage(p, 1, false);
+        break;
+    case BoutonPage::Precedente:
+        if (page > 1)
+            AllerPage(p, page - 1, false);
+        break;
+    case BoutonPage::Suivante:
+        if (page < NbPages(p.session.cahier))
+            MontrerPage(p, page + 1);
+        break;
+    case BoutonPage::Derniere:
+        MontrerPage(p, NbPages(p.session.cahier));
+        break;
+    }
+}
+
+void SurDefilement(Plateau& p, std::int32_t valeur) {
+    p.ecran.liste.defilement = valeur;
+    const std::int32_t page = CalculerPages(std::min(valeur, kDerniereListable));
+    if (page != p.session.page.numero)
+        MontrerPage(p, page);
+}
+
+bool SurToucheListe(Plateau& p, ToucheListe touche) {
+    const auto mouvement = PageDeTouche(touche, p.session.carte.ficheCourante,
+                                        p.ecran.liste.choisie, NbPages(p.session.cahier));
+    if (mouvement)
+        AllerPage(p, mouvement->page, mouvement->derniereLigne);
+    return mouvement.has_value();
+}
+
+} // namespace orvalis

@@ -1,0 +1,44 @@
+// Browsing: pages, the log list, the card of the record on show.
+#pragma once
+
+#include "core/pages.h"
+#include "ui/flux/plateau.h"
+
+#include <cstdint>
+#include <limits>
+
+namespace orvalis {
+
+/// Reads page `page` (from 1) and shows it in the list and on the sheet; no line is selected. Sets
+/// the page on show, its first and last record, the scroll bar and the paging buttons.
+void MontrerPage(Plateau& p, std::int32_t page);
+
+/// Recounts the logbook, shows page `page`, or the last one when there are fewer, and selects its
+/// last line, which shows that card, except during entry; without contacts, an empty card.
+void RelireCahier(Plateau& p, std::int32_t page = std::numeric_limits<std::int32_t>::max());
+
+/// Line (from 0) of record `k` in the list; -1 when the page on show does not hold it.
+[[nodiscard]] int LigneDeFiche(const Plateau& p, std::int32_t k);
+
+/// A line of the list (from 0) was chosen: it is selected, and its card shown except during entry.
+void ChoisirLigne(Plateau& p, int ligne);
+
+/// A row of the sheet, by its record: the same as its line, except during entry.
+void ChoisirRangee(Plateau& p, std::int32_t k);
+
+/// Makes record `k` the current one and shows its card. Changes of the old card that wait for an
+/// answer are dropped. Does nothing during entry.
+void ChoisirFiche(Plateau& p, std::int32_t k);
+
+/// Shows the card of the current record; a card under entry is never overwritten.
+void AfficherFiche(Plateau& p);
+
+/// The log list takes what the operator does again, unless a panel that wants it quiet is on show.
+void RendreListe(Plateau& p);
+
+void SurBoutonPage(Plateau& p, BoutonPage bouton);
+void SurDefilement(Plateau& p, std::int32_t valeur);
+/// Returns whether the key moved a page.
+[[nodiscard]] bool SurToucheListe(Plateau& p, ToucheListe touche);
+
+} // namespace orvalis

@@ -1,0 +1,227 @@
+#include "ui/flux/flux_qsl.h"
+
+#include "core/dates.h"
+#include "core/dossier.h"
+#include "core/messages.h"
+#include "core/texte.h"
+#include "print/etiquette.h"
+#include "qsl/vie_etiquette.h"
+#include "ui/bureau/systeme.h"
+#include "ui/bureau/texte_qt.h"
+#include "ui/flux/conduite.h"
+#include "ui/flux/flux_impression.h"
+#include "ui/flux/flux_modification.h"
+#include "ui/flux/flux_navigation.h"
+
+namespace orvalis {
+namespace {
+
+// The page on show and the card, read again; the line that was selected stays selected.
+void Rafraichir(Plateau& p) {
+    const int ligne = p.ecran.liste.choisie;
+    MontrerPage(p, p.session.page.numero);
+    p.ecran.liste.choisie = ligne;
+    AfficherFiche(p);
+}
+
+// Runs what may open or close the panel: list and focus follow it.
+void AgirSurLaFeuille(Plateau& p, const std::function<void()>& action) {
+    const bool montree = p.feuille.vue.panneau;
+    action();
+    if (p.feuille.vue.panneau == montree)
+        return;
+    LacherFoyer(p);
+    p.ecran.liste.active = montree;
+    if (montree) {
+        Rafraichir(p);
+        DonnerFoyer(p, {Cible::Liste});
+    }
+}
+
+// The same for an action that answers: what it did to contacts shows, what it says is told.
+ReponseQSL Repondre(Plateau& p, const std::function<ReponseQSL()>& action) {
+    ReponseQSL reponse;
+    AgirSurLaFeuille(p, [&] {
+        reponse = action();
+        if (reponse.marque)
+            AfficherFiche(p);
+    });
+    if (!reponse.message.empty())
+        p.systeme.Avertir(&p.fenetre, Q(reponse.message));
+    return reponse;
+}
+
+void DonnerFoyerBoite(Plateau& p, std::size_t boite) {
+    const Foyer cible{Cible::BoiteEtiquette, static_cast<int>(boite)};
+    DonnerFoyer(p, cible);
+    p.ecran.foyer.selection = cible;
+}
+
+void DonnerFoyerChoix(Plateau& p, int k) {
+    DonnerFoyer(p, {Cible::ChoixEtiquette, k});
+}
+
+// None when the button is hidden.
+void DonnerFoyerValider(Plateau& p) {
+    if (p.feuille.vue.valider)
+        DonnerFoyer(p, {Cible::ValiderEtiquette});
+}
+
+// A logbook without contacts was opened without its sheet. Returns whether there is one.
+bool ChargerAuBesoin(Plateau& p) {
+    if (!p.feuille.fichier.EstOuvert())
+        ChargerFeuille(p);
+    return p.feuille.fichier.EstOuvert();
+}
+
+DonneesEtiquette DonneesDe(const QslSlotRecord& etiquette) {
+    const auto texte = [&etiquette](ChampEtiquette champ) { return TexteRogne(etiquette, champ); };
+    return {texte(ChampEtiquette::Indicatif), texte(ChampEtiquette::Ligne1),
+            texte(ChampEtiquette::Ligne2),    texte(ChampEtiquette::Voie),
+            texte(ChampEtiquette::Date),      texte(ChampEtiquette::Heure),
+            texte(ChampEtiquette::Frequence), texte(ChampEtiquette::Report),
+            texte(ChampEtiquette::Mode)};
+}
+
+int PremierePreparee(const EtatFeuille& feuille) {
+    const std::vector<int> places = EtiquettesAImprimer(feuille);
+    return places.empty() ? 1 : places.front();
+}
+
+} // namespace
+
+void ChargerFeuille(Plateau& p) {
+    try {
+        ChargerFeuilleQSL(p.feuille, DossierProgramme(p.session.station.lecteur));
+    } catch (const ErreurFichier& echec) {
+        // No reason to keep the operator from the logbook.
+        p.feuille.fichier.Fermer();
+        p.systeme.Avertir(&p.fenetre, Q(MessageErreur(echec)));
+    }
+}
+
+void GererFeuille(Plateau& p) {
+    if (!ChargerAuBesoin(p))
+        return;
+    AgirSurLaFeuille(p, [&p] { MontrerFeuille(p.feuille); });
+    DonnerFoyerChoix(p, PremierePreparee(p.feuille));
+}
+
+void ImprimerEtiquettesVierges(Plateau& p) {
+    static_cast<void>(Imprimer(p, [&p](Imprimante& imprimante) {
+        ImprimerPlancheVierge(imprimante, p.session.station.indicatif, p.enTete);
+    }));
+}
+
+void CliquerMaQsl(Plateau& p) {
+    Session& s = p.session;
+    if (!s.cahier.EstLeNotre() || s.carte.ficheCourante < 1 ||
+        !Rogner(s.carte.Texte(Boite::MaQsl)).empty() || !ChargerAuBesoin(p))
+        return;
+    // The press has begun a modification by hand, which is not what it turns out to be.
+    SuiteClic suite = SuiteClic::Ordinaire;
+    Repondre(p, [&] {
+        const ReponseClic clic = PreparerEtiquette(s.cahier, p.feuille, s.carte.ficheCourante);
+        suite = clic.suite;
+        if (suite != SuiteClic::Ordinaire) {
+            LacherFoyer(p);
+            AbandonnerModification(p);
+        }
+        return clic.reponse;
+    });
+    if (suite == SuiteClic::Retabli) {
+        Rafraichir(p);
+        DonnerFoyer(p, {Cible::Liste});
+    } else if (suite == SuiteClic::Panneau) {
+        if (p.feuille.boites[kBoiteLigne1].empty())
+            DonnerFoyerBoite(p, kBoiteLigne1);
+        else
+            DonnerFoyer(p, {Cible::VoieEtiquette});
+    }
+}
+
+void SurChoix(Plateau& p, int k) {
+    CliquerChoix(p.feuille, k);
+    if (p.feuille.vue.laisser && p.feuille.etiquetteEnCours == k)
+        DonnerFoyer(p, {Cible::LaisserEtiquette});
+}
+
+void SurTag(Plateau& p, int k) {
+    CliquerTag(p.feuille, k);
+    DonnerFoyerBoite(p, kBoiteIndicatif);
+}
+
+void SurSaisieEtiquette(Plateau& p, std::size_t boite, const std::string& texte) {
+    SaisirBoiteEtiquette(p.feuille, boite, texte);
+    if (boite == kBoiteIndicatif)
+        SaisirBoiteEtiquette(p.feuille, kBoiteRappel, texte);
+}
+
+// Enter goes on to the next box, by way of the route, and ends on the button that it shows.
+void SurEntreeEtiquette(Plateau& p, std::size_t boite) {
+    EntrerBoiteEtiquette(p.feuille);
+    if (p.feuille.fraiche && boite == kBoiteNumeroFiche)
+        DonnerFoyerBoite(p, kBoiteIndicatif);
+    else if (!p.feuille.fraiche || boite >= kBoiteManager)
+        DonnerFoyerValider(p);
+    else if (boite == kBoiteLigne2)
+        DonnerFoyer(p, {Cible::VoieEtiquette});
+    else
+        DonnerFoyerBoite(p, boite + 1);
+}
+
+void SurVoie(Plateau& p, VoieQSL voie) {
+    const bool confirmee = p.feuille.voie == voie;
+    ChoisirVoie(p.feuille, voie);
+    if (confirmee)
+        DonnerFoyerValider(p);
+}
+
+void SurBtValidQSL(Plateau& p) {
+    Repondre(p, [&p] { return ValiderEtiquette(p.session.cahier, p.feuille); });
+}
+
+void SurBtDelQSL(Plateau& p) {
+    const int k = p.feuille.etiquetteEnCours;
+    if (Repondre(p, [&p] { return SupprimerEtiquette(p.session.cahier, p.feuille); }).fait)
+        DonnerFoyerChoix(p, k);
+}
+
+void SurBtLeaveQSL(Plateau& p) {
+    const int k = p.feuille.etiquetteEnCours;
+    LaisserEtiquette(p.feuille);
+    if (k != 0)
+        DonnerFoyerChoix(p, k);
+}
+
+void SurBtQuitQSL(Plateau& p) {
+    AgirSurLaFeuille(p, [&p] { QuitterFeuille(p.feuille); });
+}
+
+void SurBtRestore(Plateau& p) {
+    RestaurerFeuille(p.feuille);
+    DonnerFoyerChoix(p, 1);
+}
+
+void SurBtPrintQSL(Plateau& p) {
+    std::vector<EtiquettePlacee> etiquettes;
+    for (const int k : EtiquettesAImprimer(p.feuille))
+        etiquettes.push_back(
+            {static_cast<std::int16_t>(k), DonneesDe(LireEnregistrement(p.feuille, k))});
+    if (!Imprimer(p, [&](Imprimante& imp) { ImprimerPlanche(imp, etiquettes, p.enTete); }))
+        return;
+    DemanderControle(p.feuille);
+    DonnerFoyer(p, {Cible::Revoir});
+}
+
+void ConfirmerImpression(Plateau& p) {
+    const std::string aujourdhui = DateCourte(p.systeme.Maintenant());
+    Repondre(p, [&] { return ToutEstParfait(p.session.cahier, p.feuille, aujourdhui); });
+}
+
+void RevoirImpression(Plateau& p) {
+    RevoirEtiquettes(p.feuille);
+    DonnerFoyerChoix(p, PremierePreparee(p.feuille));
+}
+
+} // namespace orvalis

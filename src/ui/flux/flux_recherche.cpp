@@ -1,0 +1,122 @@
+#include "ui/flux/flux_recherche.h"
+
+#include "core/recherche.h"
+#include "ui/bureau/sablier.h"
+#include "ui/carte/foyer.h"
+#include "ui/flux/conduite.h"
+#include "ui/flux/flux_navigation.h"
+
+#include <memory>
+
+namespace orvalis {
+namespace {
+
+// Shows a result. Its first line is selected, which shows that contact's card unless one is being
+// entered or corrected.
+void MontrerResultat(Plateau& p, const ResultatRecherche& resultat, bool selection) {
+    ListeContacts& contacts = p.ecran.contacts;
+    contacts.lignes = std::make_shared<const std::vector<std::string>>(resultat.lignes);
+    contacts.choisie = -1;
+    contacts.compte = resultat.nbreContacts;
+    if (resultat.contactsLab)
+        contacts.nature = *resultat.contactsLab;
+    if (resultat.lignes.empty() || !selection)
+        return;
+    contacts.choisie = 0;
+    if (!p.session.carte.EnEdition())
+        ChoisirFiche(p, NumeroDeLigne(resultat.lignes.front()));
+}
+
+bool IndicatifSurLaCarte(const Plateau& p) {
+    return !p.session.carte.Texte(Boite::Indicatif).empty();
+}
+
+// The focus leaves a list that is hidden.
+void CacherContacts(Plateau& p) {
+    p.ecran.contacts.montree = false;
+    if (p.ecran.foyer.ici.cible == Cible::Contacts)
+        LacherFoyer(p);
+}
+
+// A contact under entry, or changes that wait for their answer, keep what the list greyed.
+bool GardeLesBoutons(const EtatSaisie& saisie) {
+    return saisie.EnSaisie || saisie.NbModifs != 0;
+}
+
+} // namespace
+
+void VoirContacts(Plateau& p) {
+    const Sablier sablier;
+    const Carte& carte = p.session.carte;
+    const bool enEdition = carte.EnEdition();
+    p.ecran.recherche.montre = false;
+    if (IndicatifSurLaCarte(p))
+        MontrerResultat(p, ChercherContacts(p.session.cahier, carte.Texte(Boite::Indicatif)), true);
+    p.ecran.contacts.montree = true;
+    p.ecran.activeRech = false;
+    p.ecran.contacts.supprimerGrise |= enEdition;
+    p.ecran.contacts.boutonsGrises = true;
+    if (enEdition)
+        RendreFoyerALaBoite(p.session.carte, p.ecran, p.session.station);
+    else
+        DonnerFoyer(p, {Cible::Contacts});
+}
+
+void Rechercher(Plateau& p) {
+    const std::string texte = p.ecran.recherche.texte;
+    if (texte.empty())
+        return;
+    MontrerResultat(p, ChercherContacts(p.session.cahier, texte), true);
+    p.ecran.recherche = {false, {}};
+    p.ecran.contacts.montree = true;
+    p.ecran.activeRech |= IndicatifSurLaCarte(p);
+    if (p.session.carte.saisie.EnSaisie)
+        DonnerFoyer(p, SurBoite(p.session.carte.saisie.DerniereZone));
+    else
+        DonnerFoyer(p, {Cible::Liste});
+}
+
+void CliquerRecherche(Plateau& p) {
+    p.ecran.recherche.texte.clear();
+    // The list takes the button with it, and gives it back whichever way it goes.
+    p.ecran.activeRech |= p.ecran.contacts.montree && IndicatifSurLaCarte(p);
+    CacherContacts(p);
+    if (!GardeLesBoutons(p.session.carte.saisie))
+        RendreBoutons(p.ecran);
+}
+
+void FermerContacts(Plateau& p) {
+    CacherContacts(p);
+    p.ecran.recherche.montre = true; // Kept on purpose, for the operators: during entry too.
+    p.ecran.activeRech |= IndicatifSurLaCarte(p);
+    if (!GardeLesBoutons(p.session.carte.saisie))
+        RendreBoutons(p.ecran);
+    if (p.session.carte.EnEdition())
+        return RendreFoyerALaBoite(p.session.carte, p.ecran, p.session.station);
+    p.ecran.recherche.texte.clear();
+    RendreListe(p);
+    DonnerFoyer(p, {Cible::Liste});
+}
+
+void MontrerDoublons(Plateau& p) {
+    const Sablier sablier;
+    const Carte& carte = p.session.carte;
+    // Kept on purpose, for the operators: the list answers again during entry, though it chooses
+    // no card.
+    p.ecran.liste.active |= carte.saisie.EnSaisie;
+    p.ecran.activeRech = false;
+    p.ecran.contacts.montree = true;
+    MontrerResultat(p, ChercherDoublons(p.session.cahier), !carte.saisie.EnSaisie);
+    p.ecran.contacts.boutonsGrises = true;
+    if (!carte.EnEdition())
+        DonnerFoyer(p, {Cible::Contacts});
+}
+
+void ChoisirContact(Plateau& p, int ligne) {
+    p.ecran.contacts.choisie = ligne;
+    const auto& lignes = p.ecran.contacts.lignes;
+    if (lignes && ligne >= 0 && static_cast<std::size_t>(ligne) < lignes->size())
+        ChoisirFiche(p, NumeroDeLigne((*lignes)[static_cast<std::size_t>(ligne)]));
+}
+
+} // namespace orvalis

@@ -1,0 +1,104 @@
+#include "ui/flux/flux_saisie.h"
+
+#include "ui/bureau/systeme.h"
+#include "ui/carte/conditions.h"
+#include "ui/carte/foyer.h"
+#include "ui/carte/saisie.h"
+#include "ui/flux/conduite.h"
+#include "ui/flux/flux_modification.h"
+#include "ui/flux/flux_navigation.h"
+
+namespace orvalis {
+namespace {
+
+// `PreparerSaisie`: the blank card of record N + 1.
+void OuvrirFicheVierge(Plateau& p) {
+    LacherFoyer(p);
+    Ecran& e = p.ecran;
+    e.recherche.montre = false;
+    e.contacts.montree = false;
+    e.locator.montre = false;
+    e.jumelage.montre = false;
+    e.annulerActif = false;
+    e.suivantArme = false;
+    RelireCahier(p);
+    e.liste.active = false;
+    e.liste.marquee = 0;
+    e.activeRech = false;
+    AppliquerReponse(
+        p, PreparerSaisie(p.session.carte, p.session.station, p.session.cahier.Prochaine()));
+}
+
+// Returns false when the card must stay as it is: a contact without a callsign.
+bool Enregistrer(Plateau& p, FinDeSaisie fin) {
+    LacherFoyer(p); // text without Enter is not stored, that of the box in hand neither
+    Session& s = p.session;
+    const ContactFini contact =
+        FinirContact(s.carte, s.station, fin, p.ecran.suivantArme, p.systeme.Maintenant());
+    if (contact.verdict == Verdict::IndicatifManquant) {
+        p.ecran.annulerActif = true; // the way out for who has no callsign to give
+        DonnerFoyer(p, SurBoite(Boite::Indicatif));
+        return false;
+    }
+    if (contact.verdict == Verdict::Enregistrer) {
+        s.carte.zones = contact.zones;
+        AjouterFiche(s.cahier, FicheDesZones(contact.zones), contact.fin);
+        s.carte.tampon = contact.fin;
+    }
+    return true;
+}
+
+} // namespace
+
+void NouveauQso(Plateau& p) {
+    AbandonnerModification(p);
+    LacherFoyer(p);
+    p.session.carte.saisie.EnSaisie = true;
+    OuvrirFicheVierge(p);
+}
+
+void EnregistrerEtSuivre(Plateau& p) {
+    if (Enregistrer(p, FinDeSaisie::Suivant))
+        OuvrirFicheVierge(p);
+}
+
+void EnregistrerEtTerminer(Plateau& p) {
+    if (!Enregistrer(p, FinDeSaisie::Terminer))
+        return;
+    p.session.carte.saisie.EnSaisie = false;
+    p.ecran.contacts.montree = false;
+    p.ecran.locator.montre = false;
+    p.ecran.liste.active = true;
+    RelireCahier(p);
+    p.ecran.recherche.montre = p.session.cahier.nbFiches != 0;
+    DonnerFoyer(p, {Cible::Liste});
+}
+
+void AnnulerSaisie(Plateau& p) {
+    OuvrirFicheVierge(p);
+}
+
+void ChoisirOption(Plateau& p, bool tempsReel) {
+    p.session.carte.saisie.tempsReel = tempsReel;
+    DonnerFoyer(p, SurBoite(Boite::Indicatif));
+}
+
+void SurEntree(Plateau& p, Boite boite) {
+    AppliquerReponse(
+        p, ValiderBoite(p.session.carte, p.session.station, boite, p.systeme.Maintenant()));
+}
+
+void SurPression(Plateau& p, Boite boite) {
+    const unsigned remplies = ConditionsRemplies(p.session, p.ecran, p.feuille);
+    AppliquerReponse(p, PresserBoite(p.session.carte, boite, Permis(kPourModifier, remplies)));
+}
+
+void SurChangement(Plateau& p, Boite boite, std::string_view texte) {
+    SaisirTexte(p.session.carte, boite, texte);
+}
+
+void SurFoyer(Plateau& p, const Foyer& ici) {
+    SuivreFoyer(p.session.carte, p.ecran, p.session.station, ici);
+}
+
+} // namespace orvalis

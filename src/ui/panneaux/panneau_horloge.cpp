@@ -1,0 +1,23 @@
+#include "ui/panneaux/panneau_horloge.h"
+
+#include "ui/bureau/texte_qt.h"
+#include "ui/widgets/police.h"
+#include "ui_panneau_horloge.h"
+
+namespace orvalis {
+
+PanneauHorloge::PanneauHorloge(QWidget* parent)
+    : QWidget(parent), ui_(std::make_unique<Ui::PanneauHorloge>()) {
+    ui_->setupUi(this);
+    ui_->LabHeure->setFont(PoliceAjustee(font(), 1.7));
+}
+
+PanneauHorloge::~PanneauHorloge() = default;
+
+void PanneauHorloge::Montrer(const Instant& instant) {
+    ui_->LabHeure->setText(Q(HeureLongue(instant)));
+    ui_->LabDate->setText(Q(DateLongue(instant)));
+    ui_->Horloge->Montrer(instant);
+}
+
+} // namespace orvalis

@@ -1,0 +1,36 @@
+// The panel that changes the station's own locator during entry.
+#pragma once
+
+#include "ui/carte/ecran.h"
+
+#include <QFrame>
+
+#include <memory>
+
+namespace orvalis::Ui {
+class PictChangLocator;
+}
+
+namespace orvalis {
+
+class PictChangLocator : public QFrame {
+    Q_OBJECT
+  public:
+    explicit PictChangLocator(QWidget* parent = nullptr);
+    ~PictChangLocator() override;
+
+    void Montrer(const PanneauLocator& locator);
+
+  Q_SIGNALS:
+    void texteChange(const QString& texte);
+    void entree(); ///< Enter in the box
+    void garderChange(bool garder);
+
+  protected:
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
+
+  private:
+    std::unique_ptr<Ui::PictChangLocator> ui_;
+};
+
+} // namespace orvalis

@@ -1,0 +1,41 @@
+#include "ui/panneaux/pict_contacts.h"
+
+#include "ui/bureau/texte_qt.h"
+#include "ui_pict_contacts.h"
+
+#include <QEvent>
+#include <QScrollBar>
+
+namespace orvalis {
+
+PictContacts::PictContacts(QWidget* parent)
+    : QFrame(parent), ui_(std::make_unique<Ui::PictContacts>()) {
+    ui_->setupUi(this);
+    connect(ui_->ContactsListe, &ListeLignes::ligneChoisie, this, &PictContacts::ligneChoisie);
+    Dimensionner();
+}
+
+PictContacts::~PictContacts() = default;
+
+void PictContacts::Dimensionner() {
+    constexpr int kLargeurLigne = 46;
+    ListeLignes& liste = *ui_->ContactsListe;
+    liste.setMinimumWidth(liste.Composer(font(), kLargeurLigne) + 10 +
+                          liste.verticalScrollBar()->sizeHint().width());
+}
+
+void PictContacts::changeEvent(QEvent* evenement) {
+    QFrame::changeEvent(evenement);
+    if (evenement->type() == QEvent::FontChange)
+        Dimensionner();
+}
+
+void PictContacts::Montrer(const ListeContacts& contacts, bool lignesChangees) {
+    if (lignesChangees && contacts.lignes)
+        ui_->ContactsListe->Remplir(*contacts.lignes);
+    ui_->ContactsListe->Selectionner(contacts.choisie);
+    ui_->NbreContacts->setText(Q(contacts.compte));
+    ui_->ContactsLab->setText(Q(contacts.nature));
+}
+
+} // namespace orvalis

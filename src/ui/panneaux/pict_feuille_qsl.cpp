@@ -1,0 +1,313 @@
+#include "ui/panneaux/pict_feuille_qsl.h"
+
+#include "ui/bureau/texte_qt.h"
+#include "ui/carte/boites.h"
+#include "ui/widgets/filtre_edition.h"
+#include "ui/widgets/police.h"
+#include "ui/widgets/presence.h"
+#include "ui/widgets/teintes.h"
+#include "ui_pict_feuille_qsl.h"
+
+#include <QLineEdit>
+
+#include <utility>
+#include <vector>
+
+namespace orvalis {
+namespace {
+
+constexpr std::size_t Largeur(ChampEtiquette champ) {
+    return Description(champ).largeur;
+}
+
+// An entry box of the editor: a label's field, as wide as the field on the sheet.
+struct DescriptionBoiteEditeur {
+    std::size_t boite;
+    const char* legende;
+    std::size_t longueur;
+    Touches touches;
+    std::size_t rangee; // row of the editor, from 1
+    const char* bulle;
+};
+
+constexpr std::size_t kRangeeContact = 1; // whose label it is, captions beside the boxes
+
+constexpr std::array<DescriptionBoiteEditeur, kNbBoitesEtiquette> kBoitesEditeur = {{
+    {kBoiteIndicatif, "Indicatif", Largeur(ChampEtiquette::Indicatif), Touches::Majuscules, 2,
+     "Indicatif du correspondant"},
+    {kBoiteDate, "Date", Largeur(ChampEtiquette::Date), Touches::Libres, 2, "Date du contact"},
+    {kBoiteHeure, "UTC", Largeur(ChampEtiquette::Heure), Touches::Libres, 2, "Heure du contact"},
+    {kBoiteFrequence, "Fréquence", Largeur(ChampEtiquette::Frequence), Touches::Libres, 3,
+     "Fréquence du contact"},
+    {kBoiteMode, "Mode", Largeur(ChampEtiquette::Mode), Touches::Majuscules, 3, "Mode du contact"},
+    {kBoiteReport, "RST donné", Largeur(ChampEtiquette::Report), Touches::Libres, 3,
+     "Report donné au correspondant"},
+    {kBoiteLigne1, "En-tête", Largeur(ChampEtiquette::Ligne1), Touches::Libres, 4,
+     "Imprimé avant « Confirming QSO with » : votre indicatif, par exemple"},
+    {kBoiteLigne2, "Remarque", Largeur(ChampEtiquette::Ligne2), Touches::Libres, 4,
+     "Imprimée après « Via QSL Manager » ; l'étiquette en garde 15 caractères"},
+    {kBoiteManager, "QSL manager", Largeur(ChampEtiquette::Voie), Touches::Majuscules, 5,
+     "Indicatif du manager, quand la carte ne part ni par le bureau ni en direct"},
+    {kBoiteRappel, "Contact", Largeur(ChampEtiquette::Indicatif), Touches::Majuscules,
+     kRangeeContact, "Station à qui la carte est destinée"},
+    {kBoiteNumeroFiche, "Fiche N°", Largeur(ChampEtiquette::NumeroFiche), Touches::Chiffres,
+     kRangeeContact, "Numéro du contact dans le cahier"},
+}};
+
+constexpr bool DansLOrdre() {
+    for (std::size_t i = 0; i < kNbBoitesEtiquette; ++i)
+        if (kBoitesEditeur[i].boite != i + 1)
+            return false;
+    return true;
+}
+static_assert(DansLOrdre(), "the table is indexed by box");
+
+constexpr int kTraitEtudiee = 2; // width of the frame of the place that the editor is about
+
+QString Nom(const char* prefixe, int k, int chiffres = 1) {
+    return QStringLiteral("%1%2").arg(QLatin1String(prefixe)).arg(k, chiffres, 10, QChar(u'0'));
+}
+
+// A text for a button: an ampersand is no mnemonic.
+QString SansMnemonique(std::string_view texte) {
+    return Q(texte).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+QString BulleChoix(EtatEtiquette etat) {
+    switch (etat) {
+    case EtatEtiquette::Preparee:
+        return QStringLiteral("Revoir cette étiquette, pour la supprimer ou la laisser");
+    case EtatEtiquette::Retiree:
+        return QStringLiteral("Remettre cette étiquette sur la feuille");
+    case EtatEtiquette::Libre:
+        break;
+    }
+    return QStringLiteral("Cette étiquette manque sur la feuille : ne pas l'utiliser");
+}
+
+// The place that the editor is about: the one under review, else the next free one.
+int PlaceALEtude(const EtatFeuille& feuille) {
+    if (feuille.vue.supprimer)
+        return feuille.etiquetteEnCours;
+    for (int k = 1; k <= kNbEtiquettes; ++k)
+        if (feuille.Etat(k) == EtatEtiquette::Libre)
+            return k;
+    return 0;
+}
+
+} // namespace
+
+PictFeuilleQSL::PictFeuilleQSL(QWidget* parent)
+    : QFrame(parent), ui_(std::make_unique<Ui::PictFeuilleQSL>()) {
+    ui_->setupUi(this);
+    ui_->planche->setAutoFillBackground(true);
+    ui_->planche->setBackgroundRole(QPalette::Base);
+    ui_->NrTag->setFont(PoliceAjustee(font(), kTitre));
+    for (int k = 1; k <= kNbEtiquettes; ++k) {
+        Place& place = places_[EtatFeuille::Rang(k)];
+        place = FairePlace(k);
+        ui_->grillePlaces->addWidget(place.cadre, (k - 1) / 2, (k - 1) % 2);
+        ui_->grillePlaces->setRowStretch((k - 1) / 2, 1);
+    }
+    FaireBoites();
+    BrancherBoutons();
+    OrdonnerTabulation();
+    PeindreSelonBureau(*this, [this] { PeindreFonds(); });
+}
+
+PictFeuilleQSL::~PictFeuilleQSL() = default;
+
+PictFeuilleQSL::Place PictFeuilleQSL::FairePlace(int k) {
+    Place place;
+    place.cadre = new QFrame(ui_->planche);
+    place.cadre->setObjectName(Nom("PictBtEtiq", k, 2));
+    place.cadre->setFrameShape(QFrame::Box);
+    place.cadre->setFrameShadow(QFrame::Plain);
+    place.cadre->setForegroundRole(QPalette::WindowText);
+    place.tag = new QPushButton(QStringLiteral("Etiquette [%1] libre").arg(k), place.cadre);
+    place.tag->setObjectName(Nom("BtTag_", k));
+    place.tag->setToolTip(QStringLiteral("Préparer une étiquette sans partir d'une fiche"));
+    place.choix = new QPushButton(QStringLiteral("Retirer"), place.cadre);
+    place.choix->setObjectName(Nom("BtChoix_", k));
+    auto* pile = new QVBoxLayout(place.cadre);
+    pile->setContentsMargins(5, 2, 5, 2);
+    pile->setSpacing(2);
+    pile->addStretch(1);
+    pile->addWidget(place.tag);
+    pile->addWidget(place.choix, 0, Qt::AlignRight);
+    pile->addStretch(1);
+    connect(place.choix, &QPushButton::clicked, this, [this, k] { Q_EMIT choix(k); });
+    connect(place.tag, &QPushButton::clicked, this, [this, k] { Q_EMIT tag(k); });
+    return place;
+}
+
+void PictFeuilleQSL::FaireBoites() {
+    const std::array<QHBoxLayout*, 5> rangees = {ui_->rangee1, ui_->rangee2, ui_->rangee3,
+                                                 ui_->rangee4, ui_->rangee5};
+    for (std::size_t i = 0; i < kNbBoitesEtiquette; ++i)
+        FaireBoite(i, *rangees[kBoitesEditeur[i].rangee - 1]);
+    ui_->rangee1->insertStretch(2, 1); // the callsign left, the number of the contact right
+}
+
+void PictFeuilleQSL::FaireBoite(std::size_t rang, QHBoxLayout& rangee) {
+    const DescriptionBoiteEditeur& d = kBoitesEditeur[rang];
+    BoiteEditeur& boite = boites_[rang];
+    boite.legende = new QLabel(QString::fromUtf8(d.legende), ui_->PictTag);
+    boite.legende->setFont(PoliceAjustee(boite.legende->font(), kPetite));
+    boite.texte = new QLineEdit(ui_->PictTag);
+    boite.filtre = new FiltreEdition(*boite.texte, d.touches, d.longueur);
+    boite.texte->setObjectName(Nom("FLdText_", static_cast<int>(d.boite)));
+    boite.texte->setAccessibleName(QString::fromUtf8(d.legende));
+    boite.texte->setToolTip(QString::fromUtf8(d.bulle));
+    boite.legende->setBuddy(boite.texte);
+    const int chiffre = boite.texte->fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    constexpr int kBords = 14;
+    boite.texte->setMinimumWidth(static_cast<int>(d.longueur) * chiffre + kBords);
+    if (d.boite == kBoiteRappel) { // shown, never typed into
+        boite.texte->setFrame(false);
+        boite.texte->setReadOnly(true);
+        boite.texte->setFocusPolicy(Qt::ClickFocus);
+    }
+    if (d.rangee == kRangeeContact) {
+        rangee.addWidget(boite.legende);
+        rangee.addWidget(boite.texte);
+    } else {
+        auto* cellule = new QVBoxLayout;
+        cellule->setSpacing(1);
+        cellule->addStretch(1);
+        cellule->addWidget(boite.legende);
+        cellule->addWidget(boite.texte);
+        rangee.addLayout(cellule, static_cast<int>(d.longueur));
+    }
+    connect(boite.texte, &QLineEdit::textEdited, this,
+            [this, &d](const QString& texte) { Q_EMIT boiteSaisie(d.boite, texte); });
+    connect(boite.texte, &QLineEdit::returnPressed, this,
+            [this, &d] { Q_EMIT boiteEntree(d.boite); });
+}
+
+void PictFeuilleQSL::BrancherBoutons() {
+    TeinterFond(*ui_->BtValidQSL, Teinte::VertClair);
+    RougirTexte(*ui_->BtDelQSL);
+    for (QPushButton* bouton : {ui_->BtValidQSL, ui_->BtDelQSL, ui_->BtLeaveQSL, ui_->BtPrintQSL,
+                                ui_->BtRestore, ui_->BtQuitQSL})
+        GarderPlace(*bouton);
+    GarderPlace(*ui_->LabAide);
+    connect(ui_->OptBureau, &QRadioButton::clicked, this,
+            [this] { Q_EMIT voieChoisie(VoieQSL::Bureau); });
+    connect(ui_->OptDirect, &QRadioButton::clicked, this,
+            [this] { Q_EMIT voieChoisie(VoieQSL::Direct); });
+}
+
+// The editor, its buttons, those of the sheet, then the places in the order of their numbers.
+void PictFeuilleQSL::OrdonnerTabulation() {
+    std::vector<QWidget*> ordre = {Boite(kBoiteNumeroFiche).texte};
+    for (std::size_t i = kBoiteIndicatif; i <= kBoiteLigne2; ++i)
+        ordre.push_back(Boite(i).texte);
+    ordre.insert(ordre.end(),
+                 {ui_->OptBureau, ui_->OptDirect, Boite(kBoiteManager).texte, ui_->BtValidQSL,
+                  ui_->BtDelQSL, ui_->BtLeaveQSL, ui_->BtPrintQSL, ui_->BtRestore, ui_->BtQuitQSL});
+    for (const Place& place : places_)
+        ordre.insert(ordre.end(), {place.tag, place.choix});
+    for (std::size_t i = 1; i < ordre.size(); ++i)
+        setTabOrder(ordre[i - 1], ordre[i]);
+}
+
+void PictFeuilleQSL::Montrer(const EtatFeuille& feuille) {
+    ui_->NrTag->setText(Q(feuille.vue.nrTag));
+    MontrerPlaces(feuille);
+    MontrerBoites(feuille);
+    MontrerVoie(feuille.voie);
+    MontrerBoutons(feuille.vue);
+    // While the print check waits, only its own two buttons act.
+    for (QWidget* partie :
+         std::initializer_list<QWidget*>{ui_->planche, ui_->PictTag, ui_->boutonsFeuille})
+        Activer(*partie, !feuille.vue.controle);
+    PeindreFonds();
+}
+
+void PictFeuilleQSL::MontrerPlaces(const EtatFeuille& feuille) {
+    const int etudiee = PlaceALEtude(feuille);
+    for (int k = 1; k <= kNbEtiquettes; ++k) {
+        const VuePlace vue = VoirPlace(feuille, k);
+        const Place& place = places_[EtatFeuille::Rang(k)];
+        place.tag->setText(SansMnemonique(vue.legendeTag));
+        Activer(*place.tag, vue.tagActif);
+        QFont police = font();
+        police.setBold(vue.jaune);
+        place.tag->setFont(police);
+        place.choix->setText(Q(vue.legendeChoix));
+        place.choix->setAccessibleName(Q(vue.legendeChoix + " : " + vue.legendeTag));
+        place.choix->setToolTip(BulleChoix(feuille.Etat(k)));
+        TeinterFond(*place.choix, vue.jaune ? Teinte::Jaune : Teinte::Aucune);
+        place.cadre->setLineWidth(k == etudiee ? kTraitEtudiee : 1);
+    }
+}
+
+void PictFeuilleQSL::MontrerBoites(const EtatFeuille& feuille) {
+    for (const DescriptionBoiteEditeur& d : kBoitesEditeur) {
+        BoiteEditeur& boite = Boite(d.boite);
+        const QString texte = Q(feuille.boites[d.boite]);
+        if (boite.texte->text() != texte) {
+            boite.filtre->Montrer(texte);
+            boite.texte->setCursorPosition(0);
+        }
+        if (d.boite == kBoiteRappel)
+            boite.legende->setVisible(!texte.isEmpty());
+        else
+            boite.texte->setReadOnly(!feuille.fraiche);
+    }
+    // A label that was read has report and mode in each other's box; the captions follow them.
+    const bool echanges = feuille.vue.supprimer;
+    const auto legende = [](std::size_t boite) {
+        return QString::fromUtf8(kBoitesEditeur[boite - 1].legende);
+    };
+    Boite(kBoiteMode).legende->setText(legende(echanges ? kBoiteReport : kBoiteMode));
+    Boite(kBoiteReport).legende->setText(legende(echanges ? kBoiteMode : kBoiteReport));
+    ui_->OptVia->setEnabled(feuille.fraiche);
+    ui_->LabAide->setVisible(feuille.boites[kBoiteIndicatif].empty() && !feuille.vue.controle);
+}
+
+void PictFeuilleQSL::MontrerVoie(VoieQSL voie) {
+    const std::array<std::pair<QRadioButton*, bool>, 2> options = {
+        {{ui_->OptBureau, voie == VoieQSL::Bureau}, {ui_->OptDirect, voie == VoieQSL::Direct}}};
+    for (const auto& [option, choisie] : options) {
+        // Otherwise the last one chosen could not be let go.
+        option->setAutoExclusive(false);
+        option->setChecked(choisie);
+    }
+    for (const auto& [option, choisie] : options)
+        option->setAutoExclusive(true);
+}
+
+void PictFeuilleQSL::MontrerBoutons(const VueFeuille& vue) {
+    Presenter(*ui_->BtValidQSL, vue.valider);
+    Presenter(*ui_->BtDelQSL, vue.supprimer);
+    Presenter(*ui_->BtLeaveQSL, vue.laisser);
+    Presenter(*ui_->BtQuitQSL, vue.quitter);
+    Presenter(*ui_->BtPrintQSL, vue.imprimer);
+    Presenter(*ui_->BtRestore, vue.restaurer);
+}
+
+// A box that takes no text looks like the panel behind it; the place under study stands out.
+void PictFeuilleQSL::PeindreFonds() {
+    for (const Place& place : places_) {
+        QPalette palette;
+        const bool etudiee = place.cadre->lineWidth() == kTraitEtudiee;
+        palette.setColor(QPalette::WindowText,
+                         palette.color(etudiee ? QPalette::Highlight : QPalette::Mid));
+        place.cadre->setPalette(palette);
+    }
+    for (BoiteEditeur& boite : boites_) {
+        QPalette palette;
+        if (boite.texte->isReadOnly())
+            palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+        boite.texte->setPalette(palette);
+    }
+}
+
+void PictFeuilleQSL::Accueillir(QWidget& panneau) {
+    GarderPlace(panneau);
+    ui_->accueil->addWidget(&panneau);
+}
+
+} // namespace orvalis

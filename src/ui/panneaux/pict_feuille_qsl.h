@@ -1,0 +1,73 @@
+// The QSL sheet: its sixteen places as they lie on the paper, and the editor of one label. It
+// paints an EtatFeuille and reports what the operator does; it decides nothing.
+#pragma once
+
+#include "qsl/feuille_qsl.h"
+
+#include <QFrame>
+
+#include <array>
+#include <memory>
+
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace orvalis::Ui {
+class PictFeuilleQSL;
+}
+
+namespace orvalis {
+
+class FiltreEdition;
+
+class PictFeuilleQSL : public QFrame {
+    Q_OBJECT
+  public:
+    explicit PictFeuilleQSL(QWidget* parent = nullptr);
+    ~PictFeuilleQSL() override;
+
+    /// Paints the whole panel. Text is edited only while the label is a fresh one, and nothing
+    /// while the print check waits.
+    void Montrer(const EtatFeuille& feuille);
+    /// Puts a panel under the editor, where it comes and goes without moving anything.
+    void Accueillir(QWidget& panneau);
+
+  Q_SIGNALS:
+    void choix(int k); ///< BtChoix of place `k`
+    void tag(int k);   ///< BtTag of place `k`
+    void boiteSaisie(std::size_t boite, const QString& texte);
+    void boiteEntree(std::size_t boite); ///< Enter, either one
+    void voieChoisie(orvalis::VoieQSL voie);
+
+  private:
+    struct Place {
+        QFrame* cadre = nullptr; ///< PictBtEtiq
+        QPushButton* tag = nullptr;
+        QPushButton* choix = nullptr;
+    };
+    struct BoiteEditeur {
+        QLineEdit* texte = nullptr;
+        QLabel* legende = nullptr;
+        FiltreEdition* filtre = nullptr;
+    };
+
+    [[nodiscard]] Place FairePlace(int k);
+    void FaireBoites();
+    void FaireBoite(std::size_t rang, QHBoxLayout& rangee);
+    void BrancherBoutons();
+    void OrdonnerTabulation();
+    void MontrerPlaces(const EtatFeuille& feuille);
+    void MontrerBoites(const EtatFeuille& feuille);
+    void MontrerVoie(VoieQSL voie);
+    void MontrerBoutons(const VueFeuille& vue);
+    void PeindreFonds();
+    [[nodiscard]] BoiteEditeur& Boite(std::size_t boite) { return boites_[boite - 1]; }
+
+    std::unique_ptr<Ui::PictFeuilleQSL> ui_;
+    std::array<Place, kNbEtiquettes> places_;
+    std::array<BoiteEditeur, kNbBoitesEtiquette> boites_;
+};
+
+} // namespace orvalis

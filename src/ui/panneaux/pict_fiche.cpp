@@ -1,0 +1,187 @@
+#include "ui/panneaux/pict_fiche.h"
+
+#include "ui/bureau/texte_qt.h"
+#include "ui/widgets/police.h"
+#include "ui/widgets/presence.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace orvalis {
+namespace {
+
+// The card, row by row: the first box of each cell; a box without a caption of its own
+// shares the cell of the box before it. The eye follows the order of the Enter key; box 17 stands
+// left of box 13.
+constexpr std::array<std::array<Boite, 6>, 3> kRangees = {{
+    {Boite::Indicatif, Boite::Date, Boite::Debut, Boite::Frequence, Boite::Mode,
+     Boite::ReportDonne},
+    {Boite::Prenom, Boite::Ville, Boite::Departement, Boite::SonLocator},
+    {Boite::Manager, Boite::Remarque, Boite::MaQsl, Boite::SaQsl, Boite::MonLocator},
+}};
+constexpr Boite kPasDeBoite{};
+
+constexpr std::array<std::string_view, kNbBoites> kNomsAccessibles = {
+    "Indicatif",   "Date",       "Heure de début", "Heure de fin", "Fréquence",
+    "Mode",        "RST donné",  "RST reçu",       "QTH",          "Son locator",
+    "Département", "Prénom",     "Informations",   "Ma QSL",       "Sa QSL",
+    "Mon locator", "QSL manager"};
+
+// What a screen reader says before the figure.
+const QString kDistanceLue = QStringLiteral("Distance : ");
+const QString kAzimutLu = QStringLiteral("Azimut : ");
+
+// A figure, which a screen reader says with what it measures.
+void MontrerMesure(QLabel& label, const QString& nom, const QString& texte) {
+    if (label.text() == texte)
+        return;
+    label.setText(texte);
+    label.setAccessibleName(nom + texte);
+}
+
+QLabel* FaireLabel(const char* nom, QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setObjectName(QString::fromLatin1(nom));
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+} // namespace
+
+PictFiche::PictFiche(QWidget* parent) : QFrame(parent) {
+    setObjectName(QStringLiteral("PictFiche"));
+    setFrameShape(QFrame::StyledPanel);
+    auto* pile = new QVBoxLayout(this);
+    pile->setContentsMargins(10, 6, 10, 8);
+    pile->setSpacing(4);
+    auto* entete = new QHBoxLayout;
+    FaireEntete(*entete);
+    pile->addLayout(entete);
+    for (const auto& rangee : kRangees) {
+        auto* ligne = new QHBoxLayout;
+        ligne->setSpacing(10);
+        for (const Boite premiere : rangee)
+            if (premiere != kPasDeBoite)
+                ligne->addWidget(FaireCellule(premiere));
+        if (&rangee == &kRangees.back())
+            ligne->addWidget(FaireResultats(), 1);
+        ligne->addStretch(1);
+        pile->addLayout(ligne);
+    }
+    QWidget* avant = nullptr;
+    for (const Boite boite : kOrdreTabulation) {
+        if (avant != nullptr)
+            setTabOrder(avant, &TxtFieldDe(boite));
+        avant = &TxtFieldDe(boite);
+    }
+}
+
+void PictFiche::FaireEntete(QHBoxLayout& entete) {
+    noFicheLab_ = FaireLabel("NoFicheLab", this);
+    noFicheLab_->setText(QStringLiteral("  Fiche N° 0  "));
+    noFicheLab_->setFont(PoliceAjustee(font(), kTitre));
+    labNonEnregistre_ = FaireLabel("LabNonEnregistre", this);
+    labNonEnregistre_->setText(QStringLiteral("Nouveau contact, pas encore enregistré"));
+    labNonEnregistre_->setStyleSheet(
+        QStringLiteral("background:#ffd866; color:#3a2d00; border-radius:4px; padding:1px 8px;"));
+    labNonEnregistre_->hide();
+    btActiveRech_ = new QPushButton(QStringLiteral("Voir contacts réalisés"), this);
+    btActiveRech_->setObjectName(QStringLiteral("BtActiveRech"));
+    btActiveRech_->setToolTip(QStringLiteral("Lister tous les contacts faits avec cette station"));
+    GarderPlace(*btActiveRech_);
+    btActiveRech_->hide();
+    entete.addWidget(noFicheLab_);
+    entete.addWidget(labNonEnregistre_);
+    entete.addStretch(1);
+    entete.addWidget(btActiveRech_);
+}
+
+TxtField* PictFiche::FaireBoite(const DescriptionBoite& boite) {
+    auto* champ = new TxtField(boite, this);
+    champ->setAccessibleName(Q(kNomsAccessibles[Rang(boite.boite)]));
+    const int chiffre = QFontMetrics(champ->font()).horizontalAdvance(QLatin1Char('0'));
+    constexpr int kBords = 14;
+    champ->setMinimumWidth(static_cast<int>(boite.longueur) * chiffre + kBords);
+    boites_[Rang(boite.boite)] = champ;
+    return champ;
+}
+
+QWidget* PictFiche::FaireCellule(Boite premiere) {
+    auto* cellule = new QWidget(this);
+    auto* pile = new QVBoxLayout(cellule);
+    pile->setContentsMargins(0, 0, 0, 0);
+    pile->setSpacing(1);
+    const DescriptionBoite& tete = Decrire(premiere);
+    auto* legende = FaireLabel("", cellule);
+    legende->setObjectName(Q(tete.nomLegende));
+    legende->setText(Q(tete.legende));
+    legende->setFont(PoliceAjustee(font(), kPetite));
+    // The underscores of a caption may be cut where the window is narrow, its box may not.
+    legende->setMinimumWidth(1);
+    pile->addWidget(legende);
+    auto* ligne = new QHBoxLayout;
+    ligne->setSpacing(4);
+    std::size_t i = Rang(premiere);
+    do
+        ligne->addWidget(FaireBoite(kBoites[i]));
+    while (++i < kNbBoites && kBoites[i].nomLegende.empty());
+    legende->setBuddy(&TxtFieldDe(premiere));
+    if (premiere == Boite::Departement) {
+        labDept_ = FaireLabel("LabDept", cellule);
+        labDept_->setMinimumWidth(
+            QFontMetrics(font()).horizontalAdvance(QStringLiteral("Territoire-de-Belfort ")));
+        TxtFieldDe(premiere).setFixedWidth(TxtFieldDe(premiere).minimumWidth());
+        ligne->addWidget(labDept_, 1);
+    }
+    pile->addLayout(ligne);
+    return cellule;
+}
+
+QWidget* PictFiche::FaireResultats() {
+    auto* cadre = new QWidget(this);
+    auto* grille = new QGridLayout(cadre);
+    grille->setContentsMargins(0, 0, 0, 0);
+    grille->setHorizontalSpacing(10);
+    grille->setVerticalSpacing(1);
+    const QFont grasse = PoliceAjustee(font(), 1.15);
+    const auto ajouter = [&](int colonne, const char* titre, const char* nom,
+                             const QString& modele) {
+        auto* legende = new QLabel(QString::fromUtf8(titre), cadre);
+        legende->setFont(PoliceAjustee(font(), kPetite));
+        grille->addWidget(legende, 0, colonne);
+        QLabel* label = FaireLabel(nom, cadre);
+        label->setFont(grasse);
+        label->setMinimumWidth(QFontMetrics(grasse).horizontalAdvance(modele));
+        label->setMinimumHeight(TxtFieldDe(Boite::Indicatif).sizeHint().height());
+        grille->addWidget(label, 1, colonne);
+        return label;
+    };
+    labDist_ = ajouter(0, "Distance", "LabDist", QStringLiteral("12345.6 Km"));
+    labAzim_ = ajouter(1, "Azimut", "LabAzim", QStringLiteral("000° "));
+    labDist_->setAccessibleName(kDistanceLue);
+    labAzim_->setAccessibleName(kAzimutLu);
+    grille->setColumnStretch(2, 1);
+    return cadre;
+}
+
+void PictFiche::Montrer(const VueCarte& vue) {
+    for (const DescriptionBoite& d : kBoites) {
+        const BoiteMontree& montree = vue.boites[Rang(d.boite)];
+        TxtField& ici = TxtFieldDe(d.boite);
+        if (const QString texte = Q(montree.texte); ici.text() != texte)
+            ici.Montrer(texte);
+        ici.Colorer(montree.couleur);
+    }
+    noFicheLab_->setText(Q(vue.numero));
+    MontrerMesure(*labDist_, kDistanceLue, Q(vue.distance));
+    MontrerMesure(*labAzim_, kAzimutLu, Q(vue.azimut));
+    labDept_->setText(Q(vue.departement));
+    labNonEnregistre_->setVisible(vue.nonEnregistre);
+    Presenter(*btActiveRech_, vue.activeRech);
+    Activer(*this, vue.active);
+}
+
+} // namespace orvalis

@@ -1,0 +1,41 @@
+// The card of a contact: seventeen entry boxes, its number, department, distance and azimuth.
+#pragma once
+
+#include "ui/carte/vue.h"
+#include "ui/widgets/txt_field.h"
+
+#include <QFrame>
+
+#include <array>
+
+class QLabel;
+class QPushButton;
+class QHBoxLayout;
+
+namespace orvalis {
+
+class PictFiche : public QFrame {
+    Q_OBJECT
+  public:
+    explicit PictFiche(QWidget* parent = nullptr);
+
+    [[nodiscard]] TxtField& TxtFieldDe(Boite boite) { return *boites_[Rang(boite)]; }
+    /// Everything the card shows; what is there already is not written again.
+    void Montrer(const VueCarte& vue);
+
+  private:
+    QWidget* FaireCellule(Boite premiere);
+    QWidget* FaireResultats();
+    void FaireEntete(QHBoxLayout& entete);
+    TxtField* FaireBoite(const DescriptionBoite& boite);
+
+    std::array<TxtField*, kNbBoites> boites_{};
+    QLabel* noFicheLab_ = nullptr;
+    QLabel* labNonEnregistre_ = nullptr;
+    QLabel* labDept_ = nullptr;
+    QLabel* labDist_ = nullptr;
+    QLabel* labAzim_ = nullptr;
+    QPushButton* btActiveRech_ = nullptr;
+};
+
+} // namespace orvalis

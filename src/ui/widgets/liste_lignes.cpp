@@ -1,0 +1,50 @@
+#include "ui/widgets/liste_lignes.h"
+
+#include "ui/bureau/texte_qt.h"
+#include "ui/widgets/police.h"
+
+#include <QSignalBlocker>
+#include <QtMath>
+
+namespace orvalis {
+
+ListeLignes::ListeLignes(QWidget* parent) : QListWidget(parent) {
+    connect(this, &QListWidget::currentRowChanged, this, [this](int ligne) {
+        if (ligne >= 0)
+            Q_EMIT ligneChoisie(ligne);
+    });
+    // A click on the line that is current already is a click too.
+    connect(this, &QListWidget::itemClicked, this,
+            [this](QListWidgetItem* element) { Q_EMIT ligneChoisie(row(element)); });
+}
+
+void ListeLignes::Remplir(std::span<const std::string> lignes) {
+    const QSignalBlocker silence(this);
+    QStringList textes;
+    for (const std::string& ligne : lignes)
+        textes << Q(ligne);
+    clear();
+    addItems(textes);
+}
+
+void ListeLignes::Selectionner(int ligne) {
+    const QSignalBlocker silence(this);
+    setCurrentRow(ligne);
+}
+
+int ListeLignes::Composer(const QFont& modele, int caracteres) {
+    setFont(PoliceFixe("Courier New", modele));
+    // A character's width may be a fraction: rounded down, forty of them would lack a few pixels.
+    const qreal caractere = QFontMetricsF(font()).horizontalAdvance(QLatin1Char('0'));
+    return qCeil(caractere) * caracteres + 2 * frameWidth();
+}
+
+void ListeLignes::focusInEvent(QFocusEvent* evenement) {
+    const QSignalBlocker silence(this);
+    const bool sansLigne = currentRow() < 0;
+    QListWidget::focusInEvent(evenement);
+    if (sansLigne)
+        setCurrentRow(-1);
+}
+
+} // namespace orvalis

@@ -1,0 +1,33 @@
+// A list of lines that begin with a record number; it reports only what the operator chose.
+#pragma once
+
+#include <QListWidget>
+
+#include <span>
+#include <string>
+
+namespace orvalis {
+
+/// Qt makes the first line current when a list without a current one takes the focus; here that
+/// would show another card than the operator asked for.
+class ListeLignes : public QListWidget {
+    Q_OBJECT
+  public:
+    explicit ListeLignes(QWidget* parent = nullptr);
+
+    /// Shows these lines; none is selected.
+    void Remplir(std::span<const std::string> lignes);
+    /// Selects a line (from 0) without reporting it; out of range: none.
+    void Selectionner(int ligne);
+    /// Takes the fixed-pitch font at the size of `modele`; returns the pixels that `caracteres`
+    /// characters of it need, frame included.
+    [[nodiscard]] int Composer(const QFont& modele, int caracteres);
+
+  Q_SIGNALS:
+    void ligneChoisie(int ligne); ///< from 0; a click on the selected line included
+
+  protected:
+    void focusInEvent(QFocusEvent* evenement) override;
+};
+
+} // namespace orvalis

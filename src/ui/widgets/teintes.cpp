@@ -1,0 +1,70 @@
+#include "ui/widgets/teintes.h"
+
+#include <QEvent>
+#include <QPalette>
+
+namespace orvalis {
+namespace {
+
+QColor TeinteEnCouleur(Teinte teinte) {
+    switch (teinte) {
+    case Teinte::Vert:
+        return {0, 255, 0};
+    case Teinte::VertClair:
+        return {192, 255, 192};
+    case Teinte::RougeClair:
+        return {255, 192, 192};
+    case Teinte::Peche:
+        return {255, 224, 192};
+    case Teinte::Jaune:
+        return {255, 255, 0};
+    case Teinte::Aucune:
+        break;
+    }
+    return {};
+}
+
+class Repeintre : public QObject {
+  public:
+    Repeintre(QWidget& controle, std::function<void()> peindre)
+        : QObject(&controle), peindre_(std::move(peindre)) {}
+    bool eventFilter(QObject* /*objet*/, QEvent* evenement) override {
+        // Only windows are told that the application's palette changes; to what is in them this one
+        // comes. It comes after painting too, which then changes nothing any more.
+        if (evenement->type() == QEvent::PaletteChange)
+            peindre_();
+        return false;
+    }
+
+  private:
+    std::function<void()> peindre_;
+};
+
+} // namespace
+
+void TeinterFond(QAbstractButton& bouton, Teinte teinte) {
+    QPalette palette;
+    if (teinte != Teinte::Aucune) {
+        palette.setColor(QPalette::Button, TeinteEnCouleur(teinte));
+        palette.setColor(QPalette::ButtonText, QColor(Qt::black));
+        palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x80, 0x70, 0x60));
+    }
+    bouton.setPalette(palette);
+}
+
+void RougirTexte(QAbstractButton& bouton) {
+    PeindreSelonBureau(bouton, [&bouton] {
+        QPalette palette;
+        const QColor rouge = RougeSur(palette.color(QPalette::Button));
+        palette.setColor(QPalette::Active, QPalette::ButtonText, rouge);
+        palette.setColor(QPalette::Inactive, QPalette::ButtonText, rouge);
+        bouton.setPalette(palette);
+    });
+}
+
+void PeindreSelonBureau(QWidget& controle, std::function<void()> peindre) {
+    peindre();
+    controle.installEventFilter(new Repeintre(controle, std::move(peindre)));
+}
+
+} // namespace orvalis

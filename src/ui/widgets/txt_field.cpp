@@ -1,0 +1,96 @@
+#include "ui/widgets/txt_field.h"
+
+#include "core/texte.h"
+#include "ui/bureau/texte_qt.h"
+#include "ui/widgets/filtre_edition.h"
+#include "ui/widgets/teintes.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPalette>
+
+namespace orvalis {
+
+TxtField::TxtField(const DescriptionBoite& boite, QWidget* parent)
+    : QLineEdit(parent), boite_(boite),
+      filtre_(new FiltreEdition(*this, boite.touches, boite.longueur)),
+      couleur_(CouleurAuRepos(boite.boite)) {
+    setObjectName(QStringLiteral("TxtField_%1").arg(Numero(boite.boite)));
+    if (boite.centre)
+        setAlignment(Qt::AlignCenter);
+    PeindreSelonBureau(*this, [this] { AppliquerCouleur(); });
+}
+
+void TxtField::Montrer(const QString& texte) {
+    filtre_->Montrer(texte);
+}
+
+void TxtField::Colorer(Couleur couleur) {
+    if (couleur_ == couleur)
+        return;
+    couleur_ = couleur;
+    AppliquerCouleur();
+}
+
+void TxtField::AppliquerCouleur() {
+    QPalette palette;
+    const bool saQsl = boite_.boite == Boite::SaQsl;
+    const std::optional<Rvb> fond = FondDe(couleur_);
+    if (fond) {
+        palette.setColor(QPalette::Base, QColor(fond->rouge, fond->vert, fond->bleu));
+        palette.setColor(QPalette::Text, saQsl ? QColor(0xA0, 0, 0) : QColor(Qt::black));
+    } else if (saQsl) {
+        palette.setColor(QPalette::Text, RougeSur(palette.color(QPalette::Window)));
+    }
+    setPalette(palette);
+}
+
+void TxtField::keyPressEvent(QKeyEvent* evenement) {
+    switch (evenement->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        evenement->accept();
+        Q_EMIT entree();
+        return;
+    case Qt::Key_F2:
+        evenement->accept();
+        Q_EMIT pressee();
+        Q_EMIT cliquee();
+        return;
+    default:
+        // A refused key is swallowed before it can replace what is selected.
+        if (Refusee(*evenement))
+            evenement->accept();
+        else
+            QLineEdit::keyPressEvent(evenement);
+    }
+}
+
+bool TxtField::Refusee(const QKeyEvent& evenement) const {
+    const QString texte = evenement.text();
+    return !texte.isEmpty() && texte.front().isPrint() &&
+           !evenement.modifiers().testFlag(Qt::ControlModifier) &&
+           FiltrerTouches(boite_.touches, S(texte)).empty();
+}
+
+void TxtField::mousePressEvent(QMouseEvent* evenement) {
+    QLineEdit::mousePressEvent(evenement);
+    pressionRecue_ = evenement->button() == Qt::LeftButton;
+    if (pressionRecue_)
+        Q_EMIT pressee();
+}
+
+void TxtField::mouseMoveEvent(QMouseEvent* evenement) {
+    // A hand that trembles during the press must not undo the selection the press just made.
+    if (!pressionRecue_)
+        QLineEdit::mouseMoveEvent(evenement);
+}
+
+void TxtField::mouseReleaseEvent(QMouseEvent* evenement) {
+    QLineEdit::mouseReleaseEvent(evenement);
+    if (pressionRecue_ && rect().contains(evenement->pos()))
+        Q_EMIT cliquee();
+    pressionRecue_ = false;
+}
+
+} // namespace orvalis

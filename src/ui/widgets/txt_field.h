@@ -1,0 +1,45 @@
+// One of the seventeen entry boxes: a line edit that filters what is typed or pasted and reports
+// what happened to it. It decides nothing.
+#pragma once
+
+#include "ui/carte/boites.h"
+#include "ui/carte/carte.h"
+
+#include <QLineEdit>
+
+namespace orvalis {
+
+class FiltreEdition;
+
+class TxtField : public QLineEdit {
+    Q_OBJECT
+  public:
+    TxtField(const DescriptionBoite& boite, QWidget* parent);
+
+    /// Shows a text as it is, past the key rules, and clears the undo history.
+    void Montrer(const QString& texte);
+    /// Background by a colour of the boxes; at rest it is the palette's own.
+    void Colorer(Couleur couleur);
+
+  Q_SIGNALS:
+    void entree();  ///< Enter, either one
+    void pressee(); ///< mouse press, or F2
+    void cliquee(); ///< press and release, or F2
+
+  protected:
+    void keyPressEvent(QKeyEvent* evenement) override;
+    void mousePressEvent(QMouseEvent* evenement) override;
+    void mouseMoveEvent(QMouseEvent* evenement) override;
+    void mouseReleaseEvent(QMouseEvent* evenement) override;
+
+  private:
+    void AppliquerCouleur();
+    [[nodiscard]] bool Refusee(const QKeyEvent& evenement) const;
+
+    const DescriptionBoite& boite_;
+    FiltreEdition* filtre_;
+    bool pressionRecue_ = false;
+    Couleur couleur_;
+};
+
+} // namespace orvalis

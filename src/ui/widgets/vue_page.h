@@ -1,0 +1,61 @@
+// The page on show, drawn as a ruled sheet of the paper log. A click on a row reports its record.
+#pragma once
+
+#include "ui/carte/ecran.h"
+
+#include <QAbstractScrollArea>
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace orvalis {
+
+class VuePage : public QAbstractScrollArea {
+    Q_OBJECT
+  public:
+    explicit VuePage(QWidget* parent = nullptr);
+
+    /// The rows of a page.
+    void Montrer(std::shared_ptr<const ContenuPage> contenu);
+    /// Marks the row of the record on the card; 0 for none.
+    void Marquer(std::int32_t numero);
+    /// Where row `rang` (from 0) lies in the viewport.
+    [[nodiscard]] QRect RectDeRangee(int rang) const;
+    /// The sheet as fixed-pitch text, a line per row.
+    [[nodiscard]] QString toPlainText() const;
+
+  Q_SIGNALS:
+    void rangeeChoisie(std::int32_t numero);
+
+  protected:
+    void paintEvent(QPaintEvent* evenement) override;
+    void resizeEvent(QResizeEvent* evenement) override;
+    void mousePressEvent(QMouseEvent* evenement) override;
+    void changeEvent(QEvent* evenement) override;
+
+  private:
+    struct Mesures {
+        QFont police;
+        qreal caractere = 0; ///< width of one character; it may be a fraction
+        int ligne = 0;       ///< height of one row
+        int tete = 0;        ///< height of the head
+        int largeur = 0;     ///< whole sheet
+        int hauteur = 0;
+        int appoint = 0; ///< what each column gets of the width that is left over
+
+        [[nodiscard]] int Colonne(std::size_t rang) const;
+    };
+    [[nodiscard]] Mesures Mesurer(qreal points) const;
+    void Ajuster();
+    void PeindreTete(QPainter& peintre) const;
+    void PeindreRangees(QPainter& peintre) const;
+
+    [[nodiscard]] const std::vector<RangeePage>& Rangees() const;
+
+    std::shared_ptr<const ContenuPage> contenu_ = std::make_shared<const ContenuPage>();
+    std::int32_t marquee_ = 0;
+    Mesures mesures_;
+};
+
+} // namespace orvalis

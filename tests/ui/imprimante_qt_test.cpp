@@ -1,0 +1,84 @@
+// What a printed document holds, as pdftotext (of poppler-utils) reads it back.
+#include "aides.h"
+#include "print/page_journal.h"
+#include "ui/bureau/imprimante_qt.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace orvalis::aides::imprimante_qt {
+
+using namespace testing;
+using namespace Qt::StringLiterals;
+
+struct Mot {
+    std::string texte;
+    double x, y, largeur; // twips from the corner of the printable area
+};
+
+auto Porte(const char* texte, double x, double y) {
+    return Contains(AllOf(Field(&Mot::texte, texte), Field(&Mot::x, DoubleNear(x, 2)),
+                          Field(&Mot::y, DoubleNear(y, 40))));
+}
+
+struct ImprimanteQtTest : Test {
+    QTemporaryDir dossier;
+    QString chemin = dossier.filePath(u"essai.pdf"_s);
+    QPrinter pdf{QPrinter::HighResolution};
+
+    ImprimanteQtTest() { SortirVers(chemin); }
+    void SortirVers(const QString& sortie) {
+        pdf.setOutputFormat(QPrinter::PdfFormat);
+        pdf.setOutputFileName(sortie);
+    }
+
+    // The words of the document, which is one page of A4 portrait.
+    std::vector<Mot> Relire() {
+        QProcess lecteur;
+        lecteur.start(u"pdftotext"_s, {u"-tsv"_s, chemin, u"-"_s});
+        EXPECT_TRUE(lecteur.waitForFinished());
+        const QString table = QString::fromUtf8(lecteur.readAllStandardOutput());
+        EXPECT_EQ(table.count(u"\t595.000000\t842.000000\t"_s), 1) << table.toStdString();
+        std::vector<Mot> mots;
+        for (const QString& ligne : table.split(u'\n', Qt::SkipEmptyParts)) {
+            const QStringList c = ligne.split(u'\t');
+            const auto twips = [&c](int colonne) { return c[colonne].toDouble() * 20; };
+            mots.push_back({c.last().toStdString(), twips(6) - 200, twips(7) - 200, twips(8)});
+        }
+        return mots;
+    }
+};
+
+TEST_F(ImprimanteQtTest, PageDuCahier) {
+    const Dossier autre;
+    const std::string fiche = Brute({{0, "HB9\xC9\xC0"}, {151, "12/05/02"}});
+    const Cahier cahier = Ouvrir(autre.Poser("F5ABC.Vek", fiche + fiche));
+    const Station station{{}, "F5XYZ", "JN18AA"};
+    ImprimanteQt imprimante(pdf);
+    ImprimerPage(imprimante, cahier, station, {3, 1, 2}, 1);
+
+    const auto mots = Relire();
+    EXPECT_THAT(mots, AllOf(Porte("Cahier", 400, 400), Porte("F5XYZ", 3050, 390),
+                            Porte("Déb", 1400, 1480), Porte("HB9ÉÀ", 3100, 2400),
+                            Porte("12/05/02", 10800, 1920), Porte("Page", 8900, 14100)));
+    const Mot& avant = mots[mots.size() - 2];
+    EXPECT_THAT(mots, Porte("3", avant.x + avant.largeur + 44, 14100)) << "on the same line";
+    EXPECT_NEAR(imprimante.LargeurTexte("n°"), avant.largeur, 2);
+}
+
+TEST_F(ImprimanteQtTest, SortiesImpossibles) {
+    ImprimanteQt{pdf}.EcrireEn(0, 0, "abandon");
+    EXPECT_FALSE(QFile::exists(chemin)) << "a document that is not ended prints nothing";
+    for (const QString& sortie :
+         {QString{}, dossier.filePath(u"absent/essai.pdf"_s), dossier.path(), u"/dev/full"_s}) {
+        SortirVers(sortie);
+        EXPECT_EQ(SortieChoisie(pdf), !sortie.isEmpty());
+        ImprimanteQt imprimante(pdf);
+        imprimante.EcrireEn(0, 0, "essai");
+        EXPECT_THAT([&] { imprimante.TerminerDocument(); },
+                    ThrowsMessage<ErreurImpression>(HasSubstr(sortie.toStdString())));
+    }
+}
+
+} // namespace orvalis::aides::imprimante_qt
