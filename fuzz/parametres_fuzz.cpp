@@ -1,4 +1,5 @@
 // A Settings file of arbitrary bytes: refused in French, or read, written and read alike.
+#include "core/erreurs.h"
 #include "core/parametres.h"
 #include "core/texte.h"
 #include "fichier_fuzz.h"
@@ -9,7 +10,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t n)
     Parametres lus;
     try {
         lus = LireParametres(chemin);
-    } catch (const ErreurParametres& refus) {
+    } catch (const Erreur& refus) {
         fuzz::Exiger(std::string_view(refus.what()).starts_with("Le fichier de paramètres"));
         return 0;
     }

@@ -12,7 +12,7 @@ namespace {
 FichierFiches OuvrirEnEcriture(const std::filesystem::path& chemin, bool lectureSeulePermise) {
     try {
         return {chemin, ModeFichier::LectureEcriture};
-    } catch (const ErreurFichier& echec) {
+    } catch (const Erreur& echec) {
         const int raison = echec.code().value();
         if (!lectureSeulePermise || (raison != EACCES && raison != EROFS && raison != EPERM))
             throw;
@@ -27,10 +27,17 @@ void OuvrirCahier(Cahier& cahier, const std::filesystem::path& chemin, bool lect
         cahier.chemin = chemin;
         return;
     }
-    FichierFiches fichier = OuvrirEnEcriture(chemin, lectureSeulePermise);
-    if (!fichier.Support().Verrouiller())
-        throw ErreurVerrou(chemin.string());
-    cahier.fichier = std::move(fichier);
+    try {
+        FichierFiches fichier = OuvrirEnEcriture(chemin, lectureSeulePermise);
+        if (!fichier.Support().Verrouiller())
+            throw Erreur(NatureErreur::DejaOuvert, chemin);
+        fichier.Support().DevenirLeCahier();
+        cahier.fichier = std::move(fichier);
+    } catch (Erreur& echec) {
+        if (chemin == cahier.chemin)
+            echec.ImputerAuCahier();
+        throw;
+    }
     cahier.chemin = chemin;
 }
 

@@ -1,22 +1,16 @@
 // The logbook: its open file, the number of its contacts, and what is done to them by record
-// number. All of it throws ErreurFichier when the system refuses a file operation.
+// number. All of it throws Erreur when the system refuses a file operation; it concerns the logbook
+// (ConcerneLeCahier) from the moment the file is open and locked.
 #pragma once
 
 #include "core/fichier_fiches.h"
 
 #include <cstdint>
 #include <filesystem>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
 namespace orvalis {
-
-/// Thrown when another copy of the program has the logbook open; what() is its path.
-class ErreurVerrou : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
-};
 
 /// The logbook on show.
 struct Cahier {
@@ -35,13 +29,14 @@ struct Cahier {
 
 /// Opens `chemin` in place of the file that was open, and locks it; N is not counted, whose
 /// logbook it is not settled. A file that may not be written is opened for reading only when
-/// `lectureSeulePermise` is set. When this throws (ErreurFichier, ErreurVerrou) the old file stays
-/// open.
+/// `lectureSeulePermise` is set. When this throws, also because another program has the file open,
+/// the old file stays open. That concerns the logbook only where `chemin` is its own path: then
+/// another program put a file there that is not to be had.
 void OuvrirCahier(Cahier& cahier, const std::filesystem::path& chemin,
                   bool lectureSeulePermise = false);
 
 /// Counts the contacts up to the end-of-log record: sets N. The file stays open, since its lock
-/// hangs on it; only a file put in its place is opened anew (ErreurFichier, ErreurVerrou).
+/// hangs on it; only a file put in its place is opened anew.
 void CompterFiches(Cahier& cahier);
 
 /// Record `k` (from 1); blank beyond the end of the file.

@@ -28,7 +28,7 @@ bool CreerCahier(const fs::path& lecteur, const Parametres& parametres) {
         return false;
     FichierFiches fichier(TrouverFichier(dossier, parametres.nomFichier), ModeFichier::Creation);
     if (!fichier.Support().Verrouiller())
-        throw ErreurVerrou((dossier / parametres.nomFichier).string());
+        throw Erreur(NatureErreur::DejaOuvert, dossier / parametres.nomFichier);
     EcrireParametres(CheminParametres(dossier), parametres);
     // An existing logbook is not emptied: only its first record becomes the end of the log.
     fichier.Ecrire(1, FicheFinDeLog(parametres.monLocator));

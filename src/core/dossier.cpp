@@ -1,6 +1,6 @@
 #include "core/dossier.h"
 
-#include "core/fichier.h"
+#include "core/erreurs.h"
 #include "core/texte.h"
 
 #include <array>
@@ -45,7 +45,7 @@ bool Present(const fs::path& chemin) {
     std::error_code erreur;
     const fs::file_status etat = fs::status(chemin, erreur);
     if (erreur && !EstAbsence(erreur))
-        throw ErreurFichier(ActionFichier::Ouvrir, chemin, erreur);
+        throw Erreur(NatureErreur::Ouvrir, chemin, erreur);
     return fs::exists(etat);
 }
 
@@ -87,7 +87,7 @@ fs::path TrouverFichier(const fs::path& dossier, std::string_view nom) {
         if (Majuscules(it->path().filename().string()) == cherche)
             return it->path();
     if (erreur && !EstAbsence(erreur))
-        throw ErreurFichier(ActionFichier::Ouvrir, dossier, erreur);
+        throw Erreur(NatureErreur::Ouvrir, dossier, erreur);
     return exact;
 }
 

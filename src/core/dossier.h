@@ -26,11 +26,11 @@ inline constexpr std::string_view kNomSauvegardes = "VekSave";
 /// The program folder on a drive.
 [[nodiscard]] std::filesystem::path DossierProgramme(const std::filesystem::path& lecteur);
 
-/// Whether something lies at `chemin`. Throws ErreurFichier when the system will not tell.
+/// Whether something lies at `chemin`. Throws Erreur when the system will not tell.
 [[nodiscard]] bool Present(const std::filesystem::path& chemin);
 
 /// Path of the file `nom` (UTF-8) in `dossier`: the one that is there under that name in
-/// whatever case, else the name as given. Throws ErreurFichier when the folder may not be read.
+/// whatever case, else the name as given. Throws Erreur when the folder may not be read.
 [[nodiscard]] std::filesystem::path TrouverFichier(const std::filesystem::path& dossier,
                                                    std::string_view nom);
 

@@ -29,34 +29,30 @@ int Drapeaux(ModeFichier mode) {
 
 } // namespace
 
-ErreurFichier::ErreurFichier(ActionFichier action, std::filesystem::path chemin,
-                             std::error_code raison)
-    : std::system_error(raison, chemin.string()), action_(action), chemin_(std::move(chemin)) {}
-
 Fichier::Fichier(std::filesystem::path chemin, ModeFichier mode)
     : protege_(mode == ModeFichier::Lecture), chemin_(std::move(chemin)) {
     constexpr mode_t kDroits = 0666;
-    const auto action =
-        mode == ModeFichier::Creation ? ActionFichier::Creer : ActionFichier::Ouvrir;
+    const auto nature = mode == ModeFichier::Creation ? NatureErreur::Creer : NatureErreur::Ouvrir;
     descripteur_ = ::open(chemin_.c_str(), Drapeaux(mode), kDroits);
     if (descripteur_ < 0)
-        throw ErreurFichier(action, chemin_, DerniereErreur());
+        throw Echec(nature, DerniereErreur());
     struct stat etat = {};
     if (::fstat(descripteur_, &etat) == 0 && S_ISDIR(etat.st_mode)) {
         Fermer();
-        throw ErreurFichier(action, chemin_, {EISDIR, std::generic_category()});
+        throw Echec(nature, {EISDIR, std::generic_category()});
     }
 }
 
 Fichier::Fichier(Fichier&& autre) noexcept
     : descripteur_(std::exchange(autre.descripteur_, -1)), protege_(autre.protege_),
-      chemin_(std::move(autre.chemin_)) {}
+      estLeCahier_(autre.estLeCahier_), chemin_(std::move(autre.chemin_)) {}
 
 Fichier& Fichier::operator=(Fichier&& autre) noexcept {
     if (this != &autre) {
         Fermer();
         descripteur_ = std::exchange(autre.descripteur_, -1);
         protege_ = autre.protege_;
+        estLeCahier_ = autre.estLeCahier_;
         chemin_ = std::move(autre.chemin_);
     }
     return *this;
@@ -72,10 +68,17 @@ void Fichier::Fermer() noexcept {
     descripteur_ = -1;
 }
 
+Erreur Fichier::Echec(NatureErreur nature, std::error_code raison) const {
+    Erreur echec(nature, chemin_, raison);
+    if (estLeCahier_)
+        echec.ImputerAuCahier();
+    return echec;
+}
+
 std::int64_t Fichier::Taille() const {
     struct stat etat = {};
     if (::fstat(descripteur_, &etat) != 0)
-        throw ErreurFichier(ActionFichier::Lire, chemin_, DerniereErreur());
+        throw Echec(NatureErreur::Lire, DerniereErreur());
     return etat.st_size;
 }
 
@@ -87,7 +90,7 @@ std::size_t Fichier::Lire(std::int64_t position, std::span<char> tampon) const {
         if (n < 0 && errno == EINTR)
             continue;
         if (n < 0)
-            throw ErreurFichier(ActionFichier::Lire, chemin_, DerniereErreur());
+            throw Echec(NatureErreur::Lire, DerniereErreur());
         if (n == 0)
             break;
         lus += static_cast<std::size_t>(n);
@@ -109,16 +112,16 @@ void Fichier::Ecrire(std::int64_t position, std::span<const char> octets) {
         if (n < 0 && errno == EINTR)
             continue;
         if (n <= 0)
-            throw ErreurFichier(ActionFichier::Ecrire, chemin_,
-                                n == 0 ? std::make_error_code(std::errc::no_space_on_device)
-                                       : DerniereErreur());
+            throw Echec(NatureErreur::Ecrire,
+                        n == 0 ? std::make_error_code(std::errc::no_space_on_device)
+                               : DerniereErreur());
         ecrits += static_cast<std::size_t>(n);
     }
 }
 
 void Fichier::Synchroniser() {
     if (::fdatasync(descripteur_) != 0 && errno != EINVAL && errno != EROFS)
-        throw ErreurFichier(ActionFichier::Synchroniser, chemin_, DerniereErreur());
+        throw Echec(NatureErreur::Synchroniser, DerniereErreur());
 }
 
 bool Fichier::Verrouiller() {
@@ -128,7 +131,7 @@ bool Fichier::Verrouiller() {
         return false;
     if (errno == ENOLCK || errno == ENOSYS || errno == EOPNOTSUPP || errno == EINVAL)
         return true;
-    throw ErreurFichier(ActionFichier::Verrouiller, chemin_, DerniereErreur());
+    throw Echec(NatureErreur::Verrouiller, DerniereErreur());
 }
 
 bool Fichier::EstLeMeme(const std::filesystem::path& autre) const {

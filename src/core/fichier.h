@@ -1,29 +1,15 @@
-// Positioned reads and writes on one open file. The operating system's calls appear only here and
-// in projection.h.
+// Positioned reads and writes on one open file. Every refusal of the system is thrown as an Erreur
+// (core/erreurs.h) that names the file, what was tried and the reason.
 #pragma once
+
+#include "core/erreurs.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <span>
-#include <system_error>
 
 namespace orvalis {
-
-/// What a failing file operation was about; the window words it in French.
-enum class ActionFichier { Ouvrir, Creer, Lire, Ecrire, Synchroniser, Verrouiller, Renommer };
-
-/// A failed file operation: which file, what was tried, and the system's reason (code()).
-class ErreurFichier : public std::system_error {
-  public:
-    ErreurFichier(ActionFichier action, std::filesystem::path chemin, std::error_code raison);
-    [[nodiscard]] ActionFichier Action() const noexcept { return action_; }
-    [[nodiscard]] const std::filesystem::path& Chemin() const noexcept { return chemin_; }
-
-  private:
-    ActionFichier action_;
-    std::filesystem::path chemin_;
-};
 
 enum class ModeFichier {
     Lecture,         ///< must exist; reading only
@@ -31,7 +17,7 @@ enum class ModeFichier {
     Creation         ///< created when missing; an existing file keeps its bytes
 };
 
-/// Owns one open file. Every operation throws ErreurFichier when the system refuses it.
+/// Owns one open file. Every operation throws Erreur when the system refuses it.
 class Fichier {
   public:
     Fichier() = default;
@@ -48,6 +34,10 @@ class Fichier {
     /// Opened for reading only.
     [[nodiscard]] bool EstProtege() const noexcept { return protege_; }
     void Fermer() noexcept;
+    /// From now on this is the open logbook: what fails on it concerns the logbook.
+    void DevenirLeCahier() noexcept { estLeCahier_ = true; }
+    /// The failure of an operation on this file.
+    [[nodiscard]] Erreur Echec(NatureErreur nature, std::error_code raison) const;
 
     /// Size in bytes.
     [[nodiscard]] std::int64_t Taille() const;
@@ -68,6 +58,7 @@ class Fichier {
   private:
     int descripteur_ = -1;
     bool protege_ = false;
+    bool estLeCahier_ = false;
     std::filesystem::path chemin_;
 };
 

@@ -14,7 +14,7 @@
 
 namespace orvalis {
 
-/// Record access to one open logbook file. Throws ErreurFichier when the system refuses an
+/// Record access to one open logbook file. Throws Erreur when the system refuses an
 /// operation.
 class FichierFiches {
   public:

@@ -72,9 +72,7 @@ Parametres LireParametres(const fs::path& chemin) {
     const bool complet =
         valeurs.size() == kNbValeurs && !Rogner(valeurs[0]).empty() && !Rogner(valeurs[1]).empty();
     if (!complet)
-        throw ErreurParametres("Le fichier de paramètres « " + chemin.string() +
-                               " » est incomplet : il doit contenir l'indicatif, le nom du "
-                               "cahier et le locator de la station.");
+        throw Erreur(NatureErreur::ParametresIncomplets, chemin);
     return {valeurs[0], valeurs[1], Cadrer(valeurs[2], kLargeurLocator)};
 }
 
@@ -92,14 +90,14 @@ void EcrireParametres(const fs::path& chemin, const Parametres& parametres) {
         Fichier fichier(provisoire, ModeFichier::Creation);
         fichier.Ecrire(0, ligne);
         fichier.Synchroniser();
-    } catch (const ErreurFichier& echec) {
+    } catch (const Erreur& echec) {
         fs::remove(provisoire, erreur);
-        throw ErreurFichier(echec.Action(), reel, echec.code());
+        throw Erreur(echec.Nature(), reel, echec.code());
     }
     fs::rename(provisoire, reel, erreur);
     if (const std::error_code raison = erreur) {
         fs::remove(provisoire, erreur);
-        throw ErreurFichier(ActionFichier::Renommer, reel, raison);
+        throw Erreur(NatureErreur::Remplacer, reel, raison);
     }
 }
 

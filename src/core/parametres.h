@@ -2,7 +2,6 @@
 #pragma once
 
 #include <filesystem>
-#include <stdexcept>
 #include <string>
 
 namespace orvalis {
@@ -13,19 +12,13 @@ struct Parametres {
     std::string monLocator; ///< own locator, exactly 6 characters
 };
 
-/// A Settings file that can be read but makes no sense; what() is a French sentence.
-class ErreurParametres : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
-};
-
 /// Reads the three values, with or without quotes, doubled quotes inside, CR LF or LF; the third
-/// is padded or cut to 6 characters. Throws ErreurFichier when the file cannot be read and
-/// ErreurParametres when it holds fewer than three values.
+/// is padded or cut to 6 characters. Throws Erreur when the file cannot be read, and when it holds
+/// fewer than three values.
 [[nodiscard]] Parametres LireParametres(const std::filesystem::path& chemin);
 
 /// Writes the file anew, quoted, ending in CR LF, under the name of the file that is there. The
-/// old file stays whole until the new one is on the disk. Throws ErreurFichier.
+/// old file stays whole until the new one is on the disk. Throws Erreur.
 void EcrireParametres(const std::filesystem::path& chemin, const Parametres& parametres);
 
 } // namespace orvalis

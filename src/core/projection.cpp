@@ -24,7 +24,7 @@ Projection::Projection(const Fichier& fichier, std::int64_t taille)
     if (page_ >= 0 && ::ftruncate(page_, static_cast<off_t>(kPlusGrandePiece)) == 0)
         atelier_ = Projeter(page_, kPlusGrandePiece);
     if (atelier_ == nullptr) {
-        const ErreurFichier echec = Echec();
+        const Erreur echec = Echec();
         Liberer();
         throw echec;
     }
@@ -43,10 +43,10 @@ void Projection::Liberer() noexcept {
         ::munmap(octets_, taille_);
 }
 
-ErreurFichier Projection::Echec() const {
+Erreur Projection::Echec() const {
     // The kernel says "bad address" for a page that the disk does not take.
     const int raison = errno == EFAULT || errno == 0 ? EIO : errno;
-    return {ActionFichier::Ecrire, fichier_.Chemin(), {raison, std::generic_category()}};
+    return fichier_.Echec(NatureErreur::Ecrire, {raison, std::generic_category()});
 }
 
 void Projection::Remplacer(std::int64_t position, std::size_t nombre) {
@@ -56,7 +56,7 @@ void Projection::Remplacer(std::int64_t position, std::size_t nombre) {
     const auto copies = ::pread(page_, ici, nombre, 0);
     if (copies == static_cast<ssize_t>(nombre))
         return;
-    const ErreurFichier echec = Echec();
+    const Erreur echec = Echec();
     if (copies > 0)
         std::memcpy(ici, anciens_.data(), static_cast<std::size_t>(copies));
     throw echec;
@@ -65,7 +65,7 @@ void Projection::Remplacer(std::int64_t position, std::size_t nombre) {
 EcritureEntiere::EcritureEntiere(Fichier& fichier, std::int64_t taille) : fichier_(fichier) {
     try {
         projection_.emplace(fichier, taille);
-    } catch (const ErreurFichier&) { // NOLINT(bugprone-empty-catch)
+    } catch (const Erreur&) { // NOLINT(bugprone-empty-catch)
         // Better a write that a kill might cut than none.
     }
 }

@@ -27,7 +27,7 @@ inline constexpr std::size_t kPlusGrandePiece = 4096;
 class Projection {
   public:
     /// Maps the first `taille` bytes (1 to the file's size), for reading and writing. Throws
-    /// ErreurFichier when the file may not be written or cannot be mapped.
+    /// Erreur when the file may not be written or cannot be mapped.
     Projection(const Fichier& fichier, std::int64_t taille);
     Projection(const Projection&) = delete;
     Projection& operator=(const Projection&) = delete;
@@ -39,11 +39,11 @@ class Projection {
         return std::span<char, kPlusGrandePiece>(atelier_, kPlusGrandePiece);
     }
     /// Puts the first `nombre` bytes of the workshop at byte `position`, all of them or, when the
-    /// program is killed or this throws ErreurFichier, none. The piece lies within the mapping.
+    /// program is killed or this throws Erreur, none. The piece lies within the mapping.
     void Remplacer(std::int64_t position, std::size_t nombre);
 
   private:
-    [[nodiscard]] ErreurFichier Echec() const;
+    [[nodiscard]] Erreur Echec() const;
     void Liberer() noexcept;
 
     const Fichier& fichier_;
@@ -61,7 +61,7 @@ class EcritureEntiere {
     /// For pieces within the first `taille` bytes (1 to the file's size) of `fichier`, which must
     /// outlive this object and must not be shortened meanwhile.
     EcritureEntiere(Fichier& fichier, std::int64_t taille);
-    /// Puts `octets`, at most kPlusGrandePiece, at byte `position`. Throws ErreurFichier.
+    /// Puts `octets`, at most kPlusGrandePiece, at byte `position`. Throws Erreur.
     void Poser(std::int64_t position, std::span<const char> octets);
 
   private:
@@ -70,7 +70,7 @@ class EcritureEntiere {
 };
 
 /// Writes `octets` at byte `position`: in one indivisible piece when the file already has those
-/// bytes and they are no more than kPlusGrandePiece, else as a plain write. Throws ErreurFichier.
+/// bytes and they are no more than kPlusGrandePiece, else as a plain write. Throws Erreur.
 void EcrireEntier(Fichier& fichier, std::int64_t position, std::span<const char> octets);
 
 } // namespace orvalis

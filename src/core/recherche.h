@@ -25,11 +25,11 @@ struct ResultatRecherche {
 [[nodiscard]] bool EstDateOuHeure(std::string_view texte);
 
 /// Contacts of the logbook, which is counted, for a searched text: by date when it looks like one,
-/// else by callsign, suffixed forms (F5ABC/P for F5ABC) included. Throws ErreurFichier.
+/// else by callsign, suffixed forms (F5ABC/P for F5ABC) included. Throws Erreur.
 [[nodiscard]] ResultatRecherche ChercherContacts(const Cahier& cahier, std::string_view texte);
 
 /// Neighbouring records of equal callsign, date, times and frequency among 1 to N, each pair under
-/// the number of its first record. Throws ErreurFichier.
+/// the number of its first record. Throws Erreur.
 [[nodiscard]] ResultatRecherche ChercherDoublons(const Cahier& cahier);
 
 } // namespace orvalis

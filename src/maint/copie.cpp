@@ -14,7 +14,7 @@ std::filesystem::path CheminSauvegardes(const std::filesystem::path& lecteur) {
     if (!raison && !std::filesystem::is_directory(dossier, raison) && !raison)
         raison = std::make_error_code(std::errc::not_a_directory);
     if (raison)
-        throw ErreurFichier(ActionFichier::Creer, dossier, raison);
+        throw Erreur(NatureErreur::Creer, dossier, raison);
     return dossier;
 }
 
@@ -24,7 +24,7 @@ void CopierCahier(const Cahier& cahier, const Station& station,
         return;
     FichierFiches copie(cible, ModeFichier::Creation);
     if (!copie.Support().Verrouiller())
-        throw ErreurVerrou(cible.string());
+        throw Erreur(NatureErreur::DejaOuvert, cible);
     std::vector<QsoRecord> bloc(kFichesParBloc);
     const std::int32_t derniere = cahier.nbFiches + 1;
     for (std::int32_t k = 1; k <= derniere;) {

@@ -9,7 +9,7 @@
 namespace orvalis {
 
 /// The backup folder in the program folder of `lecteur`, under the name in whatever case that is
-/// there; created when missing. Throws ErreurFichier naming it when that fails.
+/// there; created when missing. Throws Erreur naming it when that fails.
 [[nodiscard]] std::filesystem::path CheminSauvegardes(const std::filesystem::path& lecteur);
 
 /// Writes records 1 to N + 1 of the logbook (N being counted), the end-of-log record
@@ -18,8 +18,8 @@ namespace orvalis {
 /// carrying the station's locator: a blank record in its place would count as a contact. When
 /// `cible` is the open logbook itself, under whatever name, nothing happens.
 ///
-/// Throws ErreurVerrou when another program has `cible` open, and ErreurFichier naming `cible`
-/// when it cannot be written; the logbook is only read.
+/// Throws Erreur naming `cible` when it cannot be written or another program has it open; the
+/// logbook is only read.
 void CopierCahier(const Cahier& cahier, const Station& station, const std::filesystem::path& cible);
 
 } // namespace orvalis

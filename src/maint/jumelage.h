@@ -19,7 +19,7 @@ namespace orvalis {
 /// disk: killed before, the program leaves the contacts as they were, whatever lay behind them.
 ///
 /// Returns the number of contacts appended, N being counted anew.
-/// Throws ErreurFichier, naming the source when that is what cannot be read.
+/// Throws Erreur, naming the source when that is what cannot be read.
 std::int32_t JumelerCahier(Cahier& cahier, const Station& station,
                            const std::filesystem::path& source);
 

@@ -26,7 +26,7 @@ struct BilanOuverture {
 /// written opens for reading when its name is not the station's callsign. That no record of it is
 /// current yet is the caller's business.
 ///
-/// Throws ErreurFichier or ErreurVerrou; the current logbook then stays open as it was.
+/// Throws Erreur; the current logbook then stays open as it was.
 BilanOuverture OuvrirAutreCahier(Cahier& cahier, Station& station,
                                  const std::filesystem::path& chemin);
 

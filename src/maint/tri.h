@@ -43,12 +43,12 @@ class Tri {
   public:
     /// Sorts records 1 to `nbFiches` of `fichier`, which must outlive this object and which nobody
     /// else may write meanwhile. Fewer than two: ended at once. A short last record is first
-    /// filled up with blanks. Throws ErreurFichier, also when the logbook may not be written.
+    /// filled up with blanks. Throws Erreur, also when the logbook may not be written.
     Tri(FichierFiches& fichier, std::int32_t nbFiches);
 
     /// Walks on for at most `pasMax` steps, and not beyond the end of a pass; when the last pass
     /// ends, what was sorted is flushed to the disk. A few thousand steps take about a tenth of a
-    /// millisecond. Throws ErreurFichier.
+    /// millisecond. Throws Erreur.
     void Avancer(std::int64_t pasMax);
 
     [[nodiscard]] const EtatTri& Etat() const noexcept { return etat_; }

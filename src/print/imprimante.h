@@ -5,17 +5,9 @@
 // top-left corner and never wrapped. Lines and rectangles are thin and black, texts are black.
 #pragma once
 
-#include <stdexcept>
 #include <string_view>
 
 namespace orvalis {
-
-/// No printer, a printer that fails, or a PDF file that cannot be written; what() is a French
-/// sentence for the operator.
-class ErreurImpression : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
-};
 
 enum class Papier { A4 };
 enum class Orientation { Portrait, Paysage };
@@ -54,7 +46,8 @@ class Imprimante {
     /// An unfilled rectangle between two opposite corners.
     virtual void TracerRectangle(int x1, int y1, int x2, int y2) = 0;
 
-    /// Sends the document. Throws ErreurImpression.
+    /// Sends the document. Throws Erreur when there is no printer, when it fails, or when the PDF
+    /// file cannot be written.
     virtual void TerminerDocument() = 0;
 
   protected:

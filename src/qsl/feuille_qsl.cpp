@@ -54,7 +54,7 @@ void CreerFeuille(FeuilleQSL& feuille) {
     try {
         feuille.fichier.Ecrire(0, {etiquettes.front().octets.data(), sizeof etiquettes});
         feuille.fichier.Synchroniser();
-    } catch (const ErreurFichier&) {
+    } catch (const Erreur&) {
         std::error_code erreur;
         std::filesystem::remove(feuille.chemin, erreur);
         throw;

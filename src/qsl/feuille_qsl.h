@@ -1,6 +1,6 @@
 // The sheet of sixteen QSL labels: its file, the state of each place, the label editor's boxes,
 // and what the captions say. The window paints this state and changes it only through the
-// procedures here and in vie_etiquette.h. File operations throw ErreurFichier.
+// procedures here and in vie_etiquette.h. File operations throw Erreur.
 #pragma once
 
 #include "core/fichier.h"

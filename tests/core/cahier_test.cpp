@@ -68,10 +68,10 @@ TEST_F(Fiches, AjoutsEtSuppressionsOctetParOctet) {
 
 TEST_F(Fiches, UnCahierNeSOuvrePasDeuxFois) {
     Poser(f);
-    EXPECT_THROW(Ouvrir(dossier / "F5ABC.Vek"), ErreurVerrou);
+    EXPECT_THROW(Ouvrir(dossier / "F5ABC.Vek"), Erreur);
     OuvrirCahier(cahier, dossier / "./F5ABC.Vek"); // its own, under another path
     for (const char* refuse : {"absent.Vek", "."})
-        EXPECT_THROW(OuvrirCahier(cahier, dossier / refuse), ErreurFichier);
+        EXPECT_THROW(OuvrirCahier(cahier, dossier / refuse), Erreur);
     EXPECT_FALSE(std::filesystem::exists(dossier / "absent.Vek"));
     EXPECT_EQ(cahier.fichier.Lire(1).octets[0], '\\'); // the old one stays open
 }

@@ -12,7 +12,7 @@ TEST(Parametres, FormesLues) {
         try {
             const Parametres lus = LireParametres(dossier.Poser("Parvel.cfg", octets));
             return lus.indicatif + '|' + lus.nomFichier + '|' + lus.monLocator;
-        } catch (const ErreurParametres&) {
+        } catch (const Erreur&) {
             return std::string{"refusés"};
         }
     };
@@ -22,7 +22,7 @@ TEST(Parametres, FormesLues) {
                           {"\"F5ABC\"\r\n\"F5ABC.Vek\"\r\n\"\"\r\n", "F5ABC|F5ABC.Vek|      "}});
     for (const char* octets : {"", "\r\n", "\"F5ABC\"", "\"A\",\"B\"", "\"\",\"\",\"\""})
         EXPECT_EQ(lire(octets), "refusés") << octets;
-    EXPECT_THROW(static_cast<void>(LireParametres(dossier / "rien")), ErreurFichier);
+    EXPECT_THROW(static_cast<void>(LireParametres(dossier / "rien")), Erreur);
 }
 
 TEST(Parametres, EcritureSousLeNomQuiEstLa) {
@@ -68,7 +68,7 @@ TEST(LocatorStation, LesAutresReglagesRestentCeuxDuFichier) {
     ChangerLocatorStation(station, carte, " JN05BB ", true);
     EXPECT_EQ(Lire(chemin), "\"A\",\"B.Vek\",\"JN05BB\"\r\n");
     std::filesystem::remove(chemin);
-    EXPECT_THROW(ChangerLocatorStation(station, carte, "AA00AA", true), ErreurFichier);
+    EXPECT_THROW(ChangerLocatorStation(station, carte, "AA00AA", true), Erreur);
     EXPECT_EQ(station.monLocator, "JN05BB");
 }
 

@@ -38,7 +38,7 @@ TEST(Projection, RemplaceToutOuRien) {
     auto* page = const_cast<char*>(projection.Octets()) + kTaille / 2;
     ASSERT_EQ(::mprotect(page, kTaille / 2, PROT_READ), 0);
     Remplir(projection, 'c');
-    EXPECT_THROW(projection.Remplacer(kIci, kPiece), ErreurFichier);
+    EXPECT_THROW(projection.Remplacer(kIci, kPiece), Erreur);
     EXPECT_EQ(std::string(projection.Octets(), kTaille), attendu);
 }
 

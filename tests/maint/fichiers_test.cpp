@@ -11,7 +11,8 @@ using namespace testing;
 
 // What fails on a file.
 auto EchoueSur(const fs::path& chemin) {
-    return Throws<ErreurFichier>(Property(&ErreurFichier::Chemin, chemin));
+    return Throws<Erreur>(
+        AllOf(Property(&Erreur::Chemin, chemin), Property(&Erreur::ConcerneLeCahier, false)));
 }
 
 TEST(Jumelage, OctetParOctet) {
@@ -110,8 +111,8 @@ TEST(Echecs, NeChangentRien) {
     }
     for (const fs::path& cible : {dossier / "absent/C.Vek", ici, fs::path("/dev/full")})
         EXPECT_THAT([&] { CopierCahier(cahier, nous, cible); }, EchoueSur(cible));
-    EXPECT_THROW(OuvrirAutreCahier(cahier, nous, prise), ErreurVerrou);
-    EXPECT_THROW(CopierCahier(cahier, nous, prise), ErreurVerrou);
+    EXPECT_THROW(OuvrirAutreCahier(cahier, nous, prise), Erreur);
+    EXPECT_THROW(CopierCahier(cahier, nous, prise), Erreur);
 
     fs::create_symlink(station, dossier / "Lien.Vek");
     CopierCahier(cahier, nous, dossier / "Lien.Vek");

@@ -94,7 +94,7 @@ TEST(Tri, DerniereFicheCourteEtLectureSeule) {
     courte.resize(165, ' ');
     EXPECT_EQ(cahier.Octets(), courte + Contact("A", "01/01/02"));
     FichierFiches lecture(cahier.dossier / "J.Vek", ModeFichier::Lecture);
-    EXPECT_THROW(Tri(lecture, 2).Avancer(kToutDroit), ErreurFichier);
+    EXPECT_THROW(Tri(lecture, 2).Avancer(kToutDroit), Erreur);
 }
 
 } // namespace orvalis::aides::tri

@@ -77,7 +77,7 @@ TEST_F(ImprimanteQtTest, SortiesImpossibles) {
         ImprimanteQt imprimante(pdf);
         imprimante.EcrireEn(0, 0, "essai");
         EXPECT_THAT([&] { imprimante.TerminerDocument(); },
-                    ThrowsMessage<ErreurImpression>(HasSubstr(sortie.toStdString())));
+                    ThrowsMessage<Erreur>(HasSubstr(sortie.toStdString())));
     }
 }
 

@@ -200,7 +200,7 @@ class ImprimanteQuiNote : public orvalis::Imprimante {
     }
     void Echouer() {
         noter_("imprimante en panne après " + std::to_string(nombre_) + " opérations");
-        throw orvalis::ErreurImpression("L'imprimante ne répond plus.");
+        throw orvalis::Erreur("L'imprimante ne répond plus.");
     }
 
     int panne_;
@@ -268,7 +268,7 @@ class SystemeJumeau : public orvalis::Systeme {
         }
         if (sort == 4) {
             Noter("pas d'imprimante");
-            throw orvalis::ErreurImpression("Aucune imprimante.");
+            throw orvalis::Erreur("Aucune imprimante.");
         }
         const int panne = sort == 5 ? -1 : sort == 6 ? 1 + alea.Sous(kOperations) : 0;
         return std::make_unique<ImprimanteQuiNote>(panne,

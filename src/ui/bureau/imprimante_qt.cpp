@@ -1,5 +1,7 @@
 #include "ui/bureau/imprimante_qt.h"
 
+#include "core/erreurs.h"
+
 #include <QFile>
 #include <QFontMetricsF>
 #include <QPageLayout>
@@ -41,20 +43,14 @@ QString Texte(std::string_view utf8) {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
-[[noreturn]] void Echouer(const QString& phrase) {
-    throw ErreurImpression(phrase.toStdString());
-}
-
 bool EstPdf(const QPrinter& imprimante) {
     return imprimante.outputFormat() == QPrinter::PdfFormat;
 }
 
-QString Refus(const QPrinter& imprimante) {
+Erreur Refus(const QPrinter& imprimante) {
     if (EstPdf(imprimante))
-        return QStringLiteral("Impossible d'écrire le fichier PDF « %1 ».")
-            .arg(imprimante.outputFileName());
-    return QStringLiteral("L'imprimante « %1 » ne répond pas : rien n'a été imprimé.")
-        .arg(imprimante.printerName());
+        return {NatureErreur::EcrirePdf, imprimante.outputFileName().toStdString()};
+    return Erreur::DImprimante(imprimante.printerName().toStdString());
 }
 
 // A full disk shows only in the file: its last line is missing.
@@ -145,10 +141,10 @@ void ImprimanteQt::TracerRectangle(int x1, int y1, int x2, int y2) {
 void ImprimanteQt::TerminerDocument() {
     const std::vector<Trace> dessin = std::exchange(dessin_, {});
     if (!SortieChoisie(imprimante_))
-        Echouer(QStringLiteral("Aucune imprimante n'est choisie."));
+        throw Erreur::DImprimante({});
     QPainter peintre;
     if (!imprimante_.isValid() || !peintre.begin(&imprimante_))
-        Echouer(Refus(imprimante_));
+        throw Refus(imprimante_);
     // A printer that refuses the resolution is scaled to twips.
     peintre.scale(static_cast<double>(imprimante_.logicalDpiX()) / kTwipsParPouce,
                   static_cast<double>(imprimante_.logicalDpiY()) / kTwipsParPouce);
@@ -159,7 +155,7 @@ void ImprimanteQt::TerminerDocument() {
     const QPrinter::PrinterState etat = imprimante_.printerState();
     if (!envoye || etat == QPrinter::Error || etat == QPrinter::Aborted ||
         (EstPdf(imprimante_) && !PdfComplet(imprimante_.outputFileName())))
-        Echouer(Refus(imprimante_));
+        throw Refus(imprimante_);
 }
 
 } // namespace orvalis

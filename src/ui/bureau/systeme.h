@@ -47,7 +47,7 @@ class Systeme {
     [[nodiscard]] virtual QString ChoisirFichier(QWidget* parent,
                                                  const DemandeFichier& demande) = 0;
     /// The printer for one document. Asks the operator when none is chosen; null when that was
-    /// cancelled. Throws ErreurImpression.
+    /// cancelled. Throws Erreur.
     [[nodiscard]] virtual std::unique_ptr<Imprimante> PreparerImpression(QWidget* parent) = 0;
     /// Lets the operator choose the printer for every print to come.
     virtual void ConfigurerImprimante(QWidget* parent) = 0;

@@ -100,10 +100,10 @@ void ColorerZone(Carte& carte, Boite boite, Couleur couleur);
 void MettreAuRepos(Carte& carte);
 
 /// Reads record `k` (from 1) into the record buffer, the working slots and the boxes. Throws
-/// ErreurFichier.
+/// Erreur.
 void LireFiche(Carte& carte, const Cahier& cahier, std::int32_t k);
 
-/// Writes record `k` from the working slots. The caller flushes. Throws ErreurFichier.
+/// Writes record `k` from the working slots. The caller flushes. Throws Erreur.
 void EcrireFiche(Carte& carte, Cahier& cahier, std::int32_t k);
 
 /// The labels of record `k`, whose fields stand in the working slots. The distance goes from the

@@ -2,7 +2,7 @@
 
 #include "core/creation.h"
 #include "core/dossier.h"
-#include "core/messages.h"
+#include "core/erreurs.h"
 #include "core/texte.h"
 #include "geo/locator.h"
 #include "ui/bureau/systeme.h"

@@ -1,6 +1,6 @@
 #include "ui/fenetre/orvalis.h"
 
-#include "core/messages.h"
+#include "core/erreurs.h"
 #include "ui/bureau/texte_qt.h"
 #include "ui/flux/flux_demarrage.h"
 #include "ui/panneaux/fra_msg_fiche.h"

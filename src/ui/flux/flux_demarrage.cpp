@@ -2,7 +2,7 @@
 
 #include "core/creation.h"
 #include "core/dossier.h"
-#include "core/messages.h"
+#include "core/erreurs.h"
 #include "core/parametres.h"
 #include "ui/bureau/sablier.h"
 #include "ui/bureau/systeme.h"
@@ -91,7 +91,7 @@ void LancerCompagnon(Plateau& p, std::string_view nom) {
     const auto lancer = [&](std::string_view programme) -> std::optional<QString> {
         try {
             return p.systeme.Lancer(Q(TrouverFichier(dossier, programme).string()));
-        } catch (const ErreurFichier& echec) { // the folder cannot be listed
+        } catch (const Erreur& echec) { // the folder cannot be listed
             return Q(RaisonFrancaise(echec.code()));
         }
     };

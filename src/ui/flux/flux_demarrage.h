@@ -15,7 +15,7 @@ void Demarrer(Plateau& p);
 
 /// Reads the Settings file, opens the logbook it names and shows it (Pret). Without program folder
 /// or Settings file the creation dialog runs first: Recommencer once it has written them, Arreter
-/// when the operator gave up. Throws ErreurFichier, ErreurParametres, ErreurVerrou.
+/// when the operator gave up. Throws Erreur.
 [[nodiscard]] Demarrage ChargerParametres(Plateau& p);
 
 /// Fills the window from the open logbook.

@@ -2,7 +2,7 @@
 
 #include "core/cahier.h"
 #include "core/dossier.h"
-#include "core/messages.h"
+#include "core/erreurs.h"
 #include "maint/copie.h"
 #include "maint/ouverture.h"
 #include "ui/bureau/dossier_amovible.h"
@@ -47,11 +47,11 @@ bool Essayer(Plateau& p, const std::function<void()>& action) {
     try {
         action();
         return true;
-    } catch (const ErreurFichier& echec) {
-        if (echec.Chemin() == p.session.cahier.chemin)
+    } catch (const Erreur& echec) {
+        if (echec.ConcerneLeCahier())
             throw;
-        p.systeme.Avertir(&p.fenetre, Q(MessageErreur(echec)));
-    } catch (const std::runtime_error& echec) { // taken by another program, damaged Settings
+        p.systeme.Avertir(&p.fenetre, Q(echec.what()));
+    } catch (const std::runtime_error& echec) {
         p.systeme.Avertir(&p.fenetre, Q(MessageErreur(echec)));
     }
     return false;

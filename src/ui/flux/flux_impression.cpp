@@ -1,5 +1,6 @@
 #include "ui/flux/flux_impression.h"
 
+#include "core/erreurs.h"
 #include "print/page_journal.h"
 #include "ui/bureau/sablier.h"
 #include "ui/bureau/systeme.h"
@@ -16,7 +17,9 @@ bool Imprimer(Plateau& p, const std::function<void(Imprimante&)>& dessin) {
         const Sablier sablier;
         dessin(*imprimante);
         return true;
-    } catch (const ErreurImpression& echec) {
+    } catch (const Erreur& echec) {
+        if (echec.ConcerneLeCahier())
+            throw;
         p.systeme.Avertir(&p.fenetre, Q(echec.what()));
         return false;
     }

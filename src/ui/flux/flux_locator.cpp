@@ -1,6 +1,6 @@
 #include "ui/flux/flux_locator.h"
 
-#include "core/messages.h"
+#include "core/erreurs.h"
 #include "core/texte.h"
 #include "ui/bureau/systeme.h"
 #include "ui/bureau/texte_qt.h"

@@ -2,7 +2,7 @@
 
 #include "core/dates.h"
 #include "core/dossier.h"
-#include "core/messages.h"
+#include "core/erreurs.h"
 #include "core/texte.h"
 #include "print/etiquette.h"
 #include "qsl/vie_etiquette.h"
@@ -93,10 +93,10 @@ int PremierePreparee(const EtatFeuille& feuille) {
 void ChargerFeuille(Plateau& p) {
     try {
         ChargerFeuilleQSL(p.feuille, DossierProgramme(p.session.station.lecteur));
-    } catch (const ErreurFichier& echec) {
+    } catch (const Erreur& echec) {
         // No reason to keep the operator from the logbook.
         p.feuille.fichier.Fermer();
-        p.systeme.Avertir(&p.fenetre, Q(MessageErreur(echec)));
+        p.systeme.Avertir(&p.fenetre, Q(echec.what()));
     }
 }
 
