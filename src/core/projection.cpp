@@ -50,15 +50,22 @@ Erreur Projection::Echec() const {
 }
 
 void Projection::Remplacer(std::int64_t position, std::size_t nombre) {
+    // Not out of the mapping: where another program has cut the file short, that ends in a signal.
+    const std::span<char> anciens = std::span(anciens_).first(nombre);
+    if (fichier_.Lire(position, anciens) < nombre)
+        throw fichier_.Echec(NatureErreur::Ecrire, std::make_error_code(std::errc::io_error));
+    Remplacer(position, anciens);
+}
+
+void Projection::Remplacer(std::int64_t position, std::span<const char> anciens) {
     char* ici = octets_ + position;
-    std::memcpy(anciens_.data(), ici, nombre);
     errno = 0;
-    const auto copies = ::pread(page_, ici, nombre, 0);
-    if (copies == static_cast<ssize_t>(nombre))
+    const auto copies = ::pread(page_, ici, anciens.size(), 0);
+    if (copies == static_cast<ssize_t>(anciens.size()))
         return;
     const Erreur echec = Echec();
     if (copies > 0)
-        std::memcpy(ici, anciens_.data(), static_cast<std::size_t>(copies));
+        std::memcpy(ici, anciens.data(), static_cast<std::size_t>(copies));
     throw echec;
 }
 

@@ -22,8 +22,11 @@ namespace orvalis {
 /// Bytes that can be replaced in one piece: a page of memory.
 inline constexpr std::size_t kPlusGrandePiece = 4096;
 
-/// Owns the mapping of the first bytes of an open file, which must outlive it and must not be
-/// shortened meanwhile.
+/// Owns the mapping of the first bytes of an open file, which must outlive it.
+///
+/// Another program may cut the file short meanwhile. Remplacer then throws, but whoever reads
+/// through Octets() what the file no longer has is stopped by the system with a signal, without a
+/// word: a long reader asks for the file's size every now and then.
 class Projection {
   public:
     /// Maps the first `taille` bytes (1 to the file's size), for reading and writing. Throws
@@ -41,6 +44,9 @@ class Projection {
     /// Puts the first `nombre` bytes of the workshop at byte `position`, all of them or, when the
     /// program is killed or this throws Erreur, none. The piece lies within the mapping.
     void Remplacer(std::int64_t position, std::size_t nombre);
+    /// The same in place of bytes that the caller knows, which spares reading them: `anciens` are
+    /// those now at `position`, as many as are replaced.
+    void Remplacer(std::int64_t position, std::span<const char> anciens);
 
   private:
     [[nodiscard]] Erreur Echec() const;
@@ -59,7 +65,7 @@ class Projection {
 class EcritureEntiere {
   public:
     /// For pieces within the first `taille` bytes (1 to the file's size) of `fichier`, which must
-    /// outlive this object and must not be shortened meanwhile.
+    /// outlive this object.
     EcritureEntiere(Fichier& fichier, std::int64_t taille);
     /// Puts `octets`, at most kPlusGrandePiece, at byte `position`. Throws Erreur.
     void Poser(std::int64_t position, std::span<const char> octets);

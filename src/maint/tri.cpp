@@ -98,10 +98,17 @@ Tri::Tri(FichierFiches& fichier, std::int32_t nbFiches) : fichier_(fichier), nbF
 void Tri::Avancer(std::int64_t pasMax) {
     if (etat_.termine)
         return;
+    VerifierTaille();
     MarcherPasse(etat_.pas + pasMax);
     if (etat_.position == nbFiches_)
         FinirPasse();
     PoserEchanges();
+}
+
+void Tri::VerifierTaille() const {
+    const Fichier& support = fichier_.Support();
+    if (support.Taille() < nbFiches_ * kTaille)
+        throw support.Echec(NatureErreur::Lire, std::make_error_code(std::errc::io_error));
 }
 
 void Tri::MarcherPasse(std::int64_t dernierPas) {
@@ -161,7 +168,11 @@ void Tri::PoserEchanges() {
     const auto deplaces = static_cast<std::size_t>(fin_ - debut_) * kTailleFiche;
     std::memcpy(atelier, Fiche(fin_), kTailleFiche);
     std::memcpy(atelier + kTailleFiche, Fiche(debut_), deplaces);
-    projection_->Remplacer((debut_ - 1) * kTaille, kTailleFiche + deplaces);
+    // The same records in the order they have in the file.
+    std::memcpy(anciens_.data(), atelier + kTailleFiche, deplaces);
+    std::memcpy(anciens_.data() + deplaces, atelier, kTailleFiche);
+    projection_->Remplacer((debut_ - 1) * kTaille,
+                           std::span(anciens_).first(kTailleFiche + deplaces));
     debut_ = kAucune;
 }
 

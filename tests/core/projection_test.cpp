@@ -42,6 +42,25 @@ TEST(Projection, RemplaceToutOuRien) {
     EXPECT_EQ(std::string(projection.Octets(), kTaille), attendu);
 }
 
+TEST(Projection, FichierRaccourciParUnAutre) {
+    for (const std::size_t reste : {std::size_t{0}, kIci + 1, kTaille / 2, kTaille - kIci - 1}) {
+        Fichier fichier = FichierDe('a');
+        fichier.DevenirLeCahier();
+        Projection projection(fichier, kTaille);
+        Remplir(projection, 'b');
+        ASSERT_EQ(::ftruncate(fichier.Descripteur(), static_cast<off_t>(reste)), 0);
+        try {
+            projection.Remplacer(kIci, kPiece);
+            ADD_FAILURE() << "replaced what is not there, of " << reste;
+        } catch (const Erreur& echec) {
+            EXPECT_TRUE(echec.ConcerneLeCahier());
+        }
+        std::string lu(kTaille, '\0');
+        lu.resize(fichier.Lire(0, lu));
+        EXPECT_EQ(lu, std::string(reste, 'a')) << "what remains stays as it was";
+    }
+}
+
 TEST(Projection, TueePendantUnRemplacement) {
     Fichier fichier = FichierDe('a');
     for (int essais = 0; essais < 100; ++essais) {

@@ -97,4 +97,20 @@ TEST(Tri, DerniereFicheCourteEtLectureSeule) {
     EXPECT_THROW(Tri(lecture, 2).Avancer(kToutDroit), Erreur);
 }
 
+TEST(Tri, UnFichierRaccourciSeDit) {
+    std::string fiches;
+    for (int i = 0; i < 60; ++i)
+        fiches += Contact(std::to_string(i), i % 2 == 0 ? "01/01/02" : "01/01/01");
+    for (const std::size_t reste : {fiches.size() - 1, std::size_t{165}, std::size_t{0}}) {
+        CahierATrier cahier(fiches + Fin());
+        cahier.tri.Avancer(10);
+        std::filesystem::resize_file(cahier.cahier.chemin, reste);
+        const auto avancer = [&cahier] { cahier.tri.Avancer(10); };
+        EXPECT_THAT(avancer,
+                    testing::Throws<Erreur>(testing::Property(&Erreur::ConcerneLeCahier, true)))
+            << reste;
+        EXPECT_EQ(cahier.Octets().size(), reste);
+    }
+}
+
 } // namespace orvalis::aides::tri
