@@ -1,6 +1,8 @@
 # One interface target carries every compiler flag; nothing else sets any.
 add_library(orvalis_flags INTERFACE)
-target_compile_options(orvalis_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+target_compile_features(orvalis_flags INTERFACE cxx_std_20)
+target_compile_options(orvalis_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+                       $<$<BOOL:${ORVALIS_WERROR}>:-Werror>)
 # GCC 12 sees overlapping copies in std::string concatenation where there are none (bug 105651).
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     target_compile_options(orvalis_flags INTERFACE -Wno-restrict)

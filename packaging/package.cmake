@@ -1,38 +1,27 @@
-# Install rules and the Debian package: cmake --build build --target package
+# Install rules and the Debian package: cmake --preset paquet && cmake --build --preset paquet
 include(GNUInstallDirs)
 
 # The version is the project's. What carries it in its own text must agree.
 file(READ packaging/org.orvalis.Orvalis.metainfo.xml metainfo)
-file(READ packaging/changelog journal_debian)
+file(READ packaging/changelog changements_debian)
 file(READ CHANGELOG.md changements)
 if(NOT metainfo MATCHES "<release version=\"${PROJECT_VERSION}\"" OR
-   NOT journal_debian MATCHES "^orvalis \\(${PROJECT_VERSION}\\)" OR
+   NOT changements_debian MATCHES "^orvalis \\(${PROJECT_VERSION}\\)" OR
    NOT changements MATCHES "\n## ${PROJECT_VERSION}\n")
     message(FATAL_ERROR "Version ${PROJECT_VERSION} is missing in CHANGELOG.md, packaging/changelog "
                         "or the metainfo.")
 endif()
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS CHANGELOG.md packaging/changelog
-             packaging/org.orvalis.Orvalis.metainfo.xml packaging/orvalis.1 packaging/orvalis.fr.1)
-
-# Debian wants change log and manual pages compressed, without a date inside.
-find_program(GZIP gzip REQUIRED)
-set(doc_comprimee ${CMAKE_CURRENT_BINARY_DIR}/doc)
-file(MAKE_DIRECTORY ${doc_comprimee})
-foreach(nom changelog orvalis.1 orvalis.fr.1)
-    execute_process(COMMAND ${GZIP} -9nc ${CMAKE_CURRENT_SOURCE_DIR}/packaging/${nom}
-                    OUTPUT_FILE ${doc_comprimee}/${nom}.gz COMMAND_ERROR_IS_FATAL ANY)
-endforeach()
+             packaging/org.orvalis.Orvalis.metainfo.xml)
 
 install(TARGETS orvalis RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES packaging/orvalis.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/orvalis.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES packaging/org.orvalis.Orvalis.metainfo.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
-install(FILES ${doc_comprimee}/orvalis.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-install(FILES ${doc_comprimee}/orvalis.fr.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/fr/man1
-        RENAME orvalis.1.gz)
-install(FILES CHANGELOG.md docs/guide.md docs/formats.md packaging/copyright
-              ${doc_comprimee}/changelog.gz
+install(FILES packaging/orvalis.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES packaging/orvalis.fr.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/fr/man1 RENAME orvalis.1)
+install(FILES CHANGELOG.md docs/guide.md docs/formats.md packaging/copyright packaging/changelog
         DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY docs/images DESTINATION ${CMAKE_INSTALL_DOCDIR} FILES_MATCHING PATTERN "*.png")
 
@@ -46,6 +35,7 @@ cahier en pages, recherche, doublons, tri, jumelage, sauvegarde, impression
 des pages et des étiquettes QSL, locators, distances et azimuts.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
+set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_SOURCE_DIR}/packaging/compresser.cmake)
 # Whatever the umask of who builds it.
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ
     GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
