@@ -3,6 +3,7 @@
 #include "core/erreurs.h"
 #include "core/texte.h"
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -30,9 +31,11 @@ std::vector<fs::path> Composants(const fs::path& chemin) {
     return composants;
 }
 
-bool Convient(const PointDeMontage& point, const std::vector<fs::path>& composants) {
-    return composants.size() >= point.profondeur && composants[0] == point.debut[0] &&
-           (point.debut[1].empty() || composants[1] == point.debut[1]);
+// Whether a path lies in the folder of mounted volumes.
+bool Dedans(const PointDeMontage& point, const std::vector<fs::path>& composants) {
+    const bool deux = !point.debut[1].empty();
+    return composants.size() > (deux ? 2U : 1U) && composants[0] == point.debut[0] &&
+           (!deux || composants[1] == point.debut[1]);
 }
 
 bool EstAbsence(const std::error_code& erreur) {
@@ -55,7 +58,7 @@ fs::path CalculerLecteur(const fs::path& courant, const fs::path& maison) {
         return texte.substr(0, 3);
     const std::vector<fs::path> composants = Composants(courant);
     for (const PointDeMontage& point : kPointsDeMontage) {
-        if (!Convient(point, composants))
+        if (!Dedans(point, composants) || composants.size() < point.profondeur)
             continue;
         fs::path racine = "/";
         for (std::size_t i = 0; i < point.profondeur; ++i)
@@ -63,6 +66,13 @@ fs::path CalculerLecteur(const fs::path& courant, const fs::path& maison) {
         return racine;
     }
     return maison;
+}
+
+bool EstRacineAmovible(const fs::path& racine) {
+    const std::vector<fs::path> composants = Composants(racine);
+    return std::any_of(
+        kPointsDeMontage.begin(), kPointsDeMontage.end(),
+        [&composants](const PointDeMontage& point) { return Dedans(point, composants); });
 }
 
 std::string TexteLecteur(const fs::path& lecteur) {

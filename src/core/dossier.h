@@ -20,6 +20,10 @@ inline constexpr std::string_view kNomSauvegardes = "VekSave";
 [[nodiscard]] std::filesystem::path CalculerLecteur(const std::filesystem::path& courant,
                                                     const std::filesystem::path& maison);
 
+/// Whether `racine`, where a volume is mounted, is the root of a removable one: it lies in one of
+/// the same folders, at whatever depth (a stick mounted by hand has no folder of its user).
+[[nodiscard]] bool EstRacineAmovible(const std::filesystem::path& racine);
+
 /// The drive as shown and as prefixed to relative paths: with its closing separator, UTF-8.
 [[nodiscard]] std::string TexteLecteur(const std::filesystem::path& lecteur);
 

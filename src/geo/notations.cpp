@@ -16,16 +16,6 @@ int Arrondir(double valeur) {
     return static_cast<int>(std::lrint(valeur));
 }
 
-bool EstChiffre(char16_t c) {
-    return c >= u'0' && c <= u'9';
-}
-
-// Letters A to Z and the accented ones of Latin-1.
-char16_t Majuscule(char16_t c) {
-    const bool minuscule = (c >= u'a' && c <= u'z') || (c >= 0xE0 && c <= 0xFE && c != 0xF7);
-    return minuscule ? static_cast<char16_t>(c - 0x20) : c;
-}
-
 } // namespace
 
 float DmsVersDecimal(const Dms& dms) {
@@ -65,43 +55,6 @@ float LireDecimal(std::string_view texte) {
         valeur = grande ? (texte.front() == '-' ? -kMaxLu : kMaxLu) : 0;
     }
     return static_cast<float>(std::clamp(valeur, -kMaxLu, kMaxLu));
-}
-
-char16_t FiltrerCaractere(GenreBoite genre, char16_t caractere) {
-    const char16_t majuscule = Majuscule(caractere);
-    switch (genre) {
-    case GenreBoite::Chiffres:
-        return EstChiffre(caractere) ? caractere : u'\0';
-    case GenreBoite::Hemisphere:
-        return majuscule == u'N' || majuscule == u'S' ? majuscule : u'\0';
-    case GenreBoite::Cote:
-        return majuscule == u'E' || majuscule == u'O' ? majuscule : u'\0';
-    case GenreBoite::Decimal:
-        return EstChiffre(caractere) || (caractere >= u'-' && caractere <= u'/') ? caractere
-                                                                                 : u'\0';
-    case GenreBoite::Locator:
-        return (caractere >= 0x20 && caractere < 0x7F) || (caractere >= 0xA0 && caractere <= 0xFF)
-                   ? majuscule
-                   : u'\0';
-    }
-    return u'\0';
-}
-
-TexteFiltre FiltrerTexte(const RegleBoite& regle, std::u16string_view texte, std::size_t curseur) {
-    TexteFiltre filtre;
-    for (std::size_t i = 0; i < texte.size(); ++i) {
-        if (const char16_t c = FiltrerCaractere(regle.genre, texte[i])) {
-            filtre.texte += c;
-            filtre.curseur += i < curseur ? 1 : 0;
-        }
-    }
-    if (regle.largeur > 0 && filtre.texte.size() > regle.largeur) {
-        const std::size_t surplus = filtre.texte.size() - regle.largeur;
-        const std::size_t debut = filtre.curseur > surplus ? filtre.curseur - surplus : 0;
-        filtre.texte.erase(debut, surplus);
-        filtre.curseur = debut;
-    }
-    return filtre;
 }
 
 } // namespace orvalis

@@ -1,8 +1,6 @@
-// The notations of the coordinates dialog (degrees, minutes and seconds; decimal degrees) and the
-// rules of its boxes: which characters they take, and how many.
+// The notations of the coordinates dialog: degrees, minutes and seconds; decimal degrees.
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -31,33 +29,5 @@ struct Dms {
 /// anywhere, and the first one that does not continue the number ends it. Values beyond any
 /// coordinate are limited to 1000.
 [[nodiscard]] float LireDecimal(std::string_view texte);
-
-enum class GenreBoite {
-    Chiffres,   ///< digits
-    Hemisphere, ///< "N" or "S"
-    Cote,       ///< "E" or "O"
-    Decimal,    ///< digits, "-", "." and "/"
-    Locator,    ///< anything printable, in upper case
-};
-
-struct RegleBoite {
-    GenreBoite genre = GenreBoite::Chiffres;
-    std::size_t largeur = 0; ///< in characters; 0: free
-    int limite = 0;          ///< values from here on are refused; 0: none
-};
-
-/// The character the box takes for the one typed or pasted (turned to upper case where the box
-/// wants it), or 0 when it takes none.
-[[nodiscard]] char16_t FiltrerCaractere(GenreBoite genre, char16_t caractere);
-
-struct TexteFiltre {
-    std::u16string texte;
-    std::size_t curseur = 0;
-};
-
-/// What remains of a text after an insertion that ends at `curseur`: refused characters are dropped
-/// first, then the inserted text is cut from its end until the box's width is kept.
-[[nodiscard]] TexteFiltre FiltrerTexte(const RegleBoite& regle, std::u16string_view texte,
-                                       std::size_t curseur);
 
 } // namespace orvalis

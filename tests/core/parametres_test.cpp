@@ -51,6 +51,17 @@ TEST(Dossier, LeLecteurSuitLeDossierCourant) {
     EXPECT_EQ(TexteLecteur("C:\\"), "C:\\");
 }
 
+TEST(Dossier, VolumesAmovibles) {
+    const auto amovible = [](std::string_view racine) {
+        return std::string{EstRacineAmovible(racine) ? "oui" : "non"};
+    };
+    EXPECT_EQ(Suite(amovible, "/media/o/C|/media/usb|/run/media/o/C|/mnt/usb|/mnt/a/b|/Volumes/C"),
+              "oui|oui|oui|oui|oui|oui");
+    EXPECT_EQ(
+        Suite(amovible, "/|/home|/media|/run|/run/media|/run/user/1000|/mnt|/Volumes|/x/mnt/y"),
+        "non|non|non|non|non|non|non|non|non");
+}
+
 TEST(LocatorStation, SeulsSixCaracteresSontJuges) {
     using enum VerdictLocator;
     const Table<VerdictLocator> cas = {

@@ -84,6 +84,40 @@ TEST(Boites, TouchesDeChaqueBoite) {
     EXPECT_EQ(genres, "A+:1 :1 :1 :1 :1 A+:1 +:1 +:1 A+:1 A+:1 1 a+:1 A+:1 a+:1 a+:1 A+:1 A+:1 ");
 }
 
+TEST(Boites, TouchesDesCoordonnees) {
+    using enum Touches;
+    const std::pair<Touches, std::string> cas[] = {
+        {Chiffres, "0123456789"}, {Hemisphere, "NSns"}, {Cote, "EOeo"}, {Decimal, "-./0123456789"}};
+    for (const auto& [touches, acceptes] : cas)
+        for (int o = 1; o < 256; ++o) {
+            const std::string c = DepuisCp1252(std::string(1, static_cast<char>(o)));
+            const bool accepte = acceptes.find(c) != acceptes.npos;
+            EXPECT_EQ(FiltrerTouches(touches, c), accepte ? orvalis::Majuscules(c) : "") << o;
+        }
+    EXPECT_EQ(FiltrerTouches(Touches::Locator, "j0-é?ÿ\n\xC2\x85\x7F€œ漢😀 "), "J0-É?ÿ ");
+}
+
+TEST(Boites, TexteInsereDansLesCoordonnees) {
+    const struct {
+        std::string_view texte;
+        std::size_t longueur;
+        std::string_view pris;
+        std::size_t curseur;
+    } cas[] = {
+        // the cursor stands behind three characters
+        {"4a5", 2, "45", 2},   // dropped before the cut
+        {"9x844", 2, "44", 0}, // what stood behind the insertion stays
+        {"4995", 2, "45", 1},        {"1234567", 2, "67", 0},
+        {"1x34567", 0, "134567", 2}, {"😀1234", 0, "1234", 2},
+    };
+    for (const auto& c : cas) {
+        const TexteEdite edite =
+            FiltrerTexte(Touches::Chiffres, c.longueur, {std::string{c.texte}, 3});
+        EXPECT_EQ(edite.texte, c.pris) << c.texte;
+        EXPECT_EQ(edite.curseur, c.curseur) << c.texte;
+    }
+}
+
 TEST(Boites, UneEditionNeFiltreQueCeQuElleApporte) {
     constexpr auto L = Touches::Libres, M = Touches::Majuscules, C = Touches::Chiffres;
     const std::string enorme(10'000, 'z');

@@ -134,28 +134,4 @@ TEST(Notations, TexteDecimal) {
             EXPECT_EQ(LireDecimal(texte), attendu) << texte;
 }
 
-TEST(Notations, CaracteresAcceptes) {
-    const std::pair<GenreBoite, std::u16string> cas[] = {{GenreBoite::Chiffres, u"0123456789"},
-                                                         {GenreBoite::Hemisphere, u"NSns"},
-                                                         {GenreBoite::Cote, u"EOeo"},
-                                                         {GenreBoite::Decimal, u"-./0123456789"}};
-    for (const auto& [genre, acceptes] : cas)
-        for (char16_t c = 1; c < 0x180; ++c)
-            EXPECT_EQ(FiltrerCaractere(genre, c) != 0, acceptes.find(c) != acceptes.npos) << +c;
-    EXPECT_EQ(FiltrerCaractere(GenreBoite::Cote, u'o'), u'O');
-    const std::u16string tape = u"j0-\u00E9\n\u0085\u007F\u20AC", attendu = u"J0-\u00C9";
-    EXPECT_EQ(FiltrerTexte({GenreBoite::Locator, 0, 0}, tape, tape.size()).texte, attendu);
-}
-
-TEST(Notations, TexteInsere) {
-    const auto filtrer = [](const std::u16string& texte) {
-        const auto filtre = FiltrerTexte({GenreBoite::Chiffres, 2, 90}, texte, 3);
-        return std::pair{filtre.texte, filtre.curseur};
-    };
-    using Filtre = std::pair<std::u16string, std::size_t>;
-    EXPECT_EQ(filtrer(u"4a5"), Filtre(u"45", 2));   // dropped before the cut
-    EXPECT_EQ(filtrer(u"9x844"), Filtre(u"44", 0)); // what stood behind the insertion stays
-    EXPECT_EQ(filtrer(u"4995"), Filtre(u"45", 1));
-}
-
 } // namespace orvalis::aides::coordonnees

@@ -1,5 +1,7 @@
+#include "aides.h"
 #include "print/enregistreur.h"
 #include "print/etiquette.h"
+#include "ui/carte/donnees_etiquette.h"
 
 #include <gmock/gmock.h>
 
@@ -27,6 +29,26 @@ TEST(Etiquette, Remplie) {
     EXPECT_EQ(donnees.texte2 + donnees.route + donnees.mode, "F6KQVBUREAUCW") << "trimmed in place";
     EXPECT_EQ(OrigineDeEtiquette({2, 9}), (OrigineEtiquette{6100, 0}));
     EXPECT_EQ(OrigineDeEtiquette({1, 0}), (OrigineEtiquette{300, 0}));
+}
+
+TEST(Etiquette, TextesDUneEtiquetteDeLaFeuille) {
+    QslSlotRecord etiquette;
+    aides::Brute({{0, " F6XYZ/P"},
+                  {15, "F5ABC"},
+                  {30, "W3\xC9"},
+                  {45, "BUREAU"},
+                  {60, "12/05/02"},
+                  {68, "10:00"},
+                  {73, "14.250"},
+                  {83, "59+10"},
+                  {91, "SSB"},
+                  {96, "1234"}},
+                 106)
+        .copy(etiquette.octets.data(), etiquette.octets.size());
+    const DonneesEtiquette d = DonneesDeEtiquette(etiquette);
+    EXPECT_EQ(d.indicatif + '|' + d.texte1 + '|' + d.texte2 + '|' + d.route + '|' + d.date + '|' +
+                  d.heure + '|' + d.frequence + '|' + d.report + '|' + d.mode,
+              "F6XYZ/P|F5ABC|W3É|BUREAU|12/05/02|10:00|14.250|59+10|SSB");
 }
 
 TEST(Planche, EtiquettesAuxLongsEnTetes) {

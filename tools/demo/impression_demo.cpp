@@ -10,6 +10,7 @@
 #include "qsl/feuille_qsl.h"
 #include "qsl/vie_etiquette.h"
 #include "ui/bureau/imprimante_qt.h"
+#include "ui/carte/donnees_etiquette.h"
 
 #include <QGuiApplication>
 #include <QPrinter>
@@ -38,15 +39,9 @@ std::vector<EtiquettePlacee> EtiquettesPreparees(const fs::path& dossier) {
     FeuilleQSL feuille;
     ChargerFeuilleQSL(feuille, dossier);
     std::vector<EtiquettePlacee> etiquettes;
-    for (const int k : EtiquettesAImprimer(feuille)) {
-        const QslSlotRecord fiche = LireEnregistrement(feuille, k);
-        const auto texte = [&fiche](ChampEtiquette champ) { return TexteRogne(fiche, champ); };
-        using enum ChampEtiquette;
+    for (const int k : EtiquettesAImprimer(feuille))
         etiquettes.push_back(
-            {static_cast<std::int16_t>(k),
-             {texte(Indicatif), texte(Ligne1), texte(Ligne2), texte(Voie), texte(Date),
-              texte(Heure), texte(Frequence), texte(Report), texte(Mode)}});
-    }
+            {static_cast<std::int16_t>(k), DonneesDeEtiquette(LireEnregistrement(feuille, k))});
     return etiquettes;
 }
 

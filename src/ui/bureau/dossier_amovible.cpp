@@ -1,20 +1,17 @@
 #include "ui/bureau/dossier_amovible.h"
 
+#include "core/dossier.h"
+#include "ui/bureau/texte_qt.h"
+
 #include <QStandardPaths>
 #include <QStorageInfo>
-
-#include <array>
 
 namespace orvalis {
 
 QString DossierAmovible() {
-    constexpr std::array<const char*, 4> kRacines = {"/media/", "/run/media/", "/mnt/",
-                                                     "/Volumes/"};
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes())
-        for (const char* racine : kRacines)
-            if (volume.isReady() && !volume.isReadOnly() &&
-                volume.rootPath().startsWith(QLatin1String(racine)))
-                return volume.rootPath();
+        if (volume.isReady() && !volume.isReadOnly() && EstRacineAmovible(S(volume.rootPath())))
+            return volume.rootPath();
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 

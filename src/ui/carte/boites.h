@@ -1,5 +1,5 @@
-// The seventeen entry boxes of the card: their names, one table, and what each takes from the
-// keyboard.
+// The seventeen entry boxes of the card: their names, one table. And what any box of the program,
+// here and in the dialogs, takes from the keyboard.
 #pragma once
 
 #include "core/qso_record.h"
@@ -54,7 +54,12 @@ enum class Touches {
     Majuscules,    ///< letters are turned to upper case
     DateHeureFreq, ///< "." to ":" (codes 46 to 58: point, stroke, digits, colon)
     Report,        ///< the same and "+"
-    Chiffres       ///< digits only
+    Chiffres,      ///< digits only
+    // Of the coordinates dialog:
+    Hemisphere, ///< "N" or "S", in upper case
+    Cote,       ///< "E" or "O", in upper case
+    Decimal,    ///< digits, "-", "." and "/"
+    Locator     ///< Latin-1 turned to upper case; what lies beyond is refused, not replaced
 };
 
 struct DescriptionBoite {
@@ -118,5 +123,12 @@ struct TexteEdite {
 /// part passes, the edit is undone, so that a refused paste does not erase what was selected.
 [[nodiscard]] TexteEdite FiltrerEdition(Touches touches, std::size_t longueur,
                                         std::string_view ancien, const TexteEdite& nouveau);
+
+/// What a box of the coordinates dialog holds after an edit that leaves the cursor behind the
+/// inserted part. Unlike FiltrerEdition it filters the whole text, and a paste of which nothing
+/// passes erases what was selected. Refused characters are dropped first, then the inserted text
+/// is cut from its end until the box has `longueur` characters (0: any number).
+[[nodiscard]] TexteEdite FiltrerTexte(Touches touches, std::size_t longueur,
+                                      const TexteEdite& nouveau);
 
 } // namespace orvalis

@@ -8,6 +8,7 @@
 #include "ui/bureau/systeme.h"
 #include "ui/bureau/texte_qt.h"
 #include "ui/carte/boites.h"
+#include "ui/carte/saisie.h"
 #include "ui/dialogues/dlg2.h"
 #include "ui/widgets/filtre_edition.h"
 #include "ui/widgets/gestes.h"
@@ -71,7 +72,7 @@ void Dlg1::AccepterIndicatif() {
 void Dlg1::AccepterLocator() {
     const std::string texte = S(ui_->Dlg1Fra2Text2->text());
     if (!LocatorValide(texte)) {
-        ui_->Dlg1Fra2Text2->setText(QStringLiteral("ERREUR"));
+        ui_->Dlg1Fra2Text2->setText(Q(kErreur));
         ui_->Dlg1Fra2Text2->selectAll();
         ui_->Dlg1Fra3->hide();
         return;

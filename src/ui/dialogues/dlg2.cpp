@@ -1,6 +1,8 @@
 #include "ui/dialogues/dlg2.h"
 
+#include "core/texte.h"
 #include "geo/locator.h"
+#include "geo/notations.h"
 #include "ui/widgets/gestes.h"
 #include "ui_dlg2.h"
 
@@ -22,26 +24,8 @@ constexpr const char* kLocatorOuverture = "JN04SD";
 constexpr int kLimiteLatitude = 90;
 constexpr int kLimiteLongitude = 180;
 
-// Holds every insertion (key, paste, drop, input method) to the box's rule. A maximum length of the
-// box itself would cut a pasted text before its refused characters are dropped.
-class Filtre : public QValidator {
-  public:
-    Filtre(const RegleBoite& regle, QObject* parent) : QValidator(parent), regle_(regle) {}
-
-    State validate(QString& texte, int& curseur) const override {
-        const auto filtre = FiltrerTexte(regle_, texte.toStdU16String(),
-                                         static_cast<std::size_t>(std::max(curseur, 0)));
-        texte = QString::fromStdU16String(filtre.texte);
-        curseur = static_cast<int>(filtre.curseur);
-        return Acceptable;
-    }
-
-  private:
-    RegleBoite regle_;
-};
-
-bool EstLettre(const RegleBoite& regle) {
-    return regle.genre == GenreBoite::Hemisphere || regle.genre == GenreBoite::Cote;
+bool EstLettre(Touches touches) {
+    return touches == Touches::Hemisphere || touches == Touches::Cote;
 }
 
 int Entier(const QLineEdit* champ) {
@@ -68,11 +52,32 @@ void AjusterLargeur(QLineEdit* champ, int caracteres) {
 
 } // namespace
 
+// Holds every insertion (key, paste, drop, input method) to the box's rule. A maximum length of the
+// box itself would cut a pasted text before its refused characters are dropped.
+class Dlg2::Filtre : public QValidator {
+  public:
+    Filtre(const Regle& regle, QObject* parent) : QValidator(parent), regle_(regle) {}
+
+    State validate(QString& texte, int& curseur) const override {
+        const std::string avant = texte.left(curseur).toStdString();
+        const std::string apres = texte.mid(curseur).toStdString();
+        const TexteEdite pris =
+            FiltrerTexte(regle_.touches, regle_.largeur, {avant + apres, Longueur(avant)});
+        // What these boxes take is one unit of Qt's text for each character.
+        texte = QString::fromStdString(pris.texte);
+        curseur = static_cast<int>(pris.curseur);
+        return Acceptable;
+    }
+
+  private:
+    Regle regle_;
+};
+
 Dlg2::Dlg2(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::Dlg2>()) {
     ui_->setupUi(this);
-    using enum GenreBoite;
-    constexpr RegleBoite kSoixante{Chiffres, 2, 60};
-    constexpr RegleBoite kDecimal{Decimal, 0, 0};
+    using enum Touches;
+    constexpr Regle kSoixante{Chiffres, 2, 60};
+    constexpr Regle kDecimal{Decimal, 0, 0};
     boites_ = {{
         {ui_->Fr1DegText1, {Chiffres, 2, kLimiteLatitude}, Notation::Dms, ui_->Fr1MinText1},
         {ui_->Fr1MinText1, kSoixante, Notation::Dms, ui_->Fr1SecText1},
@@ -85,7 +90,7 @@ Dlg2::Dlg2(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::Dlg2>())
         {ui_->Fr1LatCent, kDecimal, Notation::Decimale, ui_->Fr1LonCent},
         {ui_->Fr1LonCent, kDecimal, Notation::Decimale, ui_->Fr1CmdFermer},
         {ui_->Fr1TextLocator,
-         {GenreBoite::Locator, kLargeurLocator, 0},
+         {Touches::Locator, kLargeurLocator, 0},
          Notation::Locator,
          ui_->Fr1CmdFermer},
     }};
@@ -185,7 +190,7 @@ bool Dlg2::TraiterTouche(const Boite& boite, const QKeyEvent& touche) {
         return true;
     }
     // Kept on purpose: Backspace does not empty a letter box.
-    if (EstLettre(boite.regle) && touche.key() == Qt::Key_Backspace)
+    if (EstLettre(boite.regle.touches) && touche.key() == Qt::Key_Backspace)
         return true;
     const QString texte = touche.text();
     const bool commande = (touche.modifiers() & ~Qt::ShiftModifier) == Qt::ControlModifier;
@@ -193,7 +198,7 @@ bool Dlg2::TraiterTouche(const Boite& boite, const QKeyEvent& touche) {
         return false;
     const bool plein = boite.regle.largeur > 0 && !boite.champ->hasSelectedText() &&
                        boite.champ->text().size() >= static_cast<int>(boite.regle.largeur);
-    return plein || FiltrerCaractere(boite.regle.genre, texte.front().unicode()) == 0;
+    return plein || FiltrerTouches(boite.regle.touches, Gauche(texte.toStdString(), 1)).empty();
 }
 
 // Enter takes a complete locator over; in the other boxes, whose values are taken over as they are
@@ -250,7 +255,7 @@ void Dlg2::ChangerDms(const Boite& boite) {
     }
     CalculerDepuisDMS();
     const bool complet = boite.champ->text().size() == static_cast<int>(boite.regle.largeur);
-    if (!refuse && (complet || EstLettre(boite.regle)))
+    if (!refuse && (complet || EstLettre(boite.regle.touches)))
         boite.suivant->setFocus();
 }
 

@@ -2,11 +2,12 @@
 // notations that the operator is not typing in follow the one he types in.
 #pragma once
 
-#include "geo/notations.h"
+#include "ui/carte/boites.h"
 
 #include <QDialog>
 
 #include <array>
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
@@ -41,12 +42,21 @@ class Dlg2 : public QDialog {
     /// The editing mode: which notation the operator has chosen to type in.
     enum class Notation { Dms = 1, Locator = 2, Decimale = 3 };
 
+    /// What a box takes.
+    struct Regle {
+        Touches touches = Touches::Chiffres;
+        std::size_t largeur = 0; ///< in characters; 0: free
+        int limite = 0;          ///< values from here on are refused; 0: none
+    };
+
     struct Boite {
         QLineEdit* champ;
-        RegleBoite regle;
+        Regle regle;
         Notation notation;
         QWidget* suivant; ///< where the focus goes when the box is complete
     };
+
+    class Filtre;
 
     void PreparerBoite(const Boite& boite);
     void Ouvrir();

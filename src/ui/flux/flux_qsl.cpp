@@ -8,6 +8,7 @@
 #include "qsl/vie_etiquette.h"
 #include "ui/bureau/systeme.h"
 #include "ui/bureau/texte_qt.h"
+#include "ui/carte/donnees_etiquette.h"
 #include "ui/flux/conduite.h"
 #include "ui/flux/flux_impression.h"
 #include "ui/flux/flux_modification.h"
@@ -72,15 +73,6 @@ bool ChargerAuBesoin(Plateau& p) {
     if (!p.feuille.fichier.EstOuvert())
         ChargerFeuille(p);
     return p.feuille.fichier.EstOuvert();
-}
-
-DonneesEtiquette DonneesDe(const QslSlotRecord& etiquette) {
-    const auto texte = [&etiquette](ChampEtiquette champ) { return TexteRogne(etiquette, champ); };
-    return {texte(ChampEtiquette::Indicatif), texte(ChampEtiquette::Ligne1),
-            texte(ChampEtiquette::Ligne2),    texte(ChampEtiquette::Voie),
-            texte(ChampEtiquette::Date),      texte(ChampEtiquette::Heure),
-            texte(ChampEtiquette::Frequence), texte(ChampEtiquette::Report),
-            texte(ChampEtiquette::Mode)};
 }
 
 int PremierePreparee(const EtatFeuille& feuille) {
@@ -207,7 +199,7 @@ void SurBtPrintQSL(Plateau& p) {
     std::vector<EtiquettePlacee> etiquettes;
     for (const int k : EtiquettesAImprimer(p.feuille))
         etiquettes.push_back(
-            {static_cast<std::int16_t>(k), DonneesDe(LireEnregistrement(p.feuille, k))});
+            {static_cast<std::int16_t>(k), DonneesDeEtiquette(LireEnregistrement(p.feuille, k))});
     if (!Imprimer(p, [&](Imprimante& imp) { ImprimerPlanche(imp, etiquettes, p.enTete); }))
         return;
     DemanderControle(p.feuille);

@@ -160,9 +160,7 @@ void PictFeuilleQSL::FaireBoite(std::size_t rang, QHBoxLayout& rangee) {
     boite.texte->setAccessibleName(QString::fromUtf8(d.legende));
     boite.texte->setToolTip(QString::fromUtf8(d.bulle));
     boite.legende->setBuddy(boite.texte);
-    const int chiffre = boite.texte->fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    constexpr int kBords = 14;
-    boite.texte->setMinimumWidth(static_cast<int>(d.longueur) * chiffre + kBords);
+    boite.texte->setMinimumWidth(LargeurDeBoite(*boite.texte, d.longueur));
     if (d.boite == kBoiteRappel) { // shown, never typed into
         boite.texte->setFrame(false);
         boite.texte->setReadOnly(true);

@@ -102,9 +102,7 @@ void PictFiche::FaireEntete(QHBoxLayout& entete) {
 TxtField* PictFiche::FaireBoite(const DescriptionBoite& boite) {
     auto* champ = new TxtField(boite, this);
     champ->setAccessibleName(Q(kNomsAccessibles[Rang(boite.boite)]));
-    const int chiffre = QFontMetrics(champ->font()).horizontalAdvance(QLatin1Char('0'));
-    constexpr int kBords = 14;
-    champ->setMinimumWidth(static_cast<int>(boite.longueur) * chiffre + kBords);
+    champ->setMinimumWidth(LargeurDeBoite(*champ, boite.longueur));
     boites_[Rang(boite.boite)] = champ;
     return champ;
 }

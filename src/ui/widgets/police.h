@@ -5,6 +5,8 @@
 #include <QFontDatabase>
 #include <QWidget>
 
+#include <cstddef>
+
 namespace orvalis {
 
 /// The font `famille` at the size of `modele`, or the system's fixed-pitch font where the
@@ -27,11 +29,18 @@ namespace orvalis {
 inline constexpr qreal kPetite = 0.85; ///< a caption above its box
 inline constexpr qreal kTitre = 1.2;   ///< the title of a panel
 
-/// Lets a control come and go without moving anything.
-inline void GarderPlace(QWidget& controle) {
-    QSizePolicy place = controle.sizePolicy();
+/// Width in which the box `boite` shows `caracteres` digits.
+[[nodiscard]] inline int LargeurDeBoite(const QWidget& boite, std::size_t caracteres) {
+    constexpr int kBords = 14;
+    const int chiffre = boite.fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    return static_cast<int>(caracteres) * chiffre + kBords;
+}
+
+/// Lets a widget come and go without moving anything.
+inline void GarderPlace(QWidget& widget) {
+    QSizePolicy place = widget.sizePolicy();
     place.setRetainSizeWhenHidden(true);
-    controle.setSizePolicy(place);
+    widget.setSizePolicy(place);
 }
 
 } // namespace orvalis
