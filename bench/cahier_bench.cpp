@@ -3,30 +3,30 @@
 #include "core/pages.h"
 #include "core/recherche.h"
 #include "mesures.h"
-#include "print/page_journal.h"
+#include "print/page_cahier.h"
 
 namespace orvalis::bench {
 namespace {
 
-void Compter(benchmark::State& etat, const Carnet& carnet) {
-    Cahier cahier = carnet.Ouvrir();
+void Compter(benchmark::State& etat, const CahierEssai& essai) {
+    Cahier cahier = essai.Ouvrir();
     for ([[maybe_unused]] auto _ : etat)
         CompterFiches(cahier);
 }
 
-void OuvrirEtCompter(benchmark::State& etat, const Carnet& carnet) {
+void OuvrirEtCompter(benchmark::State& etat, const CahierEssai& essai) {
     for ([[maybe_unused]] auto _ : etat) {
         Cahier cahier;
-        OuvrirCahier(cahier, carnet.Chemin());
+        OuvrirCahier(cahier, essai.Chemin());
         CompterFiches(cahier);
         benchmark::DoNotOptimize(cahier.nbFiches);
     }
 }
 
 // The last page, as lines of the list and as cells of the sheet.
-void Page(benchmark::State& etat, const Carnet& carnet) {
-    const FichierFiches fichier(carnet.Chemin(), ModeFichier::Lecture);
-    const std::int32_t premiere = carnet.NbFiches() - kFichesParPage + 1;
+void Page(benchmark::State& etat, const CahierEssai& essai) {
+    const FichierFiches fichier(essai.Chemin(), ModeFichier::Lecture);
+    const std::int32_t premiere = essai.NbFiches() - kFichesParPage + 1;
     std::array<QsoRecord, kFichesParPage> fiches;
     for ([[maybe_unused]] auto _ : etat) {
         static_cast<void>(fichier.Lire(premiere, fiches));
@@ -38,30 +38,30 @@ void Page(benchmark::State& etat, const Carnet& carnet) {
     }
 }
 
-void Chercher(benchmark::State& etat, const Carnet& carnet, std::string_view texte) {
-    const Cahier cahier = carnet.Ouvrir();
+void Chercher(benchmark::State& etat, const CahierEssai& essai, std::string_view texte) {
+    const Cahier cahier = essai.Ouvrir();
     std::size_t trouves = 0;
     for ([[maybe_unused]] auto _ : etat)
         trouves = ChercherContacts(cahier, texte).lignes.size();
     etat.counters["found"] = static_cast<double>(trouves);
 }
 
-void ParIndicatif(benchmark::State& etat, const Carnet& carnet) {
-    Chercher(etat, carnet, TexteRogne(FicheGeneree(500), Champ::CSGN));
+void ParIndicatif(benchmark::State& etat, const CahierEssai& essai) {
+    Chercher(etat, essai, TexteRogne(FicheGeneree(500), Champ::CSGN));
 }
 
 // A date without contacts: the scan alone.
-void ParDateVide(benchmark::State& etat, const Carnet& carnet) {
-    Chercher(etat, carnet, "31/12/99");
+void ParDateVide(benchmark::State& etat, const CahierEssai& essai) {
+    Chercher(etat, essai, "31/12/99");
 }
 
 // A contest day: a thousand contacts or more become lines.
-void ParDate(benchmark::State& etat, const Carnet& carnet) {
-    Chercher(etat, carnet, "01/01/20");
+void ParDate(benchmark::State& etat, const CahierEssai& essai) {
+    Chercher(etat, essai, "01/01/20");
 }
 
-void Doublons(benchmark::State& etat, const Carnet& carnet) {
-    const Cahier cahier = carnet.Ouvrir();
+void Doublons(benchmark::State& etat, const CahierEssai& essai) {
+    const Cahier cahier = essai.Ouvrir();
     for ([[maybe_unused]] auto _ : etat)
         benchmark::DoNotOptimize(ChercherDoublons(cahier).lignes.data());
 }
@@ -85,10 +85,10 @@ class ImprimanteNulle : public Imprimante {
     void TerminerDocument() override {}
 };
 
-void Imprimer(benchmark::State& etat, const Carnet& carnet) {
-    const Cahier cahier = carnet.Ouvrir();
-    const Station poste = Carnet::Poste();
-    const PageAffichee page{1, carnet.NbFiches() - kFichesParPage + 1, carnet.NbFiches()};
+void Imprimer(benchmark::State& etat, const CahierEssai& essai) {
+    const Cahier cahier = essai.Ouvrir();
+    const Station poste = CahierEssai::Poste();
+    const PageAffichee page{1, essai.NbFiches() - kFichesParPage + 1, essai.NbFiches()};
     ImprimanteNulle imprimante;
     for ([[maybe_unused]] auto _ : etat)
         ImprimerPage(imprimante, cahier, poste, page, page.premiere);

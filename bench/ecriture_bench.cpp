@@ -7,83 +7,83 @@ namespace orvalis::bench {
 namespace {
 
 // Every round stores the same record N + 1, so that the logbook keeps its size.
-void Ajouter(benchmark::State& etat, const Carnet& carnet) {
-    Cahier cahier = carnet.Ouvrir();
-    const QsoRecord contact = carnet.Fiches().front();
-    const QsoRecord fin = FicheFinDeLog(Carnet::Poste().monLocator);
+void Ajouter(benchmark::State& etat, const CahierEssai& essai) {
+    Cahier cahier = essai.Ouvrir();
+    const QsoRecord contact = essai.Fiches().front();
+    const QsoRecord fin = FicheFinDeLog(CahierEssai::Poste().monLocator);
     for ([[maybe_unused]] auto _ : etat) {
         AjouterFiche(cahier, contact, fin);
         --cahier.nbFiches;
     }
 }
 
-void PlancherAjout(benchmark::State& etat, const Carnet& carnet) {
-    const Brut fichier(carnet.Chemin());
+void PlancherAjout(benchmark::State& etat, const CahierEssai& essai) {
+    const Brut fichier(essai.Chemin());
     const std::array<char, 2 * kTailleFiche> octets{};
     for ([[maybe_unused]] auto _ : etat) {
-        fichier.Ecrire(carnet.NbOctets() - kTailleFiche, octets);
+        fichier.Ecrire(essai.NbOctets() - kTailleFiche, octets);
         fichier.Synchroniser();
     }
 }
 
 // The file keeps its length, so every round moves as many records as the first.
-void Supprimer(benchmark::State& etat, const Carnet& carnet) {
-    Cahier cahier = carnet.Ouvrir();
-    const Station poste = Carnet::Poste();
+void Supprimer(benchmark::State& etat, const CahierEssai& essai) {
+    Cahier cahier = essai.Ouvrir();
+    const Station poste = CahierEssai::Poste();
     for ([[maybe_unused]] auto _ : etat) {
-        cahier.nbFiches = carnet.NbFiches();
+        cahier.nbFiches = essai.NbFiches();
         SupprimerFiche(cahier, 1, poste.monLocator);
     }
 }
 
 // A second logbook of the same size is appended, and the whole is counted.
-void Jumeler(benchmark::State& etat, const Carnet& carnet) {
-    const Carnet autre(carnet.NbFiches(), Lieu::Memoire);
-    Cahier cahier = carnet.Ouvrir();
-    const Station poste = Carnet::Poste();
+void Jumeler(benchmark::State& etat, const CahierEssai& essai) {
+    const CahierEssai autre(essai.NbFiches(), Lieu::Memoire);
+    Cahier cahier = essai.Ouvrir();
+    const Station poste = CahierEssai::Poste();
     Chronometrer(
         etat,
         [&] {
-            carnet.Ecrire(carnet.Fiches());
-            cahier.nbFiches = carnet.NbFiches();
+            essai.Ecrire(essai.Fiches());
+            cahier.nbFiches = essai.NbFiches();
         },
         [&] { JumelerCahier(cahier, poste, autre.Chemin()); });
 }
 
-void PlancherJumelage(benchmark::State& etat, const Carnet& carnet) {
-    const Carnet autre(carnet.NbFiches(), Lieu::Memoire);
-    const Brut fichier(carnet.Chemin());
+void PlancherJumelage(benchmark::State& etat, const CahierEssai& essai) {
+    const CahierEssai autre(essai.NbFiches(), Lieu::Memoire);
+    const Brut fichier(essai.Chemin());
     const Brut source(autre.Chemin());
     Chronometrer(
-        etat, [&] { carnet.Ecrire(carnet.Fiches()); },
+        etat, [&] { essai.Ecrire(essai.Fiches()); },
         [&] {
             ParBlocs(autre.NbOctets(), [&](auto position, auto octets) {
                 source.Lire(position, octets);
-                fichier.Ecrire(carnet.NbOctets() - kTailleFiche + position, octets);
+                fichier.Ecrire(essai.NbOctets() - kTailleFiche + position, octets);
             });
             fichier.Synchroniser();
         });
 }
 
-std::filesystem::path Cible(const Carnet& carnet) {
-    return carnet.Dossier() / "COPIE.Vek";
+std::filesystem::path Cible(const CahierEssai& essai) {
+    return essai.Dossier() / "COPIE.Vek";
 }
 
-void Sauver(benchmark::State& etat, const Carnet& carnet) {
-    const Cahier cahier = carnet.Ouvrir();
-    const Station poste = Carnet::Poste();
+void Sauver(benchmark::State& etat, const CahierEssai& essai) {
+    const Cahier cahier = essai.Ouvrir();
+    const Station poste = CahierEssai::Poste();
     Chronometrer(
-        etat, [&] { std::filesystem::remove(Cible(carnet)); },
-        [&] { CopierCahier(cahier, poste, Cible(carnet)); });
+        etat, [&] { std::filesystem::remove(Cible(essai)); },
+        [&] { CopierCahier(cahier, poste, Cible(essai)); });
 }
 
-void PlancherCopie(benchmark::State& etat, const Carnet& carnet) {
-    const Brut source(carnet.Chemin());
+void PlancherCopie(benchmark::State& etat, const CahierEssai& essai) {
+    const Brut source(essai.Chemin());
     Chronometrer(
-        etat, [&] { std::filesystem::remove(Cible(carnet)); },
+        etat, [&] { std::filesystem::remove(Cible(essai)); },
         [&] {
-            const Brut cible(Cible(carnet));
-            ParBlocs(carnet.NbOctets(), [&](auto position, auto octets) {
+            const Brut cible(Cible(essai));
+            ParBlocs(essai.NbOctets(), [&](auto position, auto octets) {
                 source.Lire(position, octets);
                 cible.Ecrire(position, octets);
             });

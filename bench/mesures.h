@@ -3,7 +3,7 @@
 // measurement's followed by " (floor)".
 #pragma once
 
-#include "carnet.h"
+#include "cahier_essai.h"
 
 #include <algorithm>
 #include <array>
@@ -17,7 +17,7 @@
 
 namespace orvalis::bench {
 
-using Corps = void (*)(benchmark::State&, const Carnet&);
+using Corps = void (*)(benchmark::State&, const CahierEssai&);
 
 struct Mesure {
     const char* nom;
@@ -35,8 +35,8 @@ inline benchmark::internal::Benchmark* InscrireUne(const std::string& nom, Corps
                                                    const Mesure& mesure) {
     auto* inscrite =
         benchmark::RegisterBenchmark(nom.c_str(), [corps, lieu = mesure.lieu](auto& etat) {
-            const Carnet carnet(etat.range(0), lieu);
-            corps(etat, carnet);
+            const CahierEssai essai(etat.range(0), lieu);
+            corps(etat, essai);
         });
     inscrite->Unit(benchmark::kMicrosecond)->ComputeStatistics("min", Minimum);
     for (const std::int64_t taille : kTailles)
@@ -100,28 +100,28 @@ template<typename Faire> void ParBlocs(std::size_t nombre, Faire faire) {
         faire(position, std::span(tampon).first(std::min(kBloc, nombre - position)));
 }
 
-inline void LireTout(benchmark::State& etat, const Carnet& carnet) {
+inline void LireTout(benchmark::State& etat, const CahierEssai& essai) {
     for ([[maybe_unused]] auto _ : etat) {
-        const Brut fichier(carnet.Chemin());
-        ParBlocs(carnet.NbOctets(),
+        const Brut fichier(essai.Chemin());
+        ParBlocs(essai.NbOctets(),
                  [&](auto position, auto octets) { fichier.Lire(position, octets); });
     }
 }
 
-inline void LireUnePage(benchmark::State& etat, const Carnet& carnet) {
+inline void LireUnePage(benchmark::State& etat, const CahierEssai& essai) {
     constexpr std::size_t kPage = 25;
-    const Brut fichier(carnet.Chemin());
+    const Brut fichier(essai.Chemin());
     std::array<char, kTailleFiche * kPage> tampon{};
-    const std::size_t position = carnet.NbOctets() - tampon.size() - kTailleFiche;
+    const std::size_t position = essai.NbOctets() - tampon.size() - kTailleFiche;
     for ([[maybe_unused]] auto _ : etat)
         fichier.Lire(position, tampon);
 }
 
 /// Reads the logbook and writes it back over itself, flushed: what every reordering moves.
-inline void LireEtRecrire(benchmark::State& etat, const Carnet& carnet) {
+inline void LireEtRecrire(benchmark::State& etat, const CahierEssai& essai) {
     for ([[maybe_unused]] auto _ : etat) {
-        const Brut fichier(carnet.Chemin());
-        ParBlocs(carnet.NbOctets(), [&](auto position, auto octets) {
+        const Brut fichier(essai.Chemin());
+        ParBlocs(essai.NbOctets(), [&](auto position, auto octets) {
             fichier.Lire(position, octets);
             fichier.Ecrire(position, octets);
         });

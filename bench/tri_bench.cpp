@@ -8,14 +8,14 @@ namespace orvalis::bench {
 namespace {
 
 // Sorts `fiches` in the slices of the maintenance panel.
-void Trier(benchmark::State& etat, const Carnet& carnet, std::span<const QsoRecord> fiches) {
+void Trier(benchmark::State& etat, const CahierEssai& essai, std::span<const QsoRecord> fiches) {
     constexpr std::int64_t kTranche = 4000;
-    Cahier cahier = carnet.Ouvrir();
+    Cahier cahier = essai.Ouvrir();
     EtatTri fin;
     Chronometrer(
-        etat, [&] { carnet.Ecrire(fiches); },
+        etat, [&] { essai.Ecrire(fiches); },
         [&] {
-            Tri tri(cahier.fichier, carnet.NbFiches());
+            Tri tri(cahier.fichier, essai.NbFiches());
             while (!tri.Etat().termine)
                 tri.Avancer(kTranche);
             fin = tri.Etat();
@@ -25,30 +25,30 @@ void Trier(benchmark::State& etat, const Carnet& carnet, std::span<const QsoReco
     etat.counters["exchanges"] = static_cast<double>(fin.echanges);
 }
 
-void EnOrdre(benchmark::State& etat, const Carnet& carnet) {
-    Trier(etat, carnet, carnet.Fiches());
+void EnOrdre(benchmark::State& etat, const CahierEssai& essai) {
+    Trier(etat, essai, essai.Fiches());
 }
 
 // The end-of-log record stays where it is.
-std::vector<QsoRecord> Melanger(const Carnet& carnet, std::int32_t depuis) {
-    std::vector<QsoRecord> fiches = carnet.Fiches();
+std::vector<QsoRecord> Melanger(const CahierEssai& essai, std::int32_t depuis) {
+    std::vector<QsoRecord> fiches = essai.Fiches();
     std::mt19937 hasard(20); // NOLINT: the same disorder in every run is wanted
     std::shuffle(fiches.begin() + depuis, fiches.end() - 1, hasard);
     return fiches;
 }
 
-void Melangees(benchmark::State& etat, const Carnet& carnet) {
-    Trier(etat, carnet, Melanger(carnet, 0));
+void Melangees(benchmark::State& etat, const CahierEssai& essai) {
+    Trier(etat, essai, Melanger(essai, 0));
 }
 
 // Old paper logs typed in after the others: the contacts of two years, the older one last.
 // One contact in a hundred is old, and each has to walk past all the newer ones.
-void Ajoutees(benchmark::State& etat, const Carnet& carnet) {
-    std::vector<QsoRecord> fiches = carnet.Fiches();
-    const auto anciennes = carnet.NbFiches() / 100;
+void Ajoutees(benchmark::State& etat, const CahierEssai& essai) {
+    std::vector<QsoRecord> fiches = essai.Fiches();
+    const auto anciennes = essai.NbFiches() / 100;
     for (auto fiche = fiches.end() - 1 - anciennes; fiche != fiches.end() - 1; ++fiche)
         MettreChamp(*fiche, Champ::DQSO, "05/07/19");
-    Trier(etat, carnet, fiches);
+    Trier(etat, essai, fiches);
 }
 
 [[maybe_unused]] const int kInscrites = Inscrire({

@@ -1,7 +1,7 @@
 // What the operator waits for: from a key or a click in the real window to everything it changes
 // being computed and painted, on the offscreen screen. Questions and pauses are answered at once.
 #include "mesures.h"
-#include "print/page_journal.h"
+#include "print/page_cahier.h"
 #include "ui/banc.h"
 #include "ui/bureau/imprimante_qt.h"
 
@@ -23,15 +23,15 @@ using operateur::Banc;
 constexpr QSize kFenetre{1320, 740};
 
 // A drive whose program folder holds the generated logbook.
-void Garnir(const Banc& banc, const Carnet& carnet) {
+void Garnir(const Banc& banc, const CahierEssai& essai) {
     std::filesystem::create_directory(banc.Dossier());
     banc.Ecrire("Parvel.cfg", "\"F5ABC\",\"F5ABC.Vek\",\"JN18DU\"\r\n");
-    std::filesystem::copy_file(carnet.Chemin(), banc.Dossier() / "F5ABC.Vek");
+    std::filesystem::copy_file(essai.Chemin(), banc.Dossier() / "F5ABC.Vek");
 }
 
 struct BancOuvert : Banc {
-    explicit BancOuvert(const Carnet& carnet) {
-        Garnir(*this, carnet);
+    explicit BancOuvert(const CahierEssai& essai) {
+        Garnir(*this, essai);
         Ouvrir();
         fenetre->resize(kFenetre);
         QCoreApplication::processEvents();
@@ -50,9 +50,9 @@ void Presser(const Banc& banc, int touche) {
     Peindre(*banc.fenetre);
 }
 
-bool CarteMontree(const Banc& banc, const Carnet& carnet) {
+bool CarteMontree(const Banc& banc, const CahierEssai& essai) {
     return banc.Texte("TxtField_1") ==
-           TexteRogne(carnet.Fiches()[carnet.Fiches().size() - 2], Champ::CSGN);
+           TexteRogne(essai.Fiches()[essai.Fiches().size() - 2], Champ::CSGN);
 }
 
 // Shows the window and lets it start, as far as the title that it gets last.
@@ -66,16 +66,16 @@ void MontrerEtDemarrer(Orvalis& fenetre) {
     Peindre(fenetre);
 }
 
-void Demarrer(benchmark::State& etat, const Carnet& carnet) {
+void Demarrer(benchmark::State& etat, const CahierEssai& essai) {
     for ([[maybe_unused]] auto _ : etat) {
         etat.PauseTiming();
         Banc banc;
-        Garnir(banc, carnet);
+        Garnir(banc, essai);
         etat.ResumeTiming();
         banc.fenetre = std::make_unique<Orvalis>(banc.systeme);
         MontrerEtDemarrer(*banc.fenetre);
         etat.PauseTiming();
-        const bool montree = CarteMontree(banc, carnet);
+        const bool montree = CarteMontree(banc, essai);
         banc.fenetre.reset();
         etat.ResumeTiming();
         if (!montree) {
@@ -86,9 +86,9 @@ void Demarrer(benchmark::State& etat, const Carnet& carnet) {
 }
 
 // A process of its own, from its first instruction to the shown card and out again.
-void LancerProgramme(benchmark::State& etat, const Carnet& carnet) {
+void LancerProgramme(benchmark::State& etat, const CahierEssai& essai) {
     const Banc banc;
-    Garnir(banc, carnet);
+    Garnir(banc, essai);
     const QString lecteur = QString::fromStdString(banc.systeme.lecteur.string());
     for ([[maybe_unused]] auto _ : etat)
         if (QProcess::execute(QCoreApplication::applicationFilePath(),
@@ -143,8 +143,8 @@ double TaperContact(const Banc& banc, int boite) {
     return secondes;
 }
 
-template<int boite> void Entree(benchmark::State& etat, const Carnet& carnet) {
-    const BancOuvert banc(carnet);
+template<int boite> void Entree(benchmark::State& etat, const CahierEssai& essai) {
+    const BancOuvert banc(essai);
     banc.Cliquer("BtNewQSO");
     for ([[maybe_unused]] auto _ : etat) {
         etat.SetIterationTime(TaperContact(banc, boite));
@@ -153,8 +153,8 @@ template<int boite> void Entree(benchmark::State& etat, const Carnet& carnet) {
 }
 
 // A letter typed into a box during entry, with what follows from it, and taken back again.
-void Lettre(benchmark::State& etat, const Carnet& carnet) {
-    const BancOuvert banc(carnet);
+void Lettre(benchmark::State& etat, const CahierEssai& essai) {
+    const BancOuvert banc(essai);
     banc.Cliquer("BtNewQSO");
     Chronometrer(
         etat, [&] { banc.Touche(Qt::Key_Backspace); }, [&] { banc.Touche(Qt::Key_A); });
@@ -162,8 +162,8 @@ void Lettre(benchmark::State& etat, const Carnet& carnet) {
         etat.SkipWithError("the letter went elsewhere");
 }
 
-void Suivant(benchmark::State& etat, const Carnet& carnet) {
-    const BancOuvert banc(carnet);
+void Suivant(benchmark::State& etat, const CahierEssai& essai) {
+    const BancOuvert banc(essai);
     banc.Cliquer("BtNewQSO");
     Chronometrer(
         etat, [&] { TaperContact(banc, 0); }, [&] { Presser(banc, Qt::Key_Return); });
@@ -172,8 +172,8 @@ void Suivant(benchmark::State& etat, const Carnet& carnet) {
 }
 
 // Back and forth between the last two pages, each with the card of its first or last line.
-void TournerPage(benchmark::State& etat, const Carnet& carnet) {
-    const BancOuvert banc(carnet);
+void TournerPage(benchmark::State& etat, const CahierEssai& essai) {
+    const BancOuvert banc(essai);
     bool arriere = true;
     const std::string avant = banc.Texte("LabPage");
     for ([[maybe_unused]] auto _ : etat) {
@@ -189,8 +189,8 @@ void FermerLaListe(const Banc& banc) {
         banc.Cliquer("BtContactsFermer");
 }
 
-void Chercher(benchmark::State& etat, const Carnet& carnet, const std::string& texte) {
-    const BancOuvert banc(carnet);
+void Chercher(benchmark::State& etat, const CahierEssai& essai, const std::string& texte) {
+    const BancOuvert banc(essai);
     Chronometrer(
         etat,
         [&] {
@@ -202,16 +202,16 @@ void Chercher(benchmark::State& etat, const Carnet& carnet, const std::string& t
     etat.counters["found"] = banc.Controle<QListWidget>("ContactsListe")->count();
 }
 
-void ChercherIndicatif(benchmark::State& etat, const Carnet& carnet) {
-    Chercher(etat, carnet, TexteRogne(FicheGeneree(500), Champ::CSGN));
+void ChercherIndicatif(benchmark::State& etat, const CahierEssai& essai) {
+    Chercher(etat, essai, TexteRogne(FicheGeneree(500), Champ::CSGN));
 }
 
-void ChercherDate(benchmark::State& etat, const Carnet& carnet) {
-    Chercher(etat, carnet, "01/01/20");
+void ChercherDate(benchmark::State& etat, const CahierEssai& essai) {
+    Chercher(etat, essai, "01/01/20");
 }
 
-void Doublons(benchmark::State& etat, const Carnet& carnet) {
-    const BancOuvert banc(carnet);
+void Doublons(benchmark::State& etat, const CahierEssai& essai) {
+    const BancOuvert banc(essai);
     Chronometrer(
         etat, [&] { FermerLaListe(banc); },
         [&] {
@@ -221,8 +221,8 @@ void Doublons(benchmark::State& etat, const Carnet& carnet) {
 }
 
 // Every round deletes one contact; there are far fewer rounds than contacts.
-void Supprimer(benchmark::State& etat, const Carnet& carnet) {
-    const BancOuvert banc(carnet);
+void Supprimer(benchmark::State& etat, const CahierEssai& essai) {
+    const BancOuvert banc(essai);
     Chronometrer(
         etat,
         [&] {
@@ -235,28 +235,28 @@ void Supprimer(benchmark::State& etat, const Carnet& carnet) {
         });
 }
 
-QString Imprime(const Carnet& carnet) {
-    return QString::fromStdString((carnet.Dossier() / "page.pdf").string());
+QString Imprime(const CahierEssai& essai) {
+    return QString::fromStdString((essai.Dossier() / "page.pdf").string());
 }
 
-void ImprimerPdf(benchmark::State& etat, const Carnet& carnet) {
-    const Cahier cahier = carnet.Ouvrir();
-    const Station poste = Carnet::Poste();
-    const PageAffichee page{1, carnet.NbFiches() - 24, carnet.NbFiches()};
+void ImprimerPdf(benchmark::State& etat, const CahierEssai& essai) {
+    const Cahier cahier = essai.Ouvrir();
+    const Station poste = CahierEssai::Poste();
+    const PageAffichee page{1, essai.NbFiches() - 24, essai.NbFiches()};
     for ([[maybe_unused]] auto _ : etat) {
         QPrinter pdf(QPrinter::HighResolution);
         pdf.setOutputFormat(QPrinter::PdfFormat);
-        pdf.setOutputFileName(Imprime(carnet));
+        pdf.setOutputFileName(Imprime(essai));
         ImprimanteQt imprimante(pdf);
         ImprimerPage(imprimante, cahier, poste, page, page.premiere);
     }
 }
 
 // As many bytes as such a PDF has.
-void EcrirePdf(benchmark::State& etat, const Carnet& carnet) {
+void EcrirePdf(benchmark::State& etat, const CahierEssai& essai) {
     constexpr std::size_t kOctetsPdf = 18500;
     for ([[maybe_unused]] auto _ : etat) {
-        const Brut fichier(Imprime(carnet).toStdString());
+        const Brut fichier(Imprime(essai).toStdString());
         ParBlocs(kOctetsPdf, [&](auto position, auto octets) { fichier.Ecrire(position, octets); });
     }
 }

@@ -24,7 +24,7 @@ std::string DeuxChiffres(int n) {
 
 } // namespace
 
-Controle ControlerDate(std::string_view date) {
+Verification ControlerDate(std::string_view date) {
     const int jour = ValeurNumerique(Gauche(date, 2));
     const int mois = ValeurNumerique(Milieu(date, 4, 2));
     const int deuxChiffres = ValeurNumerique(Droite(date, 2));
@@ -40,7 +40,7 @@ Controle ControlerDate(std::string_view date) {
     return {true, DeuxChiffres(jour) + "/" + DeuxChiffres(mois) + "/" + DeuxChiffres(deuxChiffres)};
 }
 
-Controle ControlerHeure(std::string_view heure) {
+Verification ControlerHeure(std::string_view heure) {
     const int heures = ValeurNumerique(Gauche(heure, 2));
     const int minutes = ValeurNumerique(Droite(heure, 2));
     if (heures >= 24 || minutes >= 60)

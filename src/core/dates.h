@@ -19,7 +19,7 @@ struct Instant {
 };
 
 /// Result of a check: the validity flag and, when it is set, the normalised text.
-struct Controle {
+struct Verification {
     bool ValiditeOK = false;
     std::string texte;
 };
@@ -30,10 +30,10 @@ struct Controle {
 }
 
 /// Checks a date dd/mm/yy; the normalised text has two digits in each part.
-[[nodiscard]] Controle ControlerDate(std::string_view date);
+[[nodiscard]] Verification ControlerDate(std::string_view date);
 
 /// Checks a time hh:mm; the normalised text has two digits in each part.
-[[nodiscard]] Controle ControlerHeure(std::string_view heure);
+[[nodiscard]] Verification ControlerHeure(std::string_view heure);
 
 /// "Samedi 21 Novembre 2026": day of the week, day in two digits, month, year.
 [[nodiscard]] std::string DateLongue(const Instant& instant);

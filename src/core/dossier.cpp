@@ -101,7 +101,7 @@ fs::path TrouverFichier(const fs::path& dossier, std::string_view nom) {
     return exact;
 }
 
-std::string NomDuJournal(std::string_view indicatif) {
+std::string NomDuCahier(std::string_view indicatif) {
     constexpr std::size_t kLongueurNom = 8;
     constexpr std::string_view kInterdits = "<>:\"/\\|?*";
     std::string nom;

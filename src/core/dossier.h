@@ -40,6 +40,6 @@ inline constexpr std::string_view kNomSauvegardes = "VekSave";
 
 /// Name of the logbook file for a callsign: its first eight characters, less those that no file
 /// name may hold, then ".Vek".
-[[nodiscard]] std::string NomDuJournal(std::string_view indicatif);
+[[nodiscard]] std::string NomDuCahier(std::string_view indicatif);
 
 } // namespace orvalis

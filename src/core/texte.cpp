@@ -66,7 +66,7 @@ char32_t CodeDe(unsigned char octet) {
     return octet >= 0x80 && octet < 0xA0 ? kHaut[octet - 0x80U] : octet;
 }
 
-constexpr bool EstControle(char32_t code) {
+constexpr bool EstDeCommande(char32_t code) {
     return code < 0x20 || (code >= 0x7F && code < 0xA0);
 }
 
@@ -128,7 +128,7 @@ std::string NettoyerSaisie(std::string_view utf8) {
     sortie.reserve(utf8.size());
     for (std::size_t i = 0; i < utf8.size();) {
         const Lu lu = LireCode(utf8.substr(i));
-        if (!EstControle(lu.code)) {
+        if (!EstDeCommande(lu.code)) {
             if (OctetDe(lu.code) < 0)
                 sortie.push_back('?');
             else

@@ -133,7 +133,7 @@ void ImprimerEtiquette(Imprimante& imprimante, PlaceEtiquette place, GenreEtique
     dessin.Ecrire(200, 1460, "TNX for NICE QSO HPE CUAGN ,73's");
 }
 
-void ImprimerPlanche(Imprimante& imprimante, std::span<EtiquettePlacee> etiquettes,
+void ImprimerFeuille(Imprimante& imprimante, std::span<EtiquettePlacee> etiquettes,
                      std::string& enTete) {
     if (etiquettes.empty())
         return;
@@ -144,10 +144,10 @@ void ImprimerPlanche(Imprimante& imprimante, std::span<EtiquettePlacee> etiquett
     imprimante.TerminerDocument();
 }
 
-void ImprimerPlancheVierge(Imprimante& imprimante, std::string_view station, std::string& enTete) {
+void ImprimerFeuilleVierge(Imprimante& imprimante, std::string_view station, std::string& enTete) {
     imprimante.ChoisirPapier(Papier::A4, Orientation::Portrait);
     DonneesEtiquette rien;
-    for (std::int16_t numero = 1; numero <= kEtiquettesParPlanche; ++numero)
+    for (std::int16_t numero = 1; numero <= kEtiquettesParFeuille; ++numero)
         ImprimerEtiquette(imprimante, PlaceDeEtiquette(numero), GenreEtiquette::Vierge, rien,
                           station, enTete);
     imprimante.TerminerDocument();

@@ -10,7 +10,7 @@
 
 namespace orvalis {
 
-inline constexpr std::int16_t kEtiquettesParPlanche = 16;
+inline constexpr std::int16_t kEtiquettesParFeuille = 16;
 
 /// The nine texts of a label, in the order of the label sheet's fields 1 to 9. Their padding is
 /// no matter: the drawing trims them in place.
@@ -63,10 +63,10 @@ struct EtiquettePlacee {
 
 /// Prints filled labels on one A4 sheet, each at its place, and ends the document. Prints nothing
 /// at all when there is no label.
-void ImprimerPlanche(Imprimante& imprimante, std::span<EtiquettePlacee> etiquettes,
+void ImprimerFeuille(Imprimante& imprimante, std::span<EtiquettePlacee> etiquettes,
                      std::string& enTete);
 
 /// Prints a sheet of sixteen blank labels and ends the document.
-void ImprimerPlancheVierge(Imprimante& imprimante, std::string_view station, std::string& enTete);
+void ImprimerFeuilleVierge(Imprimante& imprimante, std::string_view station, std::string& enTete);
 
 } // namespace orvalis

@@ -43,8 +43,8 @@ TEST(Texte, ValeurDesPremiersChiffres) {
 
 TEST(Dates, Controles) {
     const auto date = [](std::string_view saisie) {
-        const auto controle = ControlerDate(saisie);
-        return controle.ValiditeOK ? controle.texte : "refusée";
+        const auto verification = ControlerDate(saisie);
+        return verification.ValiditeOK ? verification.texte : "refusée";
     };
     EXPECT_EQ(Suite(date, "29/02/00|29/02/60|30/04/02|31/12/99|01.05.02"),
               "29/02/00|29/02/60|30/04/02|31/12/99|01/05/02");

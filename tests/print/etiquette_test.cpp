@@ -51,37 +51,37 @@ TEST(Etiquette, TextesDUneEtiquetteDeLaFeuille) {
               "F6XYZ/P|F5ABC|W3É|BUREAU|12/05/02|10:00|14.250|59+10|SSB");
 }
 
-TEST(Planche, EtiquettesAuxLongsEnTetes) {
+TEST(FeuilleImprimee, EtiquettesAuxLongsEnTetes) {
     DonneesEtiquette longue, courte;
     longue.indicatif = courte.indicatif = "HB9/F4ABCP";
     longue.texte1 = "ÉSALUT DE 13 C"; // a heading of 47 characters
     courte.texte1 = "ÉSALUT DE 13C";
     std::vector<EtiquettePlacee> etiquettes = {{3, longue}, {16, courte}};
     std::string enTete;
-    Enregistreur planche("Comic sans MS"), vide;
-    ImprimerPlanche(planche, etiquettes, enTete);
-    EXPECT_THAT(planche.operations, testing::IsSupersetOf(Liste(R"(
+    Enregistreur feuille("Comic sans MS"), vide;
+    ImprimerFeuille(feuille, etiquettes, enTete);
+    EXPECT_THAT(feuille.operations, testing::IsSupersetOf(Liste(R"(
  R 300 2380 5500 4160; T 1020 2400 8g ÉSALUT DE 13 C  Confirming QSO with  HB9/F4ABCP;
  R 6100 14260 11300 16040; T 6400 14280 10g ÉSALUT DE 13C  Confirming QSO with  HB9/F4ABCP;)")));
-    EXPECT_EQ(planche.operations.front() + planche.operations.back(), "P A4 portraitFIN");
-    EXPECT_EQ(planche.operations.size(), 2 + 2 * (Liste(kCommun).size() + 8)) << "no manager";
-    ImprimerPlanche(vide, {}, enTete);
+    EXPECT_EQ(feuille.operations.front() + feuille.operations.back(), "P A4 portraitFIN");
+    EXPECT_EQ(feuille.operations.size(), 2 + 2 * (Liste(kCommun).size() + 8)) << "no manager";
+    ImprimerFeuille(vide, {}, enTete);
     EXPECT_TRUE(vide.operations.empty());
 }
 
-TEST(Planche, Vierge) {
+TEST(FeuilleImprimee, Vierge) {
     std::string enTete = "de la remplie";
-    Enregistreur planche("Comic sans MS", 300, 400); // from the corner of the first label
-    ImprimerPlancheVierge(planche, "F5XYZ", enTete);
+    Enregistreur feuille("Comic sans MS", 300, 400); // from the corner of the first label
+    ImprimerFeuilleVierge(feuille, "F5XYZ", enTete);
     const auto premiere = Liste(kCommun + R"(
  T 200 20 10g  F5XYZ   Confirming QSO with; T 400 1250 8g Courrier Pse / Tnx  QSL via  ;)");
-    EXPECT_THAT(planche.operations, testing::IsSupersetOf(premiere));
-    EXPECT_EQ(planche.operations.front() + planche.operations.back(), "P A4 portraitFIN");
-    EXPECT_EQ(planche.operations.size(), 2 + 16 * premiere.size());
+    EXPECT_THAT(feuille.operations, testing::IsSupersetOf(premiere));
+    EXPECT_EQ(feuille.operations.front() + feuille.operations.back(), "P A4 portraitFIN");
+    EXPECT_EQ(feuille.operations.size(), 2 + 16 * premiere.size());
     for (const std::string& coin :
          Liste(R"(0 0; 5800 0; 0 1980; 5800 1980; 0 3960; 5800 3960; 0 5940; 5800 5940; 0 7920;
  5800 7920; 0 9900; 5800 9900; 0 11880; 5800 11880; 0 13860; 5800 13860)"))
-        EXPECT_EQ(planche.Compter("R " + coin + ' '), 1) << coin;
+        EXPECT_EQ(feuille.Compter("R " + coin + ' '), 1) << coin;
     EXPECT_EQ(enTete, "de la remplie");
 }
 

@@ -1,6 +1,6 @@
 // What a printed document holds, as pdftotext (of poppler-utils) reads it back.
 #include "aides.h"
-#include "print/page_journal.h"
+#include "print/page_cahier.h"
 #include "ui/bureau/imprimante_qt.h"
 
 #include <QFile>

@@ -6,7 +6,7 @@
 #include "core/pages.h"
 #include "core/parametres.h"
 #include "print/etiquette.h"
-#include "print/page_journal.h"
+#include "print/page_cahier.h"
 #include "qsl/feuille_qsl.h"
 #include "qsl/vie_etiquette.h"
 #include "ui/bureau/imprimante_qt.h"
@@ -70,9 +70,9 @@ int main(int nbArguments, char** arguments) try {
     std::string enTete;
     std::vector<EtiquettePlacee> etiquettes = EtiquettesPreparees(dossier);
     ImprimerPdf(sortie / "etiquettes.pdf",
-                [&](Imprimante& imprimante) { ImprimerPlanche(imprimante, etiquettes, enTete); });
+                [&](Imprimante& imprimante) { ImprimerFeuille(imprimante, etiquettes, enTete); });
     ImprimerPdf(sortie / "vierges.pdf", [&](Imprimante& imprimante) {
-        ImprimerPlancheVierge(imprimante, station.indicatif, enTete);
+        ImprimerFeuilleVierge(imprimante, station.indicatif, enTete);
     });
     return 0;
 } catch (const std::exception& erreur) {

@@ -52,8 +52,8 @@ Issue Date(const Correction& c) {
 Issue Heure(const Correction& c) {
     if (Longueur(c.Texte()) != kLongueurHeure)
         return c.Restaurer();
-    const Controle controle = ControlerHeure(c.Texte());
-    return controle.ValiditeOK ? c.Stocker(controle.texte) : Issue::Conclure;
+    const Verification verification = ControlerHeure(c.Texte());
+    return verification.ValiditeOK ? c.Stocker(verification.texte) : Issue::Conclure;
 }
 
 Issue Obligatoire(const Correction& c) {

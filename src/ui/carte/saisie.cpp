@@ -62,11 +62,11 @@ void Date(const Entree& e) {
 void Heure(const Entree& e) {
     if (e.Saisie().tempsReel || Longueur(e.Texte()) != Decrire(e.boite).longueur)
         return;
-    const auto controle = ControlerHeure(e.Texte());
-    e.Saisie().TexteSaisi = controle.texte;
-    if (!controle.ValiditeOK)
+    const Verification verification = ControlerHeure(e.Texte());
+    e.Saisie().TexteSaisi = verification.texte;
+    if (!verification.ValiditeOK)
         return;
-    e.Zone() = controle.texte;
+    e.Zone() = verification.texte;
     e.AllerPlusLoin();
 }
 

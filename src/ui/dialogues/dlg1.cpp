@@ -63,7 +63,7 @@ void Dlg1::AccepterIndicatif() {
     if (texte.empty())
         return;
     indicatif_ = Majuscules(Rogner(texte));
-    nomFichier_ = NomDuJournal(indicatif_);
+    nomFichier_ = NomDuCahier(indicatif_);
     ui_->Dlg1Fra2Text2->clear();
     ui_->Dlg1Fra3->hide();
     ui_->Dlg1Fra2Text2->setFocus();

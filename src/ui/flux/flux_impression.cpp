@@ -1,7 +1,7 @@
 #include "ui/flux/flux_impression.h"
 
 #include "core/erreurs.h"
-#include "print/page_journal.h"
+#include "print/page_cahier.h"
 #include "ui/bureau/sablier.h"
 #include "ui/bureau/systeme.h"
 #include "ui/bureau/texte_qt.h"

@@ -101,7 +101,7 @@ void GererFeuille(Plateau& p) {
 
 void ImprimerEtiquettesVierges(Plateau& p) {
     static_cast<void>(Imprimer(p, [&p](Imprimante& imprimante) {
-        ImprimerPlancheVierge(imprimante, p.session.station.indicatif, p.enTete);
+        ImprimerFeuilleVierge(imprimante, p.session.station.indicatif, p.enTete);
     }));
 }
 
@@ -200,7 +200,7 @@ void SurBtPrintQSL(Plateau& p) {
     for (const int k : EtiquettesAImprimer(p.feuille))
         etiquettes.push_back(
             {static_cast<std::int16_t>(k), DonneesDeEtiquette(LireEnregistrement(p.feuille, k))});
-    if (!Imprimer(p, [&](Imprimante& imp) { ImprimerPlanche(imp, etiquettes, p.enTete); }))
+    if (!Imprimer(p, [&](Imprimante& imp) { ImprimerFeuille(imp, etiquettes, p.enTete); }))
         return;
     DemanderControle(p.feuille);
     DonnerFoyer(p, {Cible::Revoir});

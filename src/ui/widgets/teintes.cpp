@@ -26,8 +26,8 @@ QColor TeinteEnCouleur(Teinte teinte) {
 
 class Repeintre : public QObject {
   public:
-    Repeintre(QWidget& controle, std::function<void()> peindre)
-        : QObject(&controle), peindre_(std::move(peindre)) {}
+    Repeintre(QWidget& widget, std::function<void()> peindre)
+        : QObject(&widget), peindre_(std::move(peindre)) {}
     bool eventFilter(QObject* /*objet*/, QEvent* evenement) override {
         // Only windows are told that the application's palette changes; to what is in them this one
         // comes. It comes after painting too, which then changes nothing any more.
@@ -62,9 +62,9 @@ void RougirTexte(QAbstractButton& bouton) {
     });
 }
 
-void PeindreSelonBureau(QWidget& controle, std::function<void()> peindre) {
+void PeindreSelonBureau(QWidget& widget, std::function<void()> peindre) {
     peindre();
-    controle.installEventFilter(new Repeintre(controle, std::move(peindre)));
+    widget.installEventFilter(new Repeintre(widget, std::move(peindre)));
 }
 
 } // namespace orvalis

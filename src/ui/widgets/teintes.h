@@ -30,7 +30,7 @@ void RougirTexte(QAbstractButton& bouton);
     return EstSombre(fond) ? QColor(0xFF, 0x80, 0x80) : QColor(0xC0, 0, 0);
 }
 
-/// Paints now, and again each time the desktop changes its colours while `controle` lives.
-void PeindreSelonBureau(QWidget& controle, std::function<void()> peindre);
+/// Paints now, and again each time the desktop changes its colours while `widget` lives.
+void PeindreSelonBureau(QWidget& widget, std::function<void()> peindre);
 
 } // namespace orvalis

@@ -1,6 +1,6 @@
 #include "aides.h"
 #include "print/enregistreur.h"
-#include "print/page_journal.h"
+#include "print/page_cahier.h"
 
 namespace orvalis::aides::page_journal {
 
@@ -30,7 +30,7 @@ Enregistreur Imprimer(const std::string& octets, std::int32_t page, std::int32_t
     return imprimante;
 }
 
-TEST(PageJournal, Remplie) {
+TEST(PageCahier, Remplie) {
     QsoRecord fiche;
     for (const DescriptionChamp& d : kChamps)
         MettreChamp(fiche, d.champ, "É2345678901234567890123456789");
@@ -46,7 +46,7 @@ TEST(PageJournal, Remplie) {
     EXPECT_EQ(NumeroImprime(1234567), "234567");
 }
 
-TEST(PageJournal, Vierge) {
+TEST(PageCahier, Vierge) {
     std::string attendu = kCommun + "T 8900 14100 10 Page n° ;";
     for (int y = 2280; y <= 13800; y += 480)
         attendu += "L 130 " + std::to_string(y) + " 11400 " + std::to_string(y) + ';';
@@ -55,7 +55,7 @@ TEST(PageJournal, Vierge) {
                     UnorderedElementsAreArray(Liste(attendu)));
 }
 
-TEST(PageJournal, SArreteALaFinDuLog) {
+TEST(PageCahier, SArreteALaFinDuLog) {
     const std::string dix = Contact("\xC9\xC8XYZ6789A"), onze = Contact("HB9/F4ABC/P");
     // A logbook, the page, its rows, number and callsign of the last one.
     const std::tuple<std::string, std::int32_t, std::int32_t, std::string> cas[] = {

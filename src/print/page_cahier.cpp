@@ -1,4 +1,4 @@
-#include "print/page_journal.h"
+#include "print/page_cahier.h"
 
 #include "core/page_texte.h"
 #include "core/texte.h"

@@ -66,9 +66,9 @@ inline std::filesystem::path Dossier(Lieu lieu) {
                : std::filesystem::temp_directory_path();
 }
 
-class Carnet {
+class CahierEssai {
   public:
-    explicit Carnet(std::int64_t nbFiches, Lieu lieu = Lieu::Memoire)
+    explicit CahierEssai(std::int64_t nbFiches, Lieu lieu = Lieu::Memoire)
         : fiches_(FichesGenerees(nbFiches)), nbFiches_(static_cast<std::int32_t>(nbFiches)) {
         std::string modele = (bench::Dossier(lieu) / "orvalis-bench-XXXXXX").string();
         if (mkdtemp(modele.data()) == nullptr)
@@ -76,9 +76,9 @@ class Carnet {
         dossier_ = modele;
         Ecrire(fiches_);
     }
-    Carnet(const Carnet&) = delete;
-    Carnet& operator=(const Carnet&) = delete;
-    ~Carnet() {
+    CahierEssai(const CahierEssai&) = delete;
+    CahierEssai& operator=(const CahierEssai&) = delete;
+    ~CahierEssai() {
         std::error_code erreur;
         std::filesystem::remove_all(dossier_, erreur);
     }

@@ -88,8 +88,8 @@ void Verifier(const Ligne& ligne, const std::string& texte) {
             throw std::runtime_error("value too long in: " + texte);
     if (Longueur(ligne[Infos]) > kLargeurDemiInfo || Longueur(ligne[Manager]) > kLargeurDemiInfo)
         throw std::runtime_error("remark or manager too long in: " + texte);
-    const auto accepte = [](const Controle& c, const std::string& valeur) {
-        return c.ValiditeOK && c.texte == valeur;
+    const auto accepte = [](const Verification& v, const std::string& valeur) {
+        return v.ValiditeOK && v.texte == valeur;
     };
     if (!accepte(ControlerDate(ligne[Date]), ligne[Date]) ||
         !accepte(ControlerHeure(ligne[Debut]), ligne[Debut]) ||
@@ -164,7 +164,7 @@ int main(int nbArguments, char** arguments) try {
     fiches.push_back(FicheFinDeLog(kLocator));
     const std::filesystem::path dossier = DossierProgramme(arguments[2]);
     std::filesystem::create_directories(dossier);
-    const std::string nom = NomDuJournal(kIndicatif);
+    const std::string nom = NomDuCahier(kIndicatif);
     FichierFiches cahier(dossier / nom, ModeFichier::Creation);
     cahier.Ecrire(1, fiches);
     const std::vector<QslSlotRecord> etiquettes = Etiquettes(fiches);
