@@ -2,7 +2,7 @@
 #include "print/enregistreur.h"
 #include "print/page_cahier.h"
 
-namespace orvalis::aides::page_journal {
+namespace orvalis::aides::page_cahier {
 
 using namespace testing;
 
@@ -72,4 +72,4 @@ TEST(PageCahier, SArreteALaFinDuLog) {
     }
 }
 
-} // namespace orvalis::aides::page_journal
+} // namespace orvalis::aides::page_cahier

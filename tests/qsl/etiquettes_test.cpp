@@ -28,7 +28,7 @@ std::string Etiquettes(const std::string& liste) {
 }
 
 // A sheet whose other places are free.
-std::string Planche(std::string premieres) {
+std::string Feuille(std::string premieres) {
     while (premieres.size() < std::size_t{16} * 106)
         premieres += kLibre;
     return premieres;
@@ -40,9 +40,9 @@ struct ServiceQSL {
     Cahier cahier;
     FeuilleQSL feuille;
 
-    ServiceQSL(const std::string& fiches, const std::string& planche) {
+    ServiceQSL(const std::string& fiches, const std::string& etiquettes) {
         cahier = Ouvrir(dossier.Poser("F5ABC.Vek", fiches + Fin()));
-        dossier.Poser("feuilleQSL.TXT", planche);
+        dossier.Poser("feuilleQSL.TXT", etiquettes);
         ChargerFeuilleQSL(feuille, dossier / "");
     }
     [[nodiscard]] std::string OctetsFeuille() const { return Lire(dossier / "feuilleQSL.TXT"); }
@@ -100,10 +100,10 @@ void Essayer(const std::string& gestes, const std::string& table) {
         auto fin = Couper(apres, "|");
         if (fin.size() == 1)
             fin.insert(fin.begin(), depart.begin(), depart.begin() + 2);
-        ServiceQSL service(Fiches(depart.at(0)), Planche(Etiquettes(depart.at(1))));
+        ServiceQSL service(Fiches(depart.at(0)), Feuille(Etiquettes(depart.at(1))));
         EXPECT_EQ(service.Faire(depart.at(2)), fin.at(2));
         EXPECT_EQ(Lire(service.cahier.chemin), Fiches(fin[0]) + Fin());
-        EXPECT_EQ(service.OctetsFeuille(), Planche(Etiquettes(fin[1])));
+        EXPECT_EQ(service.OctetsFeuille(), Feuille(Etiquettes(fin[1])));
     }
 }
 
@@ -113,10 +113,10 @@ TEST(FeuilleQSL, UneFeuilleAbimeeGardeSesOctets) {
         {"", 16},
         {kLibre + kLibre.substr(0, 50), 14},
         {kLibre + "**", 15},
-        {Planche(Brute({{2, "***"}}, 106)), 0},
-        {Planche(std::string(106, ' ') + Etiquettes("F18h")), 2},
-        {Planche(std::string(106, '\0') + "****" + kLibre.substr(4)), 2},
-        {Planche("") + Etiquettes("F18h"), 0}};
+        {Feuille(Brute({{2, "***"}}, 106)), 0},
+        {Feuille(std::string(106, ' ') + Etiquettes("F18h")), 2},
+        {Feuille(std::string(106, '\0') + "****" + kLibre.substr(4)), 2},
+        {Feuille("") + Etiquettes("F18h"), 0}};
     for (const auto& [octets, attendu] : cas) {
         const ServiceQSL service("", octets);
         EXPECT_EQ(EtiquettesAImprimer(service.feuille).size(), attendu);
@@ -197,7 +197,7 @@ TEST(FluxEtiquettes, UnContactSansMarqueRecoitSaSeuleMarque) {
  other hour : F18h | A17h, F16h 1 | fiche 1 -> panneau quitter imprimer "N° 3"
  neither : F18h | A17h, P18h 8 | fiche 1 -> panneau quitter imprimer "N° 3"
  another contact's : F18h En cours, F18h | F18h 1 | fiche 2 -> panneau quitter imprimer "N° 2")");
-    ServiceQSL service(Fiches("F18h"), Planche(Etiquettes("F18h 1")));
+    ServiceQSL service(Fiches("F18h"), Feuille(Etiquettes("F18h 1")));
     const ReponseClic clic = PreparerEtiquette(service.cahier, service.feuille, 1);
     EXPECT_EQ(clic.suite, SuiteClic::Retabli);
     EXPECT_TRUE(clic.reponse.marque);

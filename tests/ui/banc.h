@@ -115,7 +115,7 @@ class Banc {
     void Ecrire(const std::string& nom, const std::string& octets) const {
         std::ofstream(Dossier() / nom, std::ios::binary) << octets;
     }
-    [[nodiscard]] std::string Journal() const { return Lire("F5ABC.Vek"); }
+    [[nodiscard]] std::string OctetsCahier() const { return Lire("F5ABC.Vek"); }
 
     /// Takes the steps of a walk. A word or a name that is not known and a gesture that cannot be
     /// made fail under the name of the step and end the walk.

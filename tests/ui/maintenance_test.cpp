@@ -9,7 +9,7 @@ TEST(Maintenance, ClasserMontreEtGele) {
  steps : menu MnuClasser -> LabEtat_1 LabEtat_2 LabEtat_3 = 60|Heures|1
  sorted : -> ClasserLab NoFicheLab = " Terminé | Fiche N° 60 "
  afterwards : -> caché PictClasser PictRech PictContacts BtActiveRech; actif ListeLog TxtField_1)");
-    EXPECT_EQ(Difference(banc.Journal(), Contacts(60) + Fin()), "");
+    EXPECT_EQ(Difference(banc.OctetsCahier(), Contacts(60) + Fin()), "");
 }
 
 TEST(Maintenance, JumelageAvecSauvegarde) {
@@ -22,7 +22,7 @@ TEST(Maintenance, JumelageAvecSauvegarde) {
  pairing : fichier AUTRE.Vek; clic BtPjumeler -> NoFicheLab = " Fiche N° 5 "; actif PJumelage
  closed : clic BtPjAnnuler -> foyer = ListeLog)");
     EXPECT_EQ(banc.Lire("VekSave/F5ABC.Vek"), Contacts(3) + Fin());
-    EXPECT_EQ(Difference(banc.Journal(), Contacts(3) + Contacts(2) + Fin()), "");
+    EXPECT_EQ(Difference(banc.OctetsCahier(), Contacts(3) + Contacts(2) + Fin()), "");
 }
 
 TEST(Maintenance, AutreCahierEnLectureSeulePuisRetour) {
@@ -56,7 +56,7 @@ TEST(Maintenance, ErreursDesAutresFichiersSeDisentSansRienPerdre) {
  opened, damaged : fichier coupe.Vek; menu MnuAutreF -> NoFicheLab = " Fiche N° 3 "; averti =
      "Le cahier « ~/coupe.Vek » est peut-être abîmé : il n'a pas d'enregistrement de fin
      et sa longueur n'est pas un nombre entier de fiches.")");
-    EXPECT_EQ(banc.Journal(), Contacts(3) + Fin());
+    EXPECT_EQ(banc.OctetsCahier(), Contacts(3) + Fin());
     EXPECT_FALSE(banc.systeme.codeDeFin);
 }
 

@@ -5,7 +5,7 @@
 
 namespace orvalis::operateur::navigation {
 
-TEST(Navigation, TaillesDeJournal) {
+TEST(Navigation, TaillesDeCahier) {
     // Contacts; page, line, card and focus at the start; whether there is a page before.
     const std::tuple<int, const char*, const char*> cas[] = {
         {0, "\"Page 1 / 1|0/0|  Fiche N° 0  |BtNewQSO\"", "grisé"},
@@ -52,7 +52,7 @@ TEST(Navigation, LaCarteNeChangePasToutSeule) {
      actif BtNewQSO
  correction : clic CmdSensBas, TxtField_12; valide Zoe; clic FraCmdOui
      -> NoFicheLab = " Fiche N° 26 "; actif BtNewQSO)");
-    EXPECT_EQ(banc.Journal().substr(25 * kTailleFiche + 98, 3), "Zoe");
+    EXPECT_EQ(banc.OctetsCahier().substr(25 * kTailleFiche + 98, 3), "Zoe");
 }
 
 TEST(Navigation, CarteListeEtFeuilleMontrentLesOctets) {

@@ -23,7 +23,8 @@ std::string Cahier(std::string_view maQsl1, std::string_view maQsl2) {
 std::string Ecart(const Banc& banc, const std::string& cahier, std::string feuille) {
     while (feuille.size() < 16 * kLibre.size())
         feuille += kLibre;
-    return Difference(banc.Journal(), cahier) + Difference(banc.Lire("FeuilleQSL.txt"), feuille);
+    return Difference(banc.OctetsCahier(), cahier) +
+           Difference(banc.Lire("FeuilleQSL.txt"), feuille);
 }
 
 const std::string kEtiquetteXyz = "F6XYZ/P        F5ABC          BEAM 3 EL      BUREAU         "
@@ -137,7 +138,7 @@ TEST(Qsl, LeServiceAttend) {
 }
 
 // A blank page printed leaves the page blank until one is shown again.
-TEST(Impression, PagesPlanchesEtReglage) {
+TEST(Impression, PagesFeuillesEtReglage) {
     Banc banc(Contacts(30) + Fin());
     std::vector<std::string> operations;
     banc.systeme.imprimante = [&] { return std::make_unique<Enregistreur>(operations); };

@@ -20,7 +20,7 @@ TEST(Saisie, QuaranteContactsDansLesDeuxModes) {
                               "|14.210|SSB|59|57+|BESANÇON|JO62QM|07|Jean-Pierre|"
                               "BEAM 3 EL      F5XYZ",
                           "JN04SD");
-        EXPECT_EQ(Difference(banc.Journal(), attendu + Fin()), "") << "after contact " << i;
+        EXPECT_EQ(Difference(banc.OctetsCahier(), attendu + Fin()), "") << "after contact " << i;
     }
     banc.Suivre(R"(
  modes : touche Alt+D; touche Alt+K refusé -> coché OptionEnr2; TxtField_1 foyer = |TxtField_1)");
@@ -34,7 +34,7 @@ TEST(Saisie, QuaranteContactsDansLesDeuxModes) {
                           "JN04SD");
     }
     const std::string fin = Octets("\\|||||||||JN04SD", "JN04SD");
-    EXPECT_EQ(Difference(banc.Journal(), attendu + fin), "");
+    EXPECT_EQ(Difference(banc.OctetsCahier(), attendu + fin), "");
     banc.Suivre(R"(
  ended : -> NoFicheLab foyer = " Fiche N° 40 |ListeLog"
  accents : ligne 5; clic TxtField_12; valide éloïse -> actif FraMsgFiche; FraLab01 = 30
@@ -47,7 +47,8 @@ TEST(Saisie, QuaranteContactsDansLesDeuxModes) {
     attendu.replace(30 * kTailleFiche + 95, 3, "974");
     attendu.replace(31 * kTailleFiche + 15, 2, "02");
     attendu.erase(0, kTailleFiche);
-    EXPECT_EQ(Difference(banc.Journal(), attendu + Fin() + fin), "") << "the file keeps its length";
+    EXPECT_EQ(Difference(banc.OctetsCahier(), attendu + Fin() + fin), "")
+        << "the file keeps its length";
 }
 
 TEST(Saisie, ContenusHostilesNAtteignentPasLeFichier) {
@@ -64,7 +65,7 @@ TEST(Saisie, ContenusHostilesNAtteignentPasLeFichier) {
  to box 12 : entree 1; valide fm; entree 2 -> foyer = TxtField_12
  text typed without Enter is not kept : entree 1 -> TxtField_12 =
  dropped : clic BtEnrAnnuler -> NoFicheLab = " Charger fiche N° 2")");
-    EXPECT_EQ(Difference(banc.Journal(), Contacts(1) + Fin()), "");
+    EXPECT_EQ(Difference(banc.OctetsCahier(), Contacts(1) + Fin()), "");
 }
 
 TEST(Saisie, NiContactSansIndicatifNiLocatorSansEntree) {
@@ -74,7 +75,7 @@ TEST(Saisie, NiContactSansIndicatifNiLocatorSansEntree) {
      -> foyer = TxtField_1; actif BtEnrAnnuler
  stored : touche Alt+A; valide f6abc, 14, fm, , ; foyer TxtField_16; touche Ctrl+A; tape xx;
      touche Alt+S -> NoFicheLab = " Charger fiche N° 2")");
-    EXPECT_EQ(banc.Journal().substr(159, 6), "JN04SD");
+    EXPECT_EQ(banc.OctetsCahier().substr(159, 6), "JN04SD");
 }
 
 TEST(Saisie, LocatorFauxGeleUneSeconde) {
@@ -86,7 +87,7 @@ TEST(Saisie, LocatorFauxGeleUneSeconde) {
     };
     banc.Suivre("wrong : valide jn99zz -> TxtField_1 TxtField_10 foyer = F6ABC||TxtField_10");
     EXPECT_FALSE(banc.systeme.pendantPause) << "there was no pause";
-    EXPECT_EQ(Difference(banc.Journal(), Fin()), "");
+    EXPECT_EQ(Difference(banc.OctetsCahier(), Fin()), "");
 }
 
 TEST(Saisie, ChangementDeLocatorGardeOuNon) {
@@ -103,7 +104,7 @@ TEST(Saisie, ChangementDeLocatorGardeOuNon) {
  back : -> TxtField_16 foyer = JN18DU|TxtField_16
  stored : clic TxtField_5; valide 7, CW; entree 12)");
         EXPECT_EQ(banc.Lire("Parvel.cfg"), "\"F5ABC\",\"F5ABC.Vek\",\"" + garde + "\"\r\n");
-        EXPECT_EQ(banc.Journal().substr(159, 6), "JN18DU");
+        EXPECT_EQ(banc.OctetsCahier().substr(159, 6), "JN18DU");
     }
 }
 
@@ -114,9 +115,9 @@ TEST(Saisie, ModificationSansSourisEtRefus) {
  F2 : foyer TxtField_6; touche F2; valide CW -> actif FraMsgFiche
  No : touche Alt+N -> TxtField_6 = SSB; actif BtActiveRech
  another card while it waits is a No : clic TxtField_6; valide AM; ligne 1 -> caché FraMsgFiche)");
-    EXPECT_EQ(Difference(banc.Journal(), Contacts(3) + Fin()), "");
+    EXPECT_EQ(Difference(banc.OctetsCahier(), Contacts(3) + Fin()), "");
     banc.Suivre("deleted : clic BtKillFiche; touche Alt+O");
-    EXPECT_EQ(banc.Journal().substr(0, 2 * kTailleFiche), Contacts(3).substr(kTailleFiche));
+    EXPECT_EQ(banc.OctetsCahier().substr(0, 2 * kTailleFiche), Contacts(3).substr(kTailleFiche));
 }
 
 TEST(Recherche, IndicatifDateEtDoublons) {
