@@ -15,6 +15,13 @@ fs::path CheminParametres(const fs::path& dossier) {
     return Present(present) ? present : dossier / fs::path{kNomParametresEcrits};
 }
 
+// Kept on purpose, for the operators: the lengths of locator and callsign must have a binary digit
+// in common. A locator has 6 characters, binary 110, so a callsign passes when the 2 or the 4 is in
+// its length: 2 to 7, 10 to 15 and 18 to 20 characters do; 1, 8, 9, 16 and 17 create nothing.
+bool LongueurPasse(std::string_view indicatif) {
+    return (Longueur(indicatif) & kLargeurLocator) != 0;
+}
+
 } // namespace
 
 bool CreerCahier(const fs::path& lecteur, const Parametres& parametres) {
@@ -23,8 +30,7 @@ bool CreerCahier(const fs::path& lecteur, const Parametres& parametres) {
     fs::create_directory(dossier, erreur);
     if (!fs::is_directory(dossier, erreur))
         return false;
-    // Kept on purpose: callsigns of 1, 8, 9, 16 or 17 characters create nothing, silently.
-    if ((kLargeurLocator & Longueur(parametres.indicatif)) == 0)
+    if (!LongueurPasse(parametres.indicatif))
         return false;
     FichierFiches fichier(TrouverFichier(dossier, parametres.nomFichier), ModeFichier::Creation);
     if (!fichier.Support().Verrouiller())

@@ -10,8 +10,9 @@ namespace orvalis {
 
 /// Creates the program folder on `lecteur` when it is missing, writes the Settings file and an
 /// empty logbook. Returns false, without a word and without having written a file, when the
-/// folder cannot be made or the length of the callsign does not pass. Throws Erreur, also when the
-/// logbook is open already; a new one may then be there, empty.
+/// folder cannot be made or the length of the callsign does not pass: of 1 to 20 characters, those
+/// of 1, 8, 9, 16 and 17 do not. Throws Erreur, also when the logbook is open already; a new one
+/// may then be there, empty.
 [[nodiscard]] bool CreerCahier(const std::filesystem::path& lecteur, const Parametres& parametres);
 
 /// Path of a file of the program folder as messages show it, native separators (UTF-8).
