@@ -120,7 +120,8 @@ std::string_view NomDepartement(std::string_view code) {
     if (code.empty())
         return {};
     const int valeur = ValeurNumerique(code);
-    // Kept on purpose: 2A and 2B read as 2 and give Aisne; their own rows are never reached.
+    // Kept on purpose, for the operators: 2A and 2B read as 2 and give Aisne; their own rows are
+    // never reached.
     for (const std::string_view ligne : kDepartements)
         if (ValeurNumerique(ligne.substr(0, kLargeurCode)) == valeur)
             return ligne.substr(kLargeurCode);

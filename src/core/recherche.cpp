@@ -105,7 +105,7 @@ ResultatRecherche ParDate(const Cahier& cahier, std::string_view texte) {
         resultat.lignes = Parcourir(cahier, estListee);
     const std::size_t nb = resultat.lignes.size();
     resultat.nbreContacts = std::to_string(nb);
-    // Kept on purpose: with exactly two the label keeps what it showed before.
+    // Kept on purpose, for the operators: with exactly two the label keeps what it showed before.
     if (nb != 2)
         resultat.contactsLab = nb > 2 ? "Contacts" : "Contact";
     return resultat;

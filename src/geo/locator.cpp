@@ -58,8 +58,8 @@ double LocatorVersLatitude(std::string_view locator) {
 double LocatorVersLongitude(std::string_view locator) {
     const int entier = (Code(locator, 0) - 'A') * 20 + 180 + (Code(locator, 2) - '0') * 2;
     const double longitude = entier + (Code(locator, 4) - kMilieu) / 12;
-    // Kept on purpose: every valid locator passes through this fold, and it is what makes the West
-    // positive.
+    // Kept on purpose, for the operators' distances and azimuths: every valid locator passes
+    // through this fold, and it is what makes the West positive.
     return std::abs(longitude) > 180 ? 360 - longitude : longitude;
 }
 

@@ -13,7 +13,8 @@ constexpr auto kTaille = static_cast<std::int64_t>(kTailleFiche);
 // Records that one write of the file moves at most.
 constexpr auto kFichesParEcriture = static_cast<std::int32_t>(kPlusGrandePiece / kTailleFiche);
 
-// Kept on purpose: each word is shown one pass late ("Dates" while the years are compared).
+// Kept on purpose, for the operators: each word is shown one pass late ("Dates" while the years are
+// compared).
 constexpr std::array<std::string_view, kNbPasses> kMots = {"Dates", "Années", "Mois", "Jours",
                                                            "Heures"};
 
@@ -66,7 +67,7 @@ template<int passe> bool Echanger(const char* a, const char* b) {
         return Annee(dateA) > Annee(dateB);
     if constexpr (passe == 2)
         return Mois(dateA) > Mois(dateB) && Annee(dateA) == Annee(dateB);
-    if constexpr (passe == 3) // Kept on purpose: the years may differ.
+    if constexpr (passe == 3) // Kept on purpose, for the logbooks: the years may differ.
         return Jour(dateA) > Jour(dateB) && Mois(dateA) == Mois(dateB);
     if constexpr (passe >= 4) {
         if (dateA != dateB)

@@ -20,7 +20,8 @@ constexpr int kPolicePetite = 8;
 constexpr std::size_t kEnTeteLong = 47; // characters from which a heading takes the small font
 
 constexpr std::string_view kPoliceEtiquette = "Comic sans MS";
-// Kept on purpose: spelled with a double r, so that the system's usual substitute is taken.
+// Kept on purpose, for the printed sheets: spelled with a double r, so that the system's usual
+// substitute is taken.
 constexpr std::string_view kPoliceValeurs = "Courrier";
 
 constexpr std::array kFilets = {600, 880, 1160};
@@ -113,7 +114,8 @@ void ImprimerEtiquette(Imprimante& imprimante, PlaceEtiquette place, GenreEtique
 
     Dessin dessin{imprimante, OrigineDeEtiquette(place)};
     imprimante.ChoisirGras(true);
-    // Kept on purpose: the heading of the last filled label decides for a blank one too.
+    // Kept on purpose, for the printed sheets: the heading of the last filled label decides for a
+    // blank one too.
     dessin.Police(kPoliceEtiquette, Longueur(enTete) < kEnTeteLong ? kPoliceGrande : kPolicePetite);
     dessin.Cadre();
     if (remplie) {

@@ -32,7 +32,6 @@ enum class GenreEtiquette : std::uint8_t { Remplie = 1, Vierge = 2 };
 struct PlaceEtiquette {
     int colonne = 1;
     int rangee = 1;
-    friend bool operator==(const PlaceEtiquette&, const PlaceEtiquette&) = default;
 };
 
 struct OrigineEtiquette {
@@ -41,21 +40,22 @@ struct OrigineEtiquette {
     friend bool operator==(const OrigineEtiquette&, const OrigineEtiquette&) = default;
 };
 
-/// Place of slot `numero` (1 to 16): odd slots left, even slots right, row by row.
+/// Place of label `numero` (1 to 16): odd numbers left, even numbers right, row by row.
 [[nodiscard]] PlaceEtiquette PlaceDeEtiquette(std::int16_t numero);
 
 /// Top-left corner of a label; a row outside 1 to 8 gives y = 0.
 [[nodiscard]] OrigineEtiquette OrigineDeEtiquette(PlaceEtiquette place);
 
 /// Draws one label at its place and leaves the document open for the others.
-/// Remplie: draws and trims `donnees`, and keeps its heading in `enTete`, which outlives a
-/// label on purpose: a blank label takes the size of its first font from the last filled one.
+/// Remplie: draws and trims `donnees`, and keeps its heading in `enTete`, which outlives a label:
+/// kept on purpose, for the printed sheets, where a blank label takes the size of its first font
+/// from the last filled one.
 /// Vierge: `donnees` is left alone; `station`, the own callsign, makes the heading. Nothing is cut:
 /// a value too long for its cell overflows it on both sides. The font is left bold.
 void ImprimerEtiquette(Imprimante& imprimante, PlaceEtiquette place, GenreEtiquette genre,
                        DonneesEtiquette& donnees, std::string_view station, std::string& enTete);
 
-/// A label of the sheet and the slot (1 to 16) whose place it takes.
+/// A label and its number on the sheet (1 to 16), which gives its place.
 struct EtiquettePlacee {
     std::int16_t numero = 1;
     DonneesEtiquette donnees;

@@ -9,8 +9,9 @@
 
 namespace orvalis {
 
+/// What pages and labels are printed on, and no more.
 enum class Papier { A4 };
-enum class Orientation { Portrait, Paysage };
+enum class Orientation { Portrait };
 
 /// Where the text that follows goes: below, at the left edge, or on the same line.
 enum class Suite { NouvelleLigne, MemeLigne };

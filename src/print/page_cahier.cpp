@@ -89,8 +89,8 @@ std::vector<QsoRecord> LirePage(const Cahier& cahier, std::int32_t premiere) {
     const std::int32_t reste = cahier.nbFiches - premiere + 1;
     std::vector<QsoRecord> fiches(static_cast<std::size_t>(std::clamp(reste, 0, kFichesParPage)));
     static_cast<void>(cahier.fichier.Lire(premiere, fiches));
-    // Kept on purpose: any callsign that begins with "\" ends the page, where the count of the
-    // log asks for "\" alone.
+    // Kept on purpose, for the printed pages: any callsign that begins with "\" ends the page,
+    // where the count of the log asks for "\" alone.
     const auto fin = std::find_if(fiches.begin(), fiches.end(), [](const QsoRecord& fiche) {
         return TexteRogne(fiche, Champ::CSGN).starts_with('\\');
     });

@@ -21,8 +21,8 @@ namespace orvalis {
 /// unruled.
 ///
 /// The contacts are read before anything is drawn, into records of the procedure's own: the card
-/// on show keeps its working slots. Throws Erreur; when the logbook cannot be read
-/// nothing is printed.
+/// on show keeps its working slots. Throws Erreur; when the logbook cannot be read nothing is
+/// printed.
 void ImprimerPage(Imprimante& imprimante, const Cahier& cahier, const Station& station,
                   const PageAffichee& page, std::int32_t premiereFiche);
 

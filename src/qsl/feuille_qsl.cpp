@@ -16,8 +16,9 @@ struct LienBoite {
     std::size_t lue;    // box that the field is read into
 };
 
-// Kept on purpose: report and mode are written from their own boxes but read into each other's,
-// so that a label read and written again has the two exchanged. The route is apart.
+// Kept on purpose, for the sheet files: report and mode are written from their own boxes but read
+// into each other's, so that a label read and written again has the two exchanged. The route is
+// apart.
 constexpr std::array<LienBoite, kNbChampsEtiquette - 1> kLiens = {{
     {ChampEtiquette::Indicatif, kBoiteIndicatif, kBoiteIndicatif},
     {ChampEtiquette::Ligne1, kBoiteLigne1, kBoiteLigne1},
@@ -70,7 +71,7 @@ std::string LegendeEtiquette(int k) {
 
 VuePlace VoirPlace(const EtatFeuille& feuille, int k) {
     const std::string numero = " [" + std::to_string(k) + "]";
-    // The two blanks before the bracket are meant.
+    // The two blanks before the bracket are kept on purpose, for the operators.
     const std::string libre = "Etiquette " + numero + " libre";
     switch (feuille.Etat(k)) {
     case EtatEtiquette::Preparee:
@@ -140,7 +141,8 @@ void ProchaineEtiquetteLibre(FeuilleQSL& feuille, int& k) {
     while (k < kNbEtiquettes && feuille.Etat(k) != EtatEtiquette::Libre)
         ++k;
     feuille.vue.nrTag = LegendeEtiquette(k);
-    // Kept on purpose: when a prepared label takes the last place, NrTag still names it.
+    // Kept on purpose, for the operators: when a prepared label takes the last place, NrTag still
+    // names it.
     if (k == kNbEtiquettes && feuille.Etat(k) == EtatEtiquette::Retiree) {
         feuille.vue.nrTag = kPlusDEtiquette;
         feuille.vue.valider = false;

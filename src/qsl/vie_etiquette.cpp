@@ -217,7 +217,8 @@ ReponseQSL SupprimerEtiquette(Cahier& cahier, FeuilleQSL& feuille) {
     LireEtiquette(feuille, k);
     Marquer(cahier, ContactDeLaPlace(cahier, feuille, k).fiche, "", k, feuille.tampon, reponse);
     SynchroniserCahier(cahier);
-    // Kept on purpose: box 11 is not emptied, so that the free place keeps the contact's number.
+    // Kept on purpose, for the sheet files: box 11 is not emptied, so that the free place keeps the
+    // contact's number.
     LibererPlace(feuille, k, kBoiteRappel);
     feuille.fichier.Synchroniser();
     MontrerRevue(feuille, false);
@@ -290,7 +291,8 @@ ReponseQSL ToutEstParfait(Cahier& cahier, FeuilleQSL& feuille, std::string_view 
     feuille.vue.controle = false;
     MontrerRevue(feuille, false);
     ControlerImpression(feuille);
-    // Kept on purpose: withdrawn places stay withdrawn although the button that restores them goes.
+    // Kept on purpose, for the operators: withdrawn places stay withdrawn although the button that
+    // restores them goes.
     feuille.vue.restaurer = false;
     feuille.vue.panneau = false;
     feuille.fraiche = false;

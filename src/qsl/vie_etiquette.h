@@ -79,7 +79,8 @@ void QuitterFeuille(FeuilleQSL& feuille);
 /// BtRestore: releases every withdrawn place and goes.
 void RestaurerFeuille(FeuilleQSL& feuille);
 
-/// Shows BtPrintQSL exactly when a place from `depuis` on holds a prepared label.
+/// Shows BtPrintQSL exactly when a place from `depuis` on holds a prepared label. Operators see it
+/// asked of the whole sheet, from place 1, everywhere.
 void ControlerImpression(FeuilleQSL& feuille, int depuis = 1);
 
 /// The places that BtPrintQSL prints, all on one sheet.

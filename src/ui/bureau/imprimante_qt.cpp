@@ -34,8 +34,9 @@ struct Remplacants {
 constexpr std::array kRemplacants = {
     Remplacants{"MS sans Serif", {"Microsoft Sans Serif", "Arial", "Liberation Sans"}},
     Remplacants{"Comic sans MS", {"Comic Relief", "Comic Neue", "Liberation Sans"}},
-    // Kept on purpose, with its double r: no system has it, and Arial is what the layout was
-    // measured with in its place. A wider face runs the date of a label into the time.
+    // Kept on purpose with its double r, for the printed sheets: no system has it, and Arial is
+    // what the layout was measured with in its place. A wider face runs the date of a label into
+    // the time.
     Remplacants{"Courrier", {"Arial", "Liberation Sans", "Nimbus Sans"}},
 };
 
@@ -79,8 +80,11 @@ void ImprimanteQt::ChoisirPapier(Papier papier, Orientation orientation) {
         imprimante_.setPageSize(QPageSize{QPageSize::A4});
         break;
     }
-    imprimante_.setPageOrientation(orientation == Orientation::Portrait ? QPageLayout::Portrait
-                                                                        : QPageLayout::Landscape);
+    switch (orientation) {
+    case Orientation::Portrait:
+        imprimante_.setPageOrientation(QPageLayout::Portrait);
+        break;
+    }
     imprimante_.setFullPage(false);
     QPageLayout page = imprimante_.pageLayout();
     page.setUnits(QPageLayout::Point);

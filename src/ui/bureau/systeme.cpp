@@ -54,8 +54,8 @@ void SystemeReel::Pause(int secondes) {
     const double fin = std::floor(SecondesDuJour() + 0.5) + secondes;
     QTimer reveil; // wakes the loop while nothing else happens
     reveil.start(20);
-    // Kept on purpose: no wrap at midnight. A pause that would end after it lasts until the
-    // operator quits.
+    // Kept on purpose, for the operators: no wrap at midnight. A pause that would end after it
+    // lasts until they quit.
     while (!arret_ && SecondesDuJour() < fin)
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
 }

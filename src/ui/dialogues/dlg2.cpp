@@ -189,7 +189,7 @@ bool Dlg2::TraiterTouche(const Boite& boite, const QKeyEvent& touche) {
         Confirmer(boite);
         return true;
     }
-    // Kept on purpose: Backspace does not empty a letter box.
+    // Kept on purpose, for the operators: Backspace does not empty a letter box.
     if (EstLettre(boite.regle.touches) && touche.key() == Qt::Key_Backspace)
         return true;
     const QString texte = touche.text();
@@ -214,8 +214,8 @@ void Dlg2::Confirmer(const Boite& boite) {
     boite.suivant->setFocus();
 }
 
-// Kept on purpose: only choosing a notation, by a click or by the shortcut of its caption, makes
-// its boxes drive the others; passing through a box with the Tab key does not.
+// Kept on purpose, for the operators: only choosing a notation, by a click or by the shortcut of
+// its caption, makes its boxes drive the others; passing through a box with the Tab key does not.
 void Dlg2::Choisir(const Boite& boite) {
     notation_ = boite.notation;
     boite.champ->selectAll();
@@ -260,8 +260,8 @@ void Dlg2::ChangerDms(const Boite& boite) {
 }
 
 void Dlg2::ChangerDecimal(const Boite& boite) {
-    // Kept on purpose: a value out of range is passed over, and the other box goes on from the last
-    // one that was in range.
+    // Kept on purpose, for the operators: a value out of range is passed over, and the other box
+    // goes on from the last one that was in range.
     const bool estLatitude = boite.champ == ui_->Fr1LatCent;
     const float lu = LireDecimal(boite.champ->text().toStdString());
     if (std::abs(lu) >= static_cast<float>(estLatitude ? kLimiteLatitude : kLimiteLongitude))
