@@ -1,6 +1,7 @@
 #include "ui/flux/commandes.h"
 
 #include "ui/flux/flux_classer.h"
+#include "ui/flux/flux_compagnons.h"
 #include "ui/flux/flux_demarrage.h"
 #include "ui/flux/flux_fichiers.h"
 #include "ui/flux/flux_impression.h"

@@ -1,9 +1,7 @@
-// Start-up, the clock, the companion programs, the dialogs of their own, the end.
+// Start-up, the clock, the end.
 #pragma once
 
 #include "ui/flux/plateau.h"
-
-#include <string_view>
 
 namespace orvalis {
 
@@ -24,18 +22,6 @@ void InitialiserFenetre(Plateau& p);
 /// One tick of the clock.
 void AfficherHeure(Plateau& p);
 
-/// Starts a companion program of the program folder without waiting; a failure is told.
-void LancerCompagnon(Plateau& p, std::string_view nom);
-
-/// A click on the clock: starts the time-setting tool.
-void ReglerHorloge(Plateau& p);
-
-/// MnuCreateMDB.
-void CreerBaseDeDonnees(Plateau& p);
-/// MnuEditLocator: the coordinates dialog.
-void EditerLocator(Plateau& p);
-/// MnuVoir: the About box.
-void VoirInfos(Plateau& p);
 /// MnuQuitter and BtFermerLog.
 void Quitter(Plateau& p);
 

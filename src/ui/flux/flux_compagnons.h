@@ -1,0 +1,21 @@
+// What opens beside the window: the companion programs, the coordinates dialog, the About box.
+#pragma once
+
+#include "ui/flux/plateau.h"
+
+namespace orvalis {
+
+/// A click on the clock: starts the time-setting tool of the program folder, without waiting; a
+/// failure is told.
+void ReglerHorloge(Plateau& p);
+
+/// MnuCreateMDB: starts the database tool likewise.
+void CreerBaseDeDonnees(Plateau& p);
+
+/// MnuEditLocator: the coordinates dialog.
+void EditerLocator(Plateau& p);
+
+/// MnuVoir: the About box.
+void VoirInfos(Plateau& p);
+
+} // namespace orvalis
