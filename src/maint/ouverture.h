@@ -27,7 +27,7 @@ struct BilanOuverture {
 /// current yet is the caller's business.
 ///
 /// Throws Erreur; the current logbook then stays open as it was.
-BilanOuverture OuvrirAutreCahier(Cahier& cahier, Station& station,
-                                 const std::filesystem::path& chemin);
+[[nodiscard]] BilanOuverture OuvrirAutreCahier(Cahier& cahier, Station& station,
+                                               const std::filesystem::path& chemin);
 
 } // namespace orvalis

@@ -1,4 +1,4 @@
-#include "ui/bureau/systeme.h"
+#include "ui/bureau/systeme_reel.h"
 #include "ui/fenetre/orvalis.h"
 
 #include <QApplication>

@@ -1,5 +1,6 @@
-// The Settings file, the program folder and the own locator that is kept in it.
+// The Settings file, the program folder, the first run that makes them and the own locator kept.
 #include "aides.h"
+#include "core/creation.h"
 #include "core/dossier.h"
 #include "core/parametres.h"
 #include "ui/carte/locator_station.h"
@@ -9,19 +10,15 @@ namespace orvalis::aides::parametres {
 TEST(Parametres, FormesLues) {
     const Dossier dossier;
     const auto lire = [&dossier](std::string_view octets) {
-        try {
-            const Parametres lus = LireParametres(dossier.Poser("Parvel.cfg", octets));
-            return lus.indicatif + '|' + lus.nomFichier + '|' + lus.monLocator;
-        } catch (const Erreur&) {
-            return std::string{"refusés"};
-        }
+        const Parametres lus = LireParametres(dossier.Poser("Parvel.cfg", octets));
+        return lus.indicatif + '|' + lus.nomFichier + '|' + lus.monLocator;
     };
     Verifier(lire, Textes{{"\"F5ABC\",\"F5ABC.Vek\",\"JN18AA\"\r\n", "F5ABC|F5ABC.Vek|JN18AA"},
                           {"F5ABC , F5ABC.Vek, JN18AA", "F5ABC|F5ABC.Vek|JN18AA"},
                           {"\"F5\"\"A,B\",\"\xE9.Vek\",\"JN18AABB\"\n", "F5\"A,B|é.Vek|JN18AA"},
                           {"\"F5ABC\"\r\n\"F5ABC.Vek\"\r\n\"\"\r\n", "F5ABC|F5ABC.Vek|      "}});
     for (const char* octets : {"", "\r\n", "\"F5ABC\"", "\"A\",\"B\"", "\"\",\"\",\"\""})
-        EXPECT_EQ(lire(octets), "refusés") << octets;
+        EXPECT_THROW(lire(octets), Erreur) << octets;
     EXPECT_THROW(static_cast<void>(LireParametres(dossier / "rien")), Erreur);
 }
 
@@ -38,6 +35,19 @@ TEST(Parametres, EcritureSousLeNomQuiEstLa) {
     EXPECT_EQ(std::distance(begin(fichiers), end(fichiers)), 1);
 }
 
+TEST(Creation, SelonLaLongueurDeLIndicatif) {
+    const std::string passent = "001111110011111100111"; // lengths from 0 to 20
+    for (const char* lettre : {"F", "É"})                // characters count, not bytes
+        for (std::size_t longueur = 0; longueur < passent.size(); ++longueur) {
+            const Dossier lecteur;
+            const std::string indicatif = Fois(static_cast<int>(longueur), lettre);
+            const bool passe = passent[longueur] == '1';
+            EXPECT_EQ(CreerCahier(lecteur / "", {indicatif, "C.Vek", "JN18AA"}), passe) << longueur;
+            EXPECT_EQ(Lire(lecteur / "Orvalis/C.Vek"), passe ? Fin() : "") << longueur;
+            EXPECT_EQ(std::filesystem::exists(lecteur / "Orvalis/ParVel.cfg"), passe) << longueur;
+        }
+}
+
 TEST(Dossier, LeLecteurSuitLeDossierCourant) {
     const auto lecteur = [](std::string_view courant) {
         return CalculerLecteur(courant, "/h/o").string();
@@ -52,21 +62,19 @@ TEST(Dossier, LeLecteurSuitLeDossierCourant) {
 }
 
 TEST(Dossier, VolumesAmovibles) {
-    const auto amovible = [](std::string_view racine) {
-        return std::string{EstRacineAmovible(racine) ? "oui" : "non"};
-    };
-    EXPECT_EQ(Suite(amovible, "/media/o/C|/media/usb|/run/media/o/C|/mnt/usb|/mnt/a/b|/Volumes/C"),
-              "oui|oui|oui|oui|oui|oui");
-    EXPECT_EQ(
-        Suite(amovible, "/|/home|/media|/run|/run/media|/run/user/1000|/mnt|/Volumes|/x/mnt/y"),
-        "non|non|non|non|non|non|non|non|non");
+    for (const char* racine :
+         {"/media/o/C", "/media/usb", "/run/media/o/C", "/mnt/usb", "/mnt/a/b", "/Volumes/C"})
+        EXPECT_TRUE(EstRacineAmovible(racine)) << racine;
+    for (const char* racine : {"/", "/home", "/media", "/run", "/run/media", "/run/user/1000",
+                               "/mnt", "/Volumes", "/x/mnt/y"})
+        EXPECT_FALSE(EstRacineAmovible(racine)) << racine;
 }
 
 TEST(LocatorStation, SeulsSixCaracteresSontJuges) {
     using enum VerdictLocator;
-    const Table<VerdictLocator> cas = {
-        {"", Rien},         {"JN18A", Rien}, {"JN18AAB", Rien}, {" JN18AA ", Accepte},
-        {"JN18ZZ", Refuse}, {"JN18É", Rien}, {"1234ÉÀ", Refuse}};
+    const Table<VerdictLocator> cas = {{"", Rien},        {"JN18A", Rien},       {"JN18AAB", Rien},
+                                       {"JN18É", Rien},   {" JN18AA ", Accepte}, {"JN18ZZ", Refuse},
+                                       {"1234ÉÀ", Refuse}};
     Verifier(JugerLocatorStation, cas);
 }
 

@@ -20,6 +20,13 @@ Fichier FichierDe(char octet) {
     return fichier;
 }
 
+// At most kTaille bytes from `position`.
+std::string Contenu(const Fichier& fichier, std::int64_t position) {
+    std::string lu(kTaille, '\0');
+    lu.resize(fichier.Lire(position, lu));
+    return lu;
+}
+
 void Remplir(Projection& projection, char octet) {
     std::fill(projection.Atelier().begin(), projection.Atelier().end(), octet);
 }
@@ -30,9 +37,7 @@ TEST(Projection, RemplaceToutOuRien) {
     Remplir(projection, 'b');
     projection.Remplacer(kIci, kPiece);
     const std::string attendu = std::string(kTaille, 'a').replace(kIci, kPiece, kPiece, 'b');
-    std::string lu(kTaille, '\0');
-    ASSERT_EQ(fichier.Lire(0, lu), kTaille);
-    EXPECT_EQ(lu, attendu);
+    EXPECT_EQ(Contenu(fichier, 0), attendu);
 
     // The second page no longer takes anything: the part before it is put back.
     auto* page = const_cast<char*>(projection.Octets()) + kTaille / 2;
@@ -49,15 +54,9 @@ TEST(Projection, FichierRaccourciParUnAutre) {
         Projection projection(fichier, kTaille);
         Remplir(projection, 'b');
         ASSERT_EQ(::ftruncate(fichier.Descripteur(), static_cast<off_t>(reste)), 0);
-        try {
-            projection.Remplacer(kIci, kPiece);
-            ADD_FAILURE() << "replaced what is not there, of " << reste;
-        } catch (const Erreur& echec) {
-            EXPECT_TRUE(echec.ConcerneLeCahier());
-        }
-        std::string lu(kTaille, '\0');
-        lu.resize(fichier.Lire(0, lu));
-        EXPECT_EQ(lu, std::string(reste, 'a')) << "what remains stays as it was";
+        EXPECT_THAT([&] { projection.Remplacer(kIci, kPiece); },
+                    testing::Throws<Erreur>(testing::Property(&Erreur::ConcerneLeCahier, true)));
+        EXPECT_EQ(Contenu(fichier, 0), std::string(reste, 'a')) << "what remains stays as it was";
     }
 }
 
@@ -80,11 +79,10 @@ TEST(Projection, TueePendantUnRemplacement) {
         EXPECT_EQ(::read(tube[0], &signe, 1), 1);
         ::kill(enfant, SIGKILL);
         ::waitpid(enfant, nullptr, 0);
-        ::close(tube[0]);
-        ::close(tube[1]);
-        std::string lu(kPiece, '\0');
-        ASSERT_EQ(fichier.Lire(kIci, lu), kPiece);
-        ASSERT_EQ(lu.find_first_not_of(lu[0]), lu.npos) << "cut in two by kill " << essais;
+        for (const int bout : tube)
+            ::close(bout);
+        const std::string lu = Contenu(fichier, kIci).substr(0, kPiece);
+        ASSERT_EQ(lu, std::string(kPiece, lu[0])) << "cut in two by kill " << essais;
     }
 }
 

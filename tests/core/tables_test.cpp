@@ -73,72 +73,58 @@ TEST(Departements, NomDuCode) {
 }
 
 TEST(Boites, TouchesDeChaqueBoite) {
-    EXPECT_EQ(FiltrerTouches(Touches::Majuscules, "f6é-\t\n"), "F6É-");
-    EXPECT_EQ(FiltrerTouches(Touches::DateHeureFreq, "-./09:;+a 漢,"), "./09:");
-    EXPECT_EQ(FiltrerTouches(Touches::Report, "5+9a-*,"), "5+9");
-    EXPECT_EQ(FiltrerTouches(Touches::Chiffres, "2A./:+b"), "2");
-    EXPECT_EQ(FiltrerTouches(Touches::Libres, "jean €漢"), "jean €?");
-    std::string genres; // what each box makes of "a+:1"
-    for (const DescriptionBoite& boite : kBoites)
-        genres += FiltrerTouches(boite.touches, "a+:1") + " ";
-    EXPECT_EQ(genres, "A+:1 :1 :1 :1 :1 A+:1 +:1 +:1 A+:1 A+:1 1 a+:1 A+:1 a+:1 a+:1 A+:1 A+:1 ");
-}
-
-TEST(Boites, TouchesDesCoordonnees) {
     using enum Touches;
-    const std::pair<Touches, std::string> cas[] = {
-        {Chiffres, "0123456789"}, {Hemisphere, "NSns"}, {Cote, "EOeo"}, {Decimal, "-./0123456789"}};
+    const std::pair<Touches, std::string> cas[] = {{Chiffres, "0123456789"},
+                                                   {DateHeureFreq, "./0123456789:"},
+                                                   {Report, "+./0123456789:"},
+                                                   {Hemisphere, "NSns"},
+                                                   {Cote, "EOeo"},
+                                                   {Decimal, "-./0123456789"}};
     for (const auto& [touches, acceptes] : cas)
         for (int o = 1; o < 256; ++o) {
             const std::string c = DepuisCp1252(std::string(1, static_cast<char>(o)));
             const bool accepte = acceptes.find(c) != acceptes.npos;
             EXPECT_EQ(FiltrerTouches(touches, c), accepte ? orvalis::Majuscules(c) : "") << o;
         }
-    EXPECT_EQ(FiltrerTouches(Touches::Locator, "j0-é?ÿ\n\xC2\x85\x7F€œ漢😀 "), "J0-É?ÿ ");
+    EXPECT_EQ(FiltrerTouches(Touches::Majuscules, "f6é-\t\n"), "F6É-");
+    EXPECT_EQ(FiltrerTouches(Locator, "j0-é?ÿ\n\xC2\x85\x7F€œ漢😀 "), "J0-É?ÿ ");
+    std::string genres; // what each box makes of "a+:1"
+    for (const DescriptionBoite& boite : kBoites)
+        genres += FiltrerTouches(boite.touches, "a+:1") + " ";
+    EXPECT_EQ(genres, "A+:1 :1 :1 :1 :1 A+:1 +:1 +:1 A+:1 A+:1 1 a+:1 A+:1 a+:1 a+:1 A+:1 A+:1 ");
 }
 
-TEST(Boites, TexteInsereDansLesCoordonnees) {
-    const struct {
-        std::string_view texte;
-        std::size_t longueur;
-        std::string_view pris;
-        std::size_t curseur;
-    } cas[] = {
-        // the cursor stands behind three characters
-        {"4a5", 2, "45", 2},   // dropped before the cut
-        {"9x844", 2, "44", 0}, // what stood behind the insertion stays
-        {"4995", 2, "45", 1},        {"1234567", 2, "67", 0},
-        {"1x34567", 0, "134567", 2}, {"😀1234", 0, "1234", 2},
-    };
-    for (const auto& c : cas) {
-        const TexteEdite edite =
-            FiltrerTexte(Touches::Chiffres, c.longueur, {std::string{c.texte}, 3});
-        EXPECT_EQ(edite.texte, c.pris) << c.texte;
-        EXPECT_EQ(edite.curseur, c.curseur) << c.texte;
-    }
-}
-
-TEST(Boites, UneEditionNeFiltreQueCeQuElleApporte) {
+TEST(Boites, CeQueLaBoiteGardeDUneEdition) {
     constexpr auto L = Touches::Libres, M = Touches::Majuscules, C = Touches::Chiffres;
     const std::string enorme(10'000, 'z');
     const std::string controles{"a\0\tb", 4};
-    // Keys and length of a box, its text before and after an edit; text and cursor kept of that.
-    const std::tuple<Touches, std::size_t, std::string, TexteEdite, std::string, std::size_t>
-        cas[] = {{C, 3, "", {"7a5b12", 6}, "751", 3},
-                 {C, 3, "2A", {"2A7x", 4}, "2A7", 3}, // a stored letter stays
-                 {M, 15, "abc", {"abxyc", 4}, "abXYc", 4},
-                 {M, 15, "ab", {"abab", 2}, "ABab", 2}, // pasted before its like
-                 {M, 6, "JN18AA", {"JN18AAx", 7}, "JN18AA", 6},
-                 {M, 6, "éa", {"ééa", 2}, "éÉa", 2},
-                 {L, 15, "Jean", {"Jea", 3}, "Jea", 3}, // Backspace
-                 {L, 15, "Jean", {"", 0}, "", 0},
-                 {M, 15, "F", {enorme, 10'000}, "ZZZZZZZZZZZZZZZ", 15},
-                 {L, 8, "", {controles, 4}, "ab", 2}};
-    for (const auto& [touches, longueur, ancien, nouveau, texte, curseur] : cas) {
-        const TexteEdite edite = FiltrerEdition(touches, longueur, ancien, nouveau);
+    const auto verifier = [](const TexteEdite& edite, const std::string& texte,
+                             std::size_t curseur) {
         EXPECT_EQ(edite.texte, texte);
         EXPECT_EQ(edite.curseur, curseur) << texte;
-    }
+    };
+    // Keys and length of a box, its text before and after an edit; text and cursor kept of that.
+    const std::tuple<Touches, std::size_t, std::string, TexteEdite, std::string, std::size_t>
+        cartes[] = {{C, 3, "", {"7a5b12", 6}, "751", 3},
+                    {C, 3, "2A", {"2A7x", 4}, "2A7", 3}, // a stored letter stays
+                    {M, 15, "abc", {"abxyc", 4}, "abXYc", 4},
+                    {M, 15, "ab", {"abab", 2}, "ABab", 2}, // pasted before its like
+                    {M, 6, "JN18AA", {"JN18AAx", 7}, "JN18AA", 6},
+                    {M, 6, "éa", {"ééa", 2}, "éÉa", 2},
+                    {L, 15, "Jean", {"Jea", 3}, "Jea", 3}, // Backspace
+                    {L, 15, "Jean", {"", 0}, "", 0},
+                    {M, 15, "F", {enorme, 10'000}, "ZZZZZZZZZZZZZZZ", 15},
+                    {L, 8, "", {controles, 4}, "ab", 2}};
+    for (const auto& [touches, longueur, ancien, nouveau, texte, curseur] : cartes)
+        verifier(FiltrerEdition(touches, longueur, ancien, nouveau), texte, curseur);
+    // A box of the coordinates, the cursor behind three characters; text and cursor kept.
+    const std::tuple<std::size_t, const char*, const char*, std::size_t> coordonnees[] = {
+        {2, "4a5", "45", 2},   // dropped before the cut
+        {2, "9x844", "44", 0}, // what stood behind the insertion stays
+        {2, "4995", "45", 1},        {2, "1234567", "67", 0},
+        {0, "1x34567", "134567", 2}, {0, "😀1234", "1234", 2}};
+    for (const auto& [longueur, nouveau, texte, curseur] : coordonnees)
+        verifier(FiltrerTexte(C, longueur, {nouveau, 3}), texte, curseur);
 }
 
 } // namespace orvalis::aides::tables

@@ -5,7 +5,6 @@
 
 #include <cerrno>
 #include <csignal>
-#include <cstdarg>
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
@@ -104,6 +103,9 @@ REMPLACER(ssize_t, pread, (int f, void* octets, size_t t, off_t p),
           Suivi(f), kLecture, t, p, SYS_pread64, f, octets, n, p)
 REMPLACER(ssize_t, pwrite, (int f, const void* octets, size_t t, off_t p),
           Suivi(f), kEcriture, t, p, SYS_pwrite64, f, octets, n, p)
+REMPLACER(int, open, (const char* nom, int drapeaux, ...),
+          Suivi(nom), (drapeaux & O_CREAT) != 0 ? kPlace : kAutre, 0, 0,
+          SYS_openat, AT_FDCWD, nom, drapeaux, 0600) // no fault depends on the rights
 REMPLACER(int, fdatasync, (int f), Suivi(f), kPlace, 0, 0, SYS_fdatasync, f)
 REMPLACER(int, ftruncate, (int f, off_t taille) noexcept,
           Suivi(f), kPlace, 0, 0, SYS_ftruncate, f, taille)
@@ -119,15 +121,3 @@ REMPLACER(int, memfd_create, (const char* nom, unsigned drapeaux) noexcept,
 REMPLACER(void*, mmap, (void* a, size_t t, int acces, int drapeaux, int f, off_t p) noexcept,
           Suivi(f), kAutre, 0, 0, SYS_mmap, a, t, acces, drapeaux, f, p)
 // clang-format on
-
-// The only one with a parameter that may be missing.
-extern "C" int open(const char* nom, int drapeaux, ...) {
-    va_list suite;
-    va_start(suite, drapeaux);
-    const mode_t droits = va_arg(suite, mode_t);
-    va_end(suite);
-    const Sorte sorte = (drapeaux & O_CREAT) != 0 ? kPlace : kAutre;
-    return Passer<int>(Suivi(nom), {sorte, 0, 0, "open"}, [&](std::size_t /*n*/) {
-        return ::syscall(SYS_openat, AT_FDCWD, nom, drapeaux, droits);
-    });
-}

@@ -74,11 +74,8 @@ std::string Juger(const Plan& plan, const std::string& message, const Fichiers& 
     return trouves == apres ? "" : "said nothing, although it is not done";
 }
 
-struct Compte {
-    int essais = 0, degats = 0;
-};
-
-void Parcourir(const Operation& operation, Bilan& bilan, Compte& compte) {
+// Counts the faults tried and those that did damage.
+void Parcourir(const Operation& operation, Bilan& bilan, int& essais, int& degats) {
     Banc banc;
     Preparer(operation, banc);
     const Fichiers avant = LireFichiers(banc.Dossier());
@@ -91,17 +88,17 @@ void Parcourir(const Operation& operation, Bilan& bilan, Compte& compte) {
     dire(std::to_string(appels.size()) + " calls");
     if (!temoin.empty() || apres == avant || appels.empty()) {
         dire("does not work " + temoin);
-        ++compte.degats;
+        ++degats;
     }
     for (std::size_t rang = 0; rang < appels.size(); ++rang)
         for (const Plan& plan : Fautes(appels[rang], rang)) {
-            ++compte.essais;
+            ++essais;
             const std::string message = Essayer(operation, banc, avant, plan, bilan);
             const Fichiers trouves = LireFichiers(banc.Dossier());
             const std::string degat = Juger(plan, message, avant, apres, trouves);
             if (degat.empty())
                 continue;
-            ++compte.degats;
+            ++degats;
             dire(std::string(plan.faute.nom) + " at call " + std::to_string(rang + 1) + " (" +
                  appels[rang].nom + "): " + degat);
         }
@@ -137,7 +134,7 @@ int main(int argc, char** argv) {
     void* memoire =
         ::mmap(nullptr, sizeof(Bilan), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
     auto* bilan = new (memoire) Bilan;
-    Compte compte;
+    int essais = 0, degats = 0;
     for (const Operation& operation : Operations()) {
         if (!nom.empty() && nom != operation.nom)
             continue;
@@ -146,9 +143,9 @@ int main(int argc, char** argv) {
             std::cout << message << std::endl;
             ::_exit(message.empty() ? 0 : 1);
         }
-        Parcourir(operation, *bilan, compte);
+        Parcourir(operation, *bilan, essais, degats);
     }
-    std::cout << compte.essais << " faults tried, " << compte.degats << " damaged\n";
-    const bool fait = compte.essais != 0 && !testing::UnitTest::GetInstance()->Failed();
-    return fait && compte.degats == 0 ? 0 : 1;
+    std::cout << essais << " faults tried, " << degats << " damaged\n";
+    const bool fait = essais != 0 && !testing::UnitTest::GetInstance()->Failed();
+    return fait && degats == 0 ? 0 : 1;
 }

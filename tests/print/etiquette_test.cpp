@@ -3,8 +3,6 @@
 #include "print/etiquette.h"
 #include "ui/carte/donnees_etiquette.h"
 
-#include <gmock/gmock.h>
-
 namespace orvalis::aides::etiquette {
 
 // Frame, table and texts of every label, from its own corner.
@@ -33,18 +31,9 @@ TEST(Etiquette, Remplie) {
 
 TEST(Etiquette, TextesDUneEtiquetteDeLaFeuille) {
     QslSlotRecord etiquette;
-    aides::Brute({{0, " F6XYZ/P"},
-                  {15, "F5ABC"},
-                  {30, "W3\xC9"},
-                  {45, "BUREAU"},
-                  {60, "12/05/02"},
-                  {68, "10:00"},
-                  {73, "14.250"},
-                  {83, "59+10"},
-                  {91, "SSB"},
-                  {96, "1234"}},
-                 106)
-        .copy(etiquette.octets.data(), etiquette.octets.size());
+    const std::string octets = " F6XYZ/P       F5ABC          W3\xC9            BUREAU         "
+                               "12/05/0210:0014.250    59+10   SSB  1234      ";
+    octets.copy(etiquette.octets.data(), octets.size());
     const DonneesEtiquette d = DonneesDeEtiquette(etiquette);
     EXPECT_EQ(d.indicatif + '|' + d.texte1 + '|' + d.texte2 + '|' + d.route + '|' + d.date + '|' +
                   d.heure + '|' + d.frequence + '|' + d.report + '|' + d.mode,

@@ -44,7 +44,7 @@ TEST(Demarrage, ToutArreterNeCreeRien) {
     EXPECT_FALSE(std::filesystem::exists(banc.Dossier()));
 }
 
-TEST(Demarrage, FichiersAbimesFinissentEnMessage) {
+TEST(Demarrage, CeQuiNeSOuvrePasFinitEnMessage) {
     const std::string incomplet =
         "Le fichier de paramètres « ~/Parvel.cfg » est incomplet : il doit contenir l'indicatif, "
         "le nom du cahier et le locator de la station.";
@@ -53,29 +53,18 @@ TEST(Demarrage, FichiersAbimesFinissentEnMessage) {
              {"", incomplet},
              {"\"F5ABC\",\"absent.Vek\",\"JN04SD\"\r\n",
               "Impossible d'ouvrir le fichier « ~/absent.Vek » : le fichier n'existe pas."},
-             {"\"F5ABC\",\"dossier\",\"JN04SD\"\r\n", "Impossible d'ouvrir le fichier « ~/dossier "
-                                                      "» : c'est un dossier, pas un fichier."}}) {
+             {"\"F5ABC\",\"F5ABC.Vek\",\"JN04SD\"\r\n",
+              "Le cahier « ~/F5ABC.Vek » est déjà ouvert par un autre programme Orvalis."}}) {
         Banc banc;
         banc.Installer(Fin());
         banc.Ecrire("Parvel.cfg", parametres);
-        std::filesystem::create_directory(banc.Dossier() / "dossier");
+        const Cahier autreProgramme = aides::Ouvrir(banc.Dossier() / "F5ABC.Vek");
         banc.Ouvrir();
         EXPECT_EQ(banc.systeme.codeDeFin, 1);
         banc.Suivre("said : -> averti = \"" + message + '"');
         EXPECT_FALSE(std::filesystem::exists(banc.Dossier() / "absent.Vek"));
         EXPECT_EQ(banc.Lire("Parvel.cfg"), parametres);
     }
-}
-
-TEST(Demarrage, UnSecondProgrammeEstRefuse) {
-    const Banc banc(Contacts(3) + Fin());
-    Banc second;
-    second.systeme.lecteur = banc.systeme.lecteur;
-    second.Ouvrir();
-    second.Suivre("said : -> averti = Le cahier « ~/F5ABC.Vek » est déjà ouvert par un autre "
-                  "programme Orvalis.");
-    EXPECT_EQ(second.systeme.codeDeFin, 1);
-    EXPECT_EQ(banc.Texte("TxtField_1"), "F3QSO");
 }
 
 TEST(Demarrage, HorlogeEtFin) {

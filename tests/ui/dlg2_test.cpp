@@ -44,7 +44,13 @@ TEST_F(Dlg2Test, SeRemplitUneFoisParOuverture) {
     Montrer(dialogue);
     EXPECT_EQ(dialogue.LocatorModifie(), std::nullopt);
     Tout("opened again :", kOuverture);
-    banc.Suivre("cancelled : clic Fr1MinText1; touche Esc -> caché Fr1CmdFermer");
+    banc.Suivre("entered : touche Tab");
+    EXPECT_EQ(S(banc.Controle<QLineEdit>("Fr1DegText1")->selectedText()), "44");
+    // Only the notation that is chosen changes the others, and only when it is in range.
+    banc.Suivre(R"(
+ out of range : tape 95 -> vue = 95|08|35|N|001|32|10|E|44.1458|-1.5417|JN04SD|Fr1DegText1
+ then : touche Alt+D; tape 43 -> vue = 43|08|35|N|001|32|10|E|43.1358|-1.5316|JN03SD|Fr1MinText1
+ cancelled : touche Esc -> caché Fr1CmdFermer)");
 }
 
 TEST_F(Dlg2Test, LesDegresMinutesSecondesEntrainentLeReste) {
@@ -63,15 +69,15 @@ TEST_F(Dlg2Test, LesDegresMinutesSecondesEntrainentLeReste) {
 }
 
 TEST_F(Dlg2Test, UneValeurTropGrandeDevientZero) {
-    const std::array<std::string, 4> cas[] = {
-        // box, text taken, text refused, what stands there then
-        {"Fr1DegText1", "89", "90", "00"}, {"Fr1MinText1", "59", "60", "00"},
-        {"Fr1SecText1", "59", "95", "00"}, {"Fr1DegText2", "179", "180", "000"},
-        {"Fr1MinText2", "59", "60", "00"}, {"Fr1SecText2", "59", "99", "00"}};
-    for (const auto& [boite, admis, refuse, zero] : cas) {
+    const std::array<std::string, 3> cas[] = {
+        // box, text taken, text refused
+        {"Fr1DegText1", "89", "90"},   {"Fr1MinText1", "59", "60"}, {"Fr1SecText1", "59", "95"},
+        {"Fr1DegText2", "179", "180"}, {"Fr1MinText2", "59", "60"}, {"Fr1SecText2", "59", "99"}};
+    for (const auto& [boite, admis, refuse] : cas) {
         banc.Suivre("taken : clic " + boite + "; tape " + admis + " -> " + boite + " = " + admis +
                     "\n refused : clic " + boite + "; tape " + refuse + " -> foyer = " + boite);
-        EXPECT_EQ(S(banc.Controle<QLineEdit>(boite)->selectedText()), zero);
+        EXPECT_EQ(S(banc.Controle<QLineEdit>(boite)->selectedText()),
+                  std::string(admis.size(), '0'));
     }
     Tout("zeros :", "00|00|00|N|000|00|00|E|0.0000|0.0000|JJ00AA|Fr1SecText2");
     banc.Suivre("pasted : clic Fr1DegText1; colle Fr1DegText1 9x5a -> Fr1DegText1 = 00");
@@ -96,14 +102,6 @@ TEST_F(Dlg2Test, LeLocatorIncompletRevient) {
     banc.Suivre("wrong : clic Fr1TextLocator; valide JS04SD -> foyer = Fr1TextLocator");
     EXPECT_EQ(dialogue.LocatorModifie(), "JN04SD");
     Tout("no room for a seventh : touche Ctrl+A; tape FN31PRX; touche Tab", kNewYork);
-}
-
-TEST_F(Dlg2Test, SeuleLaNotationChoisieEntraine) {
-    banc.Suivre("entered : touche Tab");
-    EXPECT_EQ(S(banc.Controle<QLineEdit>("Fr1DegText1")->selectedText()), "44");
-    banc.Suivre(R"(
- out of range : tape 95 -> vue = 95|08|35|N|001|32|10|E|44.1458|-1.5417|JN04SD|Fr1DegText1
- then : touche Alt+D; tape 43 -> vue = 43|08|35|N|001|32|10|E|43.1358|-1.5316|JN03SD|Fr1MinText1)");
 }
 
 } // namespace orvalis::operateur::dlg2

@@ -20,6 +20,7 @@ TEST(Maintenance, JumelageAvecSauvegarde) {
  no : clic BtPjSauvegarder -> demandes = enregistrer|~/VekSave|F5ABC.Vek; actif BtPjSauvegarder
  backup : fichier VekSave/F5ABC.Vek; clic BtPjSauvegarder -> grisé BtPjSauvegarder
  pairing : fichier AUTRE.Vek; clic BtPjumeler -> NoFicheLab = " Fiche N° 5 "; actif PJumelage
+ a question beside it : clic TxtField_12; valide luc; touche Alt+N -> foyer = BtPjumeler
  closed : clic BtPjAnnuler -> foyer = ListeLog)");
     EXPECT_EQ(banc.Lire("VekSave/F5ABC.Vek"), Contacts(3) + Fin());
     EXPECT_EQ(Difference(banc.OctetsCahier(), Contacts(3) + Contacts(2) + Fin()), "");

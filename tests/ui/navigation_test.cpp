@@ -6,17 +6,19 @@
 namespace orvalis::operateur::navigation {
 
 TEST(Navigation, TaillesDeCahier) {
-    // Contacts; page, line, card and focus at the start; whether there is a page before.
-    const std::tuple<int, const char*, const char*> cas[] = {
-        {0, "\"Page 1 / 1|0/0|  Fiche N° 0  |BtNewQSO\"", "grisé"},
-        {1, "\"Page 1 / 1|1/1| Fiche N° 1 |ListeLog\"", "grisé"},
-        {25, "\"Page 1 / 1|25/25| Fiche N° 25 |ListeLog\"", "grisé"},
-        {26, "\"Page 2 / 2|1/1| Fiche N° 26 |ListeLog\"", "actif"},
-        {33000, "\"Page 1311 / 1311|17/17| Fiche N° 32767 |ListeLog\"", "actif"}};
-    for (const auto& [n, vus, avant] : cas) {
-        Banc banc(Contacts(n) + Fin());
-        banc.Suivre(std::to_string(n) + " contacts : -> LabPage ligne NoFicheLab foyer = " + vus +
-                    "; " + avant + " CmdPageMoins");
+    // Contacts; whether there is a page before, and page, line, card and focus at the start.
+    const std::pair<int, const char*> cas[] = {
+        {0, "grisé Page 1 / 1|0/0|  Fiche N° 0  |BtNewQSO"},
+        {1, "grisé Page 1 / 1|1/1| Fiche N° 1 |ListeLog"},
+        {25, "grisé Page 1 / 1|25/25| Fiche N° 25 |ListeLog"},
+        {26, "actif Page 2 / 2|1/1| Fiche N° 26 |ListeLog"},
+        {33000, "actif Page 1311 / 1311|17/17| Fiche N° 32767 |ListeLog"}};
+    for (const auto& [n, vus] : cas) {
+        const Banc banc(Contacts(n) + Fin());
+        std::string vu = banc.Etat("CmdPageMoins") + ' ' + banc.Texte("LabPage");
+        for (const char* nom : {"ligne", "NoFicheLab", "foyer"})
+            vu += '|' + banc.Texte(nom);
+        EXPECT_EQ(vu, vus);
         EXPECT_EQ(banc.Controle<QScrollBar>("VScroll1")->maximum(), n);
     }
 }
@@ -38,7 +40,10 @@ TEST(Navigation, TouchesEtBoutons) {
  back, to its first : clic CmdPageMoins -> ici = "Page 2 / 3| Fiche N° 26 "
  last page : clic CmdSensBas -> ici = "Page 3 / 3| Fiche N° 26 ")");
     banc.Controle<QScrollBar>("VScroll1")->setValue(25);
-    banc.Suivre("scrolled : -> ici = \"Page 1 / 3| Fiche N° 26 \"");
+    banc.Suivre(R"(
+ scrolled : -> ici = "Page 1 / 3| Fiche N° 26 "
+ menus : touche Alt+N, F10 -> actif NmuFilect
+ next menu : touche Right -> actif MnuLister)");
 }
 
 // A list that takes the focus without a current line must not choose one by itself.

@@ -39,12 +39,10 @@ TEST(Saisie, QuaranteContactsDansLesDeuxModes) {
  ended : -> NoFicheLab foyer = " Fiche N° 40 |ListeLog"
  accents : ligne 5; clic TxtField_12; valide éloïse -> actif FraMsgFiche; FraLab01 = 30
  Yes : touche Alt+O -> caché FraMsgFiche
- overseas : ligne 6; clic TxtField_11; valide 974; touche Alt+O
  date : ligne 7; clic TxtField_2; valide 02/05/26 -> actif FraMsgFiche; FraLab01 = 32
  deletion : touche Alt+O; clic CmdSensHaut, BtKillFiche -> foyer = FraCmdNon
  deleted : clic FraCmdOui -> LabPage NoFicheLab = "Page 1 / 2| Fiche N° 25 ")");
     attendu.replace(29 * kTailleFiche + 98, 6, "\xC9lo\xEFse");
-    attendu.replace(30 * kTailleFiche + 95, 3, "974");
     attendu.replace(31 * kTailleFiche + 15, 2, "02");
     attendu.erase(0, kTailleFiche);
     EXPECT_EQ(Difference(banc.OctetsCahier(), attendu + Fin() + fin), "")
@@ -68,20 +66,12 @@ TEST(Saisie, ContenusHostilesNAtteignentPasLeFichier) {
     EXPECT_EQ(Difference(banc.OctetsCahier(), Contacts(1) + Fin()), "");
 }
 
-TEST(Saisie, NiContactSansIndicatifNiLocatorSansEntree) {
+TEST(Saisie, LocatorFauxGeleUneSeconde) {
     Banc banc(Fin());
     banc.Suivre(R"(
  no callsign : clic BtNewQSO; foyer TxtField_8; entree 1; touche Alt+S
      -> foyer = TxtField_1; actif BtEnrAnnuler
- stored : touche Alt+A; valide f6abc, 14, fm, , ; foyer TxtField_16; touche Ctrl+A; tape xx;
-     touche Alt+S -> NoFicheLab = " Charger fiche N° 2")");
-    EXPECT_EQ(banc.OctetsCahier().substr(159, 6), "JN04SD");
-}
-
-TEST(Saisie, LocatorFauxGeleUneSeconde) {
-    Banc banc(Fin());
-    banc.Suivre("to box 10 : clic BtNewQSO; valide f6abc, 14, fm; entree 4; touche Enter "
-                "-> foyer = TxtField_10");
+ to box 10 : valide f6abc, 14, fm; entree 4; touche Enter -> foyer = TxtField_10)");
     banc.systeme.pendantPause = [&banc] {
         banc.Suivre("gel : touche Backspace; valide x; clic BtEnrAnnuler -> TxtField_10 = ERREUR");
     };
@@ -99,10 +89,9 @@ TEST(Saisie, ChangementDeLocatorGardeOuNon) {
  panel : clic BtNewQSO; valide f6abc; clic TxtField_16 -> foyer = ChangLocText
  too short : valide jn18d -> caché BtChangValid
  whole : valide u -> foyer = BtChangValid)");
-        banc.Suivre("taken : " + gestes + "entree 1 -> caché PictChangLocator");
-        banc.Suivre(R"(
+        banc.Suivre("taken : " + gestes + R"(entree 1 -> caché PictChangLocator
  back : -> TxtField_16 foyer = JN18DU|TxtField_16
- stored : clic TxtField_5; valide 7, CW; entree 12)");
+ shown without Enter : touche Ctrl+A; tape xx; clic TxtField_5; valide 7, CW; entree 12)");
         EXPECT_EQ(banc.Lire("Parvel.cfg"), "\"F5ABC\",\"F5ABC.Vek\",\"" + garde + "\"\r\n");
         EXPECT_EQ(banc.OctetsCahier().substr(159, 6), "JN18DU");
     }
@@ -134,7 +123,10 @@ TEST(Recherche, IndicatifDateEtDoublons) {
  date : foyer RechText; valide 12/05/02 -> NbreContacts = 2
  doubles : clic BtContactsFermer; menu MnuDoublons -> grisé BtNewQSO; ContactsListe NbreContacts
      ContactsLab = "4      F6ABC/P   Le 13/05/02 à 10:00          |1|Doublon trouvé"
- closed again : clic BtContactsFermer -> actif BtNewQSO)");
+ closed again : clic BtContactsFermer -> actif BtNewQSO
+ by the search box : menu MnuDoublons; clic RechText -> caché PictContacts; actif BtActiveRech
+ a box merely pressed : clic TxtField_12; menu MnuDoublons; clic BtContactsFermer
+     -> actif BtNewQSO BtFermerLog; foyer = TxtField_12)");
 }
 
 } // namespace orvalis::operateur::saisie

@@ -8,6 +8,9 @@
 #include "ui/bureau/systeme.h"
 #endif
 #include "print/imprimante.h"
+#if __has_include("core/erreurs.h")
+#include "core/erreurs.h"
+#endif
 
 #include <QCoreApplication>
 #include <QDate>
@@ -24,6 +27,17 @@
 #include <vector>
 
 namespace jumeaux {
+
+// A printer that fails, as the tree at hand says it.
+#if __has_include("core/erreurs.h")
+inline orvalis::Erreur Panne(const char* /*phrase*/) {
+    return orvalis::Erreur::DImprimante("Essai");
+}
+#else
+inline orvalis::ErreurImpression Panne(const char* phrase) {
+    return orvalis::ErreurImpression(phrase);
+}
+#endif
 
 /// The numbers of one gesture. Each gesture has a row of its own, so that two programs that take
 /// different turns in one gesture draw the same numbers in the next.
@@ -200,7 +214,7 @@ class ImprimanteQuiNote : public orvalis::Imprimante {
     }
     void Echouer() {
         noter_("imprimante en panne après " + std::to_string(nombre_) + " opérations");
-        throw orvalis::Erreur("L'imprimante ne répond plus.");
+        throw Panne("L'imprimante ne répond plus.");
     }
 
     int panne_;
@@ -268,7 +282,7 @@ class SystemeJumeau : public orvalis::Systeme {
         }
         if (sort == 4) {
             Noter("pas d'imprimante");
-            throw orvalis::Erreur("Aucune imprimante.");
+            throw Panne("Aucune imprimante.");
         }
         const int panne = sort == 5 ? -1 : sort == 6 ? 1 + alea.Sous(kOperations) : 0;
         return std::make_unique<ImprimanteQuiNote>(panne,

@@ -48,11 +48,12 @@ struct BoiteMontree {
 
 /// State of the entry boxes; it lives as long as the main window.
 struct EtatSaisie {
-    bool EnSaisie = false;       ///< a new contact is being entered
-    bool EnModification = false; ///< a box of a stored card was pressed
-    bool QsoCommence = false;    ///< the callsign of the contact under entry is confirmed
-    bool tempsReel = true;       ///< " Réel" (date and times from the clock) or "Différé"
-    std::int32_t NbModifs = 0;   ///< fields changed on the stored card, not yet answered for
+    bool EnSaisie = false;        ///< a new contact is being entered
+    bool EnModification = false;  ///< a box of a stored card was pressed
+    bool QsoCommence = false;     ///< the callsign of the contact under entry is confirmed
+    bool tempsReel = true;        ///< " Réel" (date and times from the clock) or "Différé"
+    std::int32_t NbModifs = 0;    ///< fields changed on the stored card, not yet answered for
+    std::optional<Boite> pressee; ///< box that was pressed last, while EnModification
     Boite DerniereZone = Boite::Indicatif; ///< box that had the focus last
     std::string DerniereDate;
     std::string DerniereFreq;

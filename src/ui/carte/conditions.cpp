@@ -29,7 +29,7 @@ unsigned ConditionsRemplies(const Session& session, const Ecran& ecran,
            si(ecran.temoinDemarrage == 0 && !ecran.gel, kPret) |
            si(!feuille.vue.panneau, kSansFeuille) | si(!feuille.vue.controle, kSansControle) |
            si(!ecran.gel, kSansGel) | si(k >= 1 && k <= cahier.nbFiches, kFicheMontree) |
-           si(!UnPanneauAttend(carte, ecran, feuille), kSansAttente) | kMemeGele;
+           si(!UnPanneauAttend(carte, ecran, feuille), kSansAttente);
 }
 
 } // namespace orvalis

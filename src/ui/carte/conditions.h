@@ -1,5 +1,5 @@
 // What commands ask of the state of the program. A command that may not run does nothing, without
-// a message; its menu entry or button is grey.
+// a message; its menu entry is grey, and so are the buttons that VoirFenetre greys.
 #pragma once
 
 #include "qsl/feuille_qsl.h"
@@ -26,7 +26,6 @@ enum Condition : unsigned {
     kSansGel = 1U << 12U,      ///< the window is not frozen
     kFicheMontree = 1U << 13U, ///< the card shows a stored contact
     kSansAttente = 1U << 14U,  ///< no other panel waits for the operator
-    kMemeGele = 1U << 15U,     ///< always met: the command runs although the window is frozen
 };
 
 /// A condition that a command asks for but does not show: its entry is not grey for it.

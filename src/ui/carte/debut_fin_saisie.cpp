@@ -75,6 +75,7 @@ Reponse PresserBoite(const Carte& carte, Boite boite, bool modifiable) {
         if (!modifiable)
             return r;
         saisie.EnModification = true;
+        saisie.pressee = boite;
         ColorerZone(r.carte, boite, Couleur::RougeClair);
     }
     if (Rogner(carte.Texte(boite)).empty())

@@ -16,7 +16,8 @@ void Prendre(Carte& carte, Ecran& ecran, const Station& station) {
     if (const auto boite = BoiteDuFoyer(ecran.foyer.ici)) {
         Appliquer(carte, ecran, station, PrendreFoyer(carte, *boite));
     } else if (ecran.foyer.ici.cible == Cible::TexteLocator) {
-        MontrerTexteLocator(carte, ecran, station.monLocator);
+        // As the box takes it, whatever the Settings file holds.
+        MontrerTexteLocator(carte, ecran, FiltrerTouches(Touches::Majuscules, station.monLocator));
         ecran.foyer.selection = ecran.foyer.ici;
     }
 }
@@ -81,10 +82,11 @@ void LacherFoyer(Carte& carte, Ecran& ecran) {
 }
 
 void RendreFoyerALaBoite(Carte& carte, Ecran& ecran, const Station& station) {
-    DeplacerFoyer(carte, ecran, station, SurBoite(carte.saisie.DerniereZone));
+    const Boite boite = carte.saisie.DerniereZone;
+    DeplacerFoyer(carte, ecran, station, SurBoite(boite));
     // A box that was merely pressed looks as it did before something else had the focus.
-    if (carte.saisie.EnModification && !carte.saisie.EnSaisie)
-        ColorerZone(carte, carte.saisie.DerniereZone, Couleur::RougeClair);
+    if (carte.saisie.EnModification && carte.saisie.pressee == boite)
+        ColorerZone(carte, boite, Couleur::RougeClair);
 }
 
 void Appliquer(Carte& carte, Ecran& ecran, const Station& station, Reponse reponse) {

@@ -13,7 +13,8 @@ namespace orvalis {
 [[nodiscard]] bool Joignable(const Carte& carte, const Ecran& ecran, const Foyer& foyer);
 
 /// A rule or a flow gives the focus to `cible`; the painter follows. Where it is already, nothing
-/// is left or taken; what cannot take it leaves it where it is.
+/// is left or taken. What cannot take it leaves it where it is; with the focus nowhere the wish
+/// stands all the same, for AccorderFoyer (vue.h) to grant elsewhere.
 void DeplacerFoyer(Carte& carte, Ecran& ecran, const Station& station, const Foyer& cible);
 
 /// The operator has moved the focus to `ici` by key or mouse.

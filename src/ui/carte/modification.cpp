@@ -185,6 +185,7 @@ Carte RepondreNon(const Carte& carte) {
 void OublierModifications(EtatSaisie& saisie) {
     saisie.NbModifs = 0;
     saisie.EnModification = false;
+    saisie.pressee.reset();
 }
 
 int ArrondirNombre(std::string_view texte) {

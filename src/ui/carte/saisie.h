@@ -30,8 +30,8 @@ struct Effets {
     bool ouvrirLocator = false;     ///< open PictChangLocator
     std::optional<Boite> selection; ///< box whose whole text is selected
     std::optional<Foyer> foyer;     ///< where the focus goes
-    /// Box that shows "ERREUR" for one second, is then emptied and takes the focus. The card of
-    /// the answer is already that of the emptied box.
+    /// Box that shows "ERREUR" for one second, is then emptied and takes the focus. Its slot and
+    /// TexteSaisi are empty in the answer already; what it shows is the caller's.
     std::optional<Boite> enErreur;
 };
 
@@ -54,7 +54,7 @@ struct Reponse {
 [[nodiscard]] Carte QuitterFoyer(const Carte& carte, Boite boite);
 
 /// A mouse press (or F2) on `boite`. On a stored card it starts modification, provided that
-/// `modifiable` says that this card may be modified (commandes.h).
+/// `modifiable` says that this card may be modified (conditions.h).
 [[nodiscard]] Reponse PresserBoite(const Carte& carte, Boite boite, bool modifiable);
 
 /// The blank card of the next contact, record `prochaine`: slots emptied, own locator in slot and

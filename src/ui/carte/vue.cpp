@@ -32,8 +32,9 @@ VueBoutons VoirBoutons(const Session& session, const Ecran& ecran, unsigned cond
 }
 
 // Where the operator goes on when a wish cannot be granted, first what covers the rest.
-constexpr std::array<Foyer, 8> kReplis = {{
+constexpr std::array<Foyer, 9> kReplis = {{
     {Cible::Revoir},
+    {Cible::ChoixEtiquette, 1},
     {Cible::Non},
     {Cible::TexteLocator},
     {Cible::Sauvegarder},
@@ -58,7 +59,8 @@ VueFenetre VoirFenetre(const Session& session, const Ecran& ecran, const EtatFeu
     vue.locator = ecran.locator;
     vue.classer = ecran.classer;
     vue.jumelage = ecran.jumelage;
-    vue.feuille = feuille;
+    if (feuille.vue.panneau)
+        vue.feuille = feuille;
     vue.heure = ecran.heure;
     vue.titre = ecran.titre;
     vue.adieu = ecran.adieu;
@@ -90,11 +92,11 @@ bool Accessible(const VueFenetre& vue, const Carte& carte, const Ecran& ecran, c
     }
 }
 
-bool AccorderFoyer(Session& session, Ecran& ecran, const VueFenetre& vue) {
+bool AccorderFoyer(Session& session, Ecran& ecran, const VueFenetre& vue, bool perdu) {
     const auto accessible = [&](const Foyer& foyer) {
         return Accessible(vue, session.carte, ecran, foyer);
     };
-    if (accessible(ecran.foyer.voeu.value_or(ecran.foyer.ici)))
+    if (!perdu && accessible(ecran.foyer.voeu.value_or(ecran.foyer.ici)))
         return false;
     const auto repli = std::find_if(kReplis.begin(), kReplis.end(), accessible);
     if (repli == kReplis.end())

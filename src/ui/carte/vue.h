@@ -49,7 +49,7 @@ struct VueFenetre {
     PanneauLocator locator;
     PanneauClasser classer;
     PanneauJumelage jumelage;
-    EtatFeuille feuille;
+    EtatFeuille feuille; ///< as it is while it is on show, else blank
     std::optional<Instant> heure;
     std::string titre;
     std::string adieu;
@@ -64,10 +64,12 @@ struct VueFenetre {
 [[nodiscard]] bool Accessible(const VueFenetre& vue, const Carte& carte, const Ecran& ecran,
                               const Foyer& foyer);
 
-/// When `vue` cannot grant the wish, or what has the focus is hidden or grey in it, the focus goes
-/// where the operator goes on: what asks or waits on top of the rest, else the list. Returns
-/// whether the state has changed, so that the view must be taken again. For the end of a flow,
-/// before painting.
-[[nodiscard]] bool AccorderFoyer(Session& session, Ecran& ecran, const VueFenetre& vue);
+/// When `vue` cannot grant the wish, or what has the focus is hidden or grey in it (or `perdu` says
+/// that it was a control that no rule names), the focus goes where the operator goes on: what asks
+/// or waits on top of the rest, else the list, the contacts list, the new-contact button; nowhere
+/// only when none of them can take it. Returns whether the state has changed, so that the view must
+/// be taken again. For the end of a flow.
+[[nodiscard]] bool AccorderFoyer(Session& session, Ecran& ecran, const VueFenetre& vue,
+                                 bool perdu = false);
 
 } // namespace orvalis

@@ -48,8 +48,9 @@ void Orvalis::BrancherBoutons() {
 }
 
 void Orvalis::BrancherCommande(QObject& objet, const Commande& commande) {
-    const QuandGele quand =
-        (commande.conditions & kMemeGele) != 0 ? QuandGele::Oui : QuandGele::Non;
+    const QuandGele quand = commande.memeGele ? QuandGele::Oui : QuandGele::Non;
+    if (commande.memeGele)
+        memeGeles_.push_back(&objet);
     const auto lancer = [this, &commande, quand] {
         Executer([&] { LancerCommande(p_, commande); }, quand);
     };
@@ -77,7 +78,7 @@ void Orvalis::BrancherListes() {
              [this](int ligne) { ChoisirContact(p_, ligne); });
     PictRech* rech = &panneaux_.rech;
     Brancher(rech, &PictRech::texteChange,
-             [this](const QString& texte) { ecran_.recherche.texte = S(texte); });
+             [this](const QString& texte) { SurTexteRecherche(p_, S(texte)); });
     Brancher(rech, &PictRech::rechercheDemandee, [this] { Rechercher(p_); });
     Brancher(rech, &PictRech::cliquee, [this] { CliquerRecherche(p_); });
 }

@@ -1,5 +1,5 @@
 // The world outside as the flows meet it: the window is painted before anything that lets events
-// run, so that no flow can forget it.
+// run. What is not a call of Systeme goes through Plateau::dehors, which does the same.
 #pragma once
 
 #include "ui/bureau/systeme.h"

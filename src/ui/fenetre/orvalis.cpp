@@ -36,6 +36,7 @@
 #include <QStackedWidget>
 #include <QTimer>
 
+#include <algorithm>
 #include <utility>
 
 // Resources of a static library are linked only where they are asked for.
@@ -216,17 +217,17 @@ QWidget* Orvalis::ColonneDroite() {
 void Orvalis::Executer(const Action& flux, QuandGele quand) {
     if (ecran_.arret || (ecran_.gel && quand == QuandGele::Non) || peintre_->EnCours())
         return;
-    ++profondeur_;
+    const QScopedValueRollback profondeur(profondeur_, profondeur_ + 1);
     try {
         flux();
+        if (profondeur_ == 1)
+            Peindre();
     } catch (const std::exception& echec) {
         if (!std::exchange(ecran_.arret, true)) {
             exterieur_.Avertir(this, Q(MessageErreur(echec)));
             QuitterProgramme(p_, 1);
         }
     }
-    if (--profondeur_ == 0)
-        Peindre();
 }
 
 void Orvalis::Sortir(const Action& action) {
@@ -239,7 +240,10 @@ void Orvalis::Peindre() {
     VueFenetre vue = VoirFenetre(session_, ecran_, feuille_);
     if (AccorderFoyer(session_, ecran_, vue))
         vue = VoirFenetre(session_, ecran_, feuille_);
-    peintre_->Peindre(std::move(vue), ecran_.foyer);
+    peintre_->Peindre(vue, ecran_.foyer);
+    // What had the focus may have gone without being known to the rules.
+    if (peintre_->FoyerPerdu(ecran_.foyer) && AccorderFoyer(session_, ecran_, vue, true))
+        peintre_->Peindre(VoirFenetre(session_, ecran_, feuille_), ecran_.foyer);
 }
 
 bool Orvalis::event(QEvent* evenement) {
@@ -275,10 +279,10 @@ void Orvalis::closeEvent(QCloseEvent* evenement) {
 // the operator does reaches only what quits.
 bool Orvalis::eventFilter(QObject* objet, QEvent* evenement) {
     if (ecran_.gel && EstUnGeste(evenement->type()) && objet->isWidgetType()) {
-        const auto* widget = static_cast<QWidget*>(objet);
-        const bool quitte = widget->objectName() == QLatin1String("BtFermerLog") ||
-                            qobject_cast<const QMenuBar*>(widget) != nullptr;
-        if (widget->window() == this && !quitte)
+        const bool agit =
+            qobject_cast<QMenuBar*>(objet) != nullptr ||
+            std::find(memeGeles_.begin(), memeGeles_.end(), objet) != memeGeles_.end();
+        if (static_cast<QWidget*>(objet)->window() == this && !agit)
             return true;
     }
     if (qobject_cast<QLineEdit*>(objet) != nullptr && LettreAvecAlt(*evenement))

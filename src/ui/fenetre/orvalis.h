@@ -75,7 +75,8 @@ class Orvalis : public QMainWindow {
     Panneaux panneaux_;
     std::unique_ptr<Peintre> peintre_;
     QTimer* timer1_ = nullptr;
-    int profondeur_ = 0; ///< flows under way, one inside the other
+    std::vector<const QObject*> memeGeles_; ///< act although the window is frozen
+    int profondeur_ = 0;                    ///< flows under way, one inside the other
     bool demarrageEnCours_ = false;
 };
 

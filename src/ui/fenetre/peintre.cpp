@@ -26,6 +26,7 @@
 #include <QStackedWidget>
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace orvalis {
 namespace {
@@ -62,11 +63,15 @@ constexpr std::array<NomDeCible, 18> kNoms = {{
 Peintre::Peintre(QMainWindow& fenetre, const Panneaux& panneaux, QLabel& adieu,
                  std::vector<EntreeDeMenu> entrees)
     : fenetre_(fenetre), p_(panneaux), adieu_(adieu), entrees_(std::move(entrees)) {
+    // A name that is misspelt would drop a wish in silence.
+    const auto trouver = [&fenetre](const QString& nom) {
+        auto* widget = fenetre.findChild<QWidget*>(nom);
+        return widget != nullptr ? widget : throw std::logic_error("no control " + S(nom));
+    };
     for (const NomDeCible& n : kNoms) {
         const QString nom = QString::fromLatin1(n.nom);
         for (int k = std::min(n.derniere, 1); k <= n.derniere; ++k)
-            nommes_.push_back(
-                {{n.cible, k}, fenetre.findChild<QWidget*>(k == 0 ? nom : nom.arg(k))});
+            nommes_.push_back({{n.cible, k}, trouver(k == 0 ? nom : nom.arg(k))});
     }
 }
 
@@ -83,6 +88,10 @@ void Peintre::Peindre(VueFenetre vue, EtatFoyer& foyer) {
     derniere_ = std::move(vue);
 }
 
+bool Peintre::FoyerPerdu(const EtatFoyer& foyer) const {
+    return foyer.ici != Foyer{} && fenetre_.isActiveWindow() && fenetre_.focusWidget() == nullptr;
+}
+
 Foyer Peintre::FoyerDe(const QWidget* widget) const {
     const auto ici = std::find_if(nommes_.begin(), nommes_.end(),
                                   [widget](const Nomme& nomme) { return nomme.widget == widget; });
@@ -96,6 +105,7 @@ template<typename Champ> bool Peintre::Differe(const VueFenetre& vue, Champ cham
 void Peintre::PeindreCarte(const VueFenetre& vue) {
     // The boxes are compared with what they show: what is typed is in the state already.
     p_.fiche.Montrer(vue.carte);
+    p_.enrs.MontrerOption(vue.boutons.tempsReel);
     if (!Differe(vue, &VueFenetre::boutons))
         return;
     Presenter(p_.menu, !vue.boutons.saisie);
@@ -150,10 +160,10 @@ void Peintre::PeindrePanneaux(const VueFenetre& vue) {
 void Peintre::PeindreFeuille(const VueFenetre& vue) {
     // Out of sight it is not painted: its sixteen places cost more than all the rest.
     const bool montree = vue.feuille.vue.panneau;
-    if (!Differe(vue, &VueFenetre::feuille) ||
-        (!montree && !(derniere_ && derniere_->feuille.vue.panneau)))
+    if (!Differe(vue, &VueFenetre::feuille))
         return;
-    p_.feuilleQSL.Montrer(vue.feuille);
+    if (montree)
+        p_.feuilleQSL.Montrer(vue.feuille);
     Presenter(p_.ctrlImpression, vue.feuille.vue.controle);
     QWidget& colonne = montree ? static_cast<QWidget&>(p_.feuilleQSL) : *p_.droite.widget(0);
     if (p_.droite.currentWidget() != &colonne) {

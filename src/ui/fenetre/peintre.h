@@ -31,6 +31,9 @@ class Peintre {
 
     /// Paints `vue`, then grants the wish of `foyer`, which is used up.
     void Peindre(VueFenetre vue, EtatFoyer& foyer);
+    /// Whether what had the focus was hidden or disabled, so that nothing has it in the window that
+    /// the operator works in, although `foyer` was not to be dropped.
+    [[nodiscard]] bool FoyerPerdu(const EtatFoyer& foyer) const;
     /// What controls report meanwhile comes from the painter, not from the operator.
     [[nodiscard]] bool EnCours() const { return enCours_; }
     /// What the rules call a control of the window.

@@ -27,7 +27,7 @@ constexpr std::array kCommandes = std::to_array<Commande>({
     {"MnuAutreF", "  Ouvrir Autre Fichier.Vek  ", kMenu | kHorsSaisie, OuvrirAutre},
     {"MnuJumeler", " Jumeler deux Fichiers.Vek", kMenu | kHorsSaisie | kCahierPropre,
      OuvrirJumelage},
-    {"MnuQuitter", "  Fermer Fichier  et  Quitter", kMemeGele, Quitter},
+    {"MnuQuitter", "  Fermer Fichier  et  Quitter", kToujours, QuitterOrvalis, true},
     {"MnuLister", "      Liste        "},
     {"MnuCreateMDB", "    Réaliser  fichier.mdb", kMenu | kHorsEdition | kAuMoinsUn,
      CreerBaseDeDonnees},
@@ -57,8 +57,8 @@ constexpr std::array kCommandes = std::to_array<Commande>({
 
     {"Horloge", {}, kSansControle, ReglerHorloge},
     {"BtNewQSO", {}, kPourNouveau, NouveauQso},
-    {"BtKillFiche", {}, kPourSupprimer, DemanderSuppression},
-    {"BtFermerLog", {}, kMemeGele, Quitter},
+    {"BtKillFiche", {}, kPourSupprimer | kFicheMontree, DemanderSuppression},
+    {"BtFermerLog", {}, kToujours, QuitterOrvalis, true},
     {"FraCmdOui", {}, kToujours, RepondreOuiAuCadre},
     {"FraCmdNon", {}, kToujours, RepondreNonAuCadre},
     {"BtEnrSuivant", {}, kToujours, EnregistrerEtSuivre},
@@ -74,7 +74,7 @@ constexpr std::array kCommandes = std::to_array<Commande>({
     {"BtPjSauvegarder", {}, kHorsSaisie | kCahierPropre, SauvegarderAvantJumelage},
     {"BtPjAnnuler", {}, kToujours, FermerJumelage},
     // A click on the box of my QSL, which makes a label of a stored contact.
-    {"TxtField_14", {}, kSansAttente, CliquerMaQsl},
+    {"TxtField_14", {}, kSansAttente | kCahierPropre | kFicheMontree, CliquerMaQsl},
     {"BtValidQSL", {}, kToujours, SurBtValidQSL},
     {"BtDelQSL", {}, kToujours, SurBtDelQSL},
     {"BtLeaveQSL", {}, kToujours, SurBtLeaveQSL},

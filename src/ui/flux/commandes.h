@@ -16,13 +16,14 @@ struct Commande {
     std::string_view legende = {}; ///< of a menu entry, blanks included; empty for a button
     unsigned conditions = kToujours;
     void (*flux)(Plateau&) = nullptr; ///< none: the head of a menu, whose entries follow
+    bool memeGele = false;            ///< it runs although the window is frozen
 };
 
 /// Menu heads with their entries as the menu bar shows them, then the buttons.
 [[nodiscard]] std::span<const Commande> Commandes();
 
-/// Runs the flow of a command when the state lets it, else does nothing. Permission is asked here
-/// and nowhere else.
+/// Runs the flow of a command when the state lets it, else does nothing. The permission of a
+/// command is asked here and nowhere else.
 void LancerCommande(Plateau& p, const Commande& commande);
 
 } // namespace orvalis

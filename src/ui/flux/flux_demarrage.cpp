@@ -82,7 +82,7 @@ void AfficherHeure(Plateau& p) {
     p.ecran.heure = p.systeme.Maintenant();
 }
 
-void Quitter(Plateau& p) {
+void QuitterOrvalis(Plateau& p) {
     p.fermer();
 }
 

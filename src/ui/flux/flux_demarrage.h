@@ -23,7 +23,7 @@ void InitialiserFenetre(Plateau& p);
 void AfficherHeure(Plateau& p);
 
 /// MnuQuitter and BtFermerLog.
-void Quitter(Plateau& p);
+void QuitterOrvalis(Plateau& p);
 
 /// Closes every file, says goodbye and ends the program at once, without a question.
 void QuitterProgramme(Plateau& p, int code);

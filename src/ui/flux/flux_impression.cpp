@@ -12,7 +12,7 @@ namespace orvalis {
 bool Imprimer(Plateau& p, const std::function<void(Imprimante&)>& dessin) {
     try {
         const std::unique_ptr<Imprimante> imprimante = p.systeme.PreparerImpression(&p.fenetre);
-        if (imprimante == nullptr)
+        if (imprimante == nullptr || p.ecran.arret)
             return false;
         const Sablier sablier;
         dessin(*imprimante);

@@ -32,7 +32,8 @@ void Jumeler(Plateau& p) {
         const Sablier sablier;
         JumelerCahier(s.cahier, s.station, std::filesystem::path(S(source)));
     }));
-    RelireCahier(p);
+    if (!p.ecran.arret)
+        RelireCahier(p);
 }
 
 void SauvegarderAvantJumelage(Plateau& p) {

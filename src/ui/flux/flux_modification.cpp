@@ -54,8 +54,6 @@ void AbandonnerModification(Plateau& p) {
 
 void DemanderSuppression(Plateau& p) {
     const Carte& carte = p.session.carte;
-    if (carte.ficheCourante < 1 || carte.ficheCourante > p.session.cahier.nbFiches)
-        return;
     if (carte.saisie.EnModification || carte.saisie.NbModifs != 0)
         ChoisirFiche(p, carte.ficheCourante);
     p.ecran.question = QuestionEffacer(carte);

@@ -10,7 +10,7 @@
 namespace orvalis {
 
 /// Reads page `page` (from 1) and shows it in the list and on the sheet; no line is selected. Sets
-/// the page on show, its first and last record, the scroll bar and the paging buttons.
+/// the page on show, its first and last record, and the scroll bar.
 void MontrerPage(Plateau& p, std::int32_t page);
 
 /// Recounts the logbook, shows page `page`, or the last one when there are fewer, and selects its

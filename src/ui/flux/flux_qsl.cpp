@@ -107,8 +107,7 @@ void ImprimerEtiquettesVierges(Plateau& p) {
 
 void CliquerMaQsl(Plateau& p) {
     Session& s = p.session;
-    if (!s.cahier.EstLeNotre() || s.carte.ficheCourante < 1 ||
-        !Rogner(s.carte.Texte(Boite::MaQsl)).empty() || !ChargerAuBesoin(p))
+    if (!Rogner(s.carte.Texte(Boite::MaQsl)).empty() || !ChargerAuBesoin(p))
         return;
     // The press has begun a modification by hand, which is not what it turns out to be.
     SuiteClic suite = SuiteClic::Ordinaire;
@@ -208,7 +207,8 @@ void SurBtPrintQSL(Plateau& p) {
 
 void ConfirmerImpression(Plateau& p) {
     const std::string aujourdhui = DateCourte(p.systeme.Maintenant());
-    Repondre(p, [&] { return ToutEstParfait(p.session.cahier, p.feuille, aujourdhui); });
+    if (!Repondre(p, [&] { return ToutEstParfait(p.session.cahier, p.feuille, aujourdhui); }).fait)
+        DonnerFoyerChoix(p, PremierePreparee(p.feuille));
 }
 
 void RevoirImpression(Plateau& p) {

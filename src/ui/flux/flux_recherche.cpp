@@ -7,24 +7,25 @@
 #include "ui/flux/flux_navigation.h"
 
 #include <memory>
+#include <utility>
 
 namespace orvalis {
 namespace {
 
 // Shows a result. Its first line is selected, which shows that contact's card unless one is being
 // entered or corrected.
-void MontrerResultat(Plateau& p, const ResultatRecherche& resultat, bool selection) {
+void MontrerResultat(Plateau& p, ResultatRecherche resultat, bool selection) {
     ListeContacts& contacts = p.ecran.contacts;
-    contacts.lignes = std::make_shared<const std::vector<std::string>>(resultat.lignes);
+    contacts.lignes = std::make_shared<const std::vector<std::string>>(std::move(resultat.lignes));
     contacts.choisie = -1;
     contacts.compte = resultat.nbreContacts;
     if (resultat.contactsLab)
         contacts.nature = *resultat.contactsLab;
-    if (resultat.lignes.empty() || !selection)
+    if (contacts.lignes->empty() || !selection)
         return;
     contacts.choisie = 0;
     if (!p.session.carte.EnEdition())
-        ChoisirFiche(p, NumeroDeLigne(resultat.lignes.front()));
+        ChoisirFiche(p, NumeroDeLigne(contacts.lignes->front()));
 }
 
 bool IndicatifSurLaCarte(const Plateau& p) {
@@ -60,6 +61,10 @@ void VoirContacts(Plateau& p) {
         RendreFoyerALaBoite(p.session.carte, p.ecran, p.session.station);
     else
         DonnerFoyer(p, {Cible::Contacts});
+}
+
+void SurTexteRecherche(Plateau& p, const std::string& texte) {
+    p.ecran.recherche.texte = texte;
 }
 
 void Rechercher(Plateau& p) {

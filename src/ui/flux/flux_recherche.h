@@ -3,10 +3,14 @@
 
 #include "ui/flux/plateau.h"
 
+#include <string>
+
 namespace orvalis {
 
 /// BtActiveRech: lists every contact made with the station on the card.
 void VoirContacts(Plateau& p);
+/// The operator changed the text of the search box.
+void SurTexteRecherche(Plateau& p, const std::string& texte);
 /// Enter in the search box.
 void Rechercher(Plateau& p);
 /// A click in the search box: empties it and closes the contacts list.

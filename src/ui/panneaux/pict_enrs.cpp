@@ -18,7 +18,10 @@ void PictEnrs::Montrer(const VueBoutons& boutons) {
     TeinterFond(*ui_->BtEnrSuivant, boutons.suivantArme ? Teinte::Vert : Teinte::Peche);
     Activer(*ui_->BtEnrSuivant, boutons.suivantArme);
     Activer(*ui_->BtEnrAnnuler, boutons.annuler);
-    (boutons.tempsReel ? ui_->OptionEnr1 : ui_->OptionEnr2)->setChecked(true);
+}
+
+void PictEnrs::MontrerOption(bool tempsReel) {
+    (tempsReel ? ui_->OptionEnr1 : ui_->OptionEnr2)->setChecked(true);
 }
 
 } // namespace orvalis

@@ -19,8 +19,10 @@ class PictEnrs : public QWidget {
     explicit PictEnrs(QWidget* parent = nullptr);
     ~PictEnrs() override;
 
-    /// The store button green and usable, or at rest; the option that is chosen.
+    /// The store button green and usable, or at rest.
     void Montrer(const VueBoutons& boutons);
+    /// Real time, or deferred.
+    void MontrerOption(bool tempsReel);
 
   Q_SIGNALS:
     void optionChoisie(bool tempsReel); ///< a click on either option, the selected one included

@@ -177,7 +177,7 @@ void PictFeuilleQSL::FaireBoite(std::size_t rang, QHBoxLayout& rangee) {
         cellule->addWidget(boite.texte);
         rangee.addLayout(cellule, static_cast<int>(d.longueur));
     }
-    connect(boite.texte, &QLineEdit::textEdited, this,
+    connect(boite.texte, &QLineEdit::textChanged, this,
             [this, &d](const QString& texte) { Q_EMIT boiteSaisie(d.boite, texte); });
     connect(boite.texte, &QLineEdit::returnPressed, this,
             [this, &d] { Q_EMIT boiteEntree(d.boite); });
@@ -261,7 +261,7 @@ void PictFeuilleQSL::MontrerBoites(const EtatFeuille& feuille) {
     };
     Boite(kBoiteMode).legende->setText(legende(echanges ? kBoiteReport : kBoiteMode));
     Boite(kBoiteReport).legende->setText(legende(echanges ? kBoiteMode : kBoiteReport));
-    ui_->OptVia->setEnabled(feuille.fraiche);
+    Activer(*ui_->OptVia, feuille.fraiche);
     ui_->LabAide->setVisible(feuille.boites[kBoiteIndicatif].empty() && !feuille.vue.controle);
 }
 

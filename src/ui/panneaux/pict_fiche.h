@@ -24,10 +24,10 @@ class PictFiche : public QFrame {
     void Montrer(const VueCarte& vue);
 
   private:
-    QWidget* FaireCellule(Boite premiere);
-    QWidget* FaireResultats();
+    [[nodiscard]] QWidget* FaireCellule(Boite premiere);
+    [[nodiscard]] QWidget* FaireResultats();
     void FaireEntete(QHBoxLayout& entete);
-    TxtField* FaireBoite(const DescriptionBoite& boite);
+    [[nodiscard]] TxtField* FaireBoite(const DescriptionBoite& boite);
 
     std::array<TxtField*, kNbBoites> boites_{};
     QLabel* noFicheLab_ = nullptr;

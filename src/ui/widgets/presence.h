@@ -2,14 +2,13 @@
 // disabled to the next control in the tab order, which may be an entry box.
 #pragma once
 
-#include <QApplication>
 #include <QWidget>
 
 namespace orvalis {
 
 /// Takes the focus from `widget` or what is inside it.
 inline void OterLeFoyer(const QWidget& widget) {
-    QWidget* foyer = QApplication::focusWidget();
+    QWidget* foyer = widget.window()->focusWidget(); // also while another window is active
     if (foyer != nullptr && (foyer == &widget || widget.isAncestorOf(foyer)))
         foyer->clearFocus();
 }

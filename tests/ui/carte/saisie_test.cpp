@@ -1,8 +1,6 @@
 // The card under entry and under correction: Enter, focus and mouse, box by box, and what is
 // stored.
-#include "aides.h"
 #include "ui/carte/decrire.h"
-#include "ui/carte/foyer.h"
 #include "ui/carte/modification.h"
 
 namespace orvalis::aides::saisie {
@@ -146,38 +144,39 @@ TEST(Saisie, UneFicheViergePourLeContactSuivant) {
     carte.zones.info = "vieux";
     carte.zones.textes.fill("vieux");
     EXPECT_EQ(PreparerSaisie(carte, Nous(), 4).carte.numero, " Charger fiche N° 4");
+    const std::string vides = " 1= 2= 3= 4= 5= 6= 7= 8= 9= 10= 11= 12= 13= 14= 15= 16=JN18AA 17=, ";
     EXPECT_EQ(Decrire(carte, PreparerSaisie(carte, Nous(), 4)),
-              "zone 0= 1= 2= 3= 4= 5= 6= 7= 8= 9= 10= 11= 12= 13= 14= 15= 16=JN18AA 17=, "
-              "boite 1= 2= 3= 4= 5= 6= 7= 8= 9= 10= 11= 12= 13= 14= 15= 16=JN18AA 17=, "
-              "repos 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17, saisi \"\", modifs 0, "
-              R"(sans QsoCommence, sans EnModification, dist "", azim "", dept "", foyer 1)");
+              "zone 0=" + vides + "boite" + vides +
+                  "repos 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17, saisi \"\", modifs 0, "
+                  R"(sans QsoCommence, sans EnModification, dist "", azim "", dept "", foyer 1)");
 }
 
 TEST(Saisie, CeQuiEstEnregistreALaFin) {
-    using enum Verdict;
     constexpr auto S = FinDeSaisie::Suivant, T = FinDeSaisie::Terminer;
-    // State, button, whether BtEnrSuivant is enabled; verdict, the contact's end and own locator,
+    // State, button, whether BtEnrSuivant is enabled; the contact's end and own locator, callsign,
     // SLOC and MLOC of the end-of-log record.
-    const std::tuple<const char*, FinDeSaisie, bool, Verdict, std::array<std::string, 4>> cas[] = {
-        {"commencé", S, true, Enregistrer, {"07:05", "IN95AA", "", "JN18AA"}},
-        {"commencé", T, true, Enregistrer, {"07:05", "JN05BB", "JN18AA", "JN05BB"}},
-        {"commencé différé", S, true, Enregistrer, {"18:45", "IN95AA", "", "JN18AA"}},
-        {"", S, true, RienAEcrire, {}},
-        {"commencé", T, false, RienAEcrire, {}},
-        {"commencé anonyme", S, true, IndicatifManquant, {}},
-        {"commencé anonyme", T, true, IndicatifManquant, {}},
-        {"commencé fin", S, true, IndicatifManquant, {}}};
-    for (const auto& [etat, bouton, actif, verdict, textes] : cas) {
+    const std::tuple<const char*, FinDeSaisie, bool, const char*> cas[] = {
+        {"commencé", S, true, R"(07:05|IN95AA|\||JN18AA)"},
+        {"commencé", T, true, R"(07:05|JN05BB|\|JN18AA|JN05BB)"},
+        {"commencé différé", S, true, R"(18:45|IN95AA|\||JN18AA)"},
+        {"", S, true, "rien"},
+        {"commencé", T, false, "rien"},
+        {"commencé anonyme", S, true, "sans indicatif"},
+        {"commencé anonyme", T, true, "sans indicatif"},
+        {"commencé fin", S, true, "sans indicatif"}};
+    for (const auto& [etat, bouton, actif, attendu] : cas) {
         Carte carte = Scene(etat);
         carte.zones[Boite::Fin] = "18:45";
         carte.zones[Boite::MonLocator] = "JN05BB";
         MontrerTexte(carte, Boite::MonLocator, "IN95AA");
         const ContactFini contact = FinirContact(carte, Nous(), bouton, actif, kMaintenant);
-        EXPECT_EQ(contact.verdict, verdict) << etat;
-        EXPECT_EQ(contact.zones[Boite::Fin] + contact.zones[Boite::MonLocator],
-                  textes[0] + textes[1]);
-        const auto fin = Enregistrement(Brute({{0, "\\"}, {89, textes[2]}, {159, textes[3]}}));
-        EXPECT_TRUE(verdict != Enregistrer || contact.fin == fin) << etat;
+        const Zones fin = ZonesDeFiche(contact.fin);
+        std::string dit = contact.zones[Boite::Fin] + '|' + contact.zones[Boite::MonLocator] + '|' +
+                          fin[Boite::Indicatif] + '|' + fin[Boite::SonLocator] + '|' +
+                          fin[Boite::MonLocator];
+        if (contact.verdict != Verdict::Enregistrer)
+            dit = contact.verdict == Verdict::RienAEcrire ? "rien" : "sans indicatif";
+        EXPECT_EQ(dit, attendu) << etat;
     }
 }
 

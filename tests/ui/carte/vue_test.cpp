@@ -32,26 +32,30 @@ struct Scene {
         const auto boite = static_cast<Boite>(std::atoi(geste.c_str() + geste.find(' ') + 1));
         const Station& nous = session.station;
         const std::map<std::string, bool*> drapeaux = {
-            {"saisie", &carte.saisie.EnSaisie},
-            {"liste", &ecran.liste.active},
-            {"rech", &ecran.recherche.montre},
-            {"contacts", &ecran.contacts.montree},
-            {"gris", &ecran.contacts.boutonsGrises},
-            {"jumelage", &ecran.jumelage.montre},
-            {"sauvegarde", &ecran.jumelage.sauvegardeFaite},
-            {"tri", &ecran.classer.montre},
-            {"lecture", &session.cahier.lectureSeule},
-            {"feuille", &feuille.vue.panneau},
-            {"controle", &feuille.vue.controle}};
+            {"liste", &ecran.liste.active},       {"contacts", &ecran.contacts.montree},
+            {"jumelage", &ecran.jumelage.montre}, {"sauvegarde", &ecran.jumelage.sauvegardeFaite},
+            {"tri", &ecran.classer.montre},       {"lecture", &session.cahier.lectureSeule},
+            {"feuille", &feuille.vue.panneau},    {"controle", &feuille.vue.controle}};
         const std::map<std::string, std::function<void()>> gestes = {
-            {"vierge", [&] { Suivre(PreparerSaisie(carte, nous, 3)); }},
             {"entree", [&] { Suivre(ValiderBoite(carte, nous, boite, {})); }},
             {"tape", [&] { SaisirTexte(carte, boite, geste.substr(geste.rfind(' ') + 1)); }},
             {"presse", [&] { Suivre(PresserBoite(carte, boite, true)); }},
+            {"nouveau",
+             [&] {
+                 carte.saisie.EnSaisie = true;
+                 ecran.liste.active = false;
+                 Suivre(PreparerSaisie(carte, nous, 3));
+             }},
+            {"deplie",
+             [&] {
+                 ecran.contacts.montree = ecran.contacts.boutonsGrises = true;
+                 ecran.recherche.montre = false;
+             }},
             {"suit", [&] { SuivreFoyer(carte, ecran, nous, SurBoite(boite)); }},
             {"ailleurs", [&] { SuivreFoyer(carte, ecran, nous, {Cible::Autre}); }},
             {"rend", [&] { RendreFoyerALaBoite(carte, ecran, nous); }},
             {"aller", [&] { Aller({Cible::Liste}); }},
+            {"anonyme", [&] { carte.zones[Boite::Indicatif].clear(); }},
             {"lache", [&] { LacherFoyer(carte, ecran); }},
             {"boutons", [&] { RendreBoutons(ecran); }},
             {"vide", [&] { session.cahier.nbFiches = carte.ficheCourante = 0; }},
@@ -69,12 +73,9 @@ struct Scene {
     }
 };
 
-const std::map<Cible, std::string> kCibles = {{Cible::Aucune, "aucun"},
-                                              {Cible::Autre, "autre"},
+// What takes the focus besides the boxes.
+const std::map<Cible, std::string> kCibles = {{Cible::Autre, "autre"},
                                               {Cible::Liste, "liste"},
-                                              {Cible::Contacts, "contacts"},
-                                              {Cible::Nouveau, "BtNewQSO"},
-                                              {Cible::Suivant, "BtEnrSuivant"},
                                               {Cible::Non, "FraCmdNon"},
                                               {Cible::TexteLocator, "ChangLocText"},
                                               {Cible::Sauvegarder, "BtPjSauvegarder"},
@@ -85,27 +86,26 @@ const std::map<Cible, std::string> kCibles = {{Cible::Aucune, "aucun"},
 // rest with their text; the focus.
 std::string Dire(const VueFenetre& vue, const Foyer& foyer) {
     std::string dit;
-    const auto si = [&dit](bool vrai, const char* mot) {
-        dit += vrai ? std::string(mot) + ' ' : "";
-    };
-    si(vue.boutons.saisie, "PictEnrs");
-    si(vue.carte.nonEnregistre, "bandeau");
-    si(vue.carte.activeRech, "BtActiveRech");
-    si(vue.recherche.montre, "PictRech");
-    si(vue.contacts.montree, "PictContacts");
-    si(vue.question.has_value(), "FraMsgFiche");
-    si(vue.locator.montre, "PictChangLocator");
-    si(vue.jumelage.montre, "PJumelage");
-    si(vue.classer.montre, "PictClasser");
-    dit += "| ";
-    si(!vue.liste.active, "PictListe");
-    si(!vue.carte.active, "PictFiche");
-    si(!vue.boutons.menuActif, "PictMenu");
-    si(!vue.boutons.nouveau, "BtNewQSO");
-    si(!vue.boutons.supprimer, "BtKillFiche");
-    si(!vue.boutons.fermer, "BtFermerLog");
-    si(!vue.boutons.suivantArme && vue.boutons.saisie, "BtEnrSuivant");
-    dit += "| ";
+    for (const auto& [vrai, mot] :
+         {std::pair{vue.boutons.saisie, "PictEnrs "},
+          {vue.carte.nonEnregistre, "bandeau "},
+          {vue.carte.activeRech, "BtActiveRech "},
+          {vue.recherche.montre, "PictRech "},
+          {vue.contacts.montree, "PictContacts "},
+          {vue.question.has_value(), "FraMsgFiche "},
+          {vue.locator.montre, "PictChangLocator "},
+          {vue.jumelage.montre, "PJumelage "},
+          {vue.classer.montre, "PictClasser "},
+          {true, "| "},
+          {!vue.liste.active, "PictListe "},
+          {!vue.carte.active, "PictFiche "},
+          {!vue.boutons.menuActif, "PictMenu "},
+          {!vue.boutons.nouveau, "BtNewQSO "},
+          {!vue.boutons.supprimer, "BtKillFiche "},
+          {!vue.boutons.fermer, "BtFermerLog "},
+          {!vue.boutons.suivantArme && vue.boutons.saisie, "BtEnrSuivant "},
+          {true, "| "}})
+        dit += vrai ? mot : "";
     for (const DescriptionBoite& d : kBoites)
         if (const BoiteMontree& b = vue.carte.boites[Rang(d.boite)];
             b.couleur == Couleur::VertClair || b.couleur == Couleur::RougeClair)
@@ -121,28 +121,29 @@ TEST(Vue, CeQuOnVoitDansChaqueEtat) {
  idle : -> BtActiveRech PictRech | | | liste
  read-only : lecture -> BtActiveRech PictRech | BtNewQSO BtKillFiche | | liste
  empty : vide -> BtActiveRech PictRech | BtKillFiche | | liste
- blank card : saisie; sans liste; vierge -> PictEnrs bandeau BtActiveRech PictRech | PictListe BtEnrSuivant
-     | vert 1= | 1
- callsign : saisie; sans liste; vierge; tape 1 F1A; entree 1 -> PictEnrs bandeau BtActiveRech PictRech
-     | PictListe BtEnrSuivant | vert 5= | 5
- report : saisie; sans liste; vierge; tape 1 F1A; entree 1; suit 8; entree 8 -> PictEnrs bandeau BtActiveRech PictRech
-     | PictListe | vert 12= | 12
- report offered : saisie; sans liste; vierge; tape 1 F1A; entree 1; suit 7 -> PictEnrs bandeau BtActiveRech PictRech
-     | PictListe BtEnrSuivant | vert 7=59 | 7
- nothing to store yet : saisie; sans liste; vierge; tape 1 F1A; entree 1; suit 17; entree 17
+ blank card : nouveau -> PictEnrs bandeau BtActiveRech PictRech | PictListe BtEnrSuivant | vert 1= | 1
+ callsign : nouveau; tape 1 F1A; entree 1
+     -> PictEnrs bandeau BtActiveRech PictRech | PictListe BtEnrSuivant | vert 5= | 5
+ report : nouveau; tape 1 F1A; entree 1; suit 8; entree 8
+     -> PictEnrs bandeau BtActiveRech PictRech | PictListe | vert 12= | 12
+ text without Enter is dropped : nouveau; tape 1 F1A; entree 1; tape 5 7.05; suit 13; suit 5
+     -> PictEnrs bandeau BtActiveRech PictRech | PictListe BtEnrSuivant | vert 5= | 5
+ no callsign any more : nouveau; tape 1 F1A; entree 1; anonyme; suit 9
+     -> PictEnrs bandeau BtActiveRech PictRech | PictListe BtEnrSuivant | vert 1=F1A | 1
+ nothing to store yet : nouveau; tape 1 F1A; entree 1; suit 17; entree 17
      -> PictEnrs bandeau BtActiveRech PictRech | PictListe BtEnrSuivant | vert 17= | 17
- own locator : saisie; sans liste; vierge; suit 16; presse 16 -> PictEnrs bandeau BtActiveRech PictRech PictChangLocator
-     | PictListe BtEnrSuivant | | ChangLocText
+ own locator : nouveau; suit 16; presse 16
+     -> PictEnrs bandeau BtActiveRech PictRech PictChangLocator | PictListe BtEnrSuivant | | ChangLocText
  press : suit 1; presse 1 -> BtActiveRech PictRech | | rouge 1=F6XYZ | 1
  press, then elsewhere : suit 1; presse 1; ailleurs -> BtActiveRech PictRech | | | autre
- press, list, back : suit 1; presse 1; contacts; gris; sans rech; ailleurs; sans contacts; boutons; rend
+ press, list, back : suit 1; presse 1; deplie; ailleurs; sans contacts; boutons; rend
      -> BtActiveRech | | rouge 1=F6XYZ | 1
  change : suit 9; presse 9; tape 9 LYON; entree 9
      -> BtActiveRech PictRech FraMsgFiche | | rouge 9=LYON | 9
  deletion : efface -> BtActiveRech PictRech FraMsgFiche | PictMenu | | FraCmdNon
- contacts : contacts; gris; sans rech -> BtActiveRech PictContacts | BtNewQSO BtFermerLog | | liste
- contacts hidden : contacts; gris; sans rech; sans contacts -> BtActiveRech | BtNewQSO BtFermerLog | | liste
- buttons back : contacts; gris; sans rech; sans contacts; boutons -> BtActiveRech | | | liste
+ contacts : deplie -> BtActiveRech PictContacts | BtNewQSO BtFermerLog | | liste
+ contacts hidden : deplie; sans contacts -> BtActiveRech | BtNewQSO BtFermerLog | | liste
+ buttons back : deplie; sans contacts; boutons -> BtActiveRech | | | liste
  pairing : jumelage; sans liste; aller -> BtActiveRech PictRech PJumelage | PictListe | | BtPjSauvegarder
  pairing, saved : jumelage; sauvegarde; sans liste; lache; aller
      -> BtActiveRech PictRech PJumelage | PictListe | | BtPjumeler
@@ -158,20 +159,6 @@ TEST(Vue, CeQuOnVoitDansChaqueEtat) {
             vue = VoirFenetre(scene.session, scene.ecran, scene.feuille);
         EXPECT_EQ(Dire(vue, scene.ecran.foyer.ici), vu);
     }
-}
-
-TEST(Foyer, LaBoiteQuitteeMontreSaZoneEtLaPriseOffreSonTexte) {
-    Scene scene;
-    for (const char* geste :
-         {"saisie", "vierge", "tape 1 F1A", "entree 1", "tape 5 7.05", "suit 13"})
-        scene.Faire(geste);
-    EXPECT_EQ(scene.carte.Texte(Boite::Frequence), "") << "text without Enter is dropped";
-    EXPECT_EQ(scene.carte.saisie.DerniereZone, Boite::Frequence);
-    EXPECT_EQ(scene.carte.saisie.TexteSaisi, "");
-    scene.carte.zones[Boite::Indicatif].clear();
-    scene.Faire("suit 9"); // a contact that was begun has no callsign any more
-    EXPECT_EQ(scene.ecran.foyer.ici, SurBoite(Boite::Indicatif));
-    EXPECT_EQ(scene.ecran.foyer.voeu, SurBoite(Boite::Indicatif));
 }
 
 } // namespace orvalis::aides::vue
