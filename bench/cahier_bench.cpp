@@ -26,14 +26,15 @@ void OuvrirEtCompter(benchmark::State& etat, const CahierEssai& essai) {
 // The last page, as lines of the list and as cells of the sheet.
 void Page(benchmark::State& etat, const CahierEssai& essai) {
     const FichierFiches fichier(essai.Chemin(), ModeFichier::Lecture);
-    const std::int32_t premiere = essai.NbFiches() - kFichesParPage + 1;
+    const NumeroFiche premiere = essai.DernierePage().premiere;
     std::array<QsoRecord, kFichesParPage> fiches;
     for ([[maybe_unused]] auto _ : etat) {
         static_cast<void>(fichier.Lire(premiere, fiches));
-        std::int32_t k = premiere;
+        NumeroFiche k = premiere;
         for (const QsoRecord& fiche : fiches) {
             benchmark::DoNotOptimize(LigneListe(k, fiche));
-            benchmark::DoNotOptimize(CellulesDeFiche(k++, fiche));
+            benchmark::DoNotOptimize(CellulesDeFiche(k, fiche));
+            ++k;
         }
     }
 }
@@ -88,7 +89,7 @@ class ImprimanteNulle : public Imprimante {
 void Imprimer(benchmark::State& etat, const CahierEssai& essai) {
     const Cahier cahier = essai.Ouvrir();
     const Station poste = CahierEssai::Poste();
-    const PageAffichee page{1, essai.NbFiches() - kFichesParPage + 1, essai.NbFiches()};
+    const PageAffichee page = essai.DernierePage();
     ImprimanteNulle imprimante;
     for ([[maybe_unused]] auto _ : etat)
         ImprimerPage(imprimante, cahier, poste, page, page.premiere);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/cahier.h"
+#include "core/pages.h"
 #include "core/qso_record.h"
 #include "core/station.h"
 
@@ -86,7 +87,7 @@ class CahierEssai {
     /// Makes the file hold exactly these records.
     void Ecrire(std::span<const QsoRecord> fiches) const {
         FichierFiches fichier(Chemin(), ModeFichier::Creation);
-        fichier.Ecrire(1, fiches);
+        fichier.Ecrire(kPremiereFiche, fiches);
         std::filesystem::resize_file(Chemin(), fiches.size_bytes());
     }
     /// The logbook as the window has it after start-up.
@@ -101,6 +102,11 @@ class CahierEssai {
     [[nodiscard]] std::filesystem::path Dossier() const { return dossier_; }
     [[nodiscard]] std::filesystem::path Chemin() const { return dossier_ / "BENCH.Vek"; }
     [[nodiscard]] std::int32_t NbFiches() const { return nbFiches_; }
+    /// The last full page.
+    [[nodiscard]] PageAffichee DernierePage() const {
+        const NumeroFiche derniere{nbFiches_};
+        return {1, derniere - (kFichesParPage - 1), derniere};
+    }
     [[nodiscard]] std::size_t NbOctets() const { return fiches_.size() * kTailleFiche; }
     /// The records it was made with, the end-of-log record included.
     [[nodiscard]] const std::vector<QsoRecord>& Fiches() const { return fiches_; }

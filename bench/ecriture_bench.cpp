@@ -32,7 +32,7 @@ void Supprimer(benchmark::State& etat, const CahierEssai& essai) {
     const Station poste = CahierEssai::Poste();
     for ([[maybe_unused]] auto _ : etat) {
         cahier.nbFiches = essai.NbFiches();
-        SupprimerFiche(cahier, 1, poste.monLocator);
+        SupprimerFiche(cahier, kPremiereFiche, poste.monLocator);
     }
 }
 

@@ -22,27 +22,27 @@ constexpr const char* kLocator = "JN18AA";
 
 std::vector<QsoRecord> Contacts(const Cahier& cahier) {
     std::vector<QsoRecord> fiches;
-    for (std::int32_t k = 1; k <= cahier.nbFiches; ++k)
+    for (NumeroFiche k = kPremiereFiche; k <= cahier.Derniere(); ++k)
         fiches.push_back(FicheDuCahier(cahier, k));
     return fiches;
 }
 
 void Regarder(const Cahier& cahier) {
     Carte carte;
-    for (std::int32_t k = 1; k <= cahier.nbFiches + 1; ++k) {
+    for (NumeroFiche k = kPremiereFiche; k <= cahier.Prochaine(); ++k) {
         LireFiche(carte, cahier, k);
         Exiger(Longueur(LigneListe(k, carte.tampon)) == 40);
         static_cast<void>(LignePage(CellulesDeFiche(k, carte.tampon)));
         MontrerLabels(carte, k);
     }
-    LireFiche(carte, cahier, 1);
+    LireFiche(carte, cahier, kPremiereFiche);
     for (const Boite boite : {Boite::Indicatif, Boite::Date, Boite::Debut})
         static_cast<void>(ChercherContacts(cahier, carte.zones[boite]));
     static_cast<void>(ChercherDoublons(cahier));
     static_cast<void>(ExaminerCahier(cahier));
 }
 
-void Recrire(Cahier& cahier, std::int32_t k) {
+void Recrire(Cahier& cahier, NumeroFiche k) {
     // A record read and written again keeps its bytes, but for blanks in front of a text.
     Carte carte;
     LireFiche(carte, cahier, k);
@@ -80,9 +80,9 @@ void Ajouter(Cahier& cahier) {
     Exiger(Contacts(cahier) == attendues);
 }
 
-void Supprimer(Cahier& cahier, std::int32_t k) {
+void Supprimer(Cahier& cahier, NumeroFiche k) {
     std::vector<QsoRecord> attendues = Contacts(cahier);
-    attendues.erase(attendues.begin() + (k - 1));
+    attendues.erase(attendues.begin() + (k - kPremiereFiche));
     SupprimerFiche(cahier, k, kLocator);
     CompterFiches(cahier);
     Exiger(Contacts(cahier) == attendues);
@@ -101,25 +101,25 @@ void Copier(const Cahier& cahier) {
     CopierCahier(cahier, {{}, {}, kLocator}, cible);
     const FichierFiches copie(cible, ModeFichier::Lecture);
     Exiger(copie.Compter() == cahier.nbFiches);
-    for (std::int32_t k = 1; k <= cahier.nbFiches; ++k)
+    for (NumeroFiche k = kPremiereFiche; k <= cahier.Derniere(); ++k)
         Exiger(copie.Lire(k) == FicheDuCahier(cahier, k));
 }
 
 void Agir(std::uint8_t action, Cahier& cahier, const std::filesystem::path& chemin) {
-    const std::int32_t k = cahier.nbFiches == 0 ? 0 : 1 + action / 8 % cahier.nbFiches;
+    const NumeroFiche k{cahier.nbFiches == 0 ? 0 : 1 + action / 8 % cahier.nbFiches};
     switch (action % 8) {
     case 0:
         return Trier(cahier);
     case 1:
         return Ajouter(cahier);
     case 2:
-        return k == 0 ? Regarder(cahier) : Supprimer(cahier, k);
+        return k == kAucuneFiche ? Regarder(cahier) : Supprimer(cahier, k);
     case 3:
         return Jumeler(cahier, chemin);
     case 4:
         return Copier(cahier);
     case 5:
-        return k == 0 ? Regarder(cahier) : Recrire(cahier, k);
+        return k == kAucuneFiche ? Regarder(cahier) : Recrire(cahier, k);
     default:
         return Regarder(cahier);
     }
@@ -138,7 +138,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t n)
     CompterFiches(cahier);
     // The last contact may be cut short, but it begins in the file.
     fuzz::Exiger(cahier.nbFiches == 0 ||
-                 PositionFiche(cahier.nbFiches) < cahier.fichier.Support().Taille());
+                 PositionFiche(cahier.Derniere()) < cahier.fichier.Support().Taille());
     Agir(octets[0], cahier, chemin);
     return 0;
 }

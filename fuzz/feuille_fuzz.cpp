@@ -10,10 +10,10 @@ namespace orvalis {
 namespace {
 
 void Agir(std::uint8_t action, Cahier& cahier, FeuilleQSL& feuille) {
-    const int place = 1 + action / 16;
+    const int numero = 1 + action / 16;
     switch (action % 16) {
     case 0:
-        static_cast<void>(PreparerEtiquette(cahier, feuille, 1 + place % 5));
+        static_cast<void>(PreparerEtiquette(cahier, feuille, NumeroFiche{1 + numero % 5}));
         break;
     case 1:
         static_cast<void>(ValiderEtiquette(cahier, feuille));
@@ -31,10 +31,10 @@ void Agir(std::uint8_t action, Cahier& cahier, FeuilleQSL& feuille) {
         RevoirEtiquettes(feuille);
         break;
     case 6:
-        ChoisirVoie(feuille, place % 2 == 0 ? VoieQSL::Bureau : VoieQSL::Direct);
+        ChoisirVoie(feuille, numero % 2 == 0 ? VoieQSL::Bureau : VoieQSL::Direct);
         break;
     case 7:
-        CliquerTag(feuille, place);
+        CliquerTag(feuille, Place{numero});
         break;
     case 8:
         LaisserEtiquette(feuille);
@@ -46,13 +46,13 @@ void Agir(std::uint8_t action, Cahier& cahier, FeuilleQSL& feuille) {
         MontrerFeuille(feuille);
         break;
     case 11:
-        SaisirBoiteEtiquette(feuille, static_cast<std::size_t>(1 + place % 11), "F1QSOÉ");
+        SaisirBoiteEtiquette(feuille, static_cast<std::size_t>(1 + numero % 11), "F1QSOÉ");
         break;
     default:
-        CliquerChoix(feuille, place);
+        CliquerChoix(feuille, Place{numero});
     }
-    for (int k = 1; k <= kNbEtiquettes; ++k)
-        static_cast<void>(VoirPlace(feuille, k));
+    for (Place place = kPremierePlace; place <= kDernierePlace; ++place)
+        static_cast<void>(VoirPlace(feuille, place));
 }
 
 std::string OctetsCahier() {

@@ -242,7 +242,7 @@ QString Imprime(const CahierEssai& essai) {
 void ImprimerPdf(benchmark::State& etat, const CahierEssai& essai) {
     const Cahier cahier = essai.Ouvrir();
     const Station poste = CahierEssai::Poste();
-    const PageAffichee page{1, essai.NbFiches() - 24, essai.NbFiches()};
+    const PageAffichee page = essai.DernierePage();
     for ([[maybe_unused]] auto _ : etat) {
         QPrinter pdf(QPrinter::HighResolution);
         pdf.setOutputFormat(QPrinter::PdfFormat);

@@ -47,17 +47,17 @@ void CompterFiches(Cahier& cahier) {
     cahier.nbFiches = cahier.fichier.Compter();
 }
 
-QsoRecord FicheDuCahier(const Cahier& cahier, std::int32_t k) {
+QsoRecord FicheDuCahier(const Cahier& cahier, NumeroFiche k) {
     return cahier.fichier.Lire(k);
 }
 
-void CorrigerFiche(Cahier& cahier, std::int32_t k, const QsoRecord& fiche) {
+void CorrigerFiche(Cahier& cahier, NumeroFiche k, const QsoRecord& fiche) {
     cahier.fichier.Ecrire(k, fiche);
 }
 
 void AjouterFiche(Cahier& cahier, const QsoRecord& contact, const QsoRecord& fin) {
     FichierFiches& fichier = cahier.fichier;
-    const std::int32_t k = cahier.Prochaine();
+    const NumeroFiche k = cahier.Prochaine();
     // Room first, behind the end of the log, where nothing counts: then both records replace
     // bytes that are there, in one piece.
     if (!EstFinDeLog(fichier.Lire(k)))
@@ -73,7 +73,7 @@ namespace {
 
 // Moves records `k` + 1 to `derniere` down one place and the blank record `k` behind them, in
 // pieces that are replaced whole: at every instant the file holds each record exactly once.
-void DescendreFiches(FichierFiches& fichier, std::int32_t k, std::int32_t derniere) {
+void DescendreFiches(FichierFiches& fichier, NumeroFiche k, NumeroFiche derniere) {
     if (fichier.Support().Taille() < PositionFiche(derniere + 1))
         fichier.Ecrire(derniere, fichier.Lire(derniere));
     EcritureEntiere ecriture(fichier.Support(), PositionFiche(derniere + 1));
@@ -81,7 +81,7 @@ void DescendreFiches(FichierFiches& fichier, std::int32_t k, std::int32_t dernie
     std::array<QsoRecord, kFichesParPiece> piece;
     while (k < derniere) {
         const auto n = std::min(kFichesParPiece - 1, static_cast<std::size_t>(derniere - k));
-        const std::int32_t debut = k;
+        const NumeroFiche debut = k;
         for (std::size_t i = 0; i < n; ++i)
             piece[i] = lecteur.Lire(++k);
         piece[n] = QsoRecord{};
@@ -91,9 +91,9 @@ void DescendreFiches(FichierFiches& fichier, std::int32_t k, std::int32_t dernie
 
 } // namespace
 
-void SupprimerFiche(Cahier& cahier, std::int32_t k, std::string_view monLocator) {
+void SupprimerFiche(Cahier& cahier, NumeroFiche k, std::string_view monLocator) {
     FichierFiches& fichier = cahier.fichier;
-    const std::int32_t derniere = cahier.nbFiches;
+    const NumeroFiche derniere = cahier.Derniere();
     if (k < derniere) {
         if (!Rogner(OctetsChamp(fichier.Lire(k), Champ::CSGN)).empty())
             fichier.Ecrire(k, QsoRecord{});
@@ -111,7 +111,7 @@ void SynchroniserCahier(Cahier& cahier) {
 EtatCahier ExaminerCahier(const Cahier& cahier) {
     const FichierFiches& fichier = cahier.fichier;
     const auto taille = fichier.Support().Taille();
-    return {EstFinDeLog(fichier.Lire(cahier.nbFiches + 1)),
+    return {EstFinDeLog(fichier.Lire(cahier.Prochaine())),
             taille % static_cast<std::int64_t>(kTailleFiche) == 0};
 }
 

@@ -24,7 +24,13 @@ struct Cahier {
     /// The station's own logbook, not one opened as "another", whatever its name.
     [[nodiscard]] bool EstLeNotre() const { return autre.empty(); }
     /// Where the next contact will be written.
-    [[nodiscard]] std::int32_t Prochaine() const { return nbFiches + 1; }
+    [[nodiscard]] NumeroFiche Prochaine() const { return Derniere() + 1; }
+    /// The last contact; none in a logbook without.
+    [[nodiscard]] NumeroFiche Derniere() const { return NumeroFiche{nbFiches}; }
+    /// Whether record `k` is one of the contacts.
+    [[nodiscard]] bool Contient(NumeroFiche k) const {
+        return k >= kPremiereFiche && k <= Derniere();
+    }
 };
 
 /// Opens `chemin` in place of the file that was open, and locks it; N is not counted, whose
@@ -40,11 +46,11 @@ void OuvrirCahier(Cahier& cahier, const std::filesystem::path& chemin,
 void CompterFiches(Cahier& cahier);
 
 /// Record `k` (from 1); blank beyond the end of the file.
-[[nodiscard]] QsoRecord FicheDuCahier(const Cahier& cahier, std::int32_t k);
+[[nodiscard]] QsoRecord FicheDuCahier(const Cahier& cahier, NumeroFiche k);
 
 /// Puts `fiche` in the place of record `k` in one indivisible write. The caller flushes
 /// (SynchroniserCahier).
-void CorrigerFiche(Cahier& cahier, std::int32_t k, const QsoRecord& fiche);
+void CorrigerFiche(Cahier& cahier, NumeroFiche k, const QsoRecord& fiche);
 
 /// Writes `contact` as record N + 1 and `fin`, the end-of-log record, behind it, in one indivisible
 /// write that has reached the disk on return. N grows by one.
@@ -54,7 +60,7 @@ void AjouterFiche(Cahier& cahier, const QsoRecord& contact, const QsoRecord& fin
 /// with `monLocator` takes the place of the last. Killed at any instant, the file holds every other
 /// contact exactly once, with the deleted one or a blank record somewhere until the end. The file
 /// keeps its length and has reached the disk on return; N shrinks by one.
-void SupprimerFiche(Cahier& cahier, std::int32_t k, std::string_view monLocator);
+void SupprimerFiche(Cahier& cahier, NumeroFiche k, std::string_view monLocator);
 
 /// Returns once what was written has reached the disk.
 void SynchroniserCahier(Cahier& cahier);

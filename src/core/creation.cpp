@@ -37,7 +37,7 @@ bool CreerCahier(const fs::path& lecteur, const Parametres& parametres) {
         throw Erreur(NatureErreur::DejaOuvert, dossier / parametres.nomFichier);
     EcrireParametres(CheminParametres(dossier), parametres);
     // An existing logbook is not emptied: only its first record becomes the end of the log.
-    fichier.Ecrire(1, FicheFinDeLog(parametres.monLocator));
+    fichier.Ecrire(kPremiereFiche, FicheFinDeLog(parametres.monLocator));
     fichier.Support().Synchroniser();
     return true;
 }

@@ -15,13 +15,13 @@ std::span<const char> OctetsFiches(std::span<const QsoRecord> fiches) {
     return {reinterpret_cast<const char*>(fiches.data()), fiches.size_bytes()};
 }
 
-QsoRecord FichierFiches::Lire(std::int32_t k) const {
+QsoRecord FichierFiches::Lire(NumeroFiche k) const {
     QsoRecord fiche;
     static_cast<void>(Lire(k, std::span(&fiche, 1)));
     return fiche;
 }
 
-std::size_t FichierFiches::Lire(std::int32_t k, std::span<QsoRecord> fiches) const {
+std::size_t FichierFiches::Lire(NumeroFiche k, std::span<QsoRecord> fiches) const {
     if (fiches.empty())
         return 0;
     const std::span<char> octets = Tampon(fiches);
@@ -30,30 +30,30 @@ std::size_t FichierFiches::Lire(std::int32_t k, std::span<QsoRecord> fiches) con
     return (lus + kTailleFiche - 1) / kTailleFiche;
 }
 
-void FichierFiches::Ecrire(std::int32_t k, std::span<const QsoRecord> fiches) {
+void FichierFiches::Ecrire(NumeroFiche k, std::span<const QsoRecord> fiches) {
     EcrireEntier(fichier_, PositionFiche(k), OctetsFiches(fiches));
 }
 
 std::int32_t FichierFiches::Compter() const {
     std::vector<QsoRecord> bloc(kFichesParBloc);
-    for (std::int32_t k = 1;;) {
+    for (NumeroFiche k = kPremiereFiche;;) {
         const std::size_t lus = Lire(k, bloc);
         for (std::size_t i = 0; i < lus; ++i)
             if (EstFinDeLog(bloc[i]))
-                return k - 1 + static_cast<std::int32_t>(i);
+                return k - kPremiereFiche + static_cast<std::int32_t>(i);
         k += static_cast<std::int32_t>(lus);
         if (lus < bloc.size())
-            return k - 1;
+            return k - kPremiereFiche;
     }
 }
 
 LecteurFiches::LecteurFiches(const FichierFiches& fichier) : fichier_(fichier) {}
 
-const QsoRecord& LecteurFiches::Lire(std::int32_t k) {
+const QsoRecord& LecteurFiches::Lire(NumeroFiche k) {
     if (bloc_.empty())
         bloc_.resize(kFichesParBloc);
     const auto taille = static_cast<std::int32_t>(bloc_.size());
-    if (premiere_ == 0 || k < premiere_ || k >= premiere_ + taille) {
+    if (premiere_ == kAucuneFiche || k < premiere_ || k >= premiere_ + taille) {
         static_cast<void>(fichier_.Lire(k, bloc_));
         premiere_ = k;
     }

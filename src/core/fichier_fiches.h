@@ -4,6 +4,7 @@
 #pragma once
 
 #include "core/fichier.h"
+#include "core/numeros.h"
 #include "core/projection.h"
 #include "core/qso_record.h"
 
@@ -25,15 +26,15 @@ class FichierFiches {
     [[nodiscard]] const Fichier& Support() const noexcept { return fichier_; }
 
     /// Record `k` (from 1); blank beyond the end of the file.
-    [[nodiscard]] QsoRecord Lire(std::int32_t k) const;
+    [[nodiscard]] QsoRecord Lire(NumeroFiche k) const;
     /// Fills `fiches` from record `k` on, with blanks beyond the end; returns how many records
     /// the file had there.
-    [[nodiscard]] std::size_t Lire(std::int32_t k, std::span<QsoRecord> fiches) const;
+    [[nodiscard]] std::size_t Lire(NumeroFiche k, std::span<QsoRecord> fiches) const;
     /// Writes one record, or several neighbouring ones as one contiguous write. Records that are
     /// all in the file already, at most kFichesParPiece, are replaced wholly or not at all,
     /// whenever the program is killed.
-    void Ecrire(std::int32_t k, const QsoRecord& fiche) { Ecrire(k, std::span(&fiche, 1)); }
-    void Ecrire(std::int32_t k, std::span<const QsoRecord> fiches);
+    void Ecrire(NumeroFiche k, const QsoRecord& fiche) { Ecrire(k, std::span(&fiche, 1)); }
+    void Ecrire(NumeroFiche k, std::span<const QsoRecord> fiches);
     /// Number of contacts: the records before the end-of-log record, or all of them without one.
     [[nodiscard]] std::int32_t Compter() const;
 
@@ -47,12 +48,12 @@ class LecteurFiches {
   public:
     explicit LecteurFiches(const FichierFiches& fichier);
     /// Record `k`; valid until the next call.
-    [[nodiscard]] const QsoRecord& Lire(std::int32_t k);
+    [[nodiscard]] const QsoRecord& Lire(NumeroFiche k);
 
   private:
     const FichierFiches& fichier_;
     std::vector<QsoRecord> bloc_;
-    std::int32_t premiere_ = 0; ///< record number of bloc_[0]; 0 while nothing was read
+    NumeroFiche premiere_; ///< record of bloc_[0]; none while nothing was read
 };
 
 /// Records that one indivisible write replaces at most (see projection.h).
@@ -60,8 +61,8 @@ inline constexpr std::size_t kFichesParPiece = kPlusGrandePiece / kTailleFiche;
 
 /// The bytes of neighbouring records, and where record `k` lies in the file.
 [[nodiscard]] std::span<const char> OctetsFiches(std::span<const QsoRecord> fiches);
-[[nodiscard]] constexpr std::int64_t PositionFiche(std::int32_t k) {
-    return (static_cast<std::int64_t>(k) - 1) * static_cast<std::int64_t>(kTailleFiche);
+[[nodiscard]] constexpr std::int64_t PositionFiche(NumeroFiche k) {
+    return (static_cast<std::int64_t>(k.Valeur()) - 1) * static_cast<std::int64_t>(kTailleFiche);
 }
 
 /// Records in a block of a sequential scan (about a quarter of a megabyte).

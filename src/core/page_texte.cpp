@@ -4,9 +4,9 @@
 
 namespace orvalis {
 
-CellulesPage CellulesDeFiche(std::int32_t k, const QsoRecord& fiche) {
+CellulesPage CellulesDeFiche(NumeroFiche k, const QsoRecord& fiche) {
     CellulesPage cellules;
-    cellules[0] = std::to_string(k);
+    cellules[0] = std::to_string(k.Valeur());
     for (std::size_t i = 1; i < cellules.size(); ++i) {
         const ColonnePage& colonne = kColonnesPage[i];
         cellules[i] = Gauche(TexteRogne(fiche, colonne.champ), colonne.largeur);

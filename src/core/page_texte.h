@@ -1,10 +1,10 @@
 // The page on show as a sheet of the paper log: its columns, and the cells of one row.
 #pragma once
 
+#include "core/numeros.h"
 #include "core/qso_record.h"
 
 #include <array>
-#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -36,7 +36,7 @@ inline constexpr std::array<ColonnePage, 13> kColonnesPage = {{
 using CellulesPage = std::array<std::string, kColonnesPage.size()>;
 
 /// The cells of record `k`, each trimmed and cut to its column.
-[[nodiscard]] CellulesPage CellulesDeFiche(std::int32_t k, const QsoRecord& fiche);
+[[nodiscard]] CellulesPage CellulesDeFiche(NumeroFiche k, const QsoRecord& fiche);
 
 /// The same row as one line of fixed-pitch text, cells padded to their columns.
 [[nodiscard]] std::string LignePage(const CellulesPage& cellules);

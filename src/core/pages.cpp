@@ -6,19 +6,19 @@
 
 namespace orvalis {
 
-std::int32_t CalculerPages(std::int32_t x) {
-    return std::max((x + kFichesParPage - 1) / kFichesParPage, 1);
+std::int32_t CalculerPages(std::int32_t nbFiches) {
+    return std::max((nbFiches + kFichesParPage - 1) / kFichesParPage, 1);
 }
 
 PlagePage CalculerPlage(std::int32_t page, std::int32_t nbFiches) {
     const std::int32_t listables = std::min(nbFiches, kDerniereListable);
-    return {page * kFichesParPage - (kFichesParPage - 1),
-            std::min(page * kFichesParPage, listables)};
+    return {NumeroFiche{page * kFichesParPage - (kFichesParPage - 1)},
+            NumeroFiche{std::min(page * kFichesParPage, listables)}};
 }
 
-std::string LigneListe(std::int32_t k, const QsoRecord& fiche) {
+std::string LigneListe(NumeroFiche k, const QsoRecord& fiche) {
     constexpr std::size_t kLargeurLigne = 40;
-    return Cadrer(Cadrer(std::to_string(k), kLargeurNumero) + " : " +
+    return Cadrer(Cadrer(std::to_string(k.Valeur()), kLargeurNumero) + " : " +
                       Cadrer(TexteRogne(fiche, Champ::CSGN), kIndicatifListe) + ":" +
                       Cadrer(TexteRogne(fiche, Champ::DQSO), Description(Champ::DQSO).largeur) +
                       ":" +
@@ -26,9 +26,9 @@ std::string LigneListe(std::int32_t k, const QsoRecord& fiche) {
                   kLargeurLigne);
 }
 
-std::optional<MouvementListe> PageDeTouche(ToucheListe touche, std::int32_t courante, int ligne,
+std::optional<MouvementListe> PageDeTouche(ToucheListe touche, NumeroFiche courante, int ligne,
                                            std::int32_t nbPages) {
-    const std::int32_t page = CalculerPages(courante);
+    const std::int32_t page = PageDeFiche(courante);
     switch (touche) {
     case ToucheListe::PagePrecedente:
         if (page >= 2)
@@ -50,8 +50,8 @@ std::optional<MouvementListe> PageDeTouche(ToucheListe touche, std::int32_t cour
     return std::nullopt;
 }
 
-std::int32_t NumeroDeLigne(std::string_view ligne) {
-    return ValeurNumerique(Gauche(ligne, kLargeurNumero));
+NumeroFiche NumeroDeLigne(std::string_view ligne) {
+    return NumeroFiche{ValeurNumerique(Gauche(ligne, kLargeurNumero))};
 }
 
 } // namespace orvalis

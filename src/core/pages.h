@@ -1,6 +1,7 @@
 // The logbook in pages of twenty-five contacts, and the texts of the log list.
 #pragma once
 
+#include "core/numeros.h"
 #include "core/qso_record.h"
 
 #include <cstdint>
@@ -18,29 +19,35 @@ inline constexpr std::int32_t kFichesParPage = 25;
 /// The list numbers contacts in 16 bits; what lies beyond is counted and kept, but not listed.
 inline constexpr std::int32_t kDerniereListable = 32767;
 
-/// Page that holds record `x`, from 1. Also the page count, for x = N (0 contacts: one page).
-[[nodiscard]] std::int32_t CalculerPages(std::int32_t x);
+/// Pages that `nbFiches` contacts fill; none fill one page too.
+[[nodiscard]] std::int32_t CalculerPages(std::int32_t nbFiches);
+
+/// Page that holds record `k`, from 1.
+[[nodiscard]] inline std::int32_t PageDeFiche(NumeroFiche k) {
+    return CalculerPages(k.Valeur());
+}
 
 struct PlagePage {
-    std::int32_t premiere = 1; ///< first record of the page
-    std::int32_t derniere = 0; ///< last record; below `premiere` when the page is empty
+    NumeroFiche premiere = kPremiereFiche; ///< first record of the page
+    NumeroFiche derniere;                  ///< last record; below `premiere` when the page is empty
 };
 
 /// The page on show.
 struct PageAffichee {
-    std::int32_t numero = 1;   ///< from 1
-    std::int32_t premiere = 1; ///< F, its first record; 0 after a blank page was printed
-    std::int32_t derniere = 0; ///< its last record
+    std::int32_t numero = 1; ///< from 1
+    /// F, its first record; none after a blank page was printed
+    NumeroFiche premiere = kPremiereFiche;
+    NumeroFiche derniere; ///< its last record
 };
 
 /// Records of page `page` (from 1) in a logbook of `nbFiches` contacts.
 [[nodiscard]] PlagePage CalculerPlage(std::int32_t page, std::int32_t nbFiches);
 
 /// Line of the log list for record `k`: 40 characters, number, callsign, date and start time.
-[[nodiscard]] std::string LigneListe(std::int32_t k, const QsoRecord& fiche);
+[[nodiscard]] std::string LigneListe(NumeroFiche k, const QsoRecord& fiche);
 
 /// Record number that begins a line of the log list or of the contacts list.
-[[nodiscard]] std::int32_t NumeroDeLigne(std::string_view ligne);
+[[nodiscard]] NumeroFiche NumeroDeLigne(std::string_view ligne);
 
 /// The paging buttons.
 enum class BoutonPage { Premiere, Precedente, Suivante, Derniere };
@@ -55,7 +62,7 @@ struct MouvementListe {
 
 /// Page move of a key pressed in the log list while record `courante` is on the card and the
 /// line `ligne` (from 0, -1 for none) is selected; nothing when the key moves no page.
-[[nodiscard]] std::optional<MouvementListe> PageDeTouche(ToucheListe touche, std::int32_t courante,
+[[nodiscard]] std::optional<MouvementListe> PageDeTouche(ToucheListe touche, NumeroFiche courante,
                                                          int ligne, std::int32_t nbPages);
 
 } // namespace orvalis

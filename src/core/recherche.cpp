@@ -45,17 +45,17 @@ class Pliage {
     std::array<char, 256> table_ = TableMajuscules();
 };
 
-std::string Ligne(std::int32_t k, std::string_view texte) {
-    return Cadrer(std::to_string(k), kLargeurNumero) + Cadrer(texte, kLargeurTexte);
+std::string Ligne(NumeroFiche k, std::string_view texte) {
+    return Cadrer(std::to_string(k.Valeur()), kLargeurNumero) + Cadrer(texte, kLargeurTexte);
 }
 
-std::string LigneContact(std::int32_t k, const QsoRecord& fiche) {
+std::string LigneContact(NumeroFiche k, const QsoRecord& fiche) {
     return Ligne(k, "Le " + Cadrer(TexteRogne(fiche, Champ::DQSO), kLargeurDate) + " à " +
                         Cadrer(TexteRogne(fiche, Champ::HDEB), Description(Champ::HDEB).largeur) +
                         " sur " + TexteRogne(fiche, Champ::FREQ) + " Mhz");
 }
 
-std::string LigneDoublon(std::int32_t k, const QsoRecord& seconde) {
+std::string LigneDoublon(NumeroFiche k, const QsoRecord& seconde) {
     std::string texte = DepuisCp1252(OctetsChamp(seconde, Champ::CSGN).substr(0, kIndicatifListe));
     texte.insert(0, 1, ' ');
     texte += "Le " + TexteChamp(seconde, Champ::DQSO) + " à " + TexteChamp(seconde, Champ::HDEB);
@@ -66,7 +66,7 @@ template<typename Retenir>
 std::vector<std::string> Parcourir(const Cahier& cahier, Retenir retenir) {
     std::vector<std::string> lignes;
     LecteurFiches lecteur(cahier.fichier);
-    for (std::int32_t k = 1; k <= cahier.nbFiches; ++k)
+    for (NumeroFiche k = kPremiereFiche; k <= cahier.Derniere(); ++k)
         if (const QsoRecord& fiche = lecteur.Lire(k); retenir(fiche))
             lignes.push_back(LigneContact(k, fiche));
     return lignes;
@@ -129,9 +129,10 @@ ResultatRecherche ChercherDoublons(const Cahier& cahier) {
     ResultatRecherche resultat;
     LecteurFiches lecteur(cahier.fichier);
     std::array<char, kOctetsDoublon> precedente = {};
-    for (std::int32_t k = 1; k <= cahier.nbFiches && cahier.nbFiches > 1; ++k) {
+    for (NumeroFiche k = kPremiereFiche; k <= cahier.Derniere() && cahier.nbFiches > 1; ++k) {
         const QsoRecord& fiche = lecteur.Lire(k);
-        if (k > 1 && std::memcmp(precedente.data(), fiche.octets.data(), kOctetsDoublon) == 0)
+        if (k > kPremiereFiche &&
+            std::memcmp(precedente.data(), fiche.octets.data(), kOctetsDoublon) == 0)
             resultat.lignes.push_back(LigneDoublon(k - 1, fiche));
         std::memcpy(precedente.data(), fiche.octets.data(), kOctetsDoublon);
     }

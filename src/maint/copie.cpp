@@ -26,8 +26,8 @@ void CopierCahier(const Cahier& cahier, const Station& station,
     if (!copie.Support().Verrouiller())
         throw Erreur(NatureErreur::DejaOuvert, cible);
     std::vector<QsoRecord> bloc(kFichesParBloc);
-    const std::int32_t derniere = cahier.nbFiches + 1;
-    for (std::int32_t k = 1; k <= derniere;) {
+    const NumeroFiche derniere = cahier.Prochaine();
+    for (NumeroFiche k = kPremiereFiche; k <= derniere;) {
         const auto n = std::min(kFichesParBloc, static_cast<std::size_t>(derniere - k + 1));
         const auto fiches = std::span(bloc).first(n);
         static_cast<void>(cahier.fichier.Lire(k, fiches));

@@ -16,10 +16,10 @@ void RognerIndicatif(QsoRecord& fiche) {
     std::fill(std::copy(texte, fin, debut), fin, ' ');
 }
 
-// Reads records `k` on of `source` into `bloc`, at most up to record `nombre`.
-std::span<const QsoRecord> LireBloc(const FichierFiches& source, std::int32_t k,
-                                    std::int32_t nombre, std::vector<QsoRecord>& bloc) {
-    const auto n = std::min(kFichesParBloc, static_cast<std::size_t>(nombre - k + 1));
+// Reads records `k` on of `source` into `bloc`, at most up to record `derniere`.
+std::span<const QsoRecord> LireBloc(const FichierFiches& source, NumeroFiche k,
+                                    NumeroFiche derniere, std::vector<QsoRecord>& bloc) {
+    const auto n = std::min(kFichesParBloc, static_cast<std::size_t>(derniere - k + 1));
     const auto fiches = std::span(bloc).first(n);
     static_cast<void>(source.Lire(k, fiches));
     std::for_each(fiches.begin(), fiches.end(), RognerIndicatif);
@@ -33,23 +33,24 @@ std::int32_t JumelerCahier(Cahier& cahier, const Station& station,
     const FichierFiches autre(source, ModeFichier::Lecture);
     const std::int32_t nombre = autre.Compter();
     FichierFiches& fichier = cahier.fichier;
-    const std::int32_t suivante = cahier.Prochaine();
+    const NumeroFiche suivante = cahier.Prochaine();
     const QsoRecord fin = FicheFinDeLog(station.monLocator);
     std::vector<QsoRecord> bloc(kFichesParBloc);
 
     // A logbook that had no end-of-log record gets one before anything is written behind it.
     if (nombre == 0 || !EstFinDeLog(fichier.Lire(suivante)))
         fichier.Ecrire(suivante, fin);
-    for (std::int32_t k = 2; k <= nombre;) {
-        const auto fiches = LireBloc(autre, k, nombre, bloc);
-        fichier.Ecrire(cahier.nbFiches + k, fiches);
+    const NumeroFiche derniere{nombre};
+    for (NumeroFiche k = kPremiereFiche + 1; k <= derniere;) {
+        const auto fiches = LireBloc(autre, k, derniere, bloc);
+        fichier.Ecrire(suivante + (k - kPremiereFiche), fiches);
         k += static_cast<std::int32_t>(fiches.size());
     }
     if (nombre > 0)
         fichier.Ecrire(suivante + nombre, fin);
     SynchroniserCahier(cahier);
     if (nombre > 0) {
-        fichier.Ecrire(suivante, LireBloc(autre, 1, 1, bloc));
+        fichier.Ecrire(suivante, LireBloc(autre, kPremiereFiche, kPremiereFiche, bloc));
         SynchroniserCahier(cahier);
     }
     CompterFiches(cahier);

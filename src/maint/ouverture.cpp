@@ -21,7 +21,7 @@ BilanOuverture OuvrirAutreCahier(Cahier& cahier, Station& station,
     // Everything that can fail on reading is read before the current logbook is let go.
     const FichierFiches essai(chemin, ModeFichier::Lecture);
     const std::int32_t nbFiches = essai.Compter();
-    const QsoRecord fin = essai.Lire(nbFiches + 1);
+    const QsoRecord fin = essai.Lire(NumeroFiche{nbFiches} + 1);
     OuvrirCahier(cahier, chemin, lectureSeule);
 
     cahier.autre = nom;

@@ -92,7 +92,7 @@ Tri::Tri(FichierFiches& fichier, std::int32_t nbFiches) : fichier_(fichier), nbF
         return;
     const std::int64_t taille = nbFiches * kTaille;
     if (fichier.Support().Taille() < taille)
-        fichier.Ecrire(nbFiches, fichier.Lire(nbFiches));
+        fichier.Ecrire(NumeroFiche{nbFiches}, fichier.Lire(NumeroFiche{nbFiches}));
     projection_.emplace(fichier.Support(), taille);
 }
 

@@ -94,17 +94,18 @@ class Dessin {
 
 } // namespace
 
-PlaceEtiquette PlaceDeEtiquette(std::int16_t numero) {
+PositionEtiquette PositionDeEtiquette(Place place) {
+    const int numero = place.Valeur();
     return {numero % 2 != 0 ? 1 : 2, (numero + 1) / 2};
 }
 
-OrigineEtiquette OrigineDeEtiquette(PlaceEtiquette place) {
-    const bool surLaFeuille = place.rangee >= 1 && place.rangee <= kNbRangees;
-    return {kXColonnes[place.colonne == 1 ? 0 : 1],
-            surLaFeuille ? kYPremiereRangee + (place.rangee - 1) * kPas : 0};
+OrigineEtiquette OrigineDeEtiquette(PositionEtiquette position) {
+    const bool surLaFeuille = position.rangee >= 1 && position.rangee <= kNbRangees;
+    return {kXColonnes[position.colonne == 1 ? 0 : 1],
+            surLaFeuille ? kYPremiereRangee + (position.rangee - 1) * kPas : 0};
 }
 
-void ImprimerEtiquette(Imprimante& imprimante, PlaceEtiquette place, GenreEtiquette genre,
+void ImprimerEtiquette(Imprimante& imprimante, PositionEtiquette position, GenreEtiquette genre,
                        DonneesEtiquette& donnees, std::string_view station, std::string& enTete) {
     const bool remplie = genre == GenreEtiquette::Remplie;
     if (remplie) {
@@ -112,7 +113,7 @@ void ImprimerEtiquette(Imprimante& imprimante, PlaceEtiquette place, GenreEtique
         enTete = donnees.texte1 + "  Confirming QSO with  " + donnees.indicatif;
     }
 
-    Dessin dessin{imprimante, OrigineDeEtiquette(place)};
+    Dessin dessin{imprimante, OrigineDeEtiquette(position)};
     imprimante.ChoisirGras(true);
     // Kept on purpose, for the printed sheets: the heading of the last filled label decides for a
     // blank one too.
@@ -141,7 +142,7 @@ void ImprimerFeuille(Imprimante& imprimante, std::span<EtiquettePlacee> etiquett
         return;
     imprimante.ChoisirPapier(Papier::A4, Orientation::Portrait);
     for (EtiquettePlacee& e : etiquettes)
-        ImprimerEtiquette(imprimante, PlaceDeEtiquette(e.numero), GenreEtiquette::Remplie,
+        ImprimerEtiquette(imprimante, PositionDeEtiquette(e.place), GenreEtiquette::Remplie,
                           e.donnees, {}, enTete);
     imprimante.TerminerDocument();
 }
@@ -149,8 +150,8 @@ void ImprimerFeuille(Imprimante& imprimante, std::span<EtiquettePlacee> etiquett
 void ImprimerFeuilleVierge(Imprimante& imprimante, std::string_view station, std::string& enTete) {
     imprimante.ChoisirPapier(Papier::A4, Orientation::Portrait);
     DonneesEtiquette rien;
-    for (std::int16_t numero = 1; numero <= kEtiquettesParFeuille; ++numero)
-        ImprimerEtiquette(imprimante, PlaceDeEtiquette(numero), GenreEtiquette::Vierge, rien,
+    for (Place place = kPremierePlace; place <= kDernierePlace; ++place)
+        ImprimerEtiquette(imprimante, PositionDeEtiquette(place), GenreEtiquette::Vierge, rien,
                           station, enTete);
     imprimante.TerminerDocument();
 }

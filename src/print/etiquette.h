@@ -1,6 +1,7 @@
 // QSL labels: a sheet of sixteen on A4 portrait, in two columns of eight.
 #pragma once
 
+#include "core/numeros.h"
 #include "print/imprimante.h"
 
 #include <cstdint>
@@ -9,8 +10,6 @@
 #include <string_view>
 
 namespace orvalis {
-
-inline constexpr std::int16_t kEtiquettesParFeuille = 16;
 
 /// The nine texts of a label, in the order of the label sheet's fields 1 to 9. Their padding is
 /// no matter: the drawing trims them in place.
@@ -29,7 +28,7 @@ struct DonneesEtiquette {
 enum class GenreEtiquette : std::uint8_t { Remplie = 1, Vierge = 2 };
 
 /// Column (1 or 2) and row (1 to 8) of a label on the sheet.
-struct PlaceEtiquette {
+struct PositionEtiquette {
     int colonne = 1;
     int rangee = 1;
 };
@@ -40,24 +39,24 @@ struct OrigineEtiquette {
     friend bool operator==(const OrigineEtiquette&, const OrigineEtiquette&) = default;
 };
 
-/// Place of label `numero` (1 to 16): odd numbers left, even numbers right, row by row.
-[[nodiscard]] PlaceEtiquette PlaceDeEtiquette(std::int16_t numero);
+/// Where the label of `place` lies: odd places left, even places right, row by row.
+[[nodiscard]] PositionEtiquette PositionDeEtiquette(Place place);
 
 /// Top-left corner of a label; a row outside 1 to 8 gives y = 0.
-[[nodiscard]] OrigineEtiquette OrigineDeEtiquette(PlaceEtiquette place);
+[[nodiscard]] OrigineEtiquette OrigineDeEtiquette(PositionEtiquette position);
 
-/// Draws one label at its place and leaves the document open for the others.
+/// Draws one label at its position and leaves the document open for the others.
 /// Remplie: draws and trims `donnees`, and keeps its heading in `enTete`, which outlives a label:
 /// kept on purpose, for the printed sheets, where a blank label takes the size of its first font
 /// from the last filled one.
 /// Vierge: `donnees` is left alone; `station`, the own callsign, makes the heading. Nothing is cut:
 /// a value too long for its cell overflows it on both sides. The font is left bold.
-void ImprimerEtiquette(Imprimante& imprimante, PlaceEtiquette place, GenreEtiquette genre,
+void ImprimerEtiquette(Imprimante& imprimante, PositionEtiquette position, GenreEtiquette genre,
                        DonneesEtiquette& donnees, std::string_view station, std::string& enTete);
 
-/// A label and its number on the sheet (1 to 16), which gives its place.
+/// A label and its place on the sheet.
 struct EtiquettePlacee {
-    std::int16_t numero = 1;
+    Place place = kPremierePlace;
     DonneesEtiquette donnees;
 };
 

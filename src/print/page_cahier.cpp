@@ -85,8 +85,8 @@ void MettrePolice(Imprimante& imprimante, int taille, bool gras) {
 }
 
 // Contacts of the page on show, up to the end of the log.
-std::vector<QsoRecord> LirePage(const Cahier& cahier, std::int32_t premiere) {
-    const std::int32_t reste = cahier.nbFiches - premiere + 1;
+std::vector<QsoRecord> LirePage(const Cahier& cahier, NumeroFiche premiere) {
+    const std::int32_t reste = cahier.Prochaine() - premiere;
     std::vector<QsoRecord> fiches(static_cast<std::size_t>(std::clamp(reste, 0, kFichesParPage)));
     static_cast<void>(cahier.fichier.Lire(premiere, fiches));
     // Kept on purpose, for the printed pages: any callsign that begins with "\" ends the page,
@@ -117,7 +117,7 @@ void ImprimerColonnes(Imprimante& imprimante) {
     }
 }
 
-void ImprimerRangee(Imprimante& imprimante, int y, std::int32_t k, const QsoRecord& fiche) {
+void ImprimerRangee(Imprimante& imprimante, int y, NumeroFiche k, const QsoRecord& fiche) {
     const CellulesPage cellules = CellulesDeFiche(k, fiche);
     const bool court = Longueur(cellules[kColonneIndicatif]) <= kIndicatifCourt;
     MettrePolice(imprimante, kPoliceLigne, false);
@@ -131,13 +131,14 @@ void ImprimerRangee(Imprimante& imprimante, int y, std::int32_t k, const QsoReco
     }
 }
 
-void ImprimerFiches(Imprimante& imprimante, std::int32_t premiere,
+void ImprimerFiches(Imprimante& imprimante, NumeroFiche premiere,
                     std::span<const QsoRecord> fiches) {
     constexpr int kSousTrait = 120;
     int y = kHautFiches;
-    std::int32_t k = premiere;
+    NumeroFiche k = premiere;
     for (const QsoRecord& fiche : fiches) {
-        ImprimerRangee(imprimante, y + kSousTrait, k++, fiche);
+        ImprimerRangee(imprimante, y + kSousTrait, k, fiche);
+        ++k;
         y += kHauteurRangee;
         Tracer(imprimante, Rangee(y));
     }
@@ -150,13 +151,13 @@ void ImprimerRangeesVierges(Imprimante& imprimante) {
 
 } // namespace
 
-std::string NumeroImprime(std::int32_t k) {
-    return std::string{Droite("00000" + std::to_string(k), 6)};
+std::string NumeroImprime(NumeroFiche k) {
+    return std::string{Droite("00000" + std::to_string(k.Valeur()), 6)};
 }
 
 void ImprimerPage(Imprimante& imprimante, const Cahier& cahier, const Station& station,
-                  const PageAffichee& page, std::int32_t premiereFiche) {
-    const bool remplie = premiereFiche > 0;
+                  const PageAffichee& page, NumeroFiche premiereFiche) {
+    const bool remplie = premiereFiche > kAucuneFiche;
     const std::vector<QsoRecord> fiches =
         remplie ? LirePage(cahier, page.premiere) : std::vector<QsoRecord>{};
     ImprimerTitre(imprimante, station.indicatif);

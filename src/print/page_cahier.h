@@ -6,7 +6,6 @@
 #include "core/station.h"
 #include "print/imprimante.h"
 
-#include <cstdint>
 #include <string>
 
 namespace orvalis {
@@ -24,10 +23,10 @@ namespace orvalis {
 /// on show keeps its working slots. Throws Erreur; when the logbook cannot be read nothing is
 /// printed.
 void ImprimerPage(Imprimante& imprimante, const Cahier& cahier, const Station& station,
-                  const PageAffichee& page, std::int32_t premiereFiche);
+                  const PageAffichee& page, NumeroFiche premiereFiche);
 
 /// The number of a contact as printed: six digits with leading zeros, the last six of a longer
 /// number.
-[[nodiscard]] std::string NumeroImprime(std::int32_t k);
+[[nodiscard]] std::string NumeroImprime(NumeroFiche k);
 
 } // namespace orvalis

@@ -38,10 +38,10 @@ bool EstEnCours(const QsoRecord& fiche) {
     return Rogner(OctetsChamp(fiche, Champ::MQSL)) == kEnCours;
 }
 
-// The number on the label; 0 when it names no contact of the logbook.
-std::int32_t Numero(const Cahier& cahier, const QslSlotRecord& etiquette) {
-    const int numero = ValeurNumerique(TexteRogne(etiquette, ChampEtiquette::NumeroFiche));
-    return numero <= cahier.nbFiches ? numero : 0;
+// The number on the label; none when it names no contact of the logbook.
+NumeroFiche Numero(const Cahier& cahier, const QslSlotRecord& etiquette) {
+    const NumeroFiche k{ValeurNumerique(TexteRogne(etiquette, ChampEtiquette::Fiche))};
+    return cahier.Contient(k) ? k : kAucuneFiche;
 }
 
 bool Exact(const QsoRecord& fiche, const QslSlotRecord& etiquette) {
@@ -56,8 +56,8 @@ struct Recherche {
     // The numbered contact, when callsign, date and time agree.
     void CroireLesNumeros() {
         for (std::size_t i = 0; i < etiquettes.size(); ++i) {
-            const std::int32_t k = Numero(cahier, etiquettes[i]);
-            if (k == 0 || EstPris(k))
+            const NumeroFiche k = Numero(cahier, etiquettes[i]);
+            if (k == kAucuneFiche || EstPris(k))
                 continue;
             const QsoRecord fiche = FicheDuCahier(cahier, k);
             if (EstEnCours(fiche) && Exact(fiche, etiquettes[i]))
@@ -71,17 +71,17 @@ struct Recherche {
         for (std::size_t i = 0; i < etiquettes.size(); ++i)
             if (trouves[i].nombre == 0 && !Vide(etiquettes[i], ChampEtiquette::Indicatif))
                 reste.push_back(i);
-        std::vector<std::int32_t> pris;
+        std::vector<NumeroFiche> pris;
         for (const ContactTrouve& trouve : trouves)
             pris.push_back(trouve.fiche);
         LecteurFiches lecteur(cahier.fichier);
-        for (std::int32_t k = 1; k <= cahier.nbFiches && !reste.empty(); ++k) {
+        for (NumeroFiche k = kPremiereFiche; k <= cahier.Derniere() && !reste.empty(); ++k) {
             const QsoRecord& fiche = lecteur.Lire(k);
             if (!EstEnCours(fiche) || std::find(pris.begin(), pris.end(), k) != pris.end())
                 continue;
             for (const std::size_t i : reste)
                 if (Exact(fiche, etiquettes[i]))
-                    trouves[i] = {trouves[i].nombre == 0 ? k : 0, trouves[i].nombre + 1};
+                    trouves[i] = {trouves[i].nombre == 0 ? k : kAucuneFiche, trouves[i].nombre + 1};
         }
     }
 
@@ -89,9 +89,9 @@ struct Recherche {
     // is not the contact of another label.
     void AdmettreLesRetouches() {
         for (std::size_t i = 0; i < etiquettes.size(); ++i) {
-            const std::int32_t k =
-                trouves[i].nombre == 0 ? ContactNumerote(cahier, etiquettes[i]) : 0;
-            if (k == 0 || EstPris(k))
+            const NumeroFiche k =
+                trouves[i].nombre == 0 ? ContactNumerote(cahier, etiquettes[i]) : kAucuneFiche;
+            if (k == kAucuneFiche || EstPris(k))
                 continue;
             const QsoRecord fiche = FicheDuCahier(cahier, k);
             const bool reclame =
@@ -102,7 +102,7 @@ struct Recherche {
         }
     }
 
-    [[nodiscard]] bool EstPris(std::int32_t k) const {
+    [[nodiscard]] bool EstPris(NumeroFiche k) const {
         return std::any_of(trouves.begin(), trouves.end(),
                            [k](const ContactTrouve& trouve) { return trouve.fiche == k; });
     }
@@ -114,14 +114,14 @@ struct Recherche {
 
 } // namespace
 
-std::int32_t ContactNumerote(const Cahier& cahier, const QslSlotRecord& etiquette) {
-    const std::int32_t k = Numero(cahier, etiquette);
-    if (k == 0)
-        return 0;
+NumeroFiche ContactNumerote(const Cahier& cahier, const QslSlotRecord& etiquette) {
+    const NumeroFiche k = Numero(cahier, etiquette);
+    if (k == kAucuneFiche)
+        return kAucuneFiche;
     const QsoRecord fiche = FicheDuCahier(cahier, k);
     const bool meme =
         MemeIndicatif(fiche, etiquette) || (MomentConnu(etiquette) && MemeMoment(fiche, etiquette));
-    return meme ? k : 0;
+    return meme ? k : kAucuneFiche;
 }
 
 std::vector<ContactTrouve> TrouverContacts(const Cahier& cahier,
@@ -133,19 +133,19 @@ std::vector<ContactTrouve> TrouverContacts(const Cahier& cahier,
     return std::move(recherche.trouves);
 }
 
-ContactTrouve ContactDeLaPlace(const Cahier& cahier, const FeuilleQSL& feuille, int place) {
+ContactTrouve ContactDeLaPlace(const Cahier& cahier, const FeuilleQSL& feuille, Place place) {
     std::vector<QslSlotRecord> etiquettes = {LireEnregistrement(feuille, place)};
-    for (int k = 1; k <= kNbEtiquettes; ++k)
-        if (k != place && feuille.Etat(k) == EtatEtiquette::Preparee)
-            etiquettes.push_back(LireEnregistrement(feuille, k));
+    for (Place autre = kPremierePlace; autre <= kDernierePlace; ++autre)
+        if (autre != place && feuille.Etat(autre) == EtatEtiquette::Preparee)
+            etiquettes.push_back(LireEnregistrement(feuille, autre));
     return TrouverContacts(cahier, etiquettes).front();
 }
 
-int EtiquetteSansMarque(const Cahier& cahier, const FeuilleQSL& feuille, std::int32_t k) {
+Place EtiquetteSansMarque(const Cahier& cahier, const FeuilleQSL& feuille, NumeroFiche k) {
     const QsoRecord fiche = FicheDuCahier(cahier, k);
-    std::vector<int> places;
+    std::vector<Place> places;
     std::vector<QslSlotRecord> etiquettes;
-    for (int place = 1; place <= kNbEtiquettes; ++place) {
+    for (Place place = kPremierePlace; place <= kDernierePlace; ++place) {
         if (feuille.Etat(place) != EtatEtiquette::Preparee)
             continue;
         const QslSlotRecord etiquette = LireEnregistrement(feuille, place);
@@ -159,10 +159,10 @@ int EtiquetteSansMarque(const Cahier& cahier, const FeuilleQSL& feuille, std::in
     for (std::size_t i = 0; i < places.size(); ++i)
         if (trouves[i].nombre == 0)
             return places[i];
-    return 0;
+    return kAucunePlace;
 }
 
-void MarquerContact(Cahier& cahier, std::int32_t k, std::string_view maQsl) {
+void MarquerContact(Cahier& cahier, NumeroFiche k, std::string_view maQsl) {
     QsoRecord fiche = FicheDuCahier(cahier, k);
     MettreChamp(fiche, Champ::MQSL, maQsl);
     CorrigerFiche(cahier, k, fiche);

@@ -18,7 +18,7 @@ inline constexpr std::string_view kEnCours = "En cours";
 
 /// What was found for a label. Only a single contact is ever touched for it.
 struct ContactTrouve {
-    std::int32_t fiche = 0;  ///< record number; 0 when there is none, or more than one
+    NumeroFiche fiche;       ///< none when there is none, or more than one
     std::int32_t nombre = 0; ///< contacts that came into question
 };
 
@@ -33,20 +33,20 @@ struct ContactTrouve {
 /// The same for the prepared label at `place`, which must not take the contact of another
 /// prepared label of the sheet.
 [[nodiscard]] ContactTrouve ContactDeLaPlace(const Cahier& cahier, const FeuilleQSL& feuille,
-                                             int place);
+                                             Place place);
 
 /// The contact that a label just written is for: the one it numbers, whatever its MQSL, when that
-/// has the label's callsign, or its date and time; else 0.
-[[nodiscard]] std::int32_t ContactNumerote(const Cahier& cahier, const QslSlotRecord& etiquette);
+/// has the label's callsign, or its date and time; else none.
+[[nodiscard]] NumeroFiche ContactNumerote(const Cahier& cahier, const QslSlotRecord& etiquette);
 
-/// The place (1 to 16) of a prepared label that was written for contact `k` while the contact was
-/// never marked (the program was killed in between); 0 when there is none. Such a label has the
+/// The place of a prepared label that was written for contact `k` while the contact was
+/// never marked (the program was killed in between); none when there is none. Such a label has the
 /// contact's date and time, and its callsign or number, and no contact "En cours" to it.
-[[nodiscard]] int EtiquetteSansMarque(const Cahier& cahier, const FeuilleQSL& feuille,
-                                      std::int32_t k);
+[[nodiscard]] Place EtiquetteSansMarque(const Cahier& cahier, const FeuilleQSL& feuille,
+                                        NumeroFiche k);
 
 /// Sets MQSL of contact `k`, cut to 8 characters; its other bytes stay. The caller flushes
 /// (SynchroniserCahier).
-void MarquerContact(Cahier& cahier, std::int32_t k, std::string_view maQsl);
+void MarquerContact(Cahier& cahier, NumeroFiche k, std::string_view maQsl);
 
 } // namespace orvalis

@@ -28,11 +28,12 @@ constexpr std::array<LienBoite, kNbChampsEtiquette - 1> kLiens = {{
     {ChampEtiquette::Frequence, kBoiteFrequence, kBoiteFrequence},
     {ChampEtiquette::Report, kBoiteReport, kBoiteMode},
     {ChampEtiquette::Mode, kBoiteMode, kBoiteReport},
-    {ChampEtiquette::NumeroFiche, kBoiteNumeroFiche, kBoiteNumeroFiche},
+    {ChampEtiquette::Fiche, kBoiteNumeroFiche, kBoiteNumeroFiche},
 }};
 
-std::int64_t Position(int k) {
-    return (static_cast<std::int64_t>(k) - 1) * static_cast<std::int64_t>(kTailleEtiquette);
+std::int64_t Position(Place place) {
+    return (static_cast<std::int64_t>(place.Valeur()) - 1) *
+           static_cast<std::int64_t>(kTailleEtiquette);
 }
 
 std::string_view TexteVoie(const EtatFeuille& feuille) {
@@ -65,17 +66,17 @@ void CreerFeuille(FeuilleQSL& feuille) {
 
 } // namespace
 
-std::string LegendeEtiquette(int k) {
-    return "Etiquette N° " + std::to_string(k);
+std::string LegendeEtiquette(Place place) {
+    return "Etiquette N° " + std::to_string(place.Valeur());
 }
 
-VuePlace VoirPlace(const EtatFeuille& feuille, int k) {
-    const std::string numero = " [" + std::to_string(k) + "]";
+VuePlace VoirPlace(const EtatFeuille& feuille, Place place) {
+    const std::string numero = " [" + std::to_string(place.Valeur()) + "]";
     // The two blanks before the bracket are kept on purpose, for the operators.
     const std::string libre = "Etiquette " + numero + " libre";
-    switch (feuille.Etat(k)) {
+    switch (feuille.Etat(place)) {
     case EtatEtiquette::Preparee:
-        return {"Effacer", feuille.indicatifs[EtatFeuille::Rang(k)] + numero, true, true};
+        return {"Effacer", feuille.indicatifs[EtatFeuille::Rang(place)] + numero, true, true};
     case EtatEtiquette::Retiree:
         return {"Libérer", libre, false, false};
     case EtatEtiquette::Libre:
@@ -95,28 +96,29 @@ void ChargerFeuilleQSL(FeuilleQSL& feuille, const std::filesystem::path& dossier
     ViderBoites(feuille);
     feuille.vue = {};
     feuille.fraiche = false;
-    feuille.etiquetteEnCours = 0;
+    feuille.etiquetteEnCours = kAucunePlace;
     OuvrirFeuilleQSL(feuille);
     if (!presente)
         CreerFeuille(feuille);
-    for (int k = 1; k <= kNbEtiquettes; ++k) {
-        const QslSlotRecord etiquette = LireEnregistrement(feuille, k);
+    for (Place place = kPremierePlace; place <= kDernierePlace; ++place) {
+        const QslSlotRecord etiquette = LireEnregistrement(feuille, place);
         const bool libre = EstLibre(etiquette);
-        feuille.etats[EtatFeuille::Rang(k)] =
+        feuille.etats[EtatFeuille::Rang(place)] =
             libre ? EtatEtiquette::Libre : EtatEtiquette::Preparee;
-        feuille.indicatifs[EtatFeuille::Rang(k)] =
+        feuille.indicatifs[EtatFeuille::Rang(place)] =
             libre ? std::string{} : TexteRogne(etiquette, ChampEtiquette::Indicatif);
     }
 }
 
-QslSlotRecord LireEnregistrement(const FeuilleQSL& feuille, int k) {
+QslSlotRecord LireEnregistrement(const FeuilleQSL& feuille, Place place) {
     QslSlotRecord etiquette;
-    static_cast<void>(feuille.fichier.Lire(Position(k), etiquette.octets)); // short: stays blank
+    static_cast<void>(
+        feuille.fichier.Lire(Position(place), etiquette.octets)); // short: stays blank
     return etiquette;
 }
 
-void LireEtiquette(FeuilleQSL& feuille, int k) {
-    feuille.tampon = LireEnregistrement(feuille, k);
+void LireEtiquette(FeuilleQSL& feuille, Place place) {
+    feuille.tampon = LireEnregistrement(feuille, place);
     for (const LienBoite& lien : kLiens)
         feuille.boites[lien.lue] = TexteRogne(feuille.tampon, lien.champ);
     feuille.boites[kBoiteRappel] = feuille.boites[kBoiteIndicatif];
@@ -126,24 +128,24 @@ void LireEtiquette(FeuilleQSL& feuille, int k) {
                                          : VoieQSL::Aucune;
     feuille.boites[kBoiteManager] = feuille.voie == VoieQSL::Aucune ? voie : std::string{};
     feuille.fraiche = false;
-    feuille.vue.nrTag = LegendeEtiquette(k);
+    feuille.vue.nrTag = LegendeEtiquette(place);
 }
 
-void EcrireEtiquette(FeuilleQSL& feuille, int k) {
+void EcrireEtiquette(FeuilleQSL& feuille, Place place) {
     OuvrirFeuilleQSL(feuille);
     for (const LienBoite& lien : kLiens)
         MettreChamp(feuille.tampon, lien.champ, feuille.boites[lien.ecrite]);
     MettreChamp(feuille.tampon, ChampEtiquette::Voie, TexteVoie(feuille));
-    EcrireEntier(feuille.fichier, Position(k), feuille.tampon.octets);
+    EcrireEntier(feuille.fichier, Position(place), feuille.tampon.octets);
 }
 
-void ProchaineEtiquetteLibre(FeuilleQSL& feuille, int& k) {
-    while (k < kNbEtiquettes && feuille.Etat(k) != EtatEtiquette::Libre)
-        ++k;
-    feuille.vue.nrTag = LegendeEtiquette(k);
+void ProchaineEtiquetteLibre(FeuilleQSL& feuille, Place& place) {
+    while (place < kDernierePlace && feuille.Etat(place) != EtatEtiquette::Libre)
+        ++place;
+    feuille.vue.nrTag = LegendeEtiquette(place);
     // Kept on purpose, for the operators: when a prepared label takes the last place, NrTag still
     // names it.
-    if (k == kNbEtiquettes && feuille.Etat(k) == EtatEtiquette::Retiree) {
+    if (place == kDernierePlace && feuille.Etat(place) == EtatEtiquette::Retiree) {
         feuille.vue.nrTag = kPlusDEtiquette;
         feuille.vue.valider = false;
     }

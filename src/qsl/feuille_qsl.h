@@ -4,6 +4,7 @@
 #pragma once
 
 #include "core/fichier.h"
+#include "core/numeros.h"
 #include "qsl/qsl_slot_record.h"
 
 #include <array>
@@ -14,8 +15,7 @@
 
 namespace orvalis {
 
-/// Places are numbered 1 to 16, as they lie on the paper: two columns, eight rows.
-inline constexpr int kNbEtiquettes = 16;
+inline constexpr int kNbEtiquettes = kDernierePlace.Valeur();
 
 inline constexpr std::string_view kVoieBureau = "BUREAU";
 inline constexpr std::string_view kVoieDirect = "DIRECT";
@@ -68,14 +68,14 @@ struct EtatFeuille {
     BoitesEtiquette boites;
     VoieQSL voie = VoieQSL::Aucune;
     bool fraiche = false;       ///< the boxes hold a label that was never on the sheet
-    int etiquetteEnCours = 0;   ///< place under edit; 0 while there is none
+    Place etiquetteEnCours;     ///< place under edit; none while there is no label
     std::string ligneMemorisee; ///< first text line of the last label validated in this run
     VueFeuille vue;
 
-    [[nodiscard]] EtatEtiquette Etat(int k) const { return etats[Rang(k)]; }
-    /// Element of the arrays for place `k` (1 to 16).
-    [[nodiscard]] static constexpr std::size_t Rang(int k) {
-        return static_cast<std::size_t>(k) - 1;
+    [[nodiscard]] EtatEtiquette Etat(Place place) const { return etats[Rang(place)]; }
+    /// Element of the arrays for a place.
+    [[nodiscard]] static constexpr std::size_t Rang(Place place) {
+        return static_cast<std::size_t>(place.Valeur()) - 1;
     }
     friend bool operator==(const EtatFeuille&, const EtatFeuille&) = default;
 };
@@ -94,10 +94,10 @@ struct VuePlace {
     bool jaune = false;       ///< BtChoix is yellow, else the form's ordinary colour
     bool tagActif = true;     ///< BtTag is enabled
 };
-[[nodiscard]] VuePlace VoirPlace(const EtatFeuille& feuille, int k);
+[[nodiscard]] VuePlace VoirPlace(const EtatFeuille& feuille, Place place);
 
 /// "Etiquette N° " and the number.
-[[nodiscard]] std::string LegendeEtiquette(int k);
+[[nodiscard]] std::string LegendeEtiquette(Place place);
 
 /// Closes the sheet file if it is open and opens it again; creates it, empty, when it is missing.
 void OuvrirFeuilleQSL(FeuilleQSL& feuille);
@@ -107,20 +107,20 @@ void OuvrirFeuilleQSL(FeuilleQSL& feuille);
 /// it lacks counts as blank. Empties the boxes; places withdrawn before are free again.
 void ChargerFeuilleQSL(FeuilleQSL& feuille, const std::filesystem::path& dossier);
 
-/// The record of place `k`, blank beyond the end of the file. For the printer and for checks:
+/// The record of a place, blank beyond the end of the file. For the printer and for checks:
 /// changes nothing.
-[[nodiscard]] QslSlotRecord LireEnregistrement(const FeuilleQSL& feuille, int k);
+[[nodiscard]] QslSlotRecord LireEnregistrement(const FeuilleQSL& feuille, Place place);
 
-/// Reads place `k` into the boxes and the route option; NrTag names it.
-void LireEtiquette(FeuilleQSL& feuille, int k);
+/// Reads a place into the boxes and the route option; NrTag names it.
+void LireEtiquette(FeuilleQSL& feuille, Place place);
 
-/// Opens the sheet again and writes place `k` from the boxes and the route option. The caller
+/// Opens the sheet again and writes a place from the boxes and the route option. The caller
 /// flushes (feuille.fichier.Synchroniser()).
-void EcrireEtiquette(FeuilleQSL& feuille, int k);
+void EcrireEtiquette(FeuilleQSL& feuille, Place place);
 
-/// From place `k` upward, the first free one, or 16 when there is none. NrTag names it; when 16
+/// From `place` upward, the first free one, or 16 when there is none. NrTag names it; when 16
 /// was reached and is withdrawn, NrTag says that there is no label left and BtValidQSL goes.
-void ProchaineEtiquetteLibre(FeuilleQSL& feuille, int& k);
+void ProchaineEtiquetteLibre(FeuilleQSL& feuille, Place& place);
 
 /// Empties boxes 1 to `derniere` and turns both route options off.
 void ViderBoites(FeuilleQSL& feuille, std::size_t derniere = kNbBoitesEtiquette);

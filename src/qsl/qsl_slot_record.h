@@ -17,7 +17,7 @@ enum class ChampEtiquette : unsigned char {
     Frequence,     ///< frequency of the contact
     Report,        ///< report given to him
     Mode,          ///< mode of the contact
-    NumeroFiche    ///< number of the contact in the logbook, in decimal
+    Fiche          ///< number of the contact in the logbook, in decimal
 };
 
 struct DescriptionChampEtiquette {
@@ -39,7 +39,7 @@ inline constexpr std::array<DescriptionChampEtiquette, kNbChampsEtiquette> kCham
     {ChampEtiquette::Frequence, 73, 10},
     {ChampEtiquette::Report, 83, 8},
     {ChampEtiquette::Mode, 91, 5},
-    {ChampEtiquette::NumeroFiche, 96, 10},
+    {ChampEtiquette::Fiche, 96, 10},
 }};
 
 [[nodiscard]] constexpr const DescriptionChampEtiquette& Description(ChampEtiquette champ) {

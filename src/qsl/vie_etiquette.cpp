@@ -16,8 +16,8 @@ constexpr std::string_view kMessageConsultation =
     "Ce cahier est ouvert en consultation : les étiquettes et les fiches restent inchangées.";
 
 void ChercherPlace(FeuilleQSL& feuille) {
-    int k = 1;
-    ProchaineEtiquetteLibre(feuille, k);
+    Place place = kPremierePlace;
+    ProchaineEtiquetteLibre(feuille, place);
 }
 
 void MontrerRevue(FeuilleQSL& feuille, bool revue) {
@@ -32,35 +32,35 @@ void CommencerEtiquette(FeuilleQSL& feuille) {
     MontrerRevue(feuille, false);
     ViderBoites(feuille);
     feuille.fraiche = true;
-    feuille.etiquetteEnCours = 0;
+    feuille.etiquetteEnCours = kAucunePlace;
 }
 
-std::string Rappel(int k, const QslSlotRecord& etiquette) {
+std::string Rappel(Place place, const QslSlotRecord& etiquette) {
     const std::string indicatif = TexteRogne(etiquette, ChampEtiquette::Indicatif);
-    return LegendeEtiquette(k) + (indicatif.empty() ? "" : " (" + indicatif + ")") +
+    return LegendeEtiquette(place) + (indicatif.empty() ? "" : " (" + indicatif + ")") +
            " : aucune fiche du cahier ne lui correspond, aucune n'a été modifiée.";
 }
 
-// Sets MQSL of the contact of label `k`, or tells that there is none.
-void Marquer(Cahier& cahier, std::int32_t fiche, std::string_view maQsl, int k,
+// Sets MQSL of the contact of the label at `place`, or tells that there is none.
+void Marquer(Cahier& cahier, NumeroFiche fiche, std::string_view maQsl, Place place,
              const QslSlotRecord& etiquette, ReponseQSL& reponse) {
-    if (fiche != 0) {
+    if (fiche != kAucuneFiche) {
         MarquerContact(cahier, fiche, maQsl);
         reponse.marque = true;
         return;
     }
     if (!reponse.message.empty())
         reponse.message += '\n';
-    reponse.message += Rappel(k, etiquette);
+    reponse.message += Rappel(place, etiquette);
 }
 
-// Writes place `k` free from the boxes, of which the first `derniere` are emptied before.
-void LibererPlace(FeuilleQSL& feuille, int k, std::size_t derniere) {
+// Writes a place free from the boxes, of which the first `derniere` are emptied before.
+void LibererPlace(FeuilleQSL& feuille, Place place, std::size_t derniere) {
     ViderBoites(feuille, derniere);
     feuille.boites[kBoiteIndicatif] = kMarqueLibre;
-    EcrireEtiquette(feuille, k);
-    feuille.etats[EtatFeuille::Rang(k)] = EtatEtiquette::Libre;
-    feuille.indicatifs[EtatFeuille::Rang(k)].clear();
+    EcrireEtiquette(feuille, place);
+    feuille.etats[EtatFeuille::Rang(place)] = EtatEtiquette::Libre;
+    feuille.indicatifs[EtatFeuille::Rang(place)].clear();
 }
 
 // Why the boxes may not become a label now; empty when they may.
@@ -73,7 +73,7 @@ std::string_view RefusDeValider(const Cahier& cahier, const EtatFeuille& feuille
     return feuille.fraiche ? std::string_view{} : kDejaPlacee;
 }
 
-void RemplirBoites(FeuilleQSL& feuille, std::int32_t k, const QsoRecord& fiche) {
+void RemplirBoites(FeuilleQSL& feuille, NumeroFiche k, const QsoRecord& fiche) {
     struct Source {
         std::size_t boite;
         Champ champ;
@@ -90,7 +90,7 @@ void RemplirBoites(FeuilleQSL& feuille, std::int32_t k, const QsoRecord& fiche) 
     }};
     for (const Source& source : kSources)
         feuille.boites[source.boite] = TexteRogne(fiche, source.champ);
-    feuille.boites[kBoiteNumeroFiche] = std::to_string(k);
+    feuille.boites[kBoiteNumeroFiche] = std::to_string(k.Valeur());
     feuille.boites[kBoiteLigne1] = feuille.ligneMemorisee;
 }
 
@@ -105,16 +105,16 @@ void MontrerFeuille(FeuilleQSL& feuille) {
     ControlerImpression(feuille);
 }
 
-ReponseClic PreparerEtiquette(Cahier& cahier, FeuilleQSL& feuille, std::int32_t k) {
-    if (!feuille.fichier.EstOuvert() || feuille.vue.controle || !cahier.EstLeNotre() || k < 1 ||
-        k > cahier.nbFiches)
+ReponseClic PreparerEtiquette(Cahier& cahier, FeuilleQSL& feuille, NumeroFiche k) {
+    if (!feuille.fichier.EstOuvert() || feuille.vue.controle || !cahier.EstLeNotre() ||
+        !cahier.Contient(k))
         return {};
     const QsoRecord fiche = FicheDuCahier(cahier, k);
     if (!Rogner(OctetsChamp(fiche, Champ::MQSL)).empty())
         return {};
     ReponseClic clic{SuiteClic::Panneau, {}};
     clic.reponse.fait = true;
-    if (EtiquetteSansMarque(cahier, feuille, k) != 0) {
+    if (EtiquetteSansMarque(cahier, feuille, k) != kAucunePlace) {
         clic.suite = SuiteClic::Retabli;
         MarquerContact(cahier, k, kEnCours);
         SynchroniserCahier(cahier);
@@ -126,15 +126,15 @@ ReponseClic PreparerEtiquette(Cahier& cahier, FeuilleQSL& feuille, std::int32_t 
     return clic;
 }
 
-void CliquerChoix(FeuilleQSL& feuille, int k) {
+void CliquerChoix(FeuilleQSL& feuille, Place place) {
     if (feuille.vue.controle)
         return;
-    EtatEtiquette& etat = feuille.etats[EtatFeuille::Rang(k)];
+    EtatEtiquette& etat = feuille.etats[EtatFeuille::Rang(place)];
     switch (etat) {
     case EtatEtiquette::Preparee:
         MontrerRevue(feuille, true);
-        LireEtiquette(feuille, k);
-        feuille.etiquetteEnCours = k;
+        LireEtiquette(feuille, place);
+        feuille.etiquetteEnCours = place;
         return;
     case EtatEtiquette::Libre:
         etat = EtatEtiquette::Retiree;
@@ -147,8 +147,8 @@ void CliquerChoix(FeuilleQSL& feuille, int k) {
     ChercherPlace(feuille);
 }
 
-void CliquerTag(FeuilleQSL& feuille, int k) {
-    if (feuille.vue.controle || feuille.Etat(k) == EtatEtiquette::Retiree)
+void CliquerTag(FeuilleQSL& feuille, Place place) {
+    if (feuille.vue.controle || feuille.Etat(place) == EtatEtiquette::Retiree)
         return;
     CommencerEtiquette(feuille);
     feuille.boites[kBoiteLigne1] = feuille.ligneMemorisee;
@@ -182,22 +182,23 @@ ReponseQSL ValiderEtiquette(Cahier& cahier, FeuilleQSL& feuille) {
         feuille.vue.nrTag = refus;
         return reponse;
     }
-    int k = 1;
-    ProchaineEtiquetteLibre(feuille, k);
-    if (feuille.Etat(k) != EtatEtiquette::Libre) {
+    Place place = kPremierePlace;
+    ProchaineEtiquetteLibre(feuille, place);
+    if (feuille.Etat(place) != EtatEtiquette::Libre) {
         feuille.vue.nrTag = kPlusDEtiquette;
         return reponse;
     }
     if (feuille.voie != VoieQSL::Aucune)
         feuille.boites[kBoiteManager] = feuille.voie == VoieQSL::Direct ? kVoieDirect : kVoieBureau;
-    feuille.etiquetteEnCours = k;
+    feuille.etiquetteEnCours = place;
     feuille.ligneMemorisee = Rogner(feuille.boites[kBoiteLigne1]);
-    EcrireEtiquette(feuille, k);
+    EcrireEtiquette(feuille, place);
     feuille.fichier.Synchroniser();
-    LireEtiquette(feuille, k);
-    feuille.etats[EtatFeuille::Rang(k)] = EtatEtiquette::Preparee;
-    feuille.indicatifs[EtatFeuille::Rang(k)] = feuille.boites[kBoiteIndicatif];
-    Marquer(cahier, ContactNumerote(cahier, feuille.tampon), kEnCours, k, feuille.tampon, reponse);
+    LireEtiquette(feuille, place);
+    feuille.etats[EtatFeuille::Rang(place)] = EtatEtiquette::Preparee;
+    feuille.indicatifs[EtatFeuille::Rang(place)] = feuille.boites[kBoiteIndicatif];
+    Marquer(cahier, ContactNumerote(cahier, feuille.tampon), kEnCours, place, feuille.tampon,
+            reponse);
     SynchroniserCahier(cahier);
     ControlerImpression(feuille);
     QuitterFeuille(feuille);
@@ -207,19 +208,20 @@ ReponseQSL ValiderEtiquette(Cahier& cahier, FeuilleQSL& feuille) {
 
 ReponseQSL SupprimerEtiquette(Cahier& cahier, FeuilleQSL& feuille) {
     ReponseQSL reponse;
-    const int k = feuille.etiquetteEnCours;
+    const Place place = feuille.etiquetteEnCours;
     if (feuille.vue.controle || !feuille.vue.supprimer)
         return reponse;
     if (!cahier.EstLeNotre()) {
         reponse.message = kMessageConsultation;
         return reponse;
     }
-    LireEtiquette(feuille, k);
-    Marquer(cahier, ContactDeLaPlace(cahier, feuille, k).fiche, "", k, feuille.tampon, reponse);
+    LireEtiquette(feuille, place);
+    Marquer(cahier, ContactDeLaPlace(cahier, feuille, place).fiche, "", place, feuille.tampon,
+            reponse);
     SynchroniserCahier(cahier);
     // Kept on purpose, for the sheet files: box 11 is not emptied, so that the free place keeps the
     // contact's number.
-    LibererPlace(feuille, k, kBoiteRappel);
+    LibererPlace(feuille, place, kBoiteRappel);
     feuille.fichier.Synchroniser();
     MontrerRevue(feuille, false);
     ChercherPlace(feuille);
@@ -249,17 +251,17 @@ void RestaurerFeuille(FeuilleQSL& feuille) {
     ChercherPlace(feuille);
 }
 
-void ControlerImpression(FeuilleQSL& feuille, int depuis) {
-    const auto debut = feuille.etats.begin() + (depuis - 1);
+void ControlerImpression(FeuilleQSL& feuille, Place depuis) {
+    const auto debut = feuille.etats.begin() + (depuis - kPremierePlace);
     feuille.vue.imprimer =
         std::find(debut, feuille.etats.end(), EtatEtiquette::Preparee) != feuille.etats.end();
 }
 
-std::vector<int> EtiquettesAImprimer(const EtatFeuille& feuille) {
-    std::vector<int> places;
-    for (int k = 1; k <= kNbEtiquettes; ++k)
-        if (feuille.Etat(k) == EtatEtiquette::Preparee)
-            places.push_back(k);
+std::vector<Place> EtiquettesAImprimer(const EtatFeuille& feuille) {
+    std::vector<Place> places;
+    for (Place place = kPremierePlace; place <= kDernierePlace; ++place)
+        if (feuille.Etat(place) == EtatEtiquette::Preparee)
+            places.push_back(place);
     return places;
 }
 
@@ -276,17 +278,17 @@ ReponseQSL ToutEstParfait(Cahier& cahier, FeuilleQSL& feuille, std::string_view 
         reponse.message = kMessageConsultation;
         return reponse;
     }
-    const std::vector<int> places = EtiquettesAImprimer(feuille);
+    const std::vector<Place> places = EtiquettesAImprimer(feuille);
     std::vector<QslSlotRecord> etiquettes;
     etiquettes.reserve(places.size());
-    for (const int k : places)
-        etiquettes.push_back(LireEnregistrement(feuille, k));
+    for (const Place place : places)
+        etiquettes.push_back(LireEnregistrement(feuille, place));
     const std::vector<ContactTrouve> trouves = TrouverContacts(cahier, etiquettes);
     for (std::size_t i = 0; i < places.size(); ++i)
         Marquer(cahier, trouves[i].fiche, aujourdhui, places[i], etiquettes[i], reponse);
     SynchroniserCahier(cahier);
-    for (const int k : places)
-        LibererPlace(feuille, k, kNbBoitesEtiquette);
+    for (const Place place : places)
+        LibererPlace(feuille, place, kNbBoitesEtiquette);
     feuille.fichier.Synchroniser();
     feuille.vue.controle = false;
     MontrerRevue(feuille, false);

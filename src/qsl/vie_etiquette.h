@@ -13,7 +13,6 @@
 #include "core/cahier.h"
 #include "qsl/feuille_qsl.h"
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -43,14 +42,15 @@ struct ReponseClic {
 
 /// The press on box 14 of the stored contact `k` (1 to N): when its MQSL is empty, opens the panel
 /// and fills a fresh label from the contact.
-[[nodiscard]] ReponseClic PreparerEtiquette(Cahier& cahier, FeuilleQSL& feuille, std::int32_t k);
+[[nodiscard]] ReponseClic PreparerEtiquette(Cahier& cahier, FeuilleQSL& feuille, NumeroFiche k);
 
-/// BtChoix(k): opens a prepared label for review, withdraws a free place, releases a withdrawn one.
-void CliquerChoix(FeuilleQSL& feuille, int k);
+/// BtChoix of a place: opens a prepared label for review, withdraws a free place, releases a
+/// withdrawn one.
+void CliquerChoix(FeuilleQSL& feuille, Place place);
 
 /// BtTag, of any place that is not withdrawn: ends a review and starts an empty label that keeps
 /// the remembered text line.
-void CliquerTag(FeuilleQSL& feuille, int k);
+void CliquerTag(FeuilleQSL& feuille, Place place);
 
 /// The operator typed: box `boite` (1 to 11) holds `texte`. A manager turns the route options off.
 void SaisirBoiteEtiquette(FeuilleQSL& feuille, std::size_t boite, std::string_view texte);
@@ -81,10 +81,10 @@ void RestaurerFeuille(FeuilleQSL& feuille);
 
 /// Shows BtPrintQSL exactly when a place from `depuis` on holds a prepared label. Operators see it
 /// asked of the whole sheet, from place 1, everywhere.
-void ControlerImpression(FeuilleQSL& feuille, int depuis = 1);
+void ControlerImpression(FeuilleQSL& feuille, Place depuis = kPremierePlace);
 
 /// The places that BtPrintQSL prints, all on one sheet.
-[[nodiscard]] std::vector<int> EtiquettesAImprimer(const EtatFeuille& feuille);
+[[nodiscard]] std::vector<Place> EtiquettesAImprimer(const EtatFeuille& feuille);
 
 /// The sheet was printed (neither cancelled nor failed): shows the print check.
 void DemanderControle(FeuilleQSL& feuille);

@@ -59,7 +59,7 @@ TEST_F(Fiches, AjoutsEtSuppressionsOctetParOctet) {
         if (k == 0)
             AjouterFiche(cahier, Enregistrement(saisie), FicheFinDeLog("IN95AA"));
         else
-            SupprimerFiche(cahier, k, "JN18AA");
+            SupprimerFiche(cahier, NumeroFiche{k}, "JN18AA");
         EXPECT_EQ(Octets(), apres);
         EXPECT_EQ(cahier.nbFiches, attendu);
         EXPECT_EQ(cahier.fichier.Compter(), attendu);
@@ -73,7 +73,7 @@ TEST_F(Fiches, UnCahierNeSOuvrePasDeuxFois) {
     for (const char* refuse : {"absent.Vek", "."})
         EXPECT_THROW(OuvrirCahier(cahier, dossier / refuse), Erreur);
     EXPECT_FALSE(std::filesystem::exists(dossier / "absent.Vek"));
-    EXPECT_EQ(cahier.fichier.Lire(1).octets[0], '\\'); // the old one stays open
+    EXPECT_EQ(cahier.fichier.Lire(kPremiereFiche).octets[0], '\\'); // the old one stays open
 }
 
 } // namespace orvalis::aides::fiches

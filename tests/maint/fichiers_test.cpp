@@ -39,7 +39,7 @@ TEST(Jumelage, OctetParOctet) {
         EXPECT_EQ(Lire(cible), apres);
         EXPECT_EQ(Lire(source), octets.empty() ? apres : octets);
         EXPECT_EQ(cahier.nbFiches, apres.find('\\') / 165);
-        EXPECT_EQ(cahier.Prochaine(), ajoutes + 1);
+        EXPECT_EQ(cahier.Prochaine(), NumeroFiche{ajoutes} + 1);
     }
 }
 

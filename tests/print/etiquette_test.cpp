@@ -45,7 +45,7 @@ TEST(FeuilleImprimee, EtiquettesAuxLongsEnTetes) {
     longue.indicatif = courte.indicatif = "HB9/F4ABCP";
     longue.texte1 = "ÉSALUT DE 13 C"; // a heading of 47 characters
     courte.texte1 = "ÉSALUT DE 13C";
-    std::vector<EtiquettePlacee> etiquettes = {{3, longue}, {16, courte}};
+    std::vector<EtiquettePlacee> etiquettes = {{Place{3}, longue}, {kDernierePlace, courte}};
     std::string enTete;
     Enregistreur feuille("Comic sans MS"), vide;
     ImprimerFeuille(feuille, etiquettes, enTete);

@@ -21,12 +21,14 @@ const std::string kCommun = R"(P A4 portrait;
  T 10950 1480 10 Sa; L 130 1800 11400 1800; FIN;)";
 
 // Prints page `page` of a logbook of these bytes.
-Enregistreur Imprimer(const std::string& octets, std::int32_t page, std::int32_t aiguillage = 1) {
+Enregistreur Imprimer(const std::string& octets, std::int32_t page,
+                      NumeroFiche aiguillage = kPremiereFiche) {
     const Dossier dossier;
     const Cahier cahier = Ouvrir(dossier.Poser("F5ABC.Vek", octets));
     const Station station{{}, "F5XYZ", "JN18AA"};
     Enregistreur imprimante("MS sans Serif");
-    ImprimerPage(imprimante, cahier, station, {page, page * 25 - 24, page * 25}, aiguillage);
+    ImprimerPage(imprimante, cahier, station,
+                 {page, NumeroFiche{page * 25 - 24}, NumeroFiche{page * 25}}, aiguillage);
     return imprimante;
 }
 
@@ -43,7 +45,7 @@ TEST(PageCahier, Remplie) {
  T 5500 1920 8 É2345; T 6000 1920 8 É2345; T 6600 1920 8 É2345678901234567890;
  T 8600 1920 8 Jean  Michel; T 10100 1920 8 É2345678; T 10800 1920 8 É2345678;
  L 130 2280 11400 2280; T 8900 14100 8 Page n° ; + 8 2;)")));
-    EXPECT_EQ(NumeroImprime(1234567), "234567");
+    EXPECT_EQ(NumeroImprime(NumeroFiche{1234567}), "234567");
 }
 
 TEST(PageCahier, Vierge) {
@@ -51,7 +53,7 @@ TEST(PageCahier, Vierge) {
     for (int y = 2280; y <= 13800; y += 480)
         attendu += "L 130 " + std::to_string(y) + " 11400 " + std::to_string(y) + ';';
     for (const int aiguillage : {0, -1})
-        EXPECT_THAT(Imprimer(Contact("F4ABC"), 1, aiguillage).operations,
+        EXPECT_THAT(Imprimer(Contact("F4ABC"), 1, NumeroFiche{aiguillage}).operations,
                     UnorderedElementsAreArray(Liste(attendu)));
 }
 

@@ -54,9 +54,10 @@ struct ServiceQSL {
         ReponseQSL reponse;
         std::string texte;
         const std::map<std::string, std::function<void(int)>> actions = {
-            {"fiche", [&](int k) { reponse = PreparerEtiquette(cahier, feuille, k).reponse; }},
-            {"choix", [&](int k) { CliquerChoix(feuille, k); }},
-            {"tag", [&](int k) { CliquerTag(feuille, k); }},
+            {"fiche",
+             [&](int k) { reponse = PreparerEtiquette(cahier, feuille, NumeroFiche{k}).reponse; }},
+            {"choix", [&](int k) { CliquerChoix(feuille, Place{k}); }},
+            {"tag", [&](int k) { CliquerTag(feuille, Place{k}); }},
             {"boite",
              [&](int k) { SaisirBoiteEtiquette(feuille, static_cast<std::size_t>(k), texte); }},
             {"entree", [&](int) { EntrerBoiteEtiquette(feuille); }},
@@ -133,7 +134,7 @@ TEST(FeuilleQSL, UneEtiquetteRelueEchangeReportEtMode) {
         ServiceQSL service("", Brute({{0, debut}, {45, champ}, {60, suite}}, 106));
         BoitesEtiquette& boites = service.feuille.boites;
         boites[kBoiteManager] = "reste";
-        LireEtiquette(service.feuille, 1);
+        LireEtiquette(service.feuille, kPremierePlace);
         EXPECT_EQ("-BD"[static_cast<int>(service.feuille.voie)] + boites[kBoiteManager], voie);
         ChoisirVoie(service.feuille, VoieQSL::Direct); // a route needs no manager
         EXPECT_EQ(boites, (BoitesEtiquette{"", "F5ABC", "21/11/26", "18:05", "14.250", "59+20dB",
@@ -198,7 +199,7 @@ TEST(FluxEtiquettes, UnContactSansMarqueRecoitSaSeuleMarque) {
  neither : F18h | A17h, P18h 8 | fiche 1 -> panneau quitter imprimer "N° 3"
  another contact's : F18h En cours, F18h | F18h 1 | fiche 2 -> panneau quitter imprimer "N° 2")");
     ServiceQSL service(Fiches("F18h"), Feuille(Etiquettes("F18h 1")));
-    const ReponseClic clic = PreparerEtiquette(service.cahier, service.feuille, 1);
+    const ReponseClic clic = PreparerEtiquette(service.cahier, service.feuille, kPremiereFiche);
     EXPECT_EQ(clic.suite, SuiteClic::Retabli);
     EXPECT_TRUE(clic.reponse.marque);
 }

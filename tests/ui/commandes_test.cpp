@@ -13,13 +13,18 @@ std::string Refuses(const std::string& mots, unsigned tus = 0) {
     FeuilleQSL feuille;
     Cahier& cahier = session.cahier;
     cahier.fichier = FichierFiches("/dev/null", ModeFichier::Lecture);
-    cahier.nbFiches = session.carte.ficheCourante = 2;
+    // So many contacts, the last of them on the card.
+    const auto poser = [&](std::int32_t nbFiches) {
+        cahier.nbFiches = nbFiches;
+        session.carte.ficheCourante = cahier.Derniere();
+    };
+    poser(2);
     ecran.temoinDemarrage = 0;
     const std::map<std::string, std::function<void()>> effets = {
         {"démarrage", [&] { ecran.temoinDemarrage = kDemarrageAFaire; }},
         {"gel", [&] { ecran.gel = true; }},
-        {"une", [&] { cahier.nbFiches = session.carte.ficheCourante = 1; }},
-        {"aucune", [&] { cahier.nbFiches = session.carte.ficheCourante = 0; }},
+        {"une", [&] { poser(1); }},
+        {"aucune", [&] { poser(0); }},
         {"saisie", [&] { session.carte.saisie.EnSaisie = true; }},
         {"modification", [&] { session.carte.saisie.NbModifs = 1; }},
         {"copie", [&] { cahier.autre = "F5ABC"; }}, // of our own, opened as another

@@ -56,7 +56,8 @@ TEST_F(ImprimanteQtTest, PageDuCahier) {
     const Cahier cahier = Ouvrir(autre.Poser("F5ABC.Vek", fiche + fiche));
     const Station station{{}, "F5XYZ", "JN18AA"};
     ImprimanteQt imprimante(pdf);
-    ImprimerPage(imprimante, cahier, station, {3, 1, 2}, 1);
+    ImprimerPage(imprimante, cahier, station, {3, kPremiereFiche, cahier.Derniere()},
+                 kPremiereFiche);
 
     const auto mots = Relire();
     EXPECT_THAT(mots, AllOf(Porte("Cahier", 400, 400), Porte("F5XYZ", 3050, 390),

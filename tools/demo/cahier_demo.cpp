@@ -145,7 +145,7 @@ std::vector<QslSlotRecord> Etiquettes(const std::vector<QsoRecord>& fiches) {
         MettreChamp(etiquette, ChampEtiquette::Ligne2,
                     Rogner(Gauche(TexteChamp(fiche, Champ::INFO), kLargeurDemiInfo)));
         MettreChamp(etiquette, ChampEtiquette::Voie, kVoieBureau);
-        MettreChamp(etiquette, ChampEtiquette::NumeroFiche, std::to_string(i + 1));
+        MettreChamp(etiquette, ChampEtiquette::Fiche, std::to_string(i + 1));
     }
     QslSlotRecord libre;
     MettreChamp(libre, ChampEtiquette::Indicatif, kMarqueLibre);
@@ -166,7 +166,7 @@ int main(int nbArguments, char** arguments) try {
     std::filesystem::create_directories(dossier);
     const std::string nom = NomDuCahier(kIndicatif);
     FichierFiches cahier(dossier / nom, ModeFichier::Creation);
-    cahier.Ecrire(1, fiches);
+    cahier.Ecrire(kPremiereFiche, fiches);
     const std::vector<QslSlotRecord> etiquettes = Etiquettes(fiches);
     Fichier feuille(dossier / kNomFeuilleQSL, ModeFichier::Creation);
     feuille.Ecrire(0, {etiquettes.data()->octets.data(), etiquettes.size() * kTailleEtiquette});

@@ -39,9 +39,8 @@ std::vector<EtiquettePlacee> EtiquettesPreparees(const fs::path& dossier) {
     FeuilleQSL feuille;
     ChargerFeuilleQSL(feuille, dossier);
     std::vector<EtiquettePlacee> etiquettes;
-    for (const int k : EtiquettesAImprimer(feuille))
-        etiquettes.push_back(
-            {static_cast<std::int16_t>(k), DonneesDeEtiquette(LireEnregistrement(feuille, k))});
+    for (const Place place : EtiquettesAImprimer(feuille))
+        etiquettes.push_back({place, DonneesDeEtiquette(LireEnregistrement(feuille, place))});
     return etiquettes;
 }
 

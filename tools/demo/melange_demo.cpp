@@ -25,7 +25,7 @@ int main(int nbArguments, char** arguments) try {
     FichierFiches cahier(TrouverFichier(dossier, parametres.nomFichier),
                          ModeFichier::LectureEcriture);
     std::vector<QsoRecord> modele(static_cast<std::size_t>(cahier.Compter()) + 1);
-    static_cast<void>(cahier.Lire(1, modele));
+    static_cast<void>(cahier.Lire(kPremiereFiche, modele));
     const QsoRecord fin = modele.back();
     modele.pop_back();
     if (modele.empty())
@@ -38,7 +38,7 @@ int main(int nbArguments, char** arguments) try {
     for (std::size_t i = fiches.size(); i > 1; --i)
         std::swap(fiches[i - 1], fiches[hasard() % i]);
     fiches.push_back(fin);
-    cahier.Ecrire(1, fiches);
+    cahier.Ecrire(kPremiereFiche, fiches);
     return 0;
 } catch (const std::exception& erreur) {
     std::fprintf(stderr, "orvalis_melange: %s\n", erreur.what());

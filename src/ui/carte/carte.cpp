@@ -44,20 +44,20 @@ void MettreAuRepos(Carte& carte) {
         ColorerZone(carte, d.boite, CouleurAuRepos(d.boite));
 }
 
-void LireFiche(Carte& carte, const Cahier& cahier, std::int32_t k) {
+void LireFiche(Carte& carte, const Cahier& cahier, NumeroFiche k) {
     carte.tampon = FicheDuCahier(cahier, k);
     carte.zones = ZonesDeFiche(carte.tampon);
     for (const DescriptionBoite& d : kBoites)
         MontrerZone(carte, d.boite);
 }
 
-void EcrireFiche(Carte& carte, Cahier& cahier, std::int32_t k) {
+void EcrireFiche(Carte& carte, Cahier& cahier, NumeroFiche k) {
     carte.tampon = FicheDesZones(carte.zones);
     CorrigerFiche(cahier, k, carte.tampon);
 }
 
-void MontrerLabels(Carte& carte, std::int32_t k) {
-    carte.numero = " Fiche N° " + std::to_string(k) + " ";
+void MontrerLabels(Carte& carte, NumeroFiche k) {
+    carte.numero = " Fiche N° " + std::to_string(k.Valeur()) + " ";
     const std::string& ici = carte.zones[Boite::MonLocator];
     const std::string& la = carte.zones[Boite::SonLocator];
     // Two empty locators are equal as well, and show 0 Km.
@@ -72,7 +72,7 @@ void MontrerLabels(Carte& carte, std::int32_t k) {
 }
 
 void ViderCarte(Carte& carte) {
-    carte.ficheCourante = 0;
+    carte.ficheCourante = kAucuneFiche;
     carte.zones = {};
     for (const DescriptionBoite& d : kBoites)
         MontrerZone(carte, d.boite);
@@ -82,8 +82,8 @@ void ViderCarte(Carte& carte) {
     carte.departement.clear();
 }
 
-std::string NumeroNouvelleFiche(std::int32_t k) {
-    return " Charger fiche N° " + std::to_string(k);
+std::string NumeroNouvelleFiche(NumeroFiche k) {
+    return " Charger fiche N° " + std::to_string(k.Valeur());
 }
 
 } // namespace orvalis

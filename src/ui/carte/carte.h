@@ -64,9 +64,9 @@ struct EtatSaisie {
 };
 
 struct Carte {
-    std::int32_t ficheCourante = 0; ///< k, the record on the card; 0 while there is none
-    QsoRecord tampon;               ///< record buffer: the record last read or written
-    Zones zones;                    ///< working slots
+    NumeroFiche ficheCourante; ///< k, the record on the card; none while there is none
+    QsoRecord tampon;          ///< record buffer: the record last read or written
+    Zones zones;               ///< working slots
     std::array<BoiteMontree, kNbBoites> boites;
     std::string numero = "  Fiche N° 0  "; ///< NoFicheLab
     std::string distance;                  ///< LabDist
@@ -102,19 +102,19 @@ void MettreAuRepos(Carte& carte);
 
 /// Reads record `k` (from 1) into the record buffer, the working slots and the boxes. Throws
 /// Erreur.
-void LireFiche(Carte& carte, const Cahier& cahier, std::int32_t k);
+void LireFiche(Carte& carte, const Cahier& cahier, NumeroFiche k);
 
 /// Writes record `k` from the working slots. The caller flushes. Throws Erreur.
-void EcrireFiche(Carte& carte, Cahier& cahier, std::int32_t k);
+void EcrireFiche(Carte& carte, Cahier& cahier, NumeroFiche k);
 
 /// The labels of record `k`, whose fields stand in the working slots. The distance goes from the
 /// contact's own MLOC to its SLOC, unless they are equal: then "0 Km" and "...".
-void MontrerLabels(Carte& carte, std::int32_t k);
+void MontrerLabels(Carte& carte, NumeroFiche k);
 
 /// A card without contact: slots, boxes and labels empty, no record current.
 void ViderCarte(Carte& carte);
 
 /// NoFicheLab of the contact under entry that will be record `k`.
-[[nodiscard]] std::string NumeroNouvelleFiche(std::int32_t k);
+[[nodiscard]] std::string NumeroNouvelleFiche(NumeroFiche k);
 
 } // namespace orvalis

@@ -19,7 +19,6 @@ unsigned ConditionsRemplies(const Session& session, const Ecran& ecran,
     const auto si = [](bool vrai, Condition condition) {
         return vrai ? static_cast<unsigned>(condition) : 0U;
     };
-    const std::int32_t k = carte.ficheCourante;
     return si(!carte.saisie.EnSaisie, kHorsSaisie) | si(carte.saisie.EnSaisie, kEnSaisie) |
            si(!carte.EnEdition(), kHorsEdition) | si(cahier.EstLeNotre(), kCahierPropre) |
            si(!cahier.lectureSeule, kModifiable) | si(cahier.nbFiches > 0, kAuMoinsUn) |
@@ -28,7 +27,7 @@ unsigned ConditionsRemplies(const Session& session, const Ecran& ecran,
            si(carte.saisie.NbModifs == 0, kSansReponse) |
            si(ecran.temoinDemarrage == 0 && !ecran.gel, kPret) |
            si(!feuille.vue.panneau, kSansFeuille) | si(!feuille.vue.controle, kSansControle) |
-           si(!ecran.gel, kSansGel) | si(k >= 1 && k <= cahier.nbFiches, kFicheMontree) |
+           si(!ecran.gel, kSansGel) | si(cahier.Contient(carte.ficheCourante), kFicheMontree) |
            si(!UnPanneauAttend(carte, ecran, feuille), kSansAttente);
 }
 

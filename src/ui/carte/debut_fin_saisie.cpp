@@ -86,7 +86,7 @@ Reponse PresserBoite(const Carte& carte, Boite boite, bool modifiable) {
     return r;
 }
 
-Reponse PreparerSaisie(const Carte& carte, const Station& station, std::int32_t prochaine) {
+Reponse PreparerSaisie(const Carte& carte, const Station& station, NumeroFiche prochaine) {
     Reponse r{carte, {}};
     r.carte.saisie.QsoCommence = false;
     OublierModifications(r.carte.saisie);

@@ -65,7 +65,7 @@ struct EtatFoyer {
 
 /// One row of the sheet of the page on show.
 struct RangeePage {
-    std::int32_t numero = 0;
+    NumeroFiche numero;
     CellulesPage cellules;
 };
 
@@ -84,7 +84,7 @@ struct ListeDuCahier {
     std::int32_t nbFiches = 0;   ///< range of the scroll bar
     std::int32_t defilement = 0; ///< its value
     int choisie = -1;            ///< selected line, from 0; it may be another than the card's
-    std::int32_t marquee = 0;    ///< record marked on the sheet
+    NumeroFiche marquee;         ///< record marked on the sheet
     std::string nom;             ///< LabJournal
     friend bool operator==(const ListeDuCahier&, const ListeDuCahier&) = default;
 };

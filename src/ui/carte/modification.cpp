@@ -133,7 +133,7 @@ constexpr std::array<Issue (*)(const Correction&), kNbBoites> kRegles = {{
 }};
 
 Question Demander(const Carte& carte, std::string_view legende) {
-    return {std::string{legende}, std::to_string(carte.ficheCourante),
+    return {std::string{legende}, std::to_string(carte.ficheCourante.Valeur()),
             TexteRogne(carte.tampon, Champ::CSGN)};
 }
 

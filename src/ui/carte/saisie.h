@@ -60,7 +60,7 @@ struct Reponse {
 /// The blank card of the next contact, record `prochaine`: slots emptied, own locator in slot and
 /// box 16, entry flags reset, boxes and labels shown anew, focus in box 1.
 [[nodiscard]] Reponse PreparerSaisie(const Carte& carte, const Station& station,
-                                     std::int32_t prochaine);
+                                     NumeroFiche prochaine);
 
 /// What ends a contact: BtEnrSuivant or BtEnrTerminer.
 enum class FinDeSaisie { Suivant, Terminer };

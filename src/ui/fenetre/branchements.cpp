@@ -73,7 +73,7 @@ void Orvalis::BrancherListes() {
     Brancher(liste, &PictListe::touche,
              [this](ToucheListe touche, bool* prise) { *prise = SurToucheListe(p_, touche); });
     Brancher(&panneaux_.page, &VuePage::rangeeChoisie,
-             [this](std::int32_t k) { ChoisirRangee(p_, k); });
+             [this](NumeroFiche k) { ChoisirRangee(p_, k); });
     Brancher(&panneaux_.contacts, &PictContacts::ligneChoisie,
              [this](int ligne) { ChoisirContact(p_, ligne); });
     PictRech* rech = &panneaux_.rech;
@@ -104,8 +104,8 @@ void Orvalis::BrancherFiche() {
 
 void Orvalis::BrancherFeuille() {
     PictFeuilleQSL* feuille = &panneaux_.feuilleQSL;
-    Brancher(feuille, &PictFeuilleQSL::choix, [this](int k) { SurChoix(p_, k); });
-    Brancher(feuille, &PictFeuilleQSL::tag, [this](int k) { SurTag(p_, k); });
+    Brancher(feuille, &PictFeuilleQSL::choix, [this](Place place) { SurChoix(p_, place); });
+    Brancher(feuille, &PictFeuilleQSL::tag, [this](Place place) { SurTag(p_, place); });
     Brancher(feuille, &PictFeuilleQSL::boiteSaisie,
              [this](std::size_t boite, const QString& texte) {
                  SurSaisieEtiquette(p_, boite, S(texte));

@@ -98,7 +98,7 @@ void OuvrirAutre(Plateau& p) {
     };
     if (!Essayer(p, ouvrir) || !bilan.ouvert)
         return;
-    s.carte.ficheCourante = 0;
+    s.carte.ficheCourante = kAucuneFiche;
     LacherFoyer(p);
     AbandonnerModification(p);
     p.ecran.jumelage.montre = false;

@@ -41,7 +41,7 @@ void ImprimerPageVierge(Plateau& p) {
         Session& s = p.session;
         // Kept on purpose, for the printed sheets: the page on show then counts as blank until a
         // page is shown again.
-        s.page.premiere = 0;
+        s.page.premiere = kAucuneFiche;
         ImprimerPage(imprimante, s.cahier, s.station, s.page, s.page.premiere);
     }));
 }

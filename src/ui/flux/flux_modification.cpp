@@ -13,7 +13,7 @@ namespace {
 // The page that held the contact stays on show, as far as it still exists.
 void EffacerFiche(Plateau& p) {
     Session& s = p.session;
-    const std::int32_t page = CalculerPages(s.carte.ficheCourante);
+    const std::int32_t page = PageDeFiche(s.carte.ficheCourante);
     SupprimerFiche(s.cahier, s.carte.ficheCourante, s.station.monLocator);
     p.ecran.contacts.montree = false; // its numbers no longer hold
     RelireCahier(p, page);
@@ -22,7 +22,7 @@ void EffacerFiche(Plateau& p) {
 
 void EnregistrerModification(Plateau& p) {
     Session& s = p.session;
-    const std::int32_t k = s.carte.ficheCourante;
+    const NumeroFiche k = s.carte.ficheCourante;
     EcrireFiche(s.carte, s.cahier, k);
     SynchroniserCahier(s.cahier);
     if (const int ligne = LigneDeFiche(p, k); ligne >= 0) {

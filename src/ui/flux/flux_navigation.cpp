@@ -38,7 +38,7 @@ std::shared_ptr<const ContenuPage> LirePage(const Cahier& cahier, const PlagePag
     static_cast<void>(cahier.fichier.Lire(plage.premiere, fiches));
     auto contenu = std::make_shared<ContenuPage>();
     for (std::size_t i = 0; i < n && !EstFinDeLog(fiches[i]); ++i) {
-        const std::int32_t k = plage.premiere + static_cast<std::int32_t>(i);
+        const NumeroFiche k = plage.premiere + static_cast<std::int32_t>(i);
         contenu->lignes.push_back(LigneListe(k, fiches[i]));
         contenu->rangees.push_back({k, CellulesDeFiche(k, fiches[i])});
     }
@@ -62,7 +62,7 @@ void MontrerPage(Plateau& p, std::int32_t page) {
 }
 
 // The list itself is asked: a blank page printed leaves the first record of the page at 0.
-int LigneDeFiche(const Plateau& p, std::int32_t k) {
+int LigneDeFiche(const Plateau& p, NumeroFiche k) {
     const std::vector<RangeePage>& rangees = p.ecran.liste.contenu->rangees;
     const auto ici = std::find_if(rangees.begin(), rangees.end(),
                                   [k](const RangeePage& rangee) { return rangee.numero == k; });
@@ -76,7 +76,7 @@ void ChoisirLigne(Plateau& p, int ligne) {
         ChoisirFiche(p, rangees[static_cast<std::size_t>(ligne)].numero);
 }
 
-void ChoisirRangee(Plateau& p, std::int32_t k) {
+void ChoisirRangee(Plateau& p, NumeroFiche k) {
     if (!p.session.carte.saisie.EnSaisie)
         ChoisirLigne(p, LigneDeFiche(p, k));
 }
@@ -94,8 +94,8 @@ void RelireCahier(Plateau& p, std::int32_t page) {
     }
 }
 
-void ChoisirFiche(Plateau& p, std::int32_t k) {
-    if (p.session.carte.saisie.EnSaisie || k < 1 || k > p.session.cahier.nbFiches)
+void ChoisirFiche(Plateau& p, NumeroFiche k) {
+    if (p.session.carte.saisie.EnSaisie || !p.session.cahier.Contient(k))
         return;
     AbandonnerModification(p);
     p.session.carte.ficheCourante = k;
@@ -107,7 +107,7 @@ void AfficherFiche(Plateau& p) {
     if (carte.saisie.EnSaisie)
         return;
     p.ecran.liste.marquee = carte.ficheCourante;
-    if (carte.ficheCourante < 1)
+    if (carte.ficheCourante < kPremiereFiche)
         return;
     LireFiche(carte, p.session.cahier, carte.ficheCourante);
     MontrerLabels(carte, carte.ficheCourante);

@@ -18,17 +18,17 @@ void MontrerPage(Plateau& p, std::int32_t page);
 void RelireCahier(Plateau& p, std::int32_t page = std::numeric_limits<std::int32_t>::max());
 
 /// Line (from 0) of record `k` in the list; -1 when the page on show does not hold it.
-[[nodiscard]] int LigneDeFiche(const Plateau& p, std::int32_t k);
+[[nodiscard]] int LigneDeFiche(const Plateau& p, NumeroFiche k);
 
 /// A line of the list (from 0) was chosen: it is selected, and its card shown except during entry.
 void ChoisirLigne(Plateau& p, int ligne);
 
 /// A row of the sheet, by its record: the same as its line, except during entry.
-void ChoisirRangee(Plateau& p, std::int32_t k);
+void ChoisirRangee(Plateau& p, NumeroFiche k);
 
 /// Makes record `k` the current one and shows its card. Changes of the old card that wait for an
 /// answer are dropped. Does nothing during entry.
-void ChoisirFiche(Plateau& p, std::int32_t k);
+void ChoisirFiche(Plateau& p, NumeroFiche k);
 
 /// Shows the card of the current record; a card under entry is never overwritten.
 void AfficherFiche(Plateau& p);

@@ -58,8 +58,8 @@ void DonnerFoyerBoite(Plateau& p, std::size_t boite) {
     p.ecran.foyer.selection = cible;
 }
 
-void DonnerFoyerChoix(Plateau& p, int k) {
-    DonnerFoyer(p, {Cible::ChoixEtiquette, k});
+void DonnerFoyerChoix(Plateau& p, Place place) {
+    DonnerFoyer(p, {Cible::ChoixEtiquette, place.Valeur()});
 }
 
 // None when the button is hidden.
@@ -75,9 +75,9 @@ bool ChargerAuBesoin(Plateau& p) {
     return p.feuille.fichier.EstOuvert();
 }
 
-int PremierePreparee(const EtatFeuille& feuille) {
-    const std::vector<int> places = EtiquettesAImprimer(feuille);
-    return places.empty() ? 1 : places.front();
+Place PremierePreparee(const EtatFeuille& feuille) {
+    const std::vector<Place> places = EtiquettesAImprimer(feuille);
+    return places.empty() ? kPremierePlace : places.front();
 }
 
 } // namespace
@@ -131,14 +131,14 @@ void CliquerMaQsl(Plateau& p) {
     }
 }
 
-void SurChoix(Plateau& p, int k) {
-    CliquerChoix(p.feuille, k);
-    if (p.feuille.vue.laisser && p.feuille.etiquetteEnCours == k)
+void SurChoix(Plateau& p, Place place) {
+    CliquerChoix(p.feuille, place);
+    if (p.feuille.vue.laisser && p.feuille.etiquetteEnCours == place)
         DonnerFoyer(p, {Cible::LaisserEtiquette});
 }
 
-void SurTag(Plateau& p, int k) {
-    CliquerTag(p.feuille, k);
+void SurTag(Plateau& p, Place place) {
+    CliquerTag(p.feuille, place);
     DonnerFoyerBoite(p, kBoiteIndicatif);
 }
 
@@ -173,16 +173,16 @@ void SurBtValidQSL(Plateau& p) {
 }
 
 void SurBtDelQSL(Plateau& p) {
-    const int k = p.feuille.etiquetteEnCours;
+    const Place place = p.feuille.etiquetteEnCours;
     if (Repondre(p, [&p] { return SupprimerEtiquette(p.session.cahier, p.feuille); }).fait)
-        DonnerFoyerChoix(p, k);
+        DonnerFoyerChoix(p, place);
 }
 
 void SurBtLeaveQSL(Plateau& p) {
-    const int k = p.feuille.etiquetteEnCours;
+    const Place place = p.feuille.etiquetteEnCours;
     LaisserEtiquette(p.feuille);
-    if (k != 0)
-        DonnerFoyerChoix(p, k);
+    if (place != kAucunePlace)
+        DonnerFoyerChoix(p, place);
 }
 
 void SurBtQuitQSL(Plateau& p) {
@@ -191,14 +191,13 @@ void SurBtQuitQSL(Plateau& p) {
 
 void SurBtRestore(Plateau& p) {
     RestaurerFeuille(p.feuille);
-    DonnerFoyerChoix(p, 1);
+    DonnerFoyerChoix(p, kPremierePlace);
 }
 
 void SurBtPrintQSL(Plateau& p) {
     std::vector<EtiquettePlacee> etiquettes;
-    for (const int k : EtiquettesAImprimer(p.feuille))
-        etiquettes.push_back(
-            {static_cast<std::int16_t>(k), DonneesDeEtiquette(LireEnregistrement(p.feuille, k))});
+    for (const Place place : EtiquettesAImprimer(p.feuille))
+        etiquettes.push_back({place, DonneesDeEtiquette(LireEnregistrement(p.feuille, place))});
     if (!Imprimer(p, [&](Imprimante& imp) { ImprimerFeuille(imp, etiquettes, p.enTete); }))
         return;
     DemanderControle(p.feuille);

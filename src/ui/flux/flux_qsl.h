@@ -20,9 +20,9 @@ void ImprimerEtiquettesVierges(Plateau& p);
 /// A click on box 14 of the card: with an empty MQSL the contact becomes a fresh label.
 void CliquerMaQsl(Plateau& p);
 
-/// BtChoix and BtTag of place `k`, 1 to 16.
-void SurChoix(Plateau& p, int k);
-void SurTag(Plateau& p, int k);
+/// BtChoix and BtTag of a place.
+void SurChoix(Plateau& p, Place place);
+void SurTag(Plateau& p, Place place);
 /// Typing and Enter in entry box `boite` of the editor, 1 to 11.
 void SurSaisieEtiquette(Plateau& p, std::size_t boite, const std::string& texte);
 void SurEntreeEtiquette(Plateau& p, std::size_t boite);

@@ -23,7 +23,7 @@ void OuvrirFicheVierge(Plateau& p) {
     e.suivantArme = false;
     RelireCahier(p);
     e.liste.active = false;
-    e.liste.marquee = 0;
+    e.liste.marquee = kAucuneFiche;
     e.activeRech = false;
     AppliquerReponse(
         p, PreparerSaisie(p.session.carte, p.session.station, p.session.cahier.Prochaine()));

@@ -50,7 +50,7 @@ constexpr std::array<DescriptionBoiteEditeur, kNbBoitesEtiquette> kBoitesEditeur
      "Indicatif du manager, quand la carte ne part ni par le bureau ni en direct"},
     {kBoiteRappel, "Contact", Largeur(ChampEtiquette::Indicatif), Touches::Majuscules,
      kRangeeContact, "Station à qui la carte est destinée"},
-    {kBoiteNumeroFiche, "Fiche N°", Largeur(ChampEtiquette::NumeroFiche), Touches::Chiffres,
+    {kBoiteNumeroFiche, "Fiche N°", Largeur(ChampEtiquette::Fiche), Touches::Chiffres,
      kRangeeContact, "Numéro du contact dans le cahier"},
 }};
 
@@ -86,13 +86,13 @@ QString BulleChoix(EtatEtiquette etat) {
 }
 
 // The place that the editor is about: the one under review, else the next free one.
-int PlaceALEtude(const EtatFeuille& feuille) {
+Place PlaceALEtude(const EtatFeuille& feuille) {
     if (feuille.vue.supprimer)
         return feuille.etiquetteEnCours;
-    for (int k = 1; k <= kNbEtiquettes; ++k)
-        if (feuille.Etat(k) == EtatEtiquette::Libre)
-            return k;
-    return 0;
+    for (Place place = kPremierePlace; place <= kDernierePlace; ++place)
+        if (feuille.Etat(place) == EtatEtiquette::Libre)
+            return place;
+    return kAucunePlace;
 }
 
 } // namespace
@@ -103,11 +103,12 @@ PictFeuilleQSL::PictFeuilleQSL(QWidget* parent)
     ui_->planche->setAutoFillBackground(true);
     ui_->planche->setBackgroundRole(QPalette::Base);
     ui_->NrTag->setFont(PoliceAjustee(font(), kTitre));
-    for (int k = 1; k <= kNbEtiquettes; ++k) {
-        Place& place = places_[EtatFeuille::Rang(k)];
-        place = FairePlace(k);
-        ui_->grillePlaces->addWidget(place.cadre, (k - 1) / 2, (k - 1) % 2);
-        ui_->grillePlaces->setRowStretch((k - 1) / 2, 1);
+    for (Place place = kPremierePlace; place <= kDernierePlace; ++place) {
+        ControlesPlace& controles = places_[EtatFeuille::Rang(place)];
+        controles = FaireControles(place);
+        const int rang = place - kPremierePlace;
+        ui_->grillePlaces->addWidget(controles.cadre, rang / 2, rang % 2);
+        ui_->grillePlaces->setRowStretch(rang / 2, 1);
     }
     FaireBoites();
     BrancherBoutons();
@@ -117,28 +118,29 @@ PictFeuilleQSL::PictFeuilleQSL(QWidget* parent)
 
 PictFeuilleQSL::~PictFeuilleQSL() = default;
 
-PictFeuilleQSL::Place PictFeuilleQSL::FairePlace(int k) {
-    Place place;
-    place.cadre = new QFrame(ui_->planche);
-    place.cadre->setObjectName(Nom("PictBtEtiq", k, 2));
-    place.cadre->setFrameShape(QFrame::Box);
-    place.cadre->setFrameShadow(QFrame::Plain);
-    place.cadre->setForegroundRole(QPalette::WindowText);
-    place.tag = new QPushButton(QStringLiteral("Etiquette [%1] libre").arg(k), place.cadre);
-    place.tag->setObjectName(Nom("BtTag_", k));
-    place.tag->setToolTip(QStringLiteral("Préparer une étiquette sans partir d'une fiche"));
-    place.choix = new QPushButton(QStringLiteral("Retirer"), place.cadre);
-    place.choix->setObjectName(Nom("BtChoix_", k));
-    auto* pile = new QVBoxLayout(place.cadre);
+PictFeuilleQSL::ControlesPlace PictFeuilleQSL::FaireControles(Place place) {
+    const int k = place.Valeur();
+    ControlesPlace controles;
+    controles.cadre = new QFrame(ui_->planche);
+    controles.cadre->setObjectName(Nom("PictBtEtiq", k, 2));
+    controles.cadre->setFrameShape(QFrame::Box);
+    controles.cadre->setFrameShadow(QFrame::Plain);
+    controles.cadre->setForegroundRole(QPalette::WindowText);
+    controles.tag = new QPushButton(QStringLiteral("Etiquette [%1] libre").arg(k), controles.cadre);
+    controles.tag->setObjectName(Nom("BtTag_", k));
+    controles.tag->setToolTip(QStringLiteral("Préparer une étiquette sans partir d'une fiche"));
+    controles.choix = new QPushButton(QStringLiteral("Retirer"), controles.cadre);
+    controles.choix->setObjectName(Nom("BtChoix_", k));
+    auto* pile = new QVBoxLayout(controles.cadre);
     pile->setContentsMargins(5, 2, 5, 2);
     pile->setSpacing(2);
     pile->addStretch(1);
-    pile->addWidget(place.tag);
-    pile->addWidget(place.choix, 0, Qt::AlignRight);
+    pile->addWidget(controles.tag);
+    pile->addWidget(controles.choix, 0, Qt::AlignRight);
     pile->addStretch(1);
-    connect(place.choix, &QPushButton::clicked, this, [this, k] { Q_EMIT choix(k); });
-    connect(place.tag, &QPushButton::clicked, this, [this, k] { Q_EMIT tag(k); });
-    return place;
+    connect(controles.choix, &QPushButton::clicked, this, [this, place] { Q_EMIT choix(place); });
+    connect(controles.tag, &QPushButton::clicked, this, [this, place] { Q_EMIT tag(place); });
+    return controles;
 }
 
 void PictFeuilleQSL::FaireBoites() {
@@ -204,8 +206,8 @@ void PictFeuilleQSL::OrdonnerTabulation() {
     ordre.insert(ordre.end(),
                  {ui_->OptBureau, ui_->OptDirect, Boite(kBoiteManager).texte, ui_->BtValidQSL,
                   ui_->BtDelQSL, ui_->BtLeaveQSL, ui_->BtPrintQSL, ui_->BtRestore, ui_->BtQuitQSL});
-    for (const Place& place : places_)
-        ordre.insert(ordre.end(), {place.tag, place.choix});
+    for (const ControlesPlace& controles : places_)
+        ordre.insert(ordre.end(), {controles.tag, controles.choix});
     for (std::size_t i = 1; i < ordre.size(); ++i)
         setTabOrder(ordre[i - 1], ordre[i]);
 }
@@ -224,20 +226,20 @@ void PictFeuilleQSL::Montrer(const EtatFeuille& feuille) {
 }
 
 void PictFeuilleQSL::MontrerPlaces(const EtatFeuille& feuille) {
-    const int etudiee = PlaceALEtude(feuille);
-    for (int k = 1; k <= kNbEtiquettes; ++k) {
-        const VuePlace vue = VoirPlace(feuille, k);
-        const Place& place = places_[EtatFeuille::Rang(k)];
-        place.tag->setText(SansMnemonique(vue.legendeTag));
-        Activer(*place.tag, vue.tagActif);
+    const Place etudiee = PlaceALEtude(feuille);
+    for (Place place = kPremierePlace; place <= kDernierePlace; ++place) {
+        const VuePlace vue = VoirPlace(feuille, place);
+        const ControlesPlace& controles = places_[EtatFeuille::Rang(place)];
+        controles.tag->setText(SansMnemonique(vue.legendeTag));
+        Activer(*controles.tag, vue.tagActif);
         QFont police = font();
         police.setBold(vue.jaune);
-        place.tag->setFont(police);
-        place.choix->setText(Q(vue.legendeChoix));
-        place.choix->setAccessibleName(Q(vue.legendeChoix + " : " + vue.legendeTag));
-        place.choix->setToolTip(BulleChoix(feuille.Etat(k)));
-        TeinterFond(*place.choix, vue.jaune ? Teinte::Jaune : Teinte::Aucune);
-        place.cadre->setLineWidth(k == etudiee ? kTraitEtudiee : 1);
+        controles.tag->setFont(police);
+        controles.choix->setText(Q(vue.legendeChoix));
+        controles.choix->setAccessibleName(Q(vue.legendeChoix + " : " + vue.legendeTag));
+        controles.choix->setToolTip(BulleChoix(feuille.Etat(place)));
+        TeinterFond(*controles.choix, vue.jaune ? Teinte::Jaune : Teinte::Aucune);
+        controles.cadre->setLineWidth(place == etudiee ? kTraitEtudiee : 1);
     }
 }
 
@@ -288,12 +290,12 @@ void PictFeuilleQSL::MontrerBoutons(const VueFeuille& vue) {
 
 // A box that takes no text looks like the panel behind it; the place under study stands out.
 void PictFeuilleQSL::PeindreFonds() {
-    for (const Place& place : places_) {
+    for (const ControlesPlace& controles : places_) {
         QPalette palette;
-        const bool etudiee = place.cadre->lineWidth() == kTraitEtudiee;
+        const bool etudiee = controles.cadre->lineWidth() == kTraitEtudiee;
         palette.setColor(QPalette::WindowText,
                          palette.color(etudiee ? QPalette::Highlight : QPalette::Mid));
-        place.cadre->setPalette(palette);
+        controles.cadre->setPalette(palette);
     }
     for (BoiteEditeur& boite : boites_) {
         QPalette palette;

@@ -35,14 +35,14 @@ class PictFeuilleQSL : public QFrame {
     void Accueillir(QWidget& panneau);
 
   Q_SIGNALS:
-    void choix(int k); ///< BtChoix of place `k`
-    void tag(int k);   ///< BtTag of place `k`
+    void choix(orvalis::Place place); ///< BtChoix
+    void tag(orvalis::Place place);   ///< BtTag
     void boiteSaisie(std::size_t boite, const QString& texte);
     void boiteEntree(std::size_t boite); ///< Enter, either one
     void voieChoisie(orvalis::VoieQSL voie);
 
   private:
-    struct Place {
+    struct ControlesPlace {
         QFrame* cadre = nullptr; ///< PictBtEtiq
         QPushButton* tag = nullptr;
         QPushButton* choix = nullptr;
@@ -53,7 +53,7 @@ class PictFeuilleQSL : public QFrame {
         FiltreEdition* filtre = nullptr;
     };
 
-    [[nodiscard]] Place FairePlace(int k);
+    [[nodiscard]] ControlesPlace FaireControles(Place place);
     void FaireBoites();
     void FaireBoite(std::size_t rang, QHBoxLayout& rangee);
     void BrancherBoutons();
@@ -66,7 +66,7 @@ class PictFeuilleQSL : public QFrame {
     [[nodiscard]] BoiteEditeur& Boite(std::size_t boite) { return boites_[boite - 1]; }
 
     std::unique_ptr<Ui::PictFeuilleQSL> ui_;
-    std::array<Place, kNbEtiquettes> places_;
+    std::array<ControlesPlace, kNbEtiquettes> places_;
     std::array<BoiteEditeur, kNbBoitesEtiquette> boites_;
 };
 

@@ -101,7 +101,7 @@ void VuePage::Montrer(std::shared_ptr<const ContenuPage> contenu) {
     viewport()->update();
 }
 
-void VuePage::Marquer(std::int32_t numero) {
+void VuePage::Marquer(NumeroFiche numero) {
     marquee_ = numero;
     viewport()->update();
 }
@@ -162,7 +162,8 @@ void VuePage::PeindreRangees(QPainter& peintre) const {
     for (int r = 0; r < kFichesParPage; ++r) {
         const int y = mesures_.tete + r * mesures_.ligne;
         const auto rang = static_cast<std::size_t>(r);
-        if (rang < Rangees().size() && Rangees()[rang].numero == marquee_ && marquee_ != 0)
+        if (rang < Rangees().size() && Rangees()[rang].numero == marquee_ &&
+            marquee_ != kAucuneFiche)
             peintre.fillRect(0, y, mesures_.largeur, mesures_.ligne, encres.marque);
         peintre.setPen(encres.filet);
         peintre.drawLine(0, y + mesures_.ligne, mesures_.largeur - 1, y + mesures_.ligne);

@@ -5,7 +5,6 @@
 
 #include <QAbstractScrollArea>
 
-#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -18,15 +17,15 @@ class VuePage : public QAbstractScrollArea {
 
     /// The rows of a page.
     void Montrer(std::shared_ptr<const ContenuPage> contenu);
-    /// Marks the row of the record on the card; 0 for none.
-    void Marquer(std::int32_t numero);
+    /// Marks the row of the record on the card, or none.
+    void Marquer(NumeroFiche numero);
     /// Where row `rang` (from 0) lies in the viewport.
     [[nodiscard]] QRect RectDeRangee(int rang) const;
     /// The sheet as fixed-pitch text, a line per row.
     [[nodiscard]] QString toPlainText() const;
 
   Q_SIGNALS:
-    void rangeeChoisie(std::int32_t numero);
+    void rangeeChoisie(orvalis::NumeroFiche numero);
 
   protected:
     void paintEvent(QPaintEvent* evenement) override;
@@ -54,7 +53,7 @@ class VuePage : public QAbstractScrollArea {
     [[nodiscard]] const std::vector<RangeePage>& Rangees() const;
 
     std::shared_ptr<const ContenuPage> contenu_ = std::make_shared<const ContenuPage>();
-    std::int32_t marquee_ = 0;
+    NumeroFiche marquee_;
     Mesures mesures_;
 };
 

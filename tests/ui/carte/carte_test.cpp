@@ -11,7 +11,7 @@ TEST(Carte, UneFicheLueRemplitLesZonesEtLesBoites) {
     const Dossier dossier;
     Cahier cahier = Ouvrir(dossier.Poser("F5ABC.Vek", complete + Fin()));
     Carte carte;
-    LireFiche(carte, cahier, 1);
+    LireFiche(carte, cahier, kPremiereFiche);
     std::string zones = carte.zones.info + '|';
     for (const DescriptionBoite& d : kBoites) {
         zones += carte.zones[d.boite] + '|';
@@ -20,9 +20,9 @@ TEST(Carte, UneFicheLueRemplitLesZonesEtLesBoites) {
     EXPECT_EQ(zones, "REMARQUE DE 20 CAR            |F6XYZ/P|12/05/02|18:30|18:45|14.250|SSB|59|"
                      "59+10|SAINT-ÉTIENNE|JN15EK|42|Œuvrard Z\xC2\x81|REMARQUE DE 20|En cours|OK|"
                      "JN18AA|CAR|");
-    EcrireFiche(carte, cahier, 1);
+    EcrireFiche(carte, cahier, kPremiereFiche);
     EXPECT_EQ(Lire(cahier.chemin), complete + Fin());
-    LireFiche(carte, cahier, 9);
+    LireFiche(carte, cahier, NumeroFiche{9});
     EXPECT_EQ(carte.zones[Boite::Indicatif] + carte.Texte(Boite::Manager), "");
 }
 
@@ -35,7 +35,7 @@ TEST(Carte, UneFicheEcriteEstCoupeeOuCompletee) {
     carte.zones[Boite::Departement] = "7";
     carte.zones.info = "INFO";
     carte.zones[Boite::Remarque] = "ignoree";
-    EcrireFiche(carte, cahier, 3);
+    EcrireFiche(carte, cahier, NumeroFiche{3});
     const std::string ville(25, '\xC9');
     EXPECT_EQ(Lire(cahier.chemin),
               Fin() + Brute({}) +

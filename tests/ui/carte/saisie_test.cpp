@@ -92,7 +92,7 @@ TEST(Saisie, InfoJointLesDernieresMoitiesValidees) {
     };
     EXPECT_EQ(valider(Boite::Manager, "F9XX"), "               F9XX           ");
     EXPECT_EQ(valider(Boite::Remarque, "É2345678901234567"), "É23456789012345F9XX           ");
-    carte = PreparerSaisie(carte, Nous(), 4).carte;
+    carte = PreparerSaisie(carte, Nous(), NumeroFiche{4}).carte;
     EXPECT_EQ(carte.zones.info, "");
     EXPECT_EQ(valider(Boite::Remarque, "A"), "A              F9XX           ");
 }
@@ -143,9 +143,9 @@ TEST(Saisie, UneFicheViergePourLeContactSuivant) {
     Carte carte = Scene("commencé date fréquence mode fiche modification comptée", "reste");
     carte.zones.info = "vieux";
     carte.zones.textes.fill("vieux");
-    EXPECT_EQ(PreparerSaisie(carte, Nous(), 4).carte.numero, " Charger fiche N° 4");
+    EXPECT_EQ(PreparerSaisie(carte, Nous(), NumeroFiche{4}).carte.numero, " Charger fiche N° 4");
     const std::string vides = " 1= 2= 3= 4= 5= 6= 7= 8= 9= 10= 11= 12= 13= 14= 15= 16=JN18AA 17=, ";
-    EXPECT_EQ(Decrire(carte, PreparerSaisie(carte, Nous(), 4)),
+    EXPECT_EQ(Decrire(carte, PreparerSaisie(carte, Nous(), NumeroFiche{4})),
               "zone 0=" + vides + "boite" + vides +
                   "repos 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17, saisi \"\", modifs 0, "
                   R"(sans QsoCommence, sans EnModification, dist "", azim "", dept "", foyer 1)");
@@ -183,7 +183,7 @@ TEST(Saisie, CeQuiEstEnregistreALaFin) {
 // A stored card under correction, its name and my QSL empty.
 Carte Stockee(const std::string& /*etat*/ = "", std::string_view texte = "") {
     Carte c = CarteAutre();
-    c.ficheCourante = 12;
+    c.ficheCourante = NumeroFiche{12};
     c.tampon = Enregistrement("F5ABC          01/05/0218:3018:4514.25     SSB  59      59      "
                               "LYON                     JN15AA69                 "
                               "REM            MGR                    OK      JN18AA");

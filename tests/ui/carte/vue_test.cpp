@@ -17,7 +17,7 @@ struct Scene {
 
     Scene() {
         session.station = {{}, "F5ABC", "JN18AA"};
-        session.cahier.nbFiches = carte.ficheCourante = 2;
+        Poser(2);
         MontrerTexte(carte, Boite::Indicatif, carte.zones[Boite::Indicatif] = "F6XYZ");
         ecran.temoinDemarrage = 0;
         ecran.activeRech = true;
@@ -26,6 +26,12 @@ struct Scene {
 
     void Suivre(const Reponse& r) { Appliquer(carte, ecran, session.station, r); }
     void Aller(const Foyer& f) { DeplacerFoyer(carte, ecran, session.station, f); }
+
+    // So many contacts, the last of them on the card.
+    void Poser(std::int32_t nbFiches) {
+        session.cahier.nbFiches = nbFiches;
+        session.carte.ficheCourante = session.cahier.Derniere();
+    }
 
     void Faire(const std::string& geste) {
         const std::string mot = geste.substr(0, geste.find(' '));
@@ -44,7 +50,7 @@ struct Scene {
              [&] {
                  carte.saisie.EnSaisie = true;
                  ecran.liste.active = false;
-                 Suivre(PreparerSaisie(carte, nous, 3));
+                 Suivre(PreparerSaisie(carte, nous, NumeroFiche{3}));
              }},
             {"deplie",
              [&] {
@@ -58,7 +64,7 @@ struct Scene {
             {"anonyme", [&] { carte.zones[Boite::Indicatif].clear(); }},
             {"lache", [&] { LacherFoyer(carte, ecran); }},
             {"boutons", [&] { RendreBoutons(ecran); }},
-            {"vide", [&] { session.cahier.nbFiches = carte.ficheCourante = 0; }},
+            {"vide", [&] { Poser(0); }},
             {"efface", [&] {
                  ecran.question = QuestionEffacer(carte);
                  ecran.menuActif = false;
