@@ -18,7 +18,7 @@ namespace orvalis {
 /// Colours of a box, under the codes that ColorerZone takes.
 enum class Couleur : std::uint8_t {
     Repos = 1,      ///< a box at rest: the palette's own background
-    Gris = 2,       ///< used by no box; its code belongs to the table of colours
+    Gris = 2,       ///< kept for whoever passes a colour by its code: no box uses it
     JauneClair = 3, ///< box 1 at rest
     RougeClair = 4, ///< a box of a stored card under modification
     VertClair = 5   ///< the box that has the focus during entry
