@@ -141,4 +141,18 @@ bool Fichier::EstLeMeme(const std::filesystem::path& autre) const {
            ici.st_dev == la.st_dev && ici.st_ino == la.st_ino;
 }
 
+void SynchroniserNom(const std::filesystem::path& fichier) {
+    std::filesystem::path dossier = fichier.parent_path();
+    if (dossier.empty())
+        dossier = ".";
+    const int descripteur = ::open(dossier.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descripteur < 0)
+        return;
+    const bool fait = ::fsync(descripteur) == 0;
+    const std::error_code raison = DerniereErreur();
+    ::close(descripteur);
+    if (!fait && (raison.value() == EIO || raison.value() == ENOSPC || raison.value() == EDQUOT))
+        throw Erreur(NatureErreur::Synchroniser, dossier, raison);
+}
+
 } // namespace orvalis

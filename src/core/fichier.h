@@ -62,4 +62,9 @@ class Fichier {
     std::filesystem::path chemin_;
 };
 
+/// Returns once the name of `fichier`, which was created or renamed or is a new folder, has reached
+/// the disk: until then a power cut may leave its folder without it. Throws Erreur; a folder that
+/// cannot be opened or flushed by itself counts as done.
+void SynchroniserNom(const std::filesystem::path& fichier);
+
 } // namespace orvalis

@@ -1,6 +1,7 @@
 #include "core/parametres.h"
 
 #include "core/fichier.h"
+#include "core/remplacement.h"
 #include "core/texte.h"
 #include "geo/locator.h"
 
@@ -77,28 +78,10 @@ Parametres LireParametres(const fs::path& chemin) {
 }
 
 void EcrireParametres(const fs::path& chemin, const Parametres& parametres) {
-    std::error_code erreur;
-    fs::path reel = fs::canonical(chemin, erreur);
-    if (erreur)
-        reel = chemin; // not there yet
-    const fs::path provisoire = fs::path(reel) += ".tmp";
     const std::string ligne = Guillemets(parametres.indicatif) + "," +
                               Guillemets(parametres.nomFichier) + "," +
                               Guillemets(Cadrer(parametres.monLocator, kLargeurLocator)) + "\r\n";
-    fs::remove(provisoire, erreur);
-    try {
-        Fichier fichier(provisoire, ModeFichier::Creation);
-        fichier.Ecrire(0, ligne);
-        fichier.Synchroniser();
-    } catch (const Erreur& echec) {
-        fs::remove(provisoire, erreur);
-        throw Erreur(echec.Nature(), reel, echec.code());
-    }
-    fs::rename(provisoire, reel, erreur);
-    if (const std::error_code raison = erreur) {
-        fs::remove(provisoire, erreur);
-        throw Erreur(NatureErreur::Remplacer, reel, raison);
-    }
+    RemplacerFichier(chemin, ligne);
 }
 
 } // namespace orvalis
