@@ -43,7 +43,7 @@ void Agir(std::uint8_t action, Cahier& cahier, FeuilleQSL& feuille) {
         RestaurerFeuille(feuille);
         break;
     case 10:
-        MontrerFeuille(feuille);
+        static_cast<void>(MontrerFeuille(feuille));
         break;
     case 11:
         SaisirBoiteEtiquette(feuille, static_cast<std::size_t>(1 + numero % 11), "F1QSOÉ");

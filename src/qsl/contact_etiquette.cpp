@@ -38,6 +38,10 @@ bool EstEnCours(const QsoRecord& fiche) {
     return Rogner(OctetsChamp(fiche, Champ::MQSL)) == kEnCours;
 }
 
+bool EstVierge(const QsoRecord& fiche) {
+    return Rogner(OctetsChamp(fiche, Champ::MQSL)).empty();
+}
+
 // The number on the label; none when it names no contact of the logbook.
 NumeroFiche Numero(const Cahier& cahier, const QslSlotRecord& etiquette) {
     const NumeroFiche k{ValeurNumerique(TexteRogne(etiquette, ChampEtiquette::Fiche))};
@@ -48,40 +52,65 @@ bool Exact(const QsoRecord& fiche, const QslSlotRecord& etiquette) {
     return MemeIndicatif(fiche, etiquette) && MemeMoment(fiche, etiquette);
 }
 
+// The contacts with a label's callsign, date and time, by their MQSL.
+struct Exacts {
+    std::vector<NumeroFiche> enCours;
+    std::vector<NumeroFiche> vierges;
+    bool autres = false;
+};
+
 // From the surest answer to the least: a contact that one label has taken is no other's.
 struct Recherche {
     Recherche(const Cahier& c, std::span<const QslSlotRecord> e)
-        : cahier(c), etiquettes(e), trouves(e.size()) {}
+        : cahier(c), etiquettes(e), trouves(e.size()), exacts(e.size()) {}
 
-    // The numbered contact, when callsign, date and time agree.
-    void CroireLesNumeros() {
+    // The numbered contact, when its MQSL is such and callsign, date and time agree.
+    void CroireLesNumeros(bool (*estTelle)(const QsoRecord&)) {
         for (std::size_t i = 0; i < etiquettes.size(); ++i) {
             const NumeroFiche k = Numero(cahier, etiquettes[i]);
-            if (k == kAucuneFiche || EstPris(k))
+            if (!SansReponse(i) || k == kAucuneFiche || EstPris(k))
                 continue;
             const QsoRecord fiche = FicheDuCahier(cahier, k);
-            if (EstEnCours(fiche) && Exact(fiche, etiquettes[i]))
-                trouves[i] = {k, 1};
+            if (estTelle(fiche) && Exact(fiche, etiquettes[i]))
+                Prendre(i, k);
         }
     }
 
-    // The one contact anywhere of the same callsign, date and time.
-    void ChercherLesExacts() {
+    // Every contact of the same callsign, date and time.
+    void ReleverLesExacts() {
         std::vector<std::size_t> reste;
         for (std::size_t i = 0; i < etiquettes.size(); ++i)
-            if (trouves[i].nombre == 0 && !Vide(etiquettes[i], ChampEtiquette::Indicatif))
+            if (SansReponse(i) && !Vide(etiquettes[i], ChampEtiquette::Indicatif))
                 reste.push_back(i);
-        std::vector<NumeroFiche> pris;
-        for (const ContactTrouve& trouve : trouves)
-            pris.push_back(trouve.fiche);
         LecteurFiches lecteur(cahier.fichier);
         for (NumeroFiche k = kPremiereFiche; k <= cahier.Derniere() && !reste.empty(); ++k) {
             const QsoRecord& fiche = lecteur.Lire(k);
-            if (!EstEnCours(fiche) || std::find(pris.begin(), pris.end(), k) != pris.end())
+            for (const std::size_t i : reste) {
+                if (!Exact(fiche, etiquettes[i]))
+                    continue;
+                if (EstEnCours(fiche))
+                    exacts[i].enCours.push_back(k);
+                else if (EstVierge(fiche))
+                    exacts[i].vierges.push_back(k);
+                else
+                    exacts[i].autres = true;
+            }
+        }
+    }
+
+    // The only one of the exact ones of a kind, less those that other labels have.
+    void Departager(std::vector<NumeroFiche> Exacts::*genre, Correspondance siPlusieurs) {
+        for (std::size_t i = 0; i < etiquettes.size(); ++i) {
+            if (!SansReponse(i))
                 continue;
-            for (const std::size_t i : reste)
-                if (Exact(fiche, etiquettes[i]))
-                    trouves[i] = {trouves[i].nombre == 0 ? k : kAucuneFiche, trouves[i].nombre + 1};
+            std::vector<NumeroFiche> libres;
+            for (const NumeroFiche k : exacts[i].*genre)
+                if (!EstPris(k))
+                    libres.push_back(k);
+            if (libres.size() == 1)
+                Prendre(i, libres.front());
+            else if (!libres.empty())
+                trouves[i].correspondance = siPlusieurs;
         }
     }
 
@@ -90,7 +119,7 @@ struct Recherche {
     void AdmettreLesRetouches() {
         for (std::size_t i = 0; i < etiquettes.size(); ++i) {
             const NumeroFiche k =
-                trouves[i].nombre == 0 ? ContactNumerote(cahier, etiquettes[i]) : kAucuneFiche;
+                SansReponse(i) ? ContactNumerote(cahier, etiquettes[i]) : kAucuneFiche;
             if (k == kAucuneFiche || EstPris(k))
                 continue;
             const QsoRecord fiche = FicheDuCahier(cahier, k);
@@ -98,10 +127,24 @@ struct Recherche {
                 std::any_of(etiquettes.begin(), etiquettes.end(),
                             [&fiche](const QslSlotRecord& e) { return Exact(fiche, e); });
             if (EstEnCours(fiche) && !reclame)
-                trouves[i] = {k, 1};
+                Prendre(i, k);
+            else
+                exacts[i].autres = exacts[i].autres || !(EstVierge(fiche) || reclame);
         }
     }
 
+    // Why what is left has no contact.
+    void Motiver() {
+        for (std::size_t i = 0; i < etiquettes.size(); ++i)
+            if (SansReponse(i) &&
+                (exacts[i].autres || !exacts[i].enCours.empty() || !exacts[i].vierges.empty()))
+                trouves[i].correspondance = Correspondance::DejaMarquee;
+    }
+
+    void Prendre(std::size_t i, NumeroFiche k) { trouves[i] = {k, Correspondance::Unique}; }
+    [[nodiscard]] bool SansReponse(std::size_t i) const {
+        return trouves[i].correspondance == Correspondance::Aucune;
+    }
     [[nodiscard]] bool EstPris(NumeroFiche k) const {
         return std::any_of(trouves.begin(), trouves.end(),
                            [k](const ContactTrouve& trouve) { return trouve.fiche == k; });
@@ -110,6 +153,7 @@ struct Recherche {
     const Cahier& cahier;
     std::span<const QslSlotRecord> etiquettes;
     std::vector<ContactTrouve> trouves;
+    std::vector<Exacts> exacts;
 };
 
 } // namespace
@@ -127,9 +171,13 @@ NumeroFiche ContactNumerote(const Cahier& cahier, const QslSlotRecord& etiquette
 std::vector<ContactTrouve> TrouverContacts(const Cahier& cahier,
                                            std::span<const QslSlotRecord> etiquettes) {
     Recherche recherche(cahier, etiquettes);
-    recherche.CroireLesNumeros();
-    recherche.ChercherLesExacts();
+    recherche.CroireLesNumeros(EstEnCours);
+    recherche.ReleverLesExacts();
+    recherche.Departager(&Exacts::enCours, Correspondance::Plusieurs);
+    recherche.CroireLesNumeros(EstVierge);
+    recherche.Departager(&Exacts::vierges, Correspondance::PlusieursVierges);
     recherche.AdmettreLesRetouches();
+    recherche.Motiver();
     return std::move(recherche.trouves);
 }
 
@@ -142,7 +190,7 @@ ContactTrouve ContactDeLaPlace(const Cahier& cahier, const FeuilleQSL& feuille, 
 }
 
 Place EtiquetteSansMarque(const Cahier& cahier, const FeuilleQSL& feuille, NumeroFiche k) {
-    const QsoRecord fiche = FicheDuCahier(cahier, k);
+    const QsoRecord contact = FicheDuCahier(cahier, k);
     std::vector<Place> places;
     std::vector<QslSlotRecord> etiquettes;
     for (Place place = kPremierePlace; place <= kDernierePlace; ++place) {
@@ -150,15 +198,18 @@ Place EtiquetteSansMarque(const Cahier& cahier, const FeuilleQSL& feuille, Numer
             continue;
         const QslSlotRecord etiquette = LireEnregistrement(feuille, place);
         const bool numerote = Numero(cahier, etiquette) == k && MomentConnu(etiquette);
-        if (!MemeMoment(fiche, etiquette) || !(numerote || MemeIndicatif(fiche, etiquette)))
+        if (!MemeMoment(contact, etiquette) || !(numerote || MemeIndicatif(contact, etiquette)))
             continue;
         places.push_back(place);
         etiquettes.push_back(etiquette);
     }
     const std::vector<ContactTrouve> trouves = TrouverContacts(cahier, etiquettes);
-    for (std::size_t i = 0; i < places.size(); ++i)
-        if (trouves[i].nombre == 0)
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const auto& [fiche, correspondance] = trouves[i];
+        if (fiche == k || correspondance == Correspondance::Aucune ||
+            correspondance == Correspondance::PlusieursVierges)
             return places[i];
+    }
     return kAucunePlace;
 }
 

@@ -16,17 +16,28 @@ namespace orvalis {
 /// MQSL of a contact that stands on the sheet.
 inline constexpr std::string_view kEnCours = "En cours";
 
-/// What was found for a label. Only a single contact is ever touched for it.
+/// Whether a label has its contact, and why not.
+enum class Correspondance : unsigned char {
+    Aucune,           ///< no contact is the label's
+    Unique,           ///< one is: the only one that is ever touched
+    Plusieurs,        ///< more than one "En cours" could be
+    PlusieursVierges, ///< more than one could be, all with a blank MQSL
+    DejaMarquee       ///< the label's contact has another mark, or is another label's
+};
+
+/// What was found for a label.
 struct ContactTrouve {
-    NumeroFiche fiche;       ///< none when there is none, or more than one
-    std::int32_t nombre = 0; ///< contacts that came into question
+    NumeroFiche fiche; ///< none unless Unique
+    Correspondance correspondance = Correspondance::Aucune;
 };
 
 /// The contacts that the labels stand for, one answer for each label. The number on a label goes
 /// stale when the log is sorted or a contact deleted, so it is believed at once only when that
 /// contact is "En cours" and has the label's callsign, date and time. Otherwise the one contact
-/// "En cours" with all three is taken; failing that, the numbered one with the callsign, or the
-/// date and time, unless it is another of these labels'. Reads the logbook once at most.
+/// "En cours" with all three is taken; failing that, the one with all three whose MQSL is blank,
+/// since a program killed behind the label never marked it; failing that, the numbered one "En
+/// cours" with the callsign, or the date and time, unless it is another of these labels'. Where
+/// several have all three, the numbered one is taken. Reads the logbook once at most.
 [[nodiscard]] std::vector<ContactTrouve> TrouverContacts(const Cahier& cahier,
                                                          std::span<const QslSlotRecord> etiquettes);
 

@@ -2,9 +2,11 @@
 
 #include "core/dossier.h"
 #include "core/projection.h"
+#include "core/remplacement.h"
 #include "core/texte.h"
 
 #include <algorithm>
+#include <span>
 #include <system_error>
 
 namespace orvalis {
@@ -48,20 +50,50 @@ std::string_view TexteVoie(const EtatFeuille& feuille) {
     return feuille.boites[kBoiteManager];
 }
 
-void CreerFeuille(FeuilleQSL& feuille) {
-    std::array<QslSlotRecord, kNbEtiquettes> etiquettes;
-    for (QslSlotRecord& etiquette : etiquettes)
+std::span<char> Octets(Planche& planche) {
+    return {planche.front().octets.data(), sizeof planche};
+}
+
+// An empty file is what a creation that was cut has left.
+bool Manque(const std::filesystem::path& chemin) {
+    std::error_code erreur;
+    return !Present(chemin) || (std::filesystem::file_size(chemin, erreur) == 0 && !erreur);
+}
+
+void CreerFeuille(const std::filesystem::path& chemin) {
+    Planche planche;
+    for (QslSlotRecord& etiquette : planche)
         MettreChamp(etiquette, ChampEtiquette::Indicatif, kMarqueLibre);
-    // One write for all, or no sheet: one cut short would show its missing places as blank labels.
-    try {
-        feuille.fichier.Ecrire(0, {etiquettes.front().octets.data(), sizeof etiquettes});
-        feuille.fichier.Synchroniser();
-    } catch (const Erreur&) {
-        std::error_code erreur;
-        std::filesystem::remove(feuille.chemin, erreur);
-        throw;
+    const std::span<const char> octets = Octets(planche);
+    RemplacerFichier(chemin, {octets.data(), octets.size()});
+}
+
+Planche LirePlanche(const Fichier& fichier) {
+    Planche planche;
+    static_cast<void>(fichier.Lire(0, Octets(planche))); // short: the rest stays blank
+    return planche;
+}
+
+void MontrerPlanche(FeuilleQSL& feuille, const Planche& planche) {
+    feuille.connue = planche;
+    for (std::size_t i = 0; i < planche.size(); ++i) {
+        const bool libre = EstLibre(planche[i]);
+        feuille.etats[i] = libre ? EtatEtiquette::Libre : EtatEtiquette::Preparee;
+        feuille.indicatifs[i] =
+            libre ? std::string{} : TexteRogne(planche[i], ChampEtiquette::Indicatif);
     }
-    feuille.boites[kBoiteIndicatif] = kMarqueLibre;
+}
+
+// The callsigns of the labels of `avant` that are on no place of `apres`: " N'y sont plus..."
+std::string Disparues(const Planche& avant, const Planche& apres) {
+    std::string liste;
+    for (const QslSlotRecord& etiquette : avant) {
+        const std::string indicatif = TexteRogne(etiquette, ChampEtiquette::Indicatif);
+        if (!EstLibre(etiquette) && !indicatif.empty() &&
+            std::find(apres.begin(), apres.end(), etiquette) == apres.end())
+            liste += (liste.empty() ? "" : ", ") + indicatif;
+    }
+    return liste.empty() ? "" : " N'y sont plus\u00A0: " + liste + ".";
 }
 
 } // namespace
@@ -85,29 +117,39 @@ VuePlace VoirPlace(const EtatFeuille& feuille, Place place) {
     return {"Retirer", libre, false, true};
 }
 
-void OuvrirFeuilleQSL(FeuilleQSL& feuille) {
-    feuille.fichier.Fermer();
-    feuille.fichier = Fichier(feuille.chemin, ModeFichier::Creation);
+bool OuvrirFeuilleQSL(FeuilleQSL& feuille) {
+    const bool manque = Manque(feuille.chemin);
+    if (manque)
+        CreerFeuille(feuille.chemin);
+    feuille.fichier = Fichier(feuille.chemin, ModeFichier::LectureEcriture);
+    return manque;
 }
 
 void ChargerFeuilleQSL(FeuilleQSL& feuille, const std::filesystem::path& dossier) {
     feuille.chemin = TrouverFichier(dossier, kNomFeuilleQSL);
-    const bool presente = Present(feuille.chemin);
     ViderBoites(feuille);
     feuille.vue = {};
     feuille.fraiche = false;
     feuille.etiquetteEnCours = kAucunePlace;
-    OuvrirFeuilleQSL(feuille);
-    if (!presente)
-        CreerFeuille(feuille);
-    for (Place place = kPremierePlace; place <= kDernierePlace; ++place) {
-        const QslSlotRecord etiquette = LireEnregistrement(feuille, place);
-        const bool libre = EstLibre(etiquette);
-        feuille.etats[EtatFeuille::Rang(place)] =
-            libre ? EtatEtiquette::Libre : EtatEtiquette::Preparee;
-        feuille.indicatifs[EtatFeuille::Rang(place)] =
-            libre ? std::string{} : TexteRogne(etiquette, ChampEtiquette::Indicatif);
-    }
+    if (OuvrirFeuilleQSL(feuille))
+        feuille.boites[kBoiteIndicatif] = kMarqueLibre;
+    MontrerPlanche(feuille, LirePlanche(feuille.fichier));
+}
+
+std::string SuivreFeuille(FeuilleQSL& feuille) {
+    feuille.chemin = TrouverFichier(feuille.chemin.parent_path(), kNomFeuilleQSL);
+    const bool neuve = OuvrirFeuilleQSL(feuille);
+    const Planche planche = LirePlanche(feuille.fichier);
+    if (planche == feuille.connue && !neuve)
+        return {};
+    const std::string disparues = Disparues(feuille.connue, planche);
+    MontrerPlanche(feuille, planche);
+    feuille.vue.restaurer = false;
+    return "La feuille d'étiquettes «\u00A0" + feuille.chemin.string() +
+           (neuve ? "\u00A0» avait disparu\u00A0: en voici une neuve."
+                  : "\u00A0» a été changée par un autre programme\u00A0: la voici telle qu'elle "
+                    "est.") +
+           disparues;
 }
 
 QslSlotRecord LireEnregistrement(const FeuilleQSL& feuille, Place place) {
@@ -137,6 +179,7 @@ void EcrireEtiquette(FeuilleQSL& feuille, Place place) {
         MettreChamp(feuille.tampon, lien.champ, feuille.boites[lien.ecrite]);
     MettreChamp(feuille.tampon, ChampEtiquette::Voie, TexteVoie(feuille));
     EcrireEntier(feuille.fichier, Position(place), feuille.tampon.octets);
+    feuille.connue[EtatFeuille::Rang(place)] = feuille.tampon;
 }
 
 void ProchaineEtiquetteLibre(FeuilleQSL& feuille, Place& place) {

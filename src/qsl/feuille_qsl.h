@@ -80,11 +80,15 @@ struct EtatFeuille {
     friend bool operator==(const EtatFeuille&, const EtatFeuille&) = default;
 };
 
+/// The records of all places.
+using Planche = std::array<QslSlotRecord, kNbEtiquettes>;
+
 /// The sheet with its file.
 struct FeuilleQSL : EtatFeuille {
     std::filesystem::path chemin;
     Fichier fichier;
     QslSlotRecord tampon; ///< label last read or written
+    Planche connue;       ///< what the screen stands for: as the file was loaded or written last
 };
 
 /// The two buttons of one place.
@@ -99,13 +103,20 @@ struct VuePlace {
 /// "Etiquette N° " and the number.
 [[nodiscard]] std::string LegendeEtiquette(Place place);
 
-/// Closes the sheet file if it is open and opens it again; creates it, empty, when it is missing.
-void OuvrirFeuilleQSL(FeuilleQSL& feuille);
+/// Opens the sheet file again, which stays open when that fails. A sheet that is missing, or empty
+/// because its creation was cut, is first created as a whole, with sixteen free records; returns
+/// whether it was.
+bool OuvrirFeuilleQSL(FeuilleQSL& feuille);
 
 /// Opens the sheet of the program folder `dossier` and sets the state of every place from it. A
-/// missing file is created with sixteen free records; a short or damaged one is only read: what
-/// it lacks counts as blank. Empties the boxes; places withdrawn before are free again.
+/// missing or empty file is created; a short or damaged one is only read: what it lacks counts as
+/// blank. Empties the boxes; places withdrawn before are free again.
 void ChargerFeuilleQSL(FeuilleQSL& feuille, const std::filesystem::path& dossier);
+
+/// Opens what now lies at the sheet's path and compares it with what the screen stands for. Where
+/// another program replaced, changed or removed it, sets the state of every place anew and returns
+/// what the operator must be told; the label in the editor stays. Empty when nothing changed.
+[[nodiscard]] std::string SuivreFeuille(FeuilleQSL& feuille);
 
 /// The record of a place, blank beyond the end of the file. For the printer and for checks:
 /// changes nothing.
@@ -114,8 +125,9 @@ void ChargerFeuilleQSL(FeuilleQSL& feuille, const std::filesystem::path& dossier
 /// Reads a place into the boxes and the route option; NrTag names it.
 void LireEtiquette(FeuilleQSL& feuille, Place place);
 
-/// Opens the sheet again and writes a place from the boxes and the route option. The caller
-/// flushes (feuille.fichier.Synchroniser()).
+/// Opens the sheet again and writes a place from the boxes and the route option. The caller has
+/// seen to it that the place is what the screen says (SuivreFeuille), and flushes
+/// (feuille.fichier.Synchroniser()).
 void EcrireEtiquette(FeuilleQSL& feuille, Place place);
 
 /// From `place` upward, the first free one, or 16 when there is none. NrTag names it; when 16

@@ -1,5 +1,6 @@
 #include "qsl/vie_etiquette.h"
 
+#include "core/erreurs.h"
 #include "core/texte.h"
 #include "qsl/contact_etiquette.h"
 
@@ -13,9 +14,13 @@ constexpr std::string_view kDejaPlacee = " Etiquette déjà placée ! ";
 constexpr std::string_view kSansIndicatif = " Indicatif manquant ! ";
 constexpr std::string_view kConsultation = " Consultation seule ! ";
 constexpr std::string_view kMessageConsultation =
-    "Ce cahier est ouvert en consultation : les étiquettes et les fiches restent inchangées.";
+    "Ce cahier est ouvert en consultation\u00A0: les étiquettes et les fiches restent inchangées.";
+constexpr std::string_view kRienDeFait = " Rien n'a été écrit ni imprimé.";
 
+// During a review NrTag names the label that may be erased: the search waits for its end.
 void ChercherPlace(FeuilleQSL& feuille) {
+    if (feuille.vue.supprimer)
+        return;
     Place place = kPremierePlace;
     ProchaineEtiquetteLibre(feuille, place);
 }
@@ -35,23 +40,61 @@ void CommencerEtiquette(FeuilleQSL& feuille) {
     feuille.etiquetteEnCours = kAucunePlace;
 }
 
-std::string Rappel(Place place, const QslSlotRecord& etiquette) {
-    const std::string indicatif = TexteRogne(etiquette, ChampEtiquette::Indicatif);
-    return LegendeEtiquette(place) + (indicatif.empty() ? "" : " (" + indicatif + ")") +
-           " : aucune fiche du cahier ne lui correspond, aucune n'a été modifiée.";
+// The one gate to the places: whether the sheet still is what the screen says. If not, it is shown
+// as it is now and the operator told; a label under review or print may then be another.
+bool Accorder(FeuilleQSL& feuille, ReponseQSL& reponse) {
+    try {
+        reponse.message = SuivreFeuille(feuille);
+    } catch (const Erreur& echec) {
+        reponse.message = echec.what();
+        return false;
+    }
+    if (reponse.message.empty())
+        return true;
+    feuille.vue.controle = false;
+    if (feuille.vue.supprimer)
+        CommencerEtiquette(feuille);
+    ChercherPlace(feuille);
+    ControlerImpression(feuille);
+    return false;
 }
 
-// Sets MQSL of the contact of the label at `place`, or tells that there is none.
-void Marquer(Cahier& cahier, NumeroFiche fiche, std::string_view maQsl, Place place,
+// The same before a place is written, printed or freed, which is then left undone.
+bool PeutToucher(FeuilleQSL& feuille, ReponseQSL& reponse) {
+    const bool accordee = Accorder(feuille, reponse);
+    if (!accordee)
+        reponse.message += kRienDeFait;
+    return accordee;
+}
+
+// Which label has no contact, and why.
+std::string Rappel(Place place, const QslSlotRecord& etiquette, Correspondance pourquoi) {
+    std::string quoi;
+    for (const ChampEtiquette champ :
+         {ChampEtiquette::Indicatif, ChampEtiquette::Date, ChampEtiquette::Heure})
+        if (const std::string texte = TexteRogne(etiquette, champ); !texte.empty())
+            quoi += (quoi.empty() ? "" : " ") + texte;
+    const std::string_view raison =
+        pourquoi == Correspondance::DejaMarquee
+            ? "la fiche qui lui correspond est déjà marquée, elle n'a pas été modifiée."
+        : pourquoi == Correspondance::Aucune
+            ? "aucune fiche du cahier ne lui correspond, aucune n'a été modifiée."
+            : "plusieurs fiches du cahier lui correspondent, aucune n'a été modifiée.";
+    return LegendeEtiquette(place) + (quoi.empty() ? "" : " (" + quoi + ")") +
+           "\u00A0: " + std::string{raison};
+}
+
+// Sets MQSL of the contact of the label at `place`, or tells why there is none.
+void Marquer(Cahier& cahier, const ContactTrouve& trouve, std::string_view maQsl, Place place,
              const QslSlotRecord& etiquette, ReponseQSL& reponse) {
-    if (fiche != kAucuneFiche) {
-        MarquerContact(cahier, fiche, maQsl);
+    if (trouve.correspondance == Correspondance::Unique) {
+        MarquerContact(cahier, trouve.fiche, maQsl);
         reponse.marque = true;
         return;
     }
     if (!reponse.message.empty())
         reponse.message += '\n';
-    reponse.message += Rappel(place, etiquette);
+    reponse.message += Rappel(place, etiquette, trouve.correspondance);
 }
 
 // Writes a place free from the boxes, of which the first `derniere` are emptied before.
@@ -94,15 +137,23 @@ void RemplirBoites(FeuilleQSL& feuille, NumeroFiche k, const QsoRecord& fiche) {
     feuille.boites[kBoiteLigne1] = feuille.ligneMemorisee;
 }
 
-} // namespace
-
-void MontrerFeuille(FeuilleQSL& feuille) {
-    if (feuille.vue.controle)
-        return;
+void OuvrirPanneau(FeuilleQSL& feuille) {
     CommencerEtiquette(feuille);
     feuille.vue.panneau = true;
     ChercherPlace(feuille);
     ControlerImpression(feuille);
+}
+
+} // namespace
+
+ReponseQSL MontrerFeuille(FeuilleQSL& feuille) {
+    ReponseQSL reponse;
+    if (feuille.vue.controle)
+        return reponse;
+    static_cast<void>(Accorder(feuille, reponse));
+    OuvrirPanneau(feuille);
+    reponse.fait = true;
+    return reponse;
 }
 
 ReponseClic PreparerEtiquette(Cahier& cahier, FeuilleQSL& feuille, NumeroFiche k) {
@@ -114,6 +165,7 @@ ReponseClic PreparerEtiquette(Cahier& cahier, FeuilleQSL& feuille, NumeroFiche k
         return {};
     ReponseClic clic{SuiteClic::Panneau, {}};
     clic.reponse.fait = true;
+    static_cast<void>(Accorder(feuille, clic.reponse));
     if (EtiquetteSansMarque(cahier, feuille, k) != kAucunePlace) {
         clic.suite = SuiteClic::Retabli;
         MarquerContact(cahier, k, kEnCours);
@@ -121,7 +173,7 @@ ReponseClic PreparerEtiquette(Cahier& cahier, FeuilleQSL& feuille, NumeroFiche k
         clic.reponse.marque = true;
         return clic;
     }
-    MontrerFeuille(feuille);
+    OuvrirPanneau(feuille);
     RemplirBoites(feuille, k, fiche);
     return clic;
 }
@@ -182,6 +234,8 @@ ReponseQSL ValiderEtiquette(Cahier& cahier, FeuilleQSL& feuille) {
         feuille.vue.nrTag = refus;
         return reponse;
     }
+    if (!PeutToucher(feuille, reponse))
+        return reponse;
     Place place = kPremierePlace;
     ProchaineEtiquetteLibre(feuille, place);
     if (feuille.Etat(place) != EtatEtiquette::Libre) {
@@ -197,8 +251,10 @@ ReponseQSL ValiderEtiquette(Cahier& cahier, FeuilleQSL& feuille) {
     LireEtiquette(feuille, place);
     feuille.etats[EtatFeuille::Rang(place)] = EtatEtiquette::Preparee;
     feuille.indicatifs[EtatFeuille::Rang(place)] = feuille.boites[kBoiteIndicatif];
-    Marquer(cahier, ContactNumerote(cahier, feuille.tampon), kEnCours, place, feuille.tampon,
-            reponse);
+    const NumeroFiche fiche = ContactNumerote(cahier, feuille.tampon);
+    Marquer(cahier,
+            {fiche, fiche == kAucuneFiche ? Correspondance::Aucune : Correspondance::Unique},
+            kEnCours, place, feuille.tampon, reponse);
     SynchroniserCahier(cahier);
     ControlerImpression(feuille);
     QuitterFeuille(feuille);
@@ -215,9 +271,12 @@ ReponseQSL SupprimerEtiquette(Cahier& cahier, FeuilleQSL& feuille) {
         reponse.message = kMessageConsultation;
         return reponse;
     }
+    if (!PeutToucher(feuille, reponse))
+        return reponse;
     LireEtiquette(feuille, place);
-    Marquer(cahier, ContactDeLaPlace(cahier, feuille, place).fiche, "", place, feuille.tampon,
-            reponse);
+    const ContactTrouve trouve = ContactDeLaPlace(cahier, feuille, place);
+    if (trouve.correspondance != Correspondance::PlusieursVierges) // all blank already
+        Marquer(cahier, trouve, "", place, feuille.tampon, reponse);
     SynchroniserCahier(cahier);
     // Kept on purpose, for the sheet files: box 11 is not emptied, so that the free place keeps the
     // contact's number.
@@ -265,6 +324,21 @@ std::vector<Place> EtiquettesAImprimer(const EtatFeuille& feuille) {
     return places;
 }
 
+ReponseQSL AutoriserImpression(const Cahier& cahier, FeuilleQSL& feuille,
+                               std::string_view station) {
+    ReponseQSL reponse;
+    if (feuille.vue.controle)
+        return reponse;
+    if (cahier.EstLeNotre())
+        reponse.fait = PeutToucher(feuille, reponse);
+    else
+        reponse.message = "Un autre cahier est ouvert\u00A0: avant d'imprimer les étiquettes, "
+                          "rouvrez celui de " +
+                          std::string{station} +
+                          " («\u00A0Fichier\u00A0», «\u00A0Ouvrir Fichier courant\u00A0»).";
+    return reponse;
+}
+
 void DemanderControle(FeuilleQSL& feuille) {
     feuille.vue.controle = true;
 }
@@ -278,6 +352,8 @@ ReponseQSL ToutEstParfait(Cahier& cahier, FeuilleQSL& feuille, std::string_view 
         reponse.message = kMessageConsultation;
         return reponse;
     }
+    if (!PeutToucher(feuille, reponse))
+        return reponse;
     const std::vector<Place> places = EtiquettesAImprimer(feuille);
     std::vector<QslSlotRecord> etiquettes;
     etiquettes.reserve(places.size());
@@ -285,7 +361,7 @@ ReponseQSL ToutEstParfait(Cahier& cahier, FeuilleQSL& feuille, std::string_view 
         etiquettes.push_back(LireEnregistrement(feuille, place));
     const std::vector<ContactTrouve> trouves = TrouverContacts(cahier, etiquettes);
     for (std::size_t i = 0; i < places.size(); ++i)
-        Marquer(cahier, trouves[i].fiche, aujourdhui, places[i], etiquettes[i], reponse);
+        Marquer(cahier, trouves[i], aujourdhui, places[i], etiquettes[i], reponse);
     SynchroniserCahier(cahier);
     for (const Place place : places)
         LibererPlace(feuille, place, kNbBoitesEtiquette);

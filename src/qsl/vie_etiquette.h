@@ -8,6 +8,10 @@
 // between leaves a label too many, which PreparerEtiquette or SupprimerEtiquette repairs, never a
 // contact "En cours" without its label. On a logbook opened as "another", a copy of the own one
 // included, nothing is written.
+//
+// Other programs may replace, change or remove the sheet. What writes, prints or frees a place
+// first sees to it that the sheet is what the screen says; otherwise it does nothing but show and
+// tell.
 #pragma once
 
 #include "core/cahier.h"
@@ -26,8 +30,9 @@ struct ReponseQSL {
 };
 
 /// Shows the panel: an empty editor, no review, NrTag on the next free place, print button as
-/// needed. The caller has seen to it that the sheet is loaded and no other panel is busy.
-void MontrerFeuille(FeuilleQSL& feuille);
+/// needed. The caller has seen to it that the sheet is loaded and no other panel is busy. The
+/// message tells of a sheet that another program changed.
+[[nodiscard]] ReponseQSL MontrerFeuille(FeuilleQSL& feuille);
 
 /// What the press on box 14 came to.
 enum class SuiteClic {
@@ -67,7 +72,7 @@ void ChoisirVoie(FeuilleQSL& feuille, VoieQSL voie);
 [[nodiscard]] ReponseQSL ValiderEtiquette(Cahier& cahier, FeuilleQSL& feuille);
 
 /// BtDelQSL, during a review: empties the contact's MQSL and frees the place. The message names a
-/// label that had no contact.
+/// label that had no contact and says why; nothing is said where MQSL was blank already.
 [[nodiscard]] ReponseQSL SupprimerEtiquette(Cahier& cahier, FeuilleQSL& feuille);
 
 /// BtLeaveQSL: ends the review, empties the boxes; the label stays as it was.
@@ -82,6 +87,11 @@ void RestaurerFeuille(FeuilleQSL& feuille);
 /// Shows BtPrintQSL exactly when a place from `depuis` on holds a prepared label. Operators see it
 /// asked of the whole sheet, from place 1, everywhere.
 void ControlerImpression(FeuilleQSL& feuille, Place depuis = kPremierePlace);
+
+/// BtPrintQSL: `fait` when the labels may be printed. Not while another logbook is on show, whose
+/// contacts they are not: the message names the one of `station`, which is to be reopened.
+[[nodiscard]] ReponseQSL AutoriserImpression(const Cahier& cahier, FeuilleQSL& feuille,
+                                             std::string_view station);
 
 /// The places that BtPrintQSL prints, all on one sheet.
 [[nodiscard]] std::vector<Place> EtiquettesAImprimer(const EtatFeuille& feuille);

@@ -68,6 +68,8 @@ std::string DegatDeLaFeuille(const std::string& a, const std::string& b, const s
 
 std::string Degat(Fichiers avant, Fichiers apres, Fichiers trouves) {
     const std::string c = "F5ABC.Vek", f = "FeuilleQSL.txt";
+    if (trouves.contains(f) && trouves[f].empty())
+        return "a sheet of 0 bytes";
     std::string degat = DegatDuCahier(avant[c], apres[c], trouves[c]);
     if (degat.empty())
         degat = DegatDeLaFeuille(avant[f], apres[f], trouves[f], trouves[c]);

@@ -43,13 +43,24 @@ struct ServiceQSL {
     ServiceQSL(const std::string& fiches, const std::string& etiquettes) {
         cahier = Ouvrir(dossier.Poser("F5ABC.Vek", fiches + Fin()));
         dossier.Poser("feuilleQSL.TXT", etiquettes);
+        dossier.Poser("feuilleQSL.TXT.tmp", Fois(20, kLibre)); // of a creation that was cut
         ChargerFeuilleQSL(feuille, dossier / "");
     }
-    [[nodiscard]] std::string OctetsFeuille() const { return Lire(dossier / "feuilleQSL.TXT"); }
+    [[nodiscard]] std::string OctetsFeuille() const { return Lire(feuille.chemin); }
+
+    // Another program puts a label on a place of the sheet; or without one, removes the sheet.
+    void ChangerDehors(int place, const std::string& etiquette) const {
+        std::string octets = OctetsFeuille();
+        std::filesystem::remove(feuille.chemin);
+        if (!etiquette.empty())
+            dossier.Poser("feuilleQSL.TXT",
+                          octets.replace(static_cast<std::size_t>(place - 1) * 106, 106,
+                                         Etiquettes(etiquette)));
+    }
 
     // Gestures with semicolons between them, a place or contact number behind some, and a text
-    // behind `boite`. Returns in words what is on show then, and NrTag between quotes; after "dit"
-    // what a message is about.
+    // behind `boite` and `dehors`. Returns in words what is on show then, and NrTag between quotes;
+    // after "dit" what a message is about, and the first word behind each of its colons.
     std::string Faire(const std::string& gestes) {
         ReponseQSL reponse;
         std::string texte;
@@ -66,7 +77,15 @@ struct ServiceQSL {
             {"supprimer", [&](int) { reponse = SupprimerEtiquette(cahier, feuille); }},
             {"laisser", [&](int) { LaisserEtiquette(feuille); }},
             {"restaurer", [&](int) { RestaurerFeuille(feuille); }},
-            {"imprimer", [&](int) { DemanderControle(feuille); }},
+            {"imprimer",
+             [&](int) {
+                 reponse = AutoriserImpression(cahier, feuille, "F5ABC");
+                 if (reponse.fait)
+                     DemanderControle(feuille);
+             }},
+            {"montrer", [&](int) { reponse = MontrerFeuille(feuille); }},
+            {"charger", [&](int) { ChargerFeuilleQSL(feuille, dossier / ""); }},
+            {"dehors", [&](int k) { ChangerDehors(k, texte); }},
             {"parfait", [&](int) { reponse = ToutEstParfait(cahier, feuille, "J"); }},
             {"autre", [&](int) { cahier.autre = "AUTRE"; }}, // another logbook on show
         };
@@ -84,10 +103,16 @@ struct ServiceQSL {
         for (std::size_t i = 0; i < noms.size(); ++i)
             vus += visibles[i] ? noms[i] + ' ' : "";
         vus += '"' + v.nrTag + '"';
-        for (const std::string& ligne : Couper(reponse.message, "\n"))
-            vus += " dit " + Couper(ligne, " : ")[0];
-        for (std::size_t p = 0; (p = vus.find("Etiquette N")) != vus.npos;)
-            vus.erase(p, 10);
+        for (const std::string& ligne : Couper(reponse.message, "\n")) {
+            const auto parties = Couper(ligne, "\u00A0: ");
+            vus += " dit " + parties[0];
+            for (std::size_t i = 1; i < parties.size(); ++i)
+                vus += ' ' + parties[i].substr(0, parties[i].find(' '));
+        }
+        for (const std::string& mot :
+             {std::string("Etiquette N"), " «\u00A0" + feuille.chemin.string() + "\u00A0» "})
+            for (std::size_t p = 0; (p = vus.find(mot)) != vus.npos;)
+                vus.erase(p, mot.size() - 1);
         return vus;
     }
 };
@@ -111,7 +136,7 @@ void Essayer(const std::string& gestes, const std::string& table) {
 TEST(FeuilleQSL, UneFeuilleAbimeeGardeSesOctets) {
     const std::pair<std::string, std::size_t> cas[] = {
         // a sheet, and its places that are not free
-        {"", 16},
+        {"", 0}, // set up
         {kLibre + kLibre.substr(0, 50), 14},
         {kLibre + "**", 15},
         {Feuille(Brute({{2, "***"}}, 106)), 0},
@@ -121,7 +146,7 @@ TEST(FeuilleQSL, UneFeuilleAbimeeGardeSesOctets) {
     for (const auto& [octets, attendu] : cas) {
         const ServiceQSL service("", octets);
         EXPECT_EQ(EtiquettesAImprimer(service.feuille).size(), attendu);
-        EXPECT_EQ(service.OctetsFeuille(), octets);
+        EXPECT_EQ(service.OctetsFeuille(), octets.empty() ? Feuille("") : octets);
         EXPECT_FALSE(std::filesystem::exists(service.dossier / "FeuilleQSL.txt"));
     }
 }
@@ -152,6 +177,12 @@ TEST(FluxEtiquettes, PlacerUneEtiquette) {
      -> panneau quitter " Indicatif manquant ! "
  review : F18h | Z01h | fiche 1; choix 1; entree; valider
      -> panneau valider supprimer laisser imprimer " Etiquette déjà placée ! "
+ review left : F18h | Z01h | fiche 1; choix 1; laisser -> panneau quitter imprimer "N° 2"
+ withdrawn in review : F18h | Z01h | fiche 1; choix 1; choix 2; choix 2; choix 3
+     -> panneau supprimer laisser imprimer restaurer "N° 1"
+ restored in review : F18h | Z01h | fiche 1; choix 2; choix 1; restaurer
+     -> panneau supprimer laisser imprimer "N° 1"
+ loaded again : F18h | Z01h | fiche 1; choix 2; choix 1; entree; charger -> quitter ""
  elsewhere : F18h | | fiche 1; autre; valider -> panneau quitter " Consultation seule ! "
  dated : F18h J | | fiche 1 -> quitter ""
  another logbook : F18h | | autre; fiche 1 -> quitter "")");
@@ -165,9 +196,15 @@ TEST(FluxEtiquettes, ContactDUneEtiquetteImprimee) {
  checked : F18h En cours | F18h 1 | imprimer; choix 1; tag 1; supprimer; restaurer
      -> quitter controle ""
  review elsewhere : F18h En cours | F18h 1 | choix 1; autre; supprimer
-     -> supprimer laisser "N° 1" dit Ce cahier est ouvert en consultation
- elsewhere : F18h En cours | F18h 1 | autre; imprimer; parfait
-     -> quitter imprimer "" dit Ce cahier est ouvert en consultation)");
+     -> supprimer laisser "N° 1" dit Ce cahier est ouvert en consultation les
+ elsewhere : F18h En cours | F18h 1 | imprimer; autre; parfait
+     -> quitter imprimer "" dit Ce cahier est ouvert en consultation les
+ print elsewhere : F18h En cours | F18h 1 | autre; imprimer
+     -> quitter "" dit Un autre cahier est ouvert avant
+ erased, no mark : F18h | F18h | choix 1; supprimer -> F18h | | quitter "N° 1"
+ erased twins : F18h, F18h | F18h | choix 1; supprimer -> F18h, F18h | | quitter "N° 1"
+ erased, dated : F18h J | F18h | choix 1; supprimer
+     -> F18h J | | quitter "N° 1" dit N° 1 (F 21/11/26 18) la)");
     // The number may be stale, the contact corrected, or without its mark.
     Essayer("imprimer; parfait", R"(
  number : A17h En cours, F18h En cours | F18h 2 -> A17h En cours, F18h J | | quitter ""
@@ -177,16 +214,65 @@ TEST(FluxEtiquettes, ContactDUneEtiquetteImprimee) {
  no number : A17h En cours, F18h En cours | F18h -> A17h En cours, F18h J | | quitter ""
  number too high : A17h En cours, F18h En cours | F18h 3 -> A17h En cours, F18h J | | quitter ""
  a word : A17h En cours, F18h En cours | F18h deux -> A17h En cours, F18h J | | quitter ""
- no mark : A17h En cours, F18h | F18h 2 -> A17h En cours, F18h | | quitter "" dit N° 1 (F)
- other mark : A17h En cours, F18h X | F18h 2 -> A17h En cours, F18h X | | quitter "" dit N° 1 (F)
+ other mark : A17h En cours, F18h X | F18h 2
+     -> A17h En cours, F18h X | | quitter "" dit N° 1 (F 21/11/26 18) la
  other hour : A17h En cours, F16h En cours | F18h 1
-     -> A17h En cours, F16h En cours | | quitter "" dit N° 1 (F)
+     -> A17h En cours, F16h En cours | | quitter "" dit N° 1 (F 21/11/26 18) aucune
+ corrected and dated : F16h X | F18h 1 -> F16h X | | quitter "" dit N° 1 (F 21/11/26 18) la
+ corrected, no mark : F16h | F18h 1 -> F16h | | quitter "" dit N° 1 (F 21/11/26 18) aucune
  twins : A17h En cours, F18h En cours, F18h En cours | F18h 1
-     -> A17h En cours, F18h En cours, F18h En cours | | quitter "" dit N° 1 (F)
+     -> A17h En cours, F18h En cours, F18h En cours | | quitter ""
+     dit N° 1 (F 21/11/26 18) plusieurs
+ two labels : A17h En cours, F18h En cours | F18h 2, F18h 1
+     -> A17h En cours, F18h J | | quitter "" dit N° 2 (F 21/11/26 18) la
+ two stale labels : F18h En cours | F18h 8, F18h 9
+     -> F18h J | | quitter "" dit N° 2 (F 21/11/26 18) la
+ two of nobody's : A17h X | F18h 1, P17h 2
+     -> A17h X | | quitter "" dit N° 1 (F 21/11/26 18) aucune dit N° 2 (P 21/11/26 17) aucune
+ no mark : A17h En cours, F18h | F18h 2 -> A17h En cours, F18h J | | quitter ""
+ no mark, stale number : F18h, A17h En cours | F18h 2 -> F18h J, A17h En cours | | quitter ""
+ no mark, a twin has it : F18h, F18h En cours | F18h 1 -> F18h, F18h J | | quitter ""
+ no mark, another label's twin : F18h En cours, F18h | F18h 1, F18h 8
+     -> F18h J, F18h J | | quitter ""
+ no mark, numbered : F18h, F18h | F18h 2 -> F18h, F18h J | | quitter ""
+ no mark, twins : F18h, F18h | F18h 8
+     -> F18h, F18h | | quitter "" dit N° 1 (F 21/11/26 18) plusieurs
  numbered : A17h En cours, F18h En cours, F18h En cours | F18h 3
      -> A17h En cours, F18h En cours, F18h J | | quitter ""
  a blank label is nobody's : anonyme En cours, F18h En cours | anonyme 1, F18h
-     -> anonyme En cours, F18h J | | quitter "" dit N° 1)");
+     -> anonyme En cours, F18h J | | quitter "" dit N° 1 (21/11/26) aucune)");
+}
+
+// What another program does to the sheet is seen before a place is touched.
+TEST(FluxEtiquettes, UneFeuilleChangeeDehorsEstMontreeEtDite) {
+    const auto changee = [](const std::string& gestes) {
+        return " dit La feuille d'étiquettes a été changée par un autre programme la" + gestes;
+    };
+    Essayer("", R"(
+ opened : F18h | | dehors 1 Z01h; montrer
+     -> F18h | Z01h | panneau quitter imprimer "N° 2")" +
+                    changee("") + R"(
+ from the card : F18h | | dehors 1 F18h; fiche 1
+     -> F18h En cours | F18h | quitter imprimer "N° 2")" +
+                    changee("") + R"(
+ placed : F18h | | fiche 1; choix 2; entree; dehors 1 Z01h; valider
+     -> F18h | Z01h | panneau valider quitter imprimer "N° 2")" +
+                    changee("") + R"(
+ placed at last : F18h | | fiche 1; dehors 1 Z01h; valider; valider
+     -> F18h En cours | Z01h, F18h 1 | quitter imprimer "N° 2"
+ erased : F18h En cours | F18h 1 | choix 1; dehors 1 Z01h; supprimer
+     -> F18h En cours | Z01h | quitter imprimer "N° 2")" +
+                    changee(" F.") + R"(
+ printed : F18h En cours | F18h 1 | dehors 2 Z01h; imprimer
+     -> F18h En cours | F18h 1, Z01h | quitter imprimer "N° 3")" +
+                    changee("") + R"(
+ perfect : F18h En cours | F18h 1 | imprimer; dehors 1 Z01h; parfait
+     -> F18h En cours | Z01h | quitter imprimer "N° 2")" +
+                    changee(" F.") + R"(
+ removed : F18h En cours | F18h 1, Z01h | imprimer; dehors; parfait
+     -> F18h En cours | | quitter "N° 1" dit La feuille d'étiquettes avait disparu en F,
+ removed, placed : F18h | Z01h | fiche 1; dehors; valider; valider
+     -> F18h En cours | F18h 1 | quitter imprimer "N° 1")");
 }
 
 // The program was killed after the label was written, before its contact was marked.
@@ -195,7 +281,10 @@ TEST(FluxEtiquettes, UnContactSansMarqueRecoitSaSeuleMarque) {
  its label : F18h | A17h, F18h 1 | fiche 1 -> F18h En cours | A17h, F18h 1 | quitter ""
  by callsign : F18h | A17h, F18h 8 | fiche 1 -> F18h En cours | A17h, F18h 8 | quitter ""
  by number : F18h | A17h, P18h 1 | fiche 1 -> F18h En cours | A17h, P18h 1 | quitter ""
+ twins : F18h, F18h | F18h 8 | fiche 2 -> F18h, F18h En cours | F18h 8 | quitter ""
+ its twin's : F18h, F18h | F18h 2 | fiche 1 -> panneau quitter imprimer "N° 2"
  other hour : F18h | A17h, F16h 1 | fiche 1 -> panneau quitter imprimer "N° 3"
+ no hour : F | A17h, P   1 | fiche 1 -> panneau quitter imprimer "N° 3"
  neither : F18h | A17h, P18h 8 | fiche 1 -> panneau quitter imprimer "N° 3"
  another contact's : F18h En cours, F18h | F18h 1 | fiche 2 -> panneau quitter imprimer "N° 2")");
     ServiceQSL service(Fiches("F18h"), Feuille(Etiquettes("F18h 1")));
@@ -217,12 +306,12 @@ TEST(FluxEtiquettes, LaFeuilleSeRemplit) {
  released : restaurer -> panneau valider quitter imprimer "N° 2"
  placed : valider -> valider quitter imprimer "N° 2"
  review : choix 16 -> supprimer laisser imprimer "N° 16"
- freed : supprimer -> quitter imprimer "N° 16" dit N° 16 (Z)
+ freed : supprimer -> quitter imprimer "N° 16" dit N° 16 (Z 21/11/26 01) aucune
  none : tag 16; entree; choix 16 -> quitter imprimer restaurer " Plus d'étiquette disponible ! "
  still none : boite 1 N; valider -> quitter imprimer restaurer " Plus d'étiquette disponible ! "
  left : choix 1; tag 1; supprimer -> quitter imprimer restaurer " Plus d'étiquette disponible ! "
  nobody's : choix 16; choix 1; direct; laisser; boite 1 N; boite 11 1; valider
-     -> quitter imprimer restaurer "N° 16" dit N° 16 (N))"))
+     -> quitter imprimer restaurer "N° 16" dit N° 16 (N) aucune)"))
         EXPECT_EQ(service.Faire(gestes), vus) << nom;
     EXPECT_EQ(service.OctetsFeuille(),
               z + Brute({{0, "F"}, {45, "DIRECT"}, {60, "21/11/2618"}, {96, "1"}}, 106) +

@@ -43,7 +43,9 @@ TEST(Qsl, VieDUneEtiquette) {
      MnuGestionFeuilleQSL; actif MnuQuitter MnuEditLocator MnuVoir
  heading : valide F5ABC -> actif BtValidQSL
  stored : touche Alt+B, Alt+V -> caché PictFeuilleQSL; actif PictFiche PictListe
- marked : -> TxtField_14 foyer ligne = En cours|ListeLog|3/3)");
+ marked : -> TxtField_14 foyer ligne = En cours|ListeLog|3/3
+ the next one : menu MnuGestionFeuilleQSL; clic BtTag_5 -> FLdText_1 FLdText_7 = |F5ABC
+ not now : touche Alt+Q -> caché PictFeuilleQSL)");
     EXPECT_EQ(Ecart(banc, autre + Cahier("", "En cours"), kEtiquetteXyz), "");
     // With the keyboard alone; the header is that of the last label.
     banc.Suivre("F2 in box 14 : ligne 2; foyer TxtField_14; touche F2 "
@@ -60,19 +62,28 @@ TEST(Qsl, VieDUneEtiquette) {
     banc.fenetre.reset();
     banc.Ecrire("F5ABC.Vek", Cahier("En cours", "En cours"));
     banc.Ouvrir();
+    std::vector<std::string> operations;
+    banc.systeme.imprimante = [&] { return std::make_unique<Enregistreur>(operations); };
     banc.Suivre(R"(
  sheet : menu MnuGestionFeuilleQSL
      -> BtTag_1 BtTag_3 foyer = F6XYZ/P [1]|Etiquette  [3] libre|BtChoix_1
+ on paper : clic BtPrintQSL; touche Return -> foyer = BtChoix_1
  review : touche Return -> FLdText_5 FLdText_6 = 59+20dB|SSB; lecture FLdText_7
  the way out : -> caché BtQuitQSL; foyer = BtLeaveQSL
  taken off : touche Alt+S -> BtTag_1 = Etiquette  [1] libre)");
+    EXPECT_THAT(operations, testing::IsSupersetOf(Liste(R"(
+ R 300 400 5500 2180; T 1150 420 10g Comic sans MS F5ABC  Confirming QSO with  F6XYZ/P;
+ T 2400 700 10g Comic sans MS Via QSL Manager BEAM 3 EL; T 824 1320 8g Courrier F6XYZ/P;
+ T 1866 1320 8g Courrier 01/02/26; T 2615 1320 8g Courrier 09:05;
+ T 3307 1320 8g Courrier 14.250; T 4104 1320 8g Courrier 59+20dB;
+ T 4956 1320 8g Courrier SSB; T 700 1650 8g Courrier Pse / Tnx  QSL via  BUREAU;)")));
     const std::string liberee = aides::Brute({{0, "***"}, {96, "3"}}, 106); // its number stays
     EXPECT_EQ(Ecart(banc, Cahier("En cours", ""), liberee + kEtiquette1), "");
 
     // Withdrawn places are skipped and never written. Printed: cancelled, failed, to be seen again.
-    std::vector<std::string> operations;
     QPrinter pdf(QPrinter::HighResolution);
     pdf.setOutputFormat(QPrinter::PdfFormat);
+    banc.systeme.imprimante = nullptr;
     banc.Suivre(R"(
  withdrawn : clic BtChoix_1 -> BtChoix_1 NrTag = Libérer|Etiquette N° 3; grisé BtTag_1
  restored : clic BtRestore -> NrTag = Etiquette N° 1; caché BtRestore
@@ -89,40 +100,60 @@ TEST(Qsl, VieDUneEtiquette) {
     EXPECT_TRUE(banc.Lire("essai.pdf").starts_with("%PDF"));
     EXPECT_EQ(Ecart(banc, Cahier("En cours", ""), liberee + kEtiquette1), "");
 
-    // For good; then a label of nobody's.
+    // For good, once the own logbook is on show.
+    operations.clear();
     banc.systeme.imprimante = [&] { return std::make_unique<Enregistreur>(operations); };
-    banc.Suivre("perfect : clic BtPrintQSL; touche Alt+T -> caché PictFeuilleQSL; "
+    banc.Ecrire("AUTRE.Vek", Contacts(1) + Fin());
+    banc.Suivre("another logbook : touche Alt+Q; fichier AUTRE.Vek; menu MnuAutreF, "
+                "MnuGestionFeuilleQSL; clic BtPrintQSL -> averti = \"Un autre cahier est "
+                "ouvert\u00A0: avant d'imprimer les étiquettes, rouvrez celui de F5ABC "
+                "(«\u00A0Fichier\u00A0», «\u00A0Ouvrir Fichier courant\u00A0»).\"; caché "
+                "PictCtrlImpression; foyer = BtPrintQSL");
+    EXPECT_TRUE(operations.empty());
+    banc.Suivre("reopened : touche Alt+Q; menu MnuCourantF, MnuGestionFeuilleQSL\n"
+                "perfect : clic BtPrintQSL; touche Alt+T -> caché PictFeuilleQSL; "
                 "PageText1 contient 21/11/26");
     EXPECT_THAT(operations,
                 testing::IsSupersetOf({"R 6100 400 11300 2180", // place 2
                                        "T 6500 1650 8g Courrier Pse / Tnx  QSL via  F6?X"}));
     EXPECT_EQ(Ecart(banc, Cahier("21/11/26", ""), liberee), "");
-    banc.Suivre(R"(
- nobody's : menu MnuGestionFeuilleQSL; clic BtTag_5; foyer FLdText_11; valide 2, f1zzz
-     -> FLdText_10 FLdText_11 = F1ZZZ|2
- stored : touche Alt+V -> averti = "Etiquette N° 1 (F1ZZZ) : aucune fiche du cahier ne lui
-     correspond, aucune n'a été modifiée.")");
+    // A label of nobody's, which goes with its sheet while it is reviewed.
+    banc.Suivre("nobody's : menu MnuGestionFeuilleQSL; clic BtChoix_1, BtTag_5; foyer FLdText_11; "
+                "valide 2, "
+                "f1zzz -> FLdText_10 FLdText_11 = F1ZZZ|2\n"
+                "stored : touche Alt+V -> averti = \"Etiquette N° 2 (F1ZZZ)\u00A0: aucune fiche du "
+                "cahier ne lui correspond, aucune n'a été modifiée.\"\n"
+                "review : menu MnuGestionFeuilleQSL; touche Return -> foyer = BtLeaveQSL");
+    banc.Ecrire("FeuilleQSL.txt", "");
+    banc.Suivre("emptied : touche Alt+S -> averti = \"La feuille d'étiquettes "
+                "«\u00A0~/FeuilleQSL.txt\u00A0» avait disparu\u00A0: en voici une neuve. N'y sont "
+                "plus\u00A0: F1ZZZ. Rien n'a été écrit ni imprimé.\"; caché BtDelQSL BtPrintQSL; "
+                "actif PictFeuilleQSL; foyer BtChoix_1 = BtChoix_2|Retirer");
+    EXPECT_EQ(Ecart(banc, Cahier("21/11/26", ""), ""), "");
 }
 
 TEST(Qsl, LeServiceAttend) {
     const std::string cahier = Cahier("OK", "");
     Banc banc(cahier);
     banc.Ecrire("F6XYZ.Vek", Contacts(2) + Fin());
+    int impressions = 0;
+    banc.systeme.imprimante = [&impressions] { return ++impressions, nullptr; };
     // The command of the menu, then a press on box 14.
     banc.Suivre(R"(
- idle : menu MnuGestionFeuilleQSL -> actif PictFeuilleQSL
+ idle : menu MnuVirginTags, MnuGestionFeuilleQSL -> actif PictFeuilleQSL
  idle, press : touche Alt+Q; clic TxtField_14 -> actif PictFeuilleQSL
  MQSL not empty : touche Alt+Q; ligne 1; clic TxtField_14 -> caché PictFeuilleQSL
  but corrected : valide OUI; menu MnuGestionFeuilleQSL refusé -> actif FraMsgFiche
  unanswered, press : ligne 2; clic TxtField_12; valide luc; clic TxtField_14 -> caché PictFeuilleQSL
  deletion : clic FraCmdNon, BtKillFiche; menu MnuGestionFeuilleQSL -> caché PictFeuilleQSL
- pairing : clic FraCmdNon; menu MnuJumeler, MnuGestionFeuilleQSL -> caché PictFeuilleQSL
+ pairing : clic FraCmdNon; menu MnuJumeler, MnuVirginTags, MnuGestionFeuilleQSL
+     -> caché PictFeuilleQSL
  another logbook : clic BtPjAnnuler; fichier F6XYZ.Vek; menu MnuAutreF, MnuGestionFeuilleQSL
      -> actif PictFeuilleQSL
  another, press : touche Alt+Q; clic TxtField_14 -> caché PictFeuilleQSL
  entry : menu MnuCourantF; clic BtNewQSO; menu MnuGestionFeuilleQSL refusé
  entry, press : clic TxtField_14 -> caché PictFeuilleQSL)");
-    EXPECT_EQ(Ecart(banc, cahier, ""), "");
+    EXPECT_EQ(Ecart(banc, cahier, "") + std::to_string(impressions), "1");
 }
 
 // A blank page printed leaves the page blank until one is shown again.

@@ -95,7 +95,7 @@ void ChargerFeuille(Plateau& p) {
 void GererFeuille(Plateau& p) {
     if (!ChargerAuBesoin(p))
         return;
-    AgirSurLaFeuille(p, [&p] { MontrerFeuille(p.feuille); });
+    Repondre(p, [&p] { return MontrerFeuille(p.feuille); });
     DonnerFoyerChoix(p, PremierePreparee(p.feuille));
 }
 
@@ -174,7 +174,8 @@ void SurBtValidQSL(Plateau& p) {
 
 void SurBtDelQSL(Plateau& p) {
     const Place place = p.feuille.etiquetteEnCours;
-    if (Repondre(p, [&p] { return SupprimerEtiquette(p.session.cahier, p.feuille); }).fait)
+    Repondre(p, [&p] { return SupprimerEtiquette(p.session.cahier, p.feuille); });
+    if (!p.feuille.vue.supprimer && place != kAucunePlace)
         DonnerFoyerChoix(p, place);
 }
 
@@ -195,6 +196,15 @@ void SurBtRestore(Plateau& p) {
 }
 
 void SurBtPrintQSL(Plateau& p) {
+    const Session& s = p.session;
+    const auto autoriser = [&] {
+        return AutoriserImpression(s.cahier, p.feuille, s.station.indicatif);
+    };
+    if (!Repondre(p, autoriser).fait) {
+        if (!p.feuille.vue.imprimer)
+            DonnerFoyerChoix(p, PremierePreparee(p.feuille));
+        return;
+    }
     std::vector<EtiquettePlacee> etiquettes;
     for (const Place place : EtiquettesAImprimer(p.feuille))
         etiquettes.push_back({place, DonneesDeEtiquette(LireEnregistrement(p.feuille, place))});
@@ -206,7 +216,11 @@ void SurBtPrintQSL(Plateau& p) {
 
 void ConfirmerImpression(Plateau& p) {
     const std::string aujourdhui = DateCourte(p.systeme.Maintenant());
-    if (!Repondre(p, [&] { return ToutEstParfait(p.session.cahier, p.feuille, aujourdhui); }).fait)
+    if (Repondre(p, [&] { return ToutEstParfait(p.session.cahier, p.feuille, aujourdhui); }).fait)
+        return;
+    if (p.feuille.vue.controle) // the sheet could not be opened: he may try again
+        DonnerFoyer(p, {Cible::Revoir});
+    else
         DonnerFoyerChoix(p, PremierePreparee(p.feuille));
 }
 
