@@ -1,7 +1,6 @@
 #include "aides.h"
 #include "print/enregistreur.h"
 #include "print/etiquette.h"
-#include "ui/carte/donnees_etiquette.h"
 
 namespace orvalis::aides::etiquette {
 
@@ -27,17 +26,6 @@ TEST(Etiquette, Remplie) {
     EXPECT_EQ(donnees.texte2 + donnees.route + donnees.mode, "F6KQVBUREAUCW") << "trimmed in place";
     EXPECT_EQ(OrigineDeEtiquette({2, 9}), (OrigineEtiquette{6100, 0}));
     EXPECT_EQ(OrigineDeEtiquette({1, 0}), (OrigineEtiquette{300, 0}));
-}
-
-TEST(Etiquette, TextesDUneEtiquetteDeLaFeuille) {
-    QslSlotRecord etiquette;
-    const std::string octets = " F6XYZ/P       F5ABC          W3\xC9            BUREAU         "
-                               "12/05/0210:0014.250    59+10   SSB  1234      ";
-    octets.copy(etiquette.octets.data(), octets.size());
-    const DonneesEtiquette d = DonneesDeEtiquette(etiquette);
-    EXPECT_EQ(d.indicatif + '|' + d.texte1 + '|' + d.texte2 + '|' + d.route + '|' + d.date + '|' +
-                  d.heure + '|' + d.frequence + '|' + d.report + '|' + d.mode,
-              "F6XYZ/P|F5ABC|W3É|BUREAU|12/05/02|10:00|14.250|59+10|SSB");
 }
 
 TEST(FeuilleImprimee, EtiquettesAuxLongsEnTetes) {

@@ -8,15 +8,16 @@ namespace orvalis::aides::etiquettes {
 
 const std::string kLibre = Brute({{0, "***"}}, 106);
 
-// Contacts like "F18h" or "F18h En cours", with commas between them: a callsign, an hour, and the
-// sent QSL, which goes to the offset `fin`. "anonyme" has neither callsign nor hour.
+// Contacts like "F18h" or "F18h J", with commas between them: a callsign, an hour, and the sent
+// QSL, "E" for "En cours", which goes to the offset `fin`. "anonyme" has neither callsign nor hour.
 std::string Fiches(const std::string& liste, std::size_t date = 15, std::size_t fin = 143,
                    std::size_t taille = kTailleFiche) {
     std::string octets;
     for (const std::string& mots : Couper(liste, ",")) {
         const std::string debut = mots.starts_with("anonyme") ? "   " : mots.substr(0, 3);
         const std::string moment = "21/11/26" + debut.substr(1),
-                          marque = mots.substr(std::min(mots.size(), (mots + ' ').find(' ') + 1));
+                          mot = mots.substr(std::min(mots.size(), (mots + ' ').find(' ') + 1)),
+                          marque = mot == "E" ? "En cours" : mot;
         octets += Brute({{0, debut.substr(0, 1)}, {date, moment}, {fin, marque}}, taille);
     }
     return octets;
@@ -62,39 +63,39 @@ struct ServiceQSL {
     // behind `boite` and `dehors`. Returns in words what is on show then, and NrTag between quotes;
     // after "dit" what a message is about, and the first word behind each of its colons.
     std::string Faire(const std::string& gestes) {
-        ReponseQSL reponse;
+        ReponseQSL r;
+        Cahier& c = cahier;
+        FeuilleQSL& f = feuille;
         std::string texte;
         const std::map<std::string, std::function<void(int)>> actions = {
-            {"fiche",
-             [&](int k) { reponse = PreparerEtiquette(cahier, feuille, NumeroFiche{k}).reponse; }},
-            {"choix", [&](int k) { CliquerChoix(feuille, Place{k}); }},
-            {"tag", [&](int k) { CliquerTag(feuille, Place{k}); }},
-            {"boite",
-             [&](int k) { SaisirBoiteEtiquette(feuille, static_cast<std::size_t>(k), texte); }},
-            {"entree", [&](int) { EntrerBoiteEtiquette(feuille); }},
-            {"direct", [&](int) { ChoisirVoie(feuille, VoieQSL::Direct); }},
-            {"valider", [&](int) { reponse = ValiderEtiquette(cahier, feuille); }},
-            {"supprimer", [&](int) { reponse = SupprimerEtiquette(cahier, feuille); }},
-            {"laisser", [&](int) { LaisserEtiquette(feuille); }},
-            {"restaurer", [&](int) { RestaurerFeuille(feuille); }},
+            {"fiche", [&](int k) { r = PreparerEtiquette(c, f, NumeroFiche{k}).reponse; }},
+            {"choix", [&](int k) { CliquerChoix(f, Place{k}); }},
+            {"tag", [&](int k) { CliquerTag(f, Place{k}); }},
+            {"boite", [&](int k) { SaisirBoiteEtiquette(f, static_cast<std::size_t>(k), texte); }},
+            {"entree", [&](int) { EntrerBoiteEtiquette(f); }},
+            {"direct", [&](int) { ChoisirVoie(f, VoieQSL::Direct); }},
+            {"valider", [&](int) { r = ValiderEtiquette(c, f); }},
+            {"supprimer", [&](int) { r = SupprimerEtiquette(c, f); }},
+            {"laisser", [&](int) { LaisserEtiquette(f); }},
+            {"restaurer", [&](int) { RestaurerFeuille(f); }},
             {"imprimer",
              [&](int) {
-                 reponse = AutoriserImpression(cahier, feuille, "F5ABC");
-                 if (reponse.fait)
-                     DemanderControle(feuille);
+                 r = AutoriserImpression(c, f, "F5ABC");
+                 if (r.fait)
+                     DemanderControle(f);
              }},
-            {"montrer", [&](int) { reponse = MontrerFeuille(feuille); }},
-            {"charger", [&](int) { ChargerFeuilleQSL(feuille, dossier / ""); }},
+            {"montrer", [&](int) { r = MontrerFeuille(f); }},
+            {"charger", [&](int) { ChargerFeuilleQSL(f, dossier / ""); }},
             {"dehors", [&](int k) { ChangerDehors(k, texte); }},
-            {"parfait", [&](int) { reponse = ToutEstParfait(cahier, feuille, "J"); }},
-            {"autre", [&](int) { cahier.autre = "AUTRE"; }}, // another logbook on show
+            {"parfait", [&](int) { r = ToutEstParfait(c, f, "J"); }},
+            {"autre", [&](int) { c.autre = "AUTRE"; }}, // another logbook on show
         };
         for (const std::string& geste : Couper(gestes, ";")) {
             const auto mots = Couper(geste, " ");
             texte = mots.size() > 2 ? mots[2] : "";
             EXPECT_NO_THROW(actions.at(mots[0])(mots.size() > 1 ? std::stoi(mots[1]) : 0)) << geste;
         }
-        const VueFeuille& v = feuille.vue;
+        const VueFeuille& v = f.vue;
         const auto noms =
             Couper("panneau valider supprimer laisser quitter imprimer restaurer controle", " ");
         const bool visibles[] = {v.panneau, v.valider,  v.supprimer, v.laisser,
@@ -103,14 +104,14 @@ struct ServiceQSL {
         for (std::size_t i = 0; i < noms.size(); ++i)
             vus += visibles[i] ? noms[i] + ' ' : "";
         vus += '"' + v.nrTag + '"';
-        for (const std::string& ligne : Couper(reponse.message, "\n")) {
+        for (const std::string& ligne : Couper(r.message, "\n")) {
             const auto parties = Couper(ligne, "\u00A0: ");
             vus += " dit " + parties[0];
             for (std::size_t i = 1; i < parties.size(); ++i)
                 vus += ' ' + parties[i].substr(0, parties[i].find(' '));
         }
         for (const std::string& mot :
-             {std::string("Etiquette N"), " «\u00A0" + feuille.chemin.string() + "\u00A0» "})
+             {std::string("Etiquette N"), " «\u00A0" + f.chemin.string() + "\u00A0» "})
             for (std::size_t p = 0; (p = vus.find(mot)) != vus.npos;)
                 vus.erase(p, mot.size() - 1);
         return vus;
@@ -118,8 +119,8 @@ struct ServiceQSL {
 };
 
 // Contacts | labels | gestures, `gestes` if there are none -> contacts | labels | what Faire says;
-// that alone when contacts and labels stay as they were.
-void Essayer(const std::string& gestes, const std::string& table) {
+// that alone when contacts and labels stay as they were. All say `dit` beside.
+void Essayer(const std::string& gestes, const std::string& table, const std::string& dit = "") {
     for (const auto& [nom, avant, apres] : Etapes(table)) {
         SCOPED_TRACE(nom);
         const auto depart = Couper(avant + '|' + gestes, "|");
@@ -127,7 +128,7 @@ void Essayer(const std::string& gestes, const std::string& table) {
         if (fin.size() == 1)
             fin.insert(fin.begin(), depart.begin(), depart.begin() + 2);
         ServiceQSL service(Fiches(depart.at(0)), Feuille(Etiquettes(depart.at(1))));
-        EXPECT_EQ(service.Faire(depart.at(2)), fin.at(2));
+        EXPECT_EQ(service.Faire(depart.at(2)), fin.at(2) + dit);
         EXPECT_EQ(Lire(service.cahier.chemin), Fiches(fin[0]) + Fin());
         EXPECT_EQ(service.OctetsFeuille(), Feuille(Etiquettes(fin[1])));
     }
@@ -147,6 +148,7 @@ TEST(FeuilleQSL, UneFeuilleAbimeeGardeSesOctets) {
         const ServiceQSL service("", octets);
         EXPECT_EQ(EtiquettesAImprimer(service.feuille).size(), attendu);
         EXPECT_EQ(service.OctetsFeuille(), octets.empty() ? Feuille("") : octets);
+        EXPECT_EQ(service.feuille.boites[kBoiteIndicatif], octets.empty() ? "***" : "");
         EXPECT_FALSE(std::filesystem::exists(service.dossier / "FeuilleQSL.txt"));
     }
 }
@@ -170,7 +172,7 @@ TEST(FeuilleQSL, UneEtiquetteRelueEchangeReportEtMode) {
 TEST(FluxEtiquettes, PlacerUneEtiquette) {
     Essayer("", R"(
  placed : F18h | Z01h | fiche 1; entree; valider
-     -> F18h En cours | Z01h, F18h 1 | valider quitter imprimer "N° 2"
+     -> F18h E | Z01h, F18h 1 | valider quitter imprimer "N° 2"
  blank : F18h | | fiche 1; boite 1 " "; entree; valider
      -> panneau valider quitter " Indicatif manquant ! "
  free : F18h | | fiche 1; boite 1 " *** "; entree; valider
@@ -190,16 +192,15 @@ TEST(FluxEtiquettes, PlacerUneEtiquette) {
 
 TEST(FluxEtiquettes, ContactDUneEtiquetteImprimee) {
     Essayer("", R"(
- two : A17h En cours, F18h | A17h 1 | fiche 2; valider; imprimer; parfait
+ two : A17h E, F18h | A17h 1 | fiche 2; valider; imprimer; parfait
      -> A17h J, F18h J | | quitter "N° 2"
- not printed : F18h En cours | F18h 1 | parfait -> quitter ""
- checked : F18h En cours | F18h 1 | imprimer; choix 1; tag 1; supprimer; restaurer
-     -> quitter controle ""
- review elsewhere : F18h En cours | F18h 1 | choix 1; autre; supprimer
+ not printed : F18h E | F18h 1 | parfait -> quitter ""
+ checked : F18h E | F18h 1 | imprimer; choix 1; tag 1; supprimer; restaurer -> quitter controle ""
+ review elsewhere : F18h E | F18h 1 | choix 1; autre; supprimer
      -> supprimer laisser "N° 1" dit Ce cahier est ouvert en consultation les
- elsewhere : F18h En cours | F18h 1 | imprimer; autre; parfait
+ elsewhere : F18h E | F18h 1 | imprimer; autre; parfait
      -> quitter imprimer "" dit Ce cahier est ouvert en consultation les
- print elsewhere : F18h En cours | F18h 1 | autre; imprimer
+ print elsewhere : F18h E | F18h 1 | autre; imprimer
      -> quitter "" dit Un autre cahier est ouvert avant
  erased, no mark : F18h | F18h | choix 1; supprimer -> F18h | | quitter "N° 1"
  erased twins : F18h, F18h | F18h | choix 1; supprimer -> F18h, F18h | | quitter "N° 1"
@@ -207,86 +208,80 @@ TEST(FluxEtiquettes, ContactDUneEtiquetteImprimee) {
      -> F18h J | | quitter "N° 1" dit N° 1 (F 21/11/26 18) la)");
     // The number may be stale, the contact corrected, or without its mark.
     Essayer("imprimer; parfait", R"(
- number : A17h En cours, F18h En cours | F18h 2 -> A17h En cours, F18h J | | quitter ""
- callsign : A17h En cours, F09h En cours | F18h 2 -> A17h En cours, F09h J | | quitter ""
- hour : A17h En cours, P18h En cours | F18h 2 -> A17h En cours, P18h J | | quitter ""
- stale number : A17h En cours, F18h En cours | F18h 1 -> A17h En cours, F18h J | | quitter ""
- no number : A17h En cours, F18h En cours | F18h -> A17h En cours, F18h J | | quitter ""
- number too high : A17h En cours, F18h En cours | F18h 3 -> A17h En cours, F18h J | | quitter ""
- a word : A17h En cours, F18h En cours | F18h deux -> A17h En cours, F18h J | | quitter ""
- other mark : A17h En cours, F18h X | F18h 2
-     -> A17h En cours, F18h X | | quitter "" dit N° 1 (F 21/11/26 18) la
- other hour : A17h En cours, F16h En cours | F18h 1
-     -> A17h En cours, F16h En cours | | quitter "" dit N° 1 (F 21/11/26 18) aucune
+ number : A17h E, F18h E | F18h 2 -> A17h E, F18h J | | quitter ""
+ callsign : A17h E, F09h E | F18h 2 -> A17h E, F09h J | | quitter ""
+ hour : A17h E, P18h E | F18h 2 -> A17h E, P18h J | | quitter ""
+ stale number : A17h E, F18h E | F18h 1 -> A17h E, F18h J | | quitter ""
+ no number : A17h E, F18h E | F18h -> A17h E, F18h J | | quitter ""
+ number too high : A17h E, F18h E | F18h 3 -> A17h E, F18h J | | quitter ""
+ a word : A17h E, F18h E | F18h deux -> A17h E, F18h J | | quitter ""
+ other mark : A17h E, F18h X | F18h 2 -> A17h E, F18h X | | quitter "" dit N° 1 (F 21/11/26 18) la
+ other hour : A17h E, F16h E | F18h 1
+     -> A17h E, F16h E | | quitter "" dit N° 1 (F 21/11/26 18) aucune
  corrected and dated : F16h X | F18h 1 -> F16h X | | quitter "" dit N° 1 (F 21/11/26 18) la
  corrected, no mark : F16h | F18h 1 -> F16h | | quitter "" dit N° 1 (F 21/11/26 18) aucune
- twins : A17h En cours, F18h En cours, F18h En cours | F18h 1
-     -> A17h En cours, F18h En cours, F18h En cours | | quitter ""
+ twins : A17h E, F18h E, F18h E | F18h 1 -> A17h E, F18h E, F18h E | | quitter ""
      dit N° 1 (F 21/11/26 18) plusieurs
- two labels : A17h En cours, F18h En cours | F18h 2, F18h 1
-     -> A17h En cours, F18h J | | quitter "" dit N° 2 (F 21/11/26 18) la
- two stale labels : F18h En cours | F18h 8, F18h 9
-     -> F18h J | | quitter "" dit N° 2 (F 21/11/26 18) la
+ two labels : A17h E, F18h E | F18h 2, F18h 1
+     -> A17h E, F18h J | | quitter "" dit N° 2 (F 21/11/26 18) la
+ two stale labels : F18h E | F18h 8, F18h 9 -> F18h J | | quitter "" dit N° 2 (F 21/11/26 18) la
+ twins, another hour : F18h E, F18h E | F18h 8, F09h 1
+     -> F18h E, F18h E | | quitter "" dit N° 1 (F 21/11/26 18) plusieurs
+     dit N° 2 (F 21/11/26 09) aucune
  two of nobody's : A17h X | F18h 1, P17h 2
      -> A17h X | | quitter "" dit N° 1 (F 21/11/26 18) aucune dit N° 2 (P 21/11/26 17) aucune
- no mark : A17h En cours, F18h | F18h 2 -> A17h En cours, F18h J | | quitter ""
- no mark, stale number : F18h, A17h En cours | F18h 2 -> F18h J, A17h En cours | | quitter ""
- no mark, a twin has it : F18h, F18h En cours | F18h 1 -> F18h, F18h J | | quitter ""
- no mark, another label's twin : F18h En cours, F18h | F18h 1, F18h 8
-     -> F18h J, F18h J | | quitter ""
+ no mark : A17h E, F18h | F18h 2 -> A17h E, F18h J | | quitter ""
+ no mark, stale number : F18h, A17h E | F18h 2 -> F18h J, A17h E | | quitter ""
+ no mark, a twin has it : F18h, F18h E | F18h 1 -> F18h, F18h J | | quitter ""
+ no mark, another label's twin : F18h E, F18h | F18h 1, F18h 8 -> F18h J, F18h J | | quitter ""
  no mark, numbered : F18h, F18h | F18h 2 -> F18h, F18h J | | quitter ""
  no mark, twins : F18h, F18h | F18h 8
      -> F18h, F18h | | quitter "" dit N° 1 (F 21/11/26 18) plusieurs
- numbered : A17h En cours, F18h En cours, F18h En cours | F18h 3
-     -> A17h En cours, F18h En cours, F18h J | | quitter ""
- a blank label is nobody's : anonyme En cours, F18h En cours | anonyme 1, F18h
-     -> anonyme En cours, F18h J | | quitter "" dit N° 1 (21/11/26) aucune)");
+ numbered : A17h E, F18h E, F18h E | F18h 3 -> A17h E, F18h E, F18h J | | quitter ""
+ a blank label is nobody's : anonyme E, F18h E | anonyme 1, F18h
+     -> anonyme E, F18h J | | quitter "" dit N° 1 (21/11/26) aucune)");
 }
 
 // What another program does to the sheet is seen before a place is touched.
 TEST(FluxEtiquettes, UneFeuilleChangeeDehorsEstMontreeEtDite) {
-    const auto changee = [](const std::string& gestes) {
-        return " dit La feuille d'étiquettes a été changée par un autre programme la" + gestes;
-    };
     Essayer("", R"(
- opened : F18h | | dehors 1 Z01h; montrer
-     -> F18h | Z01h | panneau quitter imprimer "N° 2")" +
-                    changee("") + R"(
- from the card : F18h | | dehors 1 F18h; fiche 1
-     -> F18h En cours | F18h | quitter imprimer "N° 2")" +
-                    changee("") + R"(
+ opened : F18h | | dehors 1 Z01h; montrer -> F18h | Z01h | panneau quitter imprimer "N° 2"
+ from the card : F18h | | dehors 1 F18h; fiche 1 -> F18h E | F18h | quitter imprimer "N° 2"
  placed : F18h | | fiche 1; choix 2; entree; dehors 1 Z01h; valider
-     -> F18h | Z01h | panneau valider quitter imprimer "N° 2")" +
-                    changee("") + R"(
+     -> F18h | Z01h | panneau valider quitter imprimer "N° 2"
+ erased : F18h E | F18h 1 | choix 1; dehors 2 Z01h; supprimer
+     -> F18h E | F18h 1, Z01h | quitter imprimer "N° 3"
+ printed : F18h E | F18h 1 | dehors 2 Z01h; imprimer
+     -> F18h E | F18h 1, Z01h | quitter imprimer "N° 3"
+ perfect : F18h E | F18h 1 | imprimer; dehors 2 Z01h; parfait
+     -> F18h E | F18h 1, Z01h | quitter imprimer "N° 3")",
+            " dit La feuille d'étiquettes a été changée par un autre programme la");
+    Essayer("", R"(
  placed at last : F18h | | fiche 1; dehors 1 Z01h; valider; valider
-     -> F18h En cours | Z01h, F18h 1 | quitter imprimer "N° 2"
- erased : F18h En cours | F18h 1 | choix 1; dehors 1 Z01h; supprimer
-     -> F18h En cours | Z01h | quitter imprimer "N° 2")" +
-                    changee(" F.") + R"(
- printed : F18h En cours | F18h 1 | dehors 2 Z01h; imprimer
-     -> F18h En cours | F18h 1, Z01h | quitter imprimer "N° 3")" +
-                    changee("") + R"(
- perfect : F18h En cours | F18h 1 | imprimer; dehors 1 Z01h; parfait
-     -> F18h En cours | Z01h | quitter imprimer "N° 2")" +
-                    changee(" F.") + R"(
- removed : F18h En cours | F18h 1, Z01h | imprimer; dehors; parfait
-     -> F18h En cours | | quitter "N° 1" dit La feuille d'étiquettes avait disparu en F,
+     -> F18h E | Z01h, F18h 1 | quitter imprimer "N° 2"
+ another label : F18h E | F18h 1, A17h | imprimer; dehors 1 F16h; parfait
+     -> F18h E | F16h, A17h | quitter imprimer "N° 3"
+     dit La feuille d'étiquettes a été changée par un autre programme la F.
+ removed : F18h E | F18h 1, Z01h | imprimer; dehors; parfait
+     -> F18h E | | quitter "N° 1" dit La feuille d'étiquettes avait disparu en F,
+ removed, all free : F18h | | fiche 1; dehors; valider
+     -> panneau quitter "N° 1" dit La feuille d'étiquettes avait disparu en
  removed, placed : F18h | Z01h | fiche 1; dehors; valider; valider
-     -> F18h En cours | F18h 1 | quitter imprimer "N° 1")");
+     -> F18h E | F18h 1 | quitter imprimer "N° 1")");
 }
 
 // The program was killed after the label was written, before its contact was marked.
 TEST(FluxEtiquettes, UnContactSansMarqueRecoitSaSeuleMarque) {
     Essayer("", R"(
- its label : F18h | A17h, F18h 1 | fiche 1 -> F18h En cours | A17h, F18h 1 | quitter ""
- by callsign : F18h | A17h, F18h 8 | fiche 1 -> F18h En cours | A17h, F18h 8 | quitter ""
- by number : F18h | A17h, P18h 1 | fiche 1 -> F18h En cours | A17h, P18h 1 | quitter ""
- twins : F18h, F18h | F18h 8 | fiche 2 -> F18h, F18h En cours | F18h 8 | quitter ""
+ its label : F18h | A17h, F18h 1 | fiche 1 -> F18h E | A17h, F18h 1 | quitter ""
+ by callsign : F18h | A17h, F18h 8 | fiche 1 -> F18h E | A17h, F18h 8 | quitter ""
+ by number : F18h | A17h, P18h 1 | fiche 1 -> F18h E | A17h, P18h 1 | quitter ""
+ twins : F18h, F18h | F18h 8 | fiche 2 -> F18h, F18h E | F18h 8 | quitter ""
  its twin's : F18h, F18h | F18h 2 | fiche 1 -> panneau quitter imprimer "N° 2"
  other hour : F18h | A17h, F16h 1 | fiche 1 -> panneau quitter imprimer "N° 3"
  no hour : F | A17h, P   1 | fiche 1 -> panneau quitter imprimer "N° 3"
  neither : F18h | A17h, P18h 8 | fiche 1 -> panneau quitter imprimer "N° 3"
- another contact's : F18h En cours, F18h | F18h 1 | fiche 2 -> panneau quitter imprimer "N° 2")");
+ another contact's : F18h E, F18h | F18h 1 | fiche 2 -> panneau quitter imprimer "N° 2")");
     ServiceQSL service(Fiches("F18h"), Feuille(Etiquettes("F18h 1")));
     const ReponseClic clic = PreparerEtiquette(service.cahier, service.feuille, kPremiereFiche);
     EXPECT_EQ(clic.suite, SuiteClic::Retabli);

@@ -13,7 +13,7 @@ const std::string kLibre = aides::Brute({{0, "***"}}, 106);
 std::string Cahier(std::string_view maQsl1, std::string_view maQsl2) {
     std::string octets =
         Contacts(1) + Octets("F6XYZ/P|01/02/26|09:05|09:10|14.250|SSB|59+20dB||||||"
-                             "BEAM 3 EL      DL9ABC");
+                             "BÉAM 3 EL      DL9ABC");
     octets.replace(143, maQsl1.size(), maQsl1);
     octets.replace(kTailleFiche + 143, maQsl2.size(), maQsl2);
     return octets + Fin();
@@ -27,7 +27,7 @@ std::string Ecart(const Banc& banc, const std::string& cahier, std::string feuil
            Difference(banc.Lire("FeuilleQSL.txt"), feuille);
 }
 
-const std::string kEtiquetteXyz = "F6XYZ/P        F5ABC          BEAM 3 EL      BUREAU         "
+const std::string kEtiquetteXyz = "F6XYZ/P        F5ABC          B\311AM 3 EL      BUREAU         "
                                   "01/02/2609:0514.250    59+20dB SSB  3         ";
 const std::string kEtiquette1 = "F1QSO          F5ABC                         F6?X           "
                                 "12/05/0200:0114.210            SSB  2         ";
@@ -38,7 +38,7 @@ TEST(Qsl, VieDUneEtiquette) {
     // With the mouse and mnemonics.
     banc.Suivre(R"(
  press on box 14 : clic TxtField_14 -> actif PictFeuilleQSL; caché PictFiche; grisé PictListe
- a fresh label : -> NrTag FLdText_8 = Etiquette N° 1|BEAM 3 EL      DL9ABC; caché BtValidQSL
+ a fresh label : -> NrTag FLdText_8 = Etiquette N° 1|BÉAM 3 EL      DL9ABC; caché BtValidQSL
  meanwhile : -> grisé MnuCourantF MnuClasser MnuImpPage MnuDoublons MnuVirginTags
      MnuGestionFeuilleQSL; actif MnuQuitter MnuEditLocator MnuVoir
  heading : valide F5ABC -> actif BtValidQSL
@@ -73,7 +73,7 @@ TEST(Qsl, VieDUneEtiquette) {
  taken off : touche Alt+S -> BtTag_1 = Etiquette  [1] libre)");
     EXPECT_THAT(operations, testing::IsSupersetOf(Liste(R"(
  R 300 400 5500 2180; T 1150 420 10g Comic sans MS F5ABC  Confirming QSO with  F6XYZ/P;
- T 2400 700 10g Comic sans MS Via QSL Manager BEAM 3 EL; T 824 1320 8g Courrier F6XYZ/P;
+ T 2400 700 10g Comic sans MS Via QSL Manager BÉAM 3 EL; T 824 1320 8g Courrier F6XYZ/P;
  T 1866 1320 8g Courrier 01/02/26; T 2615 1320 8g Courrier 09:05;
  T 3307 1320 8g Courrier 14.250; T 4104 1320 8g Courrier 59+20dB;
  T 4956 1320 8g Courrier SSB; T 700 1650 8g Courrier Pse / Tnx  QSL via  BUREAU;)")));
@@ -130,6 +130,11 @@ TEST(Qsl, VieDUneEtiquette) {
                 "plus\u00A0: F1ZZZ. Rien n'a été écrit ni imprimé.\"; caché BtDelQSL BtPrintQSL; "
                 "actif PictFeuilleQSL; foyer BtChoix_1 = BtChoix_2|Retirer");
     EXPECT_EQ(Ecart(banc, Cahier("21/11/26", ""), ""), "");
+    std::filesystem::remove(banc.Dossier() / "FeuilleQSL.txt");
+    std::filesystem::create_directory(banc.Dossier() / "FeuilleQSL.txt");
+    banc.Suivre("not to be had : clic BtTag_5; valide f1zzz; touche Alt+V -> averti contient c'est "
+                "un dossier; FLdText_1 = F1ZZZ\n"
+                "given up : touche Alt+Q -> caché PictFeuilleQSL");
 }
 
 TEST(Qsl, LeServiceAttend) {
