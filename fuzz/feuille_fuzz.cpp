@@ -48,6 +48,16 @@ void Agir(std::uint8_t action, Cahier& cahier, FeuilleQSL& feuille) {
     case 11:
         SaisirBoiteEtiquette(feuille, static_cast<std::size_t>(1 + numero % 11), "F1QSOÉ");
         break;
+    case 12: { // another program
+        const std::string octets = "F2QSO" + std::string(kTailleEtiquette - 5, ' ');
+        Fichier(feuille.chemin, ModeFichier::LectureEcriture)
+            .Ecrire((numero - 1) * static_cast<std::int64_t>(kTailleEtiquette), octets);
+        break;
+    }
+    case 13:
+        if (AutoriserImpression(cahier, feuille, "F5ABC").fait)
+            DemanderControle(feuille);
+        break;
     default:
         CliquerChoix(feuille, Place{numero});
     }
