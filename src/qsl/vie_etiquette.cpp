@@ -251,10 +251,11 @@ ReponseQSL ValiderEtiquette(Cahier& cahier, FeuilleQSL& feuille) {
     LireEtiquette(feuille, place);
     feuille.etats[EtatFeuille::Rang(place)] = EtatEtiquette::Preparee;
     feuille.indicatifs[EtatFeuille::Rang(place)] = feuille.boites[kBoiteIndicatif];
-    const NumeroFiche fiche = ContactNumerote(cahier, feuille.tampon);
-    Marquer(cahier,
-            {fiche, fiche == kAucuneFiche ? Correspondance::Aucune : Correspondance::Unique},
-            kEnCours, place, feuille.tampon, reponse);
+    const NumeroFiche numerotee = ContactNumerote(cahier, feuille.tampon);
+    const ContactTrouve trouve = numerotee == kAucuneFiche
+                                     ? ContactDeLaPlace(cahier, feuille, place)
+                                     : ContactTrouve{numerotee, Correspondance::Unique};
+    Marquer(cahier, trouve, kEnCours, place, feuille.tampon, reponse);
     SynchroniserCahier(cahier);
     ControlerImpression(feuille);
     QuitterFeuille(feuille);

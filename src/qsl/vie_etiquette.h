@@ -66,9 +66,10 @@ void EntrerBoiteEtiquette(FeuilleQSL& feuille);
 /// A route option was chosen: empties the manager box, shows BtValidQSL.
 void ChoisirVoie(FeuilleQSL& feuille, VoieQSL voie);
 
-/// BtValidQSL: puts the fresh label on the first free place, marks its contact "En cours" and
-/// closes the panel. Without a fresh label, a callsign and a place it writes nothing and NrTag
-/// says why (`fait` is false). The message names a label that has no contact.
+/// BtValidQSL: puts the fresh label on the first free place, marks its contact "En cours" (the one
+/// that it numbers, else the one that its confirmation will take) and closes the panel. Without a
+/// fresh label, a callsign and a place it writes nothing and NrTag says why (`fait` is false). The
+/// message names a label that has no contact.
 [[nodiscard]] ReponseQSL ValiderEtiquette(Cahier& cahier, FeuilleQSL& feuille);
 
 /// BtDelQSL, during a review: empties the contact's MQSL and frees the place. The message names a

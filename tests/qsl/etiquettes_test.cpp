@@ -185,6 +185,10 @@ TEST(FluxEtiquettes, PlacerUneEtiquette) {
  restored in review : F18h | Z01h | fiche 1; choix 2; choix 1; restaurer
      -> panneau supprimer laisser imprimer "N° 1"
  loaded again : F18h | Z01h | fiche 1; choix 2; choix 1; entree; charger -> quitter ""
+ by hand : F18h | | tag 1; boite 1 F; boite 2 21/11/26; boite 3 18; valider
+     -> F18h E | F18h | quitter imprimer "N° 1"
+ by hand, dated : F18h J | | tag 1; boite 1 F; boite 2 21/11/26; boite 3 18; valider
+     -> F18h J | F18h | quitter imprimer "N° 1" dit N° 1 (F 21/11/26 18) la
  elsewhere : F18h | | fiche 1; autre; valider -> panneau quitter " Consultation seule ! "
  dated : F18h J | | fiche 1 -> quitter ""
  another logbook : F18h | | autre; fiche 1 -> quitter "")");
