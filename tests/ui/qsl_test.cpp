@@ -117,10 +117,14 @@ TEST(Qsl, VieDUneEtiquette) {
                 testing::IsSupersetOf({"R 6100 400 11300 2180", // place 2
                                        "T 6500 1650 8g Courrier Pse / Tnx  QSL via  F6?X"}));
     EXPECT_EQ(Ecart(banc, Cahier("21/11/26", ""), liberee), "");
-    // A label of nobody's, which goes with its sheet while it is reviewed.
+}
+
+// A label of nobody's, which goes with its sheet while it is reviewed.
+TEST(Qsl, UneFeuilleQuiDisparait) {
+    const std::string cahier = Cahier("", "");
+    Banc banc(cahier);
     banc.Suivre("nobody's : menu MnuGestionFeuilleQSL; clic BtChoix_1, BtTag_5; foyer FLdText_11; "
-                "valide 2, "
-                "f1zzz -> FLdText_10 FLdText_11 = F1ZZZ|2\n"
+                "valide 2, f1zzz -> FLdText_10 FLdText_11 = F1ZZZ|2\n"
                 "stored : touche Alt+V -> averti = \"Etiquette N° 2 (F1ZZZ)\u00A0: aucune fiche du "
                 "cahier ne lui correspond, aucune n'a été modifiée.\"\n"
                 "review : menu MnuGestionFeuilleQSL; touche Return -> foyer = BtLeaveQSL");
@@ -129,7 +133,7 @@ TEST(Qsl, VieDUneEtiquette) {
                 "«\u00A0~/FeuilleQSL.txt\u00A0» avait disparu\u00A0: en voici une neuve. N'y sont "
                 "plus\u00A0: F1ZZZ. Rien n'a été écrit ni imprimé.\"; caché BtDelQSL BtPrintQSL; "
                 "actif PictFeuilleQSL; foyer BtChoix_1 = BtChoix_2|Retirer");
-    EXPECT_EQ(Ecart(banc, Cahier("21/11/26", ""), ""), "");
+    EXPECT_EQ(Ecart(banc, cahier, ""), "");
     std::filesystem::remove(banc.Dossier() / "FeuilleQSL.txt");
     std::filesystem::create_directory(banc.Dossier() / "FeuilleQSL.txt");
     banc.Suivre("not to be had : clic BtTag_5; valide f1zzz; touche Alt+V -> averti contient c'est "
