@@ -74,12 +74,13 @@ std::string Rappel(Place place, const QslSlotRecord& etiquette, Correspondance p
          {ChampEtiquette::Indicatif, ChampEtiquette::Date, ChampEtiquette::Heure})
         if (const std::string texte = TexteRogne(etiquette, champ); !texte.empty())
             quoi += (quoi.empty() ? "" : " ") + texte;
+    const bool plusieurs =
+        pourquoi == Correspondance::Plusieurs || pourquoi == Correspondance::PlusieursVierges;
     const std::string_view raison =
         pourquoi == Correspondance::DejaMarquee
             ? "la fiche qui lui correspond est déjà marquée, elle n'a pas été modifiée."
-        : pourquoi == Correspondance::Aucune
-            ? "aucune fiche du cahier ne lui correspond, aucune n'a été modifiée."
-            : "plusieurs fiches du cahier lui correspondent, aucune n'a été modifiée.";
+        : plusieurs ? "plusieurs fiches du cahier lui correspondent, aucune n'a été modifiée."
+                    : "aucune fiche du cahier ne lui correspond, aucune n'a été modifiée.";
     return LegendeEtiquette(place) + (quoi.empty() ? "" : " (" + quoi + ")") +
            "\u00A0: " + std::string{raison};
 }
