@@ -8,6 +8,8 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QTest>
@@ -198,6 +200,21 @@ void Banc::Faire(const std::string& gestes) {
         {"touche", [&](Mot nom) { Presser(nom, refus); }},
         {"foyer", [&](Mot nom) { Atteindre<QWidget>(nom, refus)->setFocus(); }},
         {"entree", [&](Mot n) { Taper(std::string(std::stoul(n), '\n')); }},
+        {"tient",
+         [&](Mot n) {
+             Envoyer(QEvent::KeyPress, Qt::Key_Return, 2);
+             for (int i = 0; i < std::stoi(n); ++i) {
+                 Envoyer(QEvent::KeyRelease, Qt::Key_Return, i == 0 ? 500 : 30);
+                 Envoyer(QEvent::KeyPress, Qt::Key_Return, 0);
+             }
+             Envoyer(QEvent::KeyRelease, Qt::Key_Return, 2);
+         }},
+        {"compose",
+         [&](Mot texte) {
+             QInputMethodEvent compose;
+             compose.setCommitString(Q(texte));
+             QCoreApplication::sendEvent(QApplication::focusWidget(), &compose);
+         }},
         {"tape", [&](Mot texte) { Taper(texte); }},
         {"valide", [&](Mot texte) { Taper(texte + '\n'); }},
         {"colle",
@@ -226,8 +243,20 @@ void Banc::Faire(const std::string& gestes) {
     }
 }
 
+// Enter, so many ms after the last; QTest gives its keys no times of their own.
+void Banc::Envoyer(QEvent::Type type, int entree, int apres) const {
+    QKeyEvent evenement(type, entree, Qt::NoModifier, u"\r"_s);
+    evenement.setTimestamp(instant_ += static_cast<std::uint64_t>(apres));
+    QCoreApplication::sendEvent(Devant()->windowHandle(), &evenement);
+    QCoreApplication::processEvents();
+}
+
 void Banc::Touche(int touche, Qt::KeyboardModifiers modificateurs) const {
     QWidget* foyer = QApplication::focusWidget();
+    if (touche == Qt::Key_Return || touche == Qt::Key_Enter) {
+        Envoyer(QEvent::KeyPress, touche, 2);
+        return Envoyer(QEvent::KeyRelease, touche, 0);
+    }
     // Only the overload for widgets tries mnemonics; only that for windows follows the focus.
     if (modificateurs.testFlag(Qt::AltModifier) && foyer != nullptr)
         QTest::keyClick(foyer, static_cast<Qt::Key>(touche), modificateurs);

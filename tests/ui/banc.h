@@ -77,6 +77,8 @@ class SystemeDEssai : public Systeme {
 /// Gestures, each on every one of the names, keys or texts between commas behind its word:
 ///   clic A, B         presses controls       touche Tab, Alt+B  presses keys
 ///   menu A, B         chooses commands       entree 4           presses Return four times
+///   tient 4           holds Return down as long as it takes the keyboard to repeat it four times
+///   compose a, b      brings characters as a dead key does
 ///   tape a, b         types                  valide a, b        types each with Return behind it
 ///   colle A texte     pastes into A          foyer A            puts the focus on A
 ///   ligne 2           of the contact list    rangee 2           of the sheet, both from 1
@@ -144,8 +146,11 @@ class Banc {
     std::map<std::string, std::string> groupes;
 
   private:
+    mutable std::uint64_t instant_ = 0; ///< of the keyboard, in ms
+
     template<typename T> T* Atteindre(const std::string& nom, bool refus = false) const;
     [[nodiscard]] QWidget* Devant() const;
+    void Envoyer(QEvent::Type type, int entree, int apres) const;
     void Presser(const std::string& nom, bool refus) const;
     void Constater(const std::string& vu) const;
 };

@@ -27,6 +27,9 @@ TEST(Demarrage, PremierLancementCreeLeCahierPuisLOuvre) {
     DansLaCreation(banc, R"(
  no such locator : valide f5abc/p, jn99zz -> Dlg1Fra2Text2 = ERREUR
  announced : valide jn04sd -> Dlg1Fra3Lab2 = "~/F5ABCP.Vek va être créé "
+ a key too many : foyer Dlg1Fra2Text2; tape x -> actif Dlg1Fra3
+ typed on : touche Backspace -> caché Dlg1Fra3
+ held down : tape d; tient 3 -> actif Dlg1Fra3
  created : entree 1 ->
      demandes = " Création réalisée avec succès|   Le fichier F5ABCP.Vek est créé  \n\n")");
     banc.Ouvrir();

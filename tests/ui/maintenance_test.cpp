@@ -8,7 +8,7 @@ TEST(Maintenance, ClasserMontreEtGele) {
     banc.Suivre(R"(
  steps : menu MnuClasser -> LabEtat_1 LabEtat_2 LabEtat_3 = 60|Heures|1
  sorted : -> ClasserLab NoFicheLab = " Terminé | Fiche N° 60 "
- afterwards : -> caché PictClasser PictRech PictContacts BtActiveRech; actif ListeLog TxtField_1)");
+ afterwards : -> caché PictClasser PictRech PictContacts BtActiveRech; actif ListeLog PictFiche)");
     EXPECT_EQ(Difference(banc.OctetsCahier(), Contacts(60) + Fin()), "");
 }
 
@@ -37,7 +37,11 @@ TEST(Maintenance, AutreCahierEnLectureSeulePuisRetour) {
  for reading only : clic TxtField_6; valide CW -> caché FraMsgFiche
  still : clic BtActiveRech, BtContactsFermer -> grisé BtNewQSO BtKillFiche
  the own one : menu MnuCourantF -> LabJournal = "F5ABC : 3 contacts"; actif BtNewQSO BtKillFiche
- entry : clic BtNewQSO -> TxtField_16 = JN04SD; grisé MnuAutreF)");
+ the list of another is gone : clic BtActiveRech; fichier F6XYZ.Vek; menu MnuAutreF -> ContactsListe =
+ leaving the pairing : menu MnuCourantF, MnuJumeler; tape x; menu MnuCourantF -> caché PJumelage
+ a text searched : foyer RechText; tape f6; menu MnuCourantF -> RechText =
+ entry : clic BtNewQSO -> TxtField_16 = JN04SD; grisé MnuAutreF
+ no callsign, no list : touche Alt+T; clic BtActiveRech, BtContactsFermer; clic BtNewQSO)");
     EXPECT_EQ(banc.Lire("F6XYZ.Vek"), Contacts(30) + Fin("IN88AA"));
 }
 

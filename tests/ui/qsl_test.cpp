@@ -151,7 +151,8 @@ TEST(Qsl, LeServiceAttend) {
     banc.Suivre(R"(
  idle : menu MnuVirginTags, MnuGestionFeuilleQSL -> actif PictFeuilleQSL
  idle, press : touche Alt+Q; clic TxtField_14 -> actif PictFeuilleQSL
- MQSL not empty : touche Alt+Q; ligne 1; clic TxtField_14 -> caché PictFeuilleQSL
+ no correction : touche Alt+Q -> lecture TxtField_14
+ MQSL not empty : ligne 1; clic TxtField_14 -> caché PictFeuilleQSL
  but corrected : valide OUI; menu MnuGestionFeuilleQSL refusé -> actif FraMsgFiche
  unanswered, press : ligne 2; clic TxtField_12; valide luc; clic TxtField_14 -> caché PictFeuilleQSL
  deletion : clic FraCmdNon, BtKillFiche; menu MnuGestionFeuilleQSL -> caché PictFeuilleQSL

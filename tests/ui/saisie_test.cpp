@@ -80,6 +80,36 @@ TEST(Saisie, LocatorFauxGeleUneSeconde) {
     EXPECT_EQ(Difference(banc.OctetsCahier(), Fin()), "");
 }
 
+TEST(Saisie, EntreeTenueNEnregistreRien) {
+    Banc banc(Contacts(1) + Fin());
+    banc.Suivre(R"(
+ held down to the end : clic BtNewQSO; valide f6xyz, 14.2, ssb; tient 20 -> foyer = BtEnrSuivant
+ own locator : clic TxtField_16; tape jn18du; tient 3 -> actif PictChangLocator
+ given up by key : clic TxtField_9; tape pa; touche Alt+A; valide ris -> caché PictChangLocator;
+     TxtField_1 TxtField_9 foyer = F6XYZ|PARIS|TxtField_11)");
+    EXPECT_EQ(banc.OctetsCahier(), Contacts(1) + Fin());
+    banc.Suivre("pressed : foyer BtEnrSuivant; entree 1 -> NoFicheLab = \" Charger fiche N° 3\"");
+}
+
+// A card shown takes no text, one under entry or correction does; what it shows is what is stored.
+TEST(Saisie, UneBoiteMontreCeQuiEstOuSeraEnregistre) {
+    Banc banc(Contacts(3) + Fin());
+    banc.Suivre(R"(
+ shown : touche F10, Escape, Escape; foyer TxtField_12; valide abc -> TxtField_12 = ; lecture TxtField_12
+ opened : touche F2; valide tours -> TxtField_12 = Tours; lecture TxtField_12 TxtField_9
+ emptied : clic TxtField_6; tape AM; clic TxtField_6; entree 1 -> TxtField_6 = SSB; actif TxtField_6
+ refused : clic TxtField_2; valide 31/02/26 -> TxtField_2 = 12/05/02; actif FraMsgFiche
+ menus : clic TxtField_9; tape tours; touche F10, Escape, Escape -> TxtField_9 foyer = TOURS|TxtField_9
+ and left : touche Alt, Escape; clic TxtField_10 -> TxtField_9 = ; foyer = TxtField_10
+ by another control : clic TxtField_9; tape tours; touche Alt, Escape; foyer ListeLog -> TxtField_9 =
+ entry : clic FraCmdNon, BtNewQSO; valide f6xyz; tape 14.2; touche Alt, Escape -> TxtField_5 = 14.2
+ left : clic TxtField_12 -> TxtField_5 = 
+ caret : tape jean; touche Home; tape x -> TxtField_12 = xjean
+ dead key : foyer TxtField_7; compose ê; valide 57 -> TxtField_7 = 57
+ mode : touche Alt+D; clic TxtField_1; entree 1 -> TxtField_1 = 
+ sent back : clic TxtField_13; valide f6xyz -> TxtField_1 foyer = F6XYZ|TxtField_2)");
+}
+
 TEST(Saisie, ChangementDeLocatorGardeOuNon) {
     // Gestures before the new locator is taken; the one that the Settings keep.
     const std::string garder = "clic ChangLocChk; foyer BtChangValid; ";
@@ -119,6 +149,7 @@ TEST(Recherche, IndicatifDateEtDoublons) {
      "3     Le          à       sur  Mhz            |4     Le 13/05/02 à 10:00 sur 7.050
      Mhz       |5     Le 13/05/02 à 10:00 sur 7.050 Mhz       "
  first card : -> NbreContacts NoFicheLab foyer = 3 Contacts réalisés| Fiche N° 3 |ListeLog
+ typed : foyer ContactsListe; tape 5 -> NoFicheLab = " Fiche N° 3 "
  closed : clic BtContactsFermer -> actif PictRech
  date : foyer RechText; valide 12/05/02 -> NbreContacts = 2
  doubles : clic BtContactsFermer; menu MnuDoublons -> grisé BtNewQSO; ContactsListe NbreContacts
@@ -126,7 +157,17 @@ TEST(Recherche, IndicatifDateEtDoublons) {
  closed again : clic BtContactsFermer -> actif BtNewQSO
  by the search box : menu MnuDoublons; clic RechText -> caché PictContacts; actif BtActiveRech
  a box merely pressed : clic TxtField_12; menu MnuDoublons; clic BtContactsFermer
-     -> actif BtNewQSO BtFermerLog; foyer = TxtField_12)");
+     -> actif BtNewQSO BtFermerLog; foyer = TxtField_12
+ the same : touche Tab; clic BtActiveRech; touche Alt+L -> actif BtNewQSO BtKillFiche BtFermerLog;
+     foyer = TxtField_11
+ by key : clic TxtField_9; tape tours; menu MnuDoublons; touche Alt+L -> TxtField_9 foyer = TOURS|TxtField_9
+ and stored : entree 1 -> actif FraMsgFiche; TxtField_9 = TOURS
+ under correction : clic BtActiveRech -> grisé BtNewQSO BtKillFiche BtFermerLog
+ by the search box : touche Alt+L; clic RechText -> grisé BtNewQSO BtFermerLog
+ answered : touche Alt+N -> actif BtNewQSO BtKillFiche BtFermerLog
+ deleted : clic BtActiveRech; touche Alt+S, Alt+O -> caché PictContacts
+ during entry : touche Alt+N; valide f6xyz; clic BtActiveRech; valide 14.2; tape ss; touche Alt+L
+     -> TxtField_6 foyer = SS|TxtField_6)");
 }
 
 } // namespace orvalis::operateur::saisie

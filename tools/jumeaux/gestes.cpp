@@ -301,6 +301,8 @@ class Joueur : public QObject {
     // focus, for else no mnemonic is tried.
     void Touche(Qt::Key touche, Qt::KeyboardModifiers avec = Qt::NoModifier) const {
         QWidget* foyer = QApplication::focusWidget();
+        if (touche == Qt::Key_Return)
+            QTest::qSleep(2); // presses of one instant would be those of a held key
         if (avec.testFlag(Qt::AltModifier) && foyer != nullptr)
             QTest::keyClick(foyer, touche, avec);
         else if (QWindow* w = (foyer == nullptr ? fenetre_.get() : foyer->window())->windowHandle())

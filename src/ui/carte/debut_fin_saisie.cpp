@@ -23,6 +23,12 @@ std::string_view TexteOffert(const EtatSaisie& saisie, Boite boite) {
     }
 }
 
+// A contact that was begun and has no callsign any more waits for it: no other box keeps the focus.
+bool AttendIndicatif(const Carte& carte, Boite boite) {
+    return boite != Boite::Indicatif && carte.zones[Boite::Indicatif].empty() &&
+           carte.saisie.QsoCommence;
+}
+
 } // namespace
 
 Reponse PrendreFoyer(const Carte& carte, Boite boite) {
@@ -37,7 +43,7 @@ Reponse PrendreFoyer(const Carte& carte, Boite boite) {
     if (saisie.EnModification)
         return r;
     saisie.TexteSaisi.clear();
-    if (boite != Boite::Indicatif && carte.zones[Boite::Indicatif].empty() && saisie.QsoCommence) {
+    if (AttendIndicatif(carte, boite)) {
         r.effets.foyer = SurBoite(Boite::Indicatif);
         return r;
     }
@@ -62,15 +68,17 @@ Carte QuitterFoyer(const Carte& carte, Boite boite) {
 Reponse PresserBoite(const Carte& carte, Boite boite, bool modifiable) {
     Reponse r{carte, {}};
     EtatSaisie& saisie = r.carte.saisie;
-    // Kept on purpose, for the operators: a press also forgets what the box shows as typed text, so
-    // that Enter alone empties it.
-    saisie.TexteSaisi.clear();
     if (saisie.EnSaisie) {
-        ColorerZone(r.carte, boite, Couleur::VertClair);
+        const bool renvoyee = AttendIndicatif(carte, boite);
         if (boite == Boite::MonLocator) {
             r.effets.ouvrirLocator = true;
             saisie.DerniereZone = boite;
+        } else if (renvoyee) {
+            r.effets.foyer = SurBoite(Boite::Indicatif);
         }
+        if (renvoyee)
+            return r; // box 1 alone is green
+        ColorerZone(r.carte, boite, Couleur::VertClair);
     } else {
         if (!modifiable)
             return r;
@@ -82,6 +90,8 @@ Reponse PresserBoite(const Carte& carte, Boite boite, bool modifiable) {
         MontrerTexte(r.carte, boite, {}); // removes stray blanks
     else
         r.effets.selection = boite;
+    // Kept on purpose, for the operators: a press also forgets what the box shows as typed text, so
+    // that Enter alone empties it.
     saisie.TexteSaisi.clear();
     return r;
 }

@@ -82,6 +82,8 @@ void LacherFoyer(Carte& carte, Ecran& ecran) {
 }
 
 void RendreFoyerALaBoite(Carte& carte, Ecran& ecran, const Station& station) {
+    if (BoiteDuFoyer(ecran.foyer.ici))
+        return;
     const Boite boite = carte.saisie.DerniereZone;
     DeplacerFoyer(carte, ecran, station, SurBoite(boite));
     // A box that was merely pressed looks as it did before something else had the focus.
@@ -121,6 +123,14 @@ void OuvrirChangLocator(Carte& carte, Ecran& ecran, const Station& station) {
     ecran.locator.valider = false;
     ecran.locator.garder = false;
     DeplacerFoyer(carte, ecran, station, {Cible::TexteLocator});
+}
+
+void ViderContacts(ListeContacts& contacts) {
+    const ListeContacts vide;
+    contacts.lignes = std::make_shared<const std::vector<std::string>>();
+    contacts.choisie = vide.choisie;
+    contacts.compte = vide.compte;
+    contacts.nature = vide.nature;
 }
 
 void RendreBoutons(Ecran& ecran) {

@@ -9,7 +9,8 @@
 namespace orvalis {
 
 /// Whether a control in the column of the card or beside it can take the focus: it is on show and
-/// not grey. Of the label sheet and of controls that no rule names nothing is known here.
+/// not grey. Of the label sheet and of controls that no rule names nothing is known here; a view
+/// knows more (vue.h).
 [[nodiscard]] bool Joignable(const Carte& carte, const Ecran& ecran, const Foyer& foyer);
 
 /// A rule or a flow gives the focus to `cible`; the painter follows. Where it is already, nothing
@@ -23,7 +24,8 @@ void SuivreFoyer(Carte& carte, Ecran& ecran, const Station& station, const Foyer
 /// Nothing has the focus any more, so that hiding or disabling controls pushes it nowhere.
 void LacherFoyer(Carte& carte, Ecran& ecran);
 
-/// Gives the focus back to the box that had it last.
+/// Gives the focus back to the box that had it last. A box that has it, since its button was
+/// pressed by key, keeps it with its text.
 void RendreFoyerALaBoite(Carte& carte, Ecran& ecran, const Station& station);
 
 /// The answer of a rule becomes the card, its effects the state of the screen, the move of the
@@ -37,6 +39,9 @@ void SaisirTexteLocator(Carte& carte, Ecran& ecran, std::string_view texte);
 
 /// Opens PictChangLocator, BtChangValid hidden, the focus in its box.
 void OuvrirChangLocator(Carte& carte, Ecran& ecran, const Station& station);
+
+/// A contacts list in which nothing was found.
+void ViderContacts(ListeContacts& contacts);
 
 /// Gives back the idle buttons that a contacts list greyed, once none is on show.
 void RendreBoutons(Ecran& ecran);

@@ -151,6 +151,8 @@ Reponse ModifierZone(const Carte& carte, Boite boite) {
     if (kRegles[Rang(boite)]({r, boite}) == Issue::Conclure) {
         r.effets.poserQuestion = r.carte.saisie.NbModifs != 0;
         r.carte.saisie.EnModification = false;
+        // What is on show beside the question is what Oui stores.
+        MontrerZone(r.carte, boite);
     }
     return r;
 }

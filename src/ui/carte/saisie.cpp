@@ -20,6 +20,13 @@ struct Entree {
     [[nodiscard]] EtatSaisie& Saisie() const { return r.carte.saisie; }
     [[nodiscard]] const std::string& Texte() const { return Saisie().TexteSaisi; }
     [[nodiscard]] std::string& Zone() const { return r.carte.zones[boite]; }
+    /// The slot takes a text. When that empties it, the box shows it at once: where the focus
+    /// stays, a text that is not stored would go on standing there.
+    void Prendre(std::string_view texte) const {
+        Zone() = texte;
+        if (texte.empty())
+            MontrerZone(r.carte, boite);
+    }
     void Aller(Boite suivante) const { r.effets.foyer = SurBoite(suivante); }
     void AllerPlusLoin() const { Aller(static_cast<Boite>(Numero(boite) + 1)); }
 };
@@ -27,7 +34,7 @@ struct Entree {
 void Indicatif(const Entree& e) {
     if (!e.Texte().empty() && !IndicatifPermis(e.Texte()))
         return;
-    e.Zone() = e.Texte();
+    e.Prendre(e.Texte());
     if (e.Zone().empty())
         return;
     e.r.effets.montrerActiveRech = true;
@@ -72,7 +79,7 @@ void Heure(const Entree& e) {
 
 // Frequency and mode: an empty box takes the last contact's value.
 void Memorisee(const Entree& e, std::string& derniere) {
-    e.Zone() = e.Texte().empty() ? derniere : e.Texte();
+    e.Prendre(e.Texte().empty() ? derniere : e.Texte());
     if (e.Zone().empty())
         return;
     derniere = e.Zone();
@@ -100,12 +107,12 @@ void ReportRecu(const Entree& e) {
 }
 
 void Ville(const Entree& e) {
-    e.Zone() = e.Texte();
+    e.Prendre(e.Texte());
     e.Aller(Boite::Departement);
 }
 
 void SonLocator(const Entree& e) {
-    e.Zone() = e.Texte();
+    e.Prendre(e.Texte());
     if (e.Zone().empty())
         return e.Aller(Boite::Remarque);
     if (Longueur(e.Zone()) != kLargeurLocator)
@@ -124,7 +131,7 @@ void SonLocator(const Entree& e) {
 }
 
 void Departement(const Entree& e) {
-    e.Zone() = e.Texte();
+    e.Prendre(e.Texte());
     e.Aller(Boite::SonLocator);
     if (e.Zone().empty())
         return;
@@ -143,7 +150,7 @@ void Prenom(const Entree& e) {
 // Kept on purpose, for the logbooks: INFO joins the last remark and the last manager confirmed
 // with Enter, even when one of them was confirmed for an earlier contact.
 void RefaireInfo(const Entree& e, std::string& moitie) {
-    e.Zone() = e.Texte();
+    e.Prendre(e.Texte());
     moitie = Cadrer(e.Texte(), kLargeurDemiInfo);
     e.r.carte.zones.info = JoindreInfo(e.Saisie().remarque, e.Saisie().manager);
 }
@@ -154,12 +161,12 @@ void Remarque(const Entree& e) {
 }
 
 void MaQsl(const Entree& e) {
-    e.Zone() = e.Texte();
+    e.Prendre(e.Texte());
     e.Aller(Boite::SaQsl);
 }
 
 void SaQsl(const Entree& e) {
-    e.Zone() = e.Texte();
+    e.Prendre(e.Texte());
     e.Aller(Boite::Manager);
 }
 

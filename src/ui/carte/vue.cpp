@@ -9,8 +9,9 @@ namespace orvalis {
 namespace {
 
 VueCarte VoirCarte(const Carte& carte, const Ecran& ecran) {
-    return {carte.boites,      carte.numero,     carte.distance,        carte.azimut,
-            carte.departement, ecran.activeRech, carte.saisie.EnSaisie, !ecran.classer.montre};
+    return {carte.boites,          carte.numero,          carte.distance,
+            carte.azimut,          carte.departement,     ecran.activeRech,
+            carte.saisie.EnSaisie, !ecran.classer.montre, carte.PrendDuTexte()};
 }
 
 VueBoutons VoirBoutons(const Session& session, const Ecran& ecran, unsigned conditions) {
@@ -67,7 +68,7 @@ VueFenetre VoirFenetre(const Session& session, const Ecran& ecran, const EtatFeu
     return vue;
 }
 
-bool Accessible(const VueFenetre& vue, const Carte& carte, const Ecran& ecran, const Foyer& foyer) {
+bool Joignable(const VueFenetre& vue, const Carte& carte, const Ecran& ecran, const Foyer& foyer) {
     const VueFeuille& feuille = vue.feuille.vue;
     const bool editeur = feuille.panneau && !feuille.controle;
     switch (foyer.cible) {
@@ -93,12 +94,12 @@ bool Accessible(const VueFenetre& vue, const Carte& carte, const Ecran& ecran, c
 }
 
 bool AccorderFoyer(Session& session, Ecran& ecran, const VueFenetre& vue, bool perdu) {
-    const auto accessible = [&](const Foyer& foyer) {
-        return Accessible(vue, session.carte, ecran, foyer);
+    const auto joignable = [&](const Foyer& foyer) {
+        return Joignable(vue, session.carte, ecran, foyer);
     };
-    if (!perdu && accessible(ecran.foyer.voeu.value_or(ecran.foyer.ici)))
+    if (!perdu && joignable(ecran.foyer.voeu.value_or(ecran.foyer.ici)))
         return false;
-    const auto repli = std::find_if(kReplis.begin(), kReplis.end(), accessible);
+    const auto repli = std::find_if(kReplis.begin(), kReplis.end(), joignable);
     if (repli == kReplis.end())
         LacherFoyer(session.carte, ecran);
     else

@@ -22,6 +22,7 @@ struct VueCarte {
     bool activeRech = false;    ///< BtActiveRech is on show
     bool nonEnregistre = false; ///< the banner of a contact that is not stored yet
     bool active = true;
+    bool prendDuTexte = false; ///< its boxes; else they are for reading, choosing and copying
     friend bool operator==(const VueCarte&, const VueCarte&) = default;
 };
 
@@ -59,10 +60,10 @@ struct VueFenetre {
 [[nodiscard]] VueFenetre VoirFenetre(const Session& session, const Ecran& ecran,
                                      const EtatFeuille& feuille);
 
-/// Whether a control that rules name can take the focus in this view. Controls that no rule names
-/// are not judged.
-[[nodiscard]] bool Accessible(const VueFenetre& vue, const Carte& carte, const Ecran& ecran,
-                              const Foyer& foyer);
+/// Whether a control that rules name can take the focus in this view, which knows of the label
+/// sheet too (foyer.h). Controls that no rule names are not judged.
+[[nodiscard]] bool Joignable(const VueFenetre& vue, const Carte& carte, const Ecran& ecran,
+                             const Foyer& foyer);
 
 /// When `vue` cannot grant the wish, or what has the focus is hidden or grey in it (or `perdu` says
 /// that it was a control that no rule names), the focus goes where the operator goes on: what asks

@@ -33,8 +33,14 @@ Dlg1::Dlg1(std::filesystem::path lecteur, Systeme& systeme, QWidget* parent)
     new FiltreEdition(*ui_->Dlg1Fra2Text2, Touches::Majuscules, kLargeurLocator);
     for (QLineEdit* boite : {ui_->Dlg1Fra2Text1, ui_->Dlg1Fra2Text2}) {
         boite->installEventFilter(this);
-        // What was accepted no longer holds once the operator types on.
-        connect(boite, &QLineEdit::textEdited, ui_->Dlg1Fra3, &QWidget::hide);
+        // What was accepted no longer holds once the operator types on. An edit that leaves the
+        // text as it was, such as a key too many, is none.
+        connect(boite, &QLineEdit::textEdited, this, [this, boite](const QString& texte) {
+            const bool premiere = boite == ui_->Dlg1Fra2Text1;
+            const std::string lu = Majuscules(Rogner(S(texte)));
+            if (lu != (premiere ? indicatif_ : monLocator_))
+                ui_->Dlg1Fra3->hide();
+        });
     }
     for (QPushButton* bouton : findChildren<QPushButton*>())
         bouton->installEventFilter(this);

@@ -162,6 +162,10 @@ bool Dlg2::eventFilter(QObject* objet, QEvent* evenement) {
     switch (evenement->type()) {
     case QEvent::KeyPress:
         return TraiterTouche(*boite, *static_cast<QKeyEvent*>(evenement));
+    case QEvent::InputMethod: {
+        const std::string compose = TexteCompose(*evenement).toStdString();
+        return !compose.empty() && FiltrerTouches(boite->regle.touches, compose).empty();
+    }
     case QEvent::MouseButtonRelease:
         if (static_cast<QMouseEvent*>(evenement)->button() == Qt::LeftButton)
             Choisir(*boite);

@@ -37,6 +37,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 // Resources of a static library are linked only where they are asked for.
@@ -72,7 +73,19 @@ bool EstUnGeste(QEvent::Type type) {
 bool Presse(const QEvent& evenement) {
     if (evenement.type() == QEvent::Shortcut)
         return !static_cast<const QShortcutEvent&>(evenement).isAmbiguous();
-    return EstEntree(evenement) && !static_cast<const QKeyEvent&>(evenement).isAutoRepeat();
+    return EstEntree(evenement);
+}
+
+// What an event of the keyboard says of the Enter key. Only windows are asked, which every key
+// comes to first, and once.
+std::optional<MouvementEntree> MouvementDeEntree(const QObject& objet, const QEvent& evenement) {
+    const bool enfoncee = evenement.type() == QEvent::KeyPress;
+    if (!objet.isWindowType() || (!enfoncee && evenement.type() != QEvent::KeyRelease))
+        return std::nullopt;
+    const auto& touche = static_cast<const QKeyEvent&>(evenement);
+    if (touche.key() != Qt::Key_Return && touche.key() != Qt::Key_Enter)
+        return std::nullopt;
+    return MouvementEntree{enfoncee, touche.timestamp(), touche.isAutoRepeat()};
 }
 
 // A letter held with Alt: a command, or a slip of the hand, but never a letter of a box.
@@ -278,6 +291,8 @@ void Orvalis::closeEvent(QCloseEvent* evenement) {
 // keystrokes go to the control that is about to lose the focus. While the window is frozen, what
 // the operator does reaches only what quits.
 bool Orvalis::eventFilter(QObject* objet, QEvent* evenement) {
+    if (const auto mouvement = MouvementDeEntree(*objet, *evenement))
+        SuivreEntree(entree_, *mouvement);
     if (ecran_.gel && EstUnGeste(evenement->type()) && objet->isWidgetType()) {
         const bool agit =
             qobject_cast<QMenuBar*>(objet) != nullptr ||
@@ -288,6 +303,8 @@ bool Orvalis::eventFilter(QObject* objet, QEvent* evenement) {
     if (qobject_cast<QLineEdit*>(objet) != nullptr && LettreAvecAlt(*evenement))
         return true;
     auto* bouton = qobject_cast<QAbstractButton*>(objet);
+    if (bouton != nullptr && EstEntree(*evenement) && !entree_.propre)
+        return true; // those of dialogs too
     if (bouton != nullptr && bouton->window() == this && bouton->isEnabled() &&
         Presse(*evenement)) {
         bouton->click();

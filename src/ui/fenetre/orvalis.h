@@ -5,6 +5,7 @@
 
 #include "qsl/feuille_qsl.h"
 #include "ui/carte/ecran.h"
+#include "ui/carte/entree_tenue.h"
 #include "ui/carte/session.h"
 #include "ui/fenetre/exterieur.h"
 #include "ui/fenetre/panneaux.h"
@@ -78,6 +79,7 @@ class Orvalis : public QMainWindow {
     std::vector<const QObject*> memeGeles_; ///< act although the window is frozen
     int profondeur_ = 0;                    ///< flows under way, one inside the other
     bool demarrageEnCours_ = false;
+    EntreeTenue entree_;
 };
 
 } // namespace orvalis

@@ -142,6 +142,8 @@ void Peintre::PeindrePanneaux(const VueFenetre& vue) {
     }
     p_.changLocator.Montrer(vue.locator);
     Presenter(p_.changLocator, vue.locator.montre);
+    if (Differe(vue, &VueFenetre::locator))
+        p_.enrs.CederAltA(vue.locator.montre);
     if (Differe(vue, &VueFenetre::classer)) {
         p_.classer.Montrer(vue.classer);
         Presenter(p_.classer, vue.classer.montre);

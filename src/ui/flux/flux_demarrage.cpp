@@ -51,6 +51,7 @@ Demarrage ChargerParametres(Plateau& p) {
 
 void InitialiserFenetre(Plateau& p) {
     p.ecran.contacts.montree = false;
+    ViderContacts(p.ecran.contacts); // its numbers are those of another logbook
     p.ecran.recherche.texte.clear();
     AfficherHeure(p);
     RelireCahier(p);

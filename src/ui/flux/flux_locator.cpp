@@ -11,13 +11,20 @@
 namespace orvalis {
 namespace {
 
+// By key, a box that has the focus keeps it with its text.
 void FermerChangLocator(Plateau& p) {
-    LacherFoyer(p);
     Session& s = p.session;
+    const bool dansUneBoite = BoiteDuFoyer(p.ecran.foyer.ici).has_value();
+    const std::string saisi = s.carte.saisie.TexteSaisi;
+    if (!dansUneBoite)
+        LacherFoyer(p);
     p.ecran.locator.montre = false;
     p.ecran.activeRech |= !s.carte.Texte(Boite::Indicatif).empty();
     MontrerTexte(s.carte, Boite::MonLocator, Rogner(s.station.monLocator));
-    DonnerFoyer(p, SurBoite(s.carte.saisie.DerniereZone));
+    if (dansUneBoite)
+        s.carte.saisie.TexteSaisi = saisi;
+    else
+        DonnerFoyer(p, SurBoite(s.carte.saisie.DerniereZone));
 }
 
 } // namespace
@@ -68,7 +75,7 @@ void ValiderLocator(Plateau& p) {
 }
 
 void AnnulerLocator(Plateau& p) {
-    MontrerTexteLocator(p.session.carte, p.ecran, {});
+    p.ecran.locator.texte.clear();
     FermerChangLocator(p);
 }
 

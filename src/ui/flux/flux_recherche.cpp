@@ -39,11 +39,6 @@ void CacherContacts(Plateau& p) {
         LacherFoyer(p);
 }
 
-// A contact under entry, or changes that wait for their answer, keep what the list greyed.
-bool GardeLesBoutons(const EtatSaisie& saisie) {
-    return saisie.EnSaisie || saisie.NbModifs != 0;
-}
-
 } // namespace
 
 void VoirContacts(Plateau& p) {
@@ -53,6 +48,8 @@ void VoirContacts(Plateau& p) {
     p.ecran.recherche.montre = false;
     if (IndicatifSurLaCarte(p))
         MontrerResultat(p, ChercherContacts(p.session.cahier, carte.Texte(Boite::Indicatif)), true);
+    else
+        ViderContacts(p.ecran.contacts);
     p.ecran.contacts.montree = true;
     p.ecran.activeRech = false;
     p.ecran.contacts.supprimerGrise |= enEdition;
@@ -86,7 +83,7 @@ void CliquerRecherche(Plateau& p) {
     // The list takes the button with it, and gives it back whichever way it goes.
     p.ecran.activeRech |= p.ecran.contacts.montree && IndicatifSurLaCarte(p);
     CacherContacts(p);
-    if (!GardeLesBoutons(p.session.carte.saisie))
+    if (!p.session.carte.EnAttente())
         RendreBoutons(p.ecran);
 }
 
@@ -94,13 +91,16 @@ void FermerContacts(Plateau& p) {
     CacherContacts(p);
     p.ecran.recherche.montre = true; // Kept on purpose, for the operators: during entry too.
     p.ecran.activeRech |= IndicatifSurLaCarte(p);
-    if (!GardeLesBoutons(p.session.carte.saisie))
+    Carte& carte = p.session.carte;
+    if (!carte.EnAttente()) {
         RendreBoutons(p.ecran);
-    if (p.session.carte.EnEdition())
-        return RendreFoyerALaBoite(p.session.carte, p.ecran, p.session.station);
-    p.ecran.recherche.texte.clear();
-    RendreListe(p);
-    DonnerFoyer(p, {Cible::Liste});
+        p.ecran.recherche.texte.clear();
+        RendreListe(p);
+    }
+    if (carte.EnEdition())
+        RendreFoyerALaBoite(carte, p.ecran, p.session.station);
+    else
+        DonnerFoyer(p, {Cible::Liste});
 }
 
 void MontrerDoublons(Plateau& p) {

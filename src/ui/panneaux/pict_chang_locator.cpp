@@ -8,6 +8,9 @@
 #include "ui/widgets/teintes.h"
 #include "ui_pict_chang_locator.h"
 
+#include <QFocusEvent>
+#include <QMouseEvent>
+
 namespace orvalis {
 
 PictChangLocator::PictChangLocator(QWidget* parent)
@@ -34,7 +37,27 @@ bool PictChangLocator::eventFilter(QObject* objet, QEvent* evenement) {
         Q_EMIT entree();
         return true;
     }
-    return QFrame::eventFilter(objet, evenement);
+    return SuivreClic(*evenement) || QFrame::eventFilter(objet, evenement);
+}
+
+// The click that brings the focus finds the whole text selected, and leaves it so; a later one
+// places the caret.
+bool PictChangLocator::SuivreClic(const QEvent& evenement) {
+    switch (evenement.type()) {
+    case QEvent::FocusIn:
+        clicDuFoyer_ = static_cast<const QFocusEvent&>(evenement).reason() == Qt::MouseFocusReason;
+        return false;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseMove:
+        return clicDuFoyer_ &&
+               static_cast<const QMouseEvent&>(evenement).buttons().testFlag(Qt::LeftButton);
+    case QEvent::MouseButtonRelease:
+    case QEvent::FocusOut:
+        clicDuFoyer_ = false;
+        return false;
+    default:
+        return false;
+    }
 }
 
 } // namespace orvalis

@@ -30,7 +30,11 @@ class PictChangLocator : public QFrame {
     bool eventFilter(QObject* objet, QEvent* evenement) override;
 
   private:
+    /// Returns whether the event goes no further.
+    [[nodiscard]] bool SuivreClic(const QEvent& evenement);
+
     std::unique_ptr<Ui::PictChangLocator> ui_;
+    bool clicDuFoyer_ = false; ///< the click under way brought the focus
 };
 
 } // namespace orvalis

@@ -20,6 +20,10 @@ void PictEnrs::Montrer(const VueBoutons& boutons) {
     Activer(*ui_->BtEnrAnnuler, boutons.annuler);
 }
 
+void PictEnrs::CederAltA(bool cede) {
+    ui_->BtEnrAnnuler->setShortcut(cede ? QKeySequence() : QKeySequence(Qt::ALT | Qt::Key_A));
+}
+
 void PictEnrs::MontrerOption(bool tempsReel) {
     (tempsReel ? ui_->OptionEnr1 : ui_->OptionEnr2)->setChecked(true);
 }

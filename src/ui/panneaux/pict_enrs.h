@@ -21,6 +21,8 @@ class PictEnrs : public QWidget {
 
     /// The store button green and usable, or at rest.
     void Montrer(const VueBoutons& boutons);
+    /// Leaves Alt+A to the locator panel's own button while that is open.
+    void CederAltA(bool cede);
     /// Real time, or deferred.
     void MontrerOption(bool tempsReel);
 

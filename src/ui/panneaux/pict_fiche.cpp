@@ -172,6 +172,7 @@ void PictFiche::Montrer(const VueCarte& vue) {
         if (const QString texte = Q(montree.texte); ici.text() != texte)
             ici.Montrer(texte);
         ici.Colorer(montree.couleur);
+        ici.PrendreDuTexte(vue.prendDuTexte);
     }
     noFicheLab_->setText(Q(vue.numero));
     MontrerMesure(*labDist_, kDistanceLue, Q(vue.distance));

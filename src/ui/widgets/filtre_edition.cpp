@@ -2,6 +2,7 @@
 
 #include "core/texte.h"
 #include "ui/bureau/texte_qt.h"
+#include "ui/widgets/gestes.h"
 
 #include <QLineEdit>
 
@@ -12,12 +13,29 @@ FiltreEdition::FiltreEdition(QLineEdit& boite, Touches touches, std::size_t long
     connect(&boite, &QLineEdit::textChanged, this,
             [this](const QString& texte) { precedent_ = S(texte); });
     boite.setValidator(this);
+    boite.installEventFilter(this);
 }
 
 void FiltreEdition::Montrer(const QString& texte) {
     programme_ = true;
     boite_.setText(texte);
     programme_ = false;
+}
+
+bool FiltreEdition::Refuse(const QString& texte) const {
+    return !texte.isEmpty() && texte.front().isPrint() &&
+           FiltrerTouches(touches_, S(texte.normalized(QString::NormalizationForm_C))).empty();
+}
+
+bool FiltreEdition::eventFilter(QObject* objet, QEvent* evenement) {
+    bool refuse = false;
+    if (evenement->type() == QEvent::KeyPress) {
+        const auto& touche = static_cast<const QKeyEvent&>(*evenement);
+        refuse = !touche.modifiers().testFlag(Qt::ControlModifier) && Refuse(touche.text());
+    } else if (evenement->type() == QEvent::InputMethod) {
+        refuse = Refuse(TexteCompose(*evenement));
+    }
+    return refuse || QValidator::eventFilter(objet, evenement);
 }
 
 QValidator::State FiltreEdition::validate(QString& texte, int& curseur) const {

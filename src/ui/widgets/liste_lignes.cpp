@@ -3,6 +3,7 @@
 #include "ui/bureau/texte_qt.h"
 #include "ui/widgets/police.h"
 
+#include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QtMath>
 
@@ -45,6 +46,22 @@ void ListeLignes::focusInEvent(QFocusEvent* evenement) {
     QListWidget::focusInEvent(evenement);
     if (sansLigne)
         setCurrentRow(-1);
+}
+
+void ListeLignes::keyPressEvent(QKeyEvent* evenement) {
+    switch (evenement->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        return QListWidget::keyPressEvent(evenement);
+    default:
+        if (evenement->matches(QKeySequence::Copy))
+            return QListWidget::keyPressEvent(evenement);
+        evenement->ignore();
+    }
 }
 
 } // namespace orvalis

@@ -9,7 +9,8 @@
 namespace orvalis {
 
 /// Qt makes the first line current when a list without a current one takes the focus; here that
-/// would show another card than the operator asked for.
+/// would show another card than the operator asked for. So would a typed letter, which Qt takes for
+/// the beginning of a line.
 class ListeLignes : public QListWidget {
     Q_OBJECT
   public:
@@ -28,6 +29,7 @@ class ListeLignes : public QListWidget {
 
   protected:
     void focusInEvent(QFocusEvent* evenement) override;
+    void keyPressEvent(QKeyEvent* evenement) override;
 };
 
 } // namespace orvalis

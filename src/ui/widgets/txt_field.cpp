@@ -1,7 +1,5 @@
 #include "ui/widgets/txt_field.h"
 
-#include "core/texte.h"
-#include "ui/bureau/texte_qt.h"
 #include "ui/widgets/filtre_edition.h"
 #include "ui/widgets/teintes.h"
 
@@ -32,6 +30,11 @@ void TxtField::Colorer(Couleur couleur) {
     AppliquerCouleur();
 }
 
+void TxtField::PrendreDuTexte(bool prend) {
+    setReadOnly(!prend);
+    setCursor(Qt::IBeamCursor);
+}
+
 void TxtField::AppliquerCouleur() {
     QPalette palette;
     const bool saQsl = boite_.boite == Boite::SaQsl;
@@ -58,19 +61,8 @@ void TxtField::keyPressEvent(QKeyEvent* evenement) {
         Q_EMIT cliquee();
         return;
     default:
-        // A refused key is swallowed before it can replace what is selected.
-        if (Refusee(*evenement))
-            evenement->accept();
-        else
-            QLineEdit::keyPressEvent(evenement);
+        QLineEdit::keyPressEvent(evenement);
     }
-}
-
-bool TxtField::Refusee(const QKeyEvent& evenement) const {
-    const QString texte = evenement.text();
-    return !texte.isEmpty() && texte.front().isPrint() &&
-           !evenement.modifiers().testFlag(Qt::ControlModifier) &&
-           FiltrerTouches(boite_.touches, S(texte)).empty();
 }
 
 void TxtField::mousePressEvent(QMouseEvent* evenement) {
@@ -81,8 +73,9 @@ void TxtField::mousePressEvent(QMouseEvent* evenement) {
 }
 
 void TxtField::mouseMoveEvent(QMouseEvent* evenement) {
-    // A hand that trembles during the press must not undo the selection the press just made.
-    if (!pressionRecue_)
+    // A hand that trembles during the press must not undo the selection the press just made. A card
+    // that the press did not open has none, and its text is chosen with the mouse.
+    if (!pressionRecue_ || isReadOnly())
         QLineEdit::mouseMoveEvent(evenement);
 }
 

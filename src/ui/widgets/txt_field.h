@@ -18,6 +18,8 @@ class TxtField : public QLineEdit {
 
     /// Shows a text as it is, past the key rules, and clears the undo history.
     void Montrer(const QString& texte);
+    /// Whether it takes text; else it is for reading, choosing and copying, and looks the same.
+    void PrendreDuTexte(bool prend);
     /// Background by a colour of the boxes; at rest it is the palette's own.
     void Colorer(Couleur couleur);
 
@@ -34,7 +36,6 @@ class TxtField : public QLineEdit {
 
   private:
     void AppliquerCouleur();
-    [[nodiscard]] bool Refusee(const QKeyEvent& evenement) const;
 
     const DescriptionBoite& boite_;
     FiltreEdition* filtre_;

@@ -10,9 +10,9 @@ namespace orvalis::aides {
 /// In this order, with commas between them, "rien" for none: zone n=text (slots), boite n=text
 /// (texts shown that were not there before), repos, gris, jaune, rouge or vert n (colours of boxes,
 /// likewise); saisi (the typed text as the rule leaves it), date, freq and mode (remembered),
-/// derniere (box), modifs (changes counted); "corrigé" for one more, modification left and the
-/// question asked; flags and controls by their names, "sans" for off; dist, azim and dept (labels),
-/// choisi (text selected), erreur and foyer with their box.
+/// derniere (box), modifs (changes counted); "corrigé" for one more, its box showing it,
+/// modification left and the question asked; flags and controls by their names, "sans" for off;
+/// dist, azim and dept (labels), choisi (text selected), erreur and foyer with their box.
 inline std::string Decrire(const Carte& avant, const Reponse& r) {
     std::ostringstream dit;
     std::string dernier;
@@ -34,23 +34,26 @@ inline std::string Decrire(const Carte& avant, const Reponse& r) {
     for (const DescriptionBoite& d : kBoites)
         if (avant.zones[d.boite] != carte.zones[d.boite])
             dire("zone", std::to_string(Numero(d.boite)) + '=' + carte.zones[d.boite]);
+    const EtatSaisie &a = avant.saisie, &n = carte.saisie;
+    const Effets& e = r.effets;
+    bool corrige =
+        n.NbModifs == a.NbModifs + 1 && a.EnModification && !n.EnModification && e.poserQuestion;
+    const auto stockee = [&](Boite b) { return avant.zones[b] != carte.zones[b]; };
     for (const DescriptionBoite& d : kBoites)
-        if (avant.Texte(d.boite) != carte.Texte(d.boite))
+        corrige = corrige && (!stockee(d.boite) || carte.Texte(d.boite) == carte.zones[d.boite]);
+    for (const DescriptionBoite& d : kBoites)
+        if (avant.Texte(d.boite) != carte.Texte(d.boite) && !(corrige && stockee(d.boite)))
             dire("boite", std::to_string(Numero(d.boite)) + '=' + carte.Texte(d.boite));
     for (const DescriptionBoite& d : kBoites)
         if (const Couleur c = carte.boites[Rang(d.boite)].couleur;
             c != avant.boites[Rang(d.boite)].couleur)
             dire(Couper("repos,gris,jaune,rouge,vert", ",").at(static_cast<std::size_t>(c) - 1),
                  Numero(d.boite));
-    const EtatSaisie &a = avant.saisie, &n = carte.saisie;
     change("saisi", a.TexteSaisi, n.TexteSaisi);
     change("date", a.DerniereDate, n.DerniereDate);
     change("freq", a.DerniereFreq, n.DerniereFreq);
     change("mode", a.DernierMode, n.DernierMode);
     change("derniere", Numero(a.DerniereZone), Numero(n.DerniereZone));
-    const Effets& e = r.effets;
-    const bool corrige =
-        n.NbModifs == a.NbModifs + 1 && a.EnModification && !n.EnModification && e.poserQuestion;
     change("modifs", a.NbModifs + (corrige ? 1 : 0), n.NbModifs);
     for (const auto& [nom, ancien, nouveau] :
          {std::tuple{"corrigé", false, corrige},

@@ -1,6 +1,7 @@
 // The card under entry and under correction: Enter, focus and mouse, box by box, and what is
 // stored.
 #include "ui/carte/decrire.h"
+#include "ui/carte/entree_tenue.h"
 #include "ui/carte/modification.h"
 
 namespace orvalis::aides::saisie {
@@ -55,7 +56,7 @@ TEST(Saisie, EntreeBoiteParBoite) {
  1 anonyme tape F6X : zone 1=F6X 2=21/11/26 3=07:05, boite 2=21/11/26 3=07:05, saisi 07:05,
  QsoCommence, ActiveRech, Annuler, foyer 5;
  1 différé tape " F6X " : zone 1=F6X, saisi F6X, QsoCommence, ActiveRech, Annuler, foyer 2;
- 1 anonyme tape "" : foyer 1; 1 tape "  " : zone 1=, saisi ""; 1 tape \ : rien;
+ 1 anonyme tape "" : boite 1=, foyer 1; 1 tape "  " : zone 1=, boite 1=, saisi ""; 1 tape \ : rien;
  1 anonyme tape " \ " : saisi \, foyer 1; 1 fiche tape " F6X" : rien;
  2 différé tape 01/05/02 : zone 2=01/05/02, boite 2=01/05/02, date 01/05/02, foyer 3;
  2 différé tape 01.05.02 : zone 2=01.05.02, boite 2=01.05.02, date 01.05.02, foyer 3;
@@ -63,24 +64,24 @@ TEST(Saisie, EntreeBoiteParBoite) {
  2 date tape "" : rien; 2 tape 01/05/02 : rien;
  3 différé tape 18:30 : zone 3=18:30, foyer 4; 3 différé tape 24:00 : saisi ""; 3 tape 18:30 : rien;
  4 différé tape 9:5// : zone 4=09:00, saisi 09:00, foyer 5; 4 différé tape 1830 : rien;
- 4 tape 18:30 : rien; 5 tape 14.250 : zone 5=14.250, freq 14.250, foyer 6; 5 tape "" : rien;
+ 4 tape 18:30 : rien; 5 tape 14.250 : zone 5=14.250, freq 14.250, foyer 6; 5 tape "" : boite 5=;
  5 fréquence tape "" : zone 5=7.05, foyer 6; 6 mode tape SSB : zone 6=SSB, mode SSB, foyer 7;
- 6 mode tape "" : zone 6=CW, foyer 7; 6 tape " " : saisi "";
+ 6 mode tape "" : zone 6=CW, foyer 7; 6 tape " " : boite 6=, saisi "";
  7 tape "" : zone 7=59, foyer 8; 7 tape 57+5 : zone 7=57+5, foyer 8;
  8 tape "" : zone 8=59, QsoCommence, Suivant, foyer 12;
  8 anonyme tape 41 : zone 8=41, QsoCommence, Suivant, foyer 12; 8 fiche tape "" : rien;
  12 tape jean PIERRE : zone 12=Jean Pierre, foyer 9; 9 tape LYON : zone 9=LYON, foyer 11;
- 11 tape "" : foyer 10; 11 tape 7 : zone 11=07, boite 11=07, saisi 07, dept Ardèche, foyer 10;
- 11 tape 075 : zone 11=075, dept Ville-de-Paris, foyer 10; 10 tape "" : foyer 13;
+ 11 tape "" : boite 11=, foyer 10; 11 tape 7 : zone 11=07, boite 11=07, saisi 07, dept Ardèche, foyer 10;
+ 11 tape 075 : zone 11=075, dept Ville-de-Paris, foyer 10; 10 tape "" : boite 10=, foyer 13;
  11 tape 99 : zone 11=99, dept "", foyer 10; 10 tape JN18A : zone 10=JN18A;
  10 tape JN19AA : zone 10=JN19AA, dist 111, azim 000°, foyer 13;
  10 tape JN18ZZ : saisi "", erreur 10, foyer 10;
  13 tape BONJOUR : zone 0=BONJOUR                        13=BONJOUR, foyer 14;
- 14 tape X : zone 14=X, foyer 15; 15 tape "" : foyer 17;
+ 14 tape X : zone 14=X, foyer 15; 15 tape "" : boite 15=, foyer 17;
  16 tape IN95AA : rien; 16 anonyme tape IN95AA : foyer 1;
  17 commencé tape F9XX : zone 0=               F9XX            17=F9XX, foyer BtEnrSuivant;
- 17 tape "" : zone 0=                              , foyer 1;
- 17 commencé anonyme tape "" : zone 0=                              , foyer 1)");
+ 17 tape "" : zone 0=                              , boite 17=, foyer 1;
+ 17 commencé anonyme tape "" : zone 0=                              , boite 17=, foyer 1)");
 }
 
 TEST(Saisie, InfoJointLesDernieresMoitiesValidees) {
@@ -133,10 +134,11 @@ TEST(Saisie, PressionSurUneBoite) { // the texts are those that the boxes show
  5 tape 14.2 : vert 5, saisi "", choisi 5; 5 tape "  " : boite 5=, vert 5, saisi "";
  5 fiche tape 14.2 : rouge 5, saisi "", EnModification, choisi 5;
  5 fiche modification comptée tape 14.2 : rouge 5, saisi "", choisi 5;
+ 13 commencé anonyme tape x : foyer 1; 16 commencé anonyme tape x : derniere 16, Locator;
  16 tape JN18AA : vert 16, saisi "", derniere 16, Locator, choisi 16;
  16 fiche tape " " : boite 16=, rouge 16, saisi "", EnModification)");
     const auto refuser = [](const Carte& c, Boite b, auto) { return PresserBoite(c, b, false); };
-    Derouler(montrer, refuser, "5 fiche tape 14.2 : saisi \"\"");
+    Derouler(montrer, refuser, "5 fiche tape 14.2 : rien");
 }
 
 TEST(Saisie, UneFicheViergePourLeContactSuivant) {
@@ -199,14 +201,16 @@ TEST(Modification, EntreeBoiteParBoite) {
     };
     Derouler(Stockee, entree, R"(
  1 tape "", \ : repos 1; 1 tape " F6X " : zone 1=F6X, saisi F6X, corrigé; 2 tape 1/5/02 : repos 2;
- 2 tape 31/04/02 : sans EnModification; 2 tape 02/05/02 : zone 2=02/05/02, corrigé;
- 3 tape 9:30 : boite 3=18:30, repos 3, saisi 18:30; 3 tape 24:00 : sans EnModification;
- 3 tape 9:5// : zone 3=09:00, corrigé; 4 tape "" : boite 4=18:45, repos 4, saisi 18:45;
+ 2 tape 31/04/02 : boite 2=01/05/02, saisi 01/05/02, sans EnModification;
+ 2 tape 02/05/02 : zone 2=02/05/02, corrigé;
+ 3 tape 9:30 : boite 3=18:30, repos 3, saisi 18:30; 3 tape 24:00 : boite 3=18:30, saisi 18:30,
+ sans EnModification;
+ 3 tape 9:5// : zone 3=09:00, saisi 09:00, corrigé; 4 tape "" : boite 4=18:45, repos 4, saisi 18:45;
  4 tape 19:00 : zone 4=19:00, corrigé; 5 tape "" : boite 5=14.25, repos 5, saisi 14.25;
  5 tape 7.05 : zone 5=7.05, corrigé; 6 tape " " : boite 6=SSB, repos 6, saisi SSB;
  6 tape CW : zone 6=CW, corrigé; 7 tape "" : boite 7=59, repos 7, saisi 59; 7 tape 57 : zone 7=57, corrigé;
  8 tape "" : boite 8=59, repos 8, saisi 59; 8 tape 44+ : zone 8=44+, corrigé; 9 tape "" : zone 9=, corrigé;
- 9 tape PARIS : zone 9=PARIS, corrigé; 10 tape "" : sans EnModification;
+ 9 tape PARIS : zone 9=PARIS, corrigé; 10 tape "" : boite 10=JN15AA, saisi JN15AA, sans EnModification;
  10 tape JN05BB : zone 10=JN05BB, corrigé; 10 tape JN05B : saisi "", erreur 10, foyer 10;
  11 tape "" : zone 11=, corrigé, dept ""; 11 tape 7 : zone 11=07, saisi 07, corrigé, dept "";
  11 tape 0 : zone 11=0, corrigé, dept ""; 11 tape 95 : zone 11=95, corrigé, dept "";
@@ -225,7 +229,8 @@ TEST(Modification, LesChangementsSAccumulentJusquALaReponse) {
     Carte carte = ModifierZone(Stockee("", "7.05"), Boite::Frequence).carte;
     carte.saisie.EnModification = true;
     carte.saisie.TexteSaisi = "31/04/02"; // refused, but there is still a change to ask for
-    EXPECT_EQ(Decrire(carte, ModifierZone(carte, Boite::Date)), "sans EnModification, Question");
+    EXPECT_EQ(Decrire(carte, ModifierZone(carte, Boite::Date)),
+              "boite 2=01/05/02, saisi 01/05/02, sans EnModification, Question");
     carte.saisie.TexteSaisi = "CW";
     carte = ModifierZone(carte, Boite::Mode).carte;
     EXPECT_EQ(carte.saisie.NbModifs, 2);
@@ -236,6 +241,30 @@ TEST(Modification, LesChangementsSAccumulentJusquALaReponse) {
     OublierModifications(carte.saisie);
     EXPECT_EQ(Decrire(carte, RepondreNon(carte)), "rien");
     EXPECT_EQ(QuestionEffacer(carte).numero + QuestionModifier(carte).indicatif, "12F5ABC");
+}
+
+// The key pressed (+), released (-), marked as repeated (r), with its instants -> presses of its
+// own.
+TEST(Saisie, EntreeTenueOuPressee) {
+    const auto appuis = [](const std::string& mouvements) {
+        EntreeTenue touche;
+        std::string propres;
+        for (const std::string& mot : Couper(mouvements, " ")) {
+            const bool appui = mot[0] == '+';
+            SuivreEntree(touche, {appui, std::stoull(mot.substr(1)), mot.back() == 'r'});
+            if (appui)
+                propres += touche.propre ? 'o' : '-';
+        }
+        return propres;
+    };
+    Verifier(appuis, Textes{{"+9 -80 +200 -280", "oo"},
+                            {"+9 -509 +509 -539 +539 -560 +900", "o--o"}, // X11, unmarked
+                            {"+9 -509r +509r -539 +539 -560 +561", "o--o"},
+                            {"+9 +509r +539r -560 +900", "o--o"}, // without releases
+                            {"+9 +509 +539 -560 +900", "o--o"},   // the same, unmarked
+                            {"+9 +2000", "oo"},                   // released elsewhere
+                            {"+9 -10 +11 -12 +13", "ooo"},        // 2 ms a key
+                            {"+9 -10 +10 -11 +11", "ooo"}});      // sent in one instant
 }
 
 TEST(Modification, NombreArrondiAuPair) {

@@ -1,0 +1,33 @@
+#include "ui/carte/entree_tenue.h"
+
+namespace orvalis {
+namespace {
+
+// No keyboard waits longer before it repeats. A release that went to another program must not cost
+// a press for ever.
+constexpr std::uint64_t kAttenteMs = 1000;
+// No keyboard begins to repeat so soon, but keys that a program sends come as fast.
+constexpr std::uint64_t kRafaleMs = 50;
+
+bool EstUneRepetition(const EntreeTenue& touche, const MouvementEntree& appui) {
+    if (appui.repetee || !touche.appui)
+        return appui.repetee;
+    if (touche.enfoncee)
+        return appui.instant - *touche.appui <= kAttenteMs;
+    return touche.relachee == appui.instant &&
+           (!touche.propre || appui.instant - *touche.appui >= kRafaleMs);
+}
+
+} // namespace
+
+void SuivreEntree(EntreeTenue& touche, const MouvementEntree& mouvement) {
+    if (mouvement.enfoncee) {
+        touche.propre = !EstUneRepetition(touche, mouvement);
+        touche.appui = mouvement.instant;
+    } else {
+        touche.relachee = mouvement.instant;
+    }
+    touche.enfoncee = mouvement.enfoncee;
+}
+
+} // namespace orvalis
