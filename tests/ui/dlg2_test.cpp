@@ -44,7 +44,7 @@ TEST_F(Dlg2Test, SeRemplitUneFoisParOuverture) {
     Montrer(dialogue);
     EXPECT_EQ(dialogue.LocatorModifie(), std::nullopt);
     Tout("opened again :", kOuverture);
-    banc.Suivre("entered : touche Tab");
+    banc.Suivre("entered : touche Tab; compose ê");
     EXPECT_EQ(S(banc.Controle<QLineEdit>("Fr1DegText1")->selectedText()), "44");
     // Only the notation that is chosen changes the others, and only when it is in range.
     banc.Suivre(R"(

@@ -1,6 +1,8 @@
 // Sort, pairing, other logbooks, backup and copy through the window's menus.
 #include "ui/banc.h"
 
+#include <QMouseEvent>
+
 namespace orvalis::operateur::maintenance {
 
 TEST(Maintenance, ClasserMontreEtGele) {
@@ -34,14 +36,22 @@ TEST(Maintenance, AutreCahierEnLectureSeulePuisRetour) {
  another logbook : clic FraCmdNon; fichier F6XYZ.Vek; menu MnuAutreF
      -> LabJournal = "F6XYZ (lecture seule) : 30 contacts"; actif BtFermerLog;
      grisé BtNewQSO BtKillFiche MnuJumeler MnuSauver
- for reading only : clic TxtField_6; valide CW -> caché FraMsgFiche
+ for reading only : clic TxtField_6; valide CW -> caché FraMsgFiche)");
+    auto* boite = banc.Controle<QLineEdit>("TxtField_6");
+    for (const auto& [type, x] :
+         {std::pair{QEvent::MouseButtonPress, 0}, {QEvent::MouseMove, 99}}) {
+        QMouseEvent evenement(type, QPointF(x, 9), boite->mapToGlobal(QPointF(x, 9)),
+                              Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(boite, &evenement);
+    }
+    EXPECT_EQ(boite->selectedText(), u"SSB") << "to be copied";
+    banc.Suivre(R"(
  still : clic BtActiveRech, BtContactsFermer -> grisé BtNewQSO BtKillFiche
  the own one : menu MnuCourantF -> LabJournal = "F5ABC : 3 contacts"; actif BtNewQSO BtKillFiche
  the list of another is gone : clic BtActiveRech; fichier F6XYZ.Vek; menu MnuAutreF -> ContactsListe =
  leaving the pairing : menu MnuCourantF, MnuJumeler; tape x; menu MnuCourantF -> caché PJumelage
  a text searched : foyer RechText; tape f6; menu MnuCourantF -> RechText =
- entry : clic BtNewQSO -> TxtField_16 = JN04SD; grisé MnuAutreF
- no callsign, no list : touche Alt+T; clic BtActiveRech, BtContactsFermer; clic BtNewQSO)");
+ entry : clic BtNewQSO -> TxtField_16 = JN04SD; grisé MnuAutreF)");
     EXPECT_EQ(banc.Lire("F6XYZ.Vek"), Contacts(30) + Fin("IN88AA"));
 }
 

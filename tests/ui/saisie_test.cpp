@@ -1,6 +1,10 @@
 // Contacts typed, corrected, deleted and found through the real window; the file is read back.
 #include "ui/banc.h"
 
+#include <QAbstractButton>
+#include <QTimer>
+#include <QTimerEvent>
+
 namespace orvalis::operateur::saisie {
 
 TEST(Saisie, QuaranteContactsDansLesDeuxModes) {
@@ -73,10 +77,16 @@ TEST(Saisie, LocatorFauxGeleUneSeconde) {
      -> foyer = TxtField_1; actif BtEnrAnnuler
  to box 10 : valide f6abc, 14, fm; entree 4; touche Enter -> foyer = TxtField_10)");
     banc.systeme.pendantPause = [&banc] {
-        banc.Suivre("gel : touche Backspace; valide x; clic BtEnrAnnuler -> TxtField_10 = ERREUR");
+        banc.systeme.maintenant.secondes = 16;
+        QTimerEvent tic(banc.Controle<QTimer>("Timer1")->timerId());
+        QCoreApplication::sendEvent(banc.Controle<QTimer>("Timer1"), &tic);
+        banc.Suivre("gel : touche Backspace; valide x; clic BtEnrAnnuler -> TxtField_10 = ERREUR; "
+                    "LabHeure = 18:30:16");
     };
     banc.Suivre("wrong : valide jn99zz -> TxtField_1 TxtField_10 foyer = F6ABC||TxtField_10");
     EXPECT_FALSE(banc.systeme.pendantPause) << "there was no pause";
+    banc.systeme.pendantPause = [&banc] { banc.fenetre->close(); };
+    banc.Suivre("quit meanwhile : clic TxtField_16; valide jn99zz -> ChangLocText = ERREUR");
     EXPECT_EQ(Difference(banc.OctetsCahier(), Fin()), "");
 }
 
@@ -85,9 +95,14 @@ TEST(Saisie, EntreeTenueNEnregistreRien) {
     banc.Suivre(R"(
  held down to the end : clic BtNewQSO; valide f6xyz, 14.2, ssb; tient 20 -> foyer = BtEnrSuivant
  own locator : clic TxtField_16; tape jn18du; tient 3 -> actif PictChangLocator
+ a click brings the focus : clic TxtField_9, ChangLocText; tape jn -> ChangLocText = JN
+ another the caret : clic TxtField_9, ChangLocText, ChangLocText; tape x -> ChangLocText = JN04SD
  given up by key : clic TxtField_9; tape pa; touche Alt+A; valide ris -> caché PictChangLocator;
      TxtField_1 TxtField_9 foyer = F6XYZ|PARIS|TxtField_11)");
     EXPECT_EQ(banc.OctetsCahier(), Contacts(1) + Fin());
+    banc.Suivre("typed beside : clic TxtField_16; valide jn18du; clic TxtField_9; tape ly");
+    banc.Controle<QAbstractButton>("BtChangValid")->click(); // as a screen reader does
+    banc.Suivre("kept : valide on -> TxtField_16 TxtField_9 = JN18DU|LYON");
     banc.Suivre("pressed : foyer BtEnrSuivant; entree 1 -> NoFicheLab = \" Charger fiche N° 3\"");
 }
 
@@ -100,12 +115,13 @@ TEST(Saisie, UneBoiteMontreCeQuiEstOuSeraEnregistre) {
  emptied : clic TxtField_6; tape AM; clic TxtField_6; entree 1 -> TxtField_6 = SSB; actif TxtField_6
  refused : clic TxtField_2; valide 31/02/26 -> TxtField_2 = 12/05/02; actif FraMsgFiche
  menus : clic TxtField_9; tape tours; touche F10, Escape, Escape -> TxtField_9 foyer = TOURS|TxtField_9
- and left : touche Alt, Escape; clic TxtField_10 -> TxtField_9 = ; foyer = TxtField_10
- by another control : clic TxtField_9; tape tours; touche Alt, Escape; foyer ListeLog -> TxtField_9 =
- entry : clic FraCmdNon, BtNewQSO; valide f6xyz; tape 14.2; touche Alt, Escape -> TxtField_5 = 14.2
+ and left : touche Alt; clic TxtField_10 -> TxtField_9 = ; foyer = TxtField_10
+ by another control : clic TxtField_9; tape tours; touche F10, Escape, Escape; foyer ListeLog -> TxtField_9 =
+ entry : clic FraCmdNon, BtNewQSO; valide f6xyz; tape 14.2; touche Alt -> TxtField_5 = 14.2
  left : clic TxtField_12 -> TxtField_5 = 
  caret : tape jean; touche Home; tape x -> TxtField_12 = xjean
- dead key : foyer TxtField_7; compose ê; valide 57 -> TxtField_7 = 57
+ selection : touche Ctrl+A; menu MnuDoublons; tape luc -> TxtField_12 = luc
+ refused, as a dead key brings it too : foyer TxtField_7; tape e; compose ê; valide 57 -> TxtField_7 = 57
  mode : touche Alt+D; clic TxtField_1; entree 1 -> TxtField_1 = 
  sent back : clic TxtField_13; valide f6xyz -> TxtField_1 foyer = F6XYZ|TxtField_2)");
 }
@@ -137,6 +153,12 @@ TEST(Saisie, ModificationSansSourisEtRefus) {
     EXPECT_EQ(Difference(banc.OctetsCahier(), Contacts(3) + Fin()), "");
     banc.Suivre("deleted : clic BtKillFiche; touche Alt+O");
     EXPECT_EQ(banc.OctetsCahier().substr(0, 2 * kTailleFiche), Contacts(3).substr(kTailleFiche));
+}
+
+TEST(Recherche, SansIndicatifLaListeEstVide) {
+    Banc banc(Octets("|12/05/02") + Contacts(1) + Fin());
+    banc.Suivre("emptied : clic BtActiveRech, BtContactsFermer; ligne 1; clic BtActiveRech -> "
+                "ContactsListe NbreContacts ContactsLab = |0|");
 }
 
 TEST(Recherche, IndicatifDateEtDoublons) {
