@@ -100,9 +100,9 @@ TEST(Saisie, EntreeTenueNEnregistreRien) {
  given up by key : clic TxtField_9; tape pa; touche Alt+A; valide ris -> caché PictChangLocator;
      TxtField_1 TxtField_9 foyer = F6XYZ|PARIS|TxtField_11)");
     EXPECT_EQ(banc.OctetsCahier(), Contacts(1) + Fin());
-    banc.Suivre("typed beside : clic TxtField_16; valide jn18du; clic TxtField_9; tape ly");
+    banc.Suivre("typed beside : clic TxtField_16; valide jn18du; clic TxtField_9; tape lyon");
     banc.Controle<QAbstractButton>("BtChangValid")->click(); // as a screen reader does
-    banc.Suivre("kept : valide on -> TxtField_16 TxtField_9 = JN18DU|LYON");
+    banc.Suivre("kept : entree 1 -> TxtField_16 TxtField_9 = JN18DU|LYON");
     banc.Suivre("pressed : foyer BtEnrSuivant; entree 1 -> NoFicheLab = \" Charger fiche N° 3\"");
 }
 
