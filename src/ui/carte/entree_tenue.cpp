@@ -12,10 +12,10 @@ constexpr std::uint64_t kRafaleMs = 50;
 bool EstUneRepetition(const EntreeTenue& touche, const MouvementEntree& appui) {
     if (appui.repetee || !touche.appui)
         return appui.repetee;
+    const std::uint64_t depuis = appui.instant - *touche.appui;
     if (touche.enfoncee)
-        return appui.instant - *touche.appui <= kAttenteMs;
-    return touche.relachee == appui.instant &&
-           (!touche.propre || appui.instant - *touche.appui >= kRafaleMs);
+        return depuis <= kAttenteMs;
+    return touche.relachee == appui.instant && depuis >= (touche.propre ? kRafaleMs : 1);
 }
 
 } // namespace

@@ -31,6 +31,8 @@ void TxtField::Colorer(Couleur couleur) {
 }
 
 void TxtField::PrendreDuTexte(bool prend) {
+    if (isReadOnly() != prend)
+        return;
     setReadOnly(!prend);
     setCursor(Qt::IBeamCursor);
 }

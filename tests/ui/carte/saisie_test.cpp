@@ -263,6 +263,7 @@ TEST(Saisie, EntreeTenueOuPressee) {
                             {"+9 +509r +539r -560 +900", "o--o"}, // without releases
                             {"+9 +509 +539 -560 +900", "o--o"},   // the same, unmarked
                             {"+9 +2000", "oo"},                   // released elsewhere
+                            {"+0r -0 +0", "-o"},                  // no clock
                             {"+9 -10 +11 -12 +13", "ooo"},        // 2 ms a key
                             {"+9 -10 +10 -11 +11", "ooo"}});      // sent in one instant
 }
