@@ -15,7 +15,7 @@ void Trier(benchmark::State& etat, const CahierEssai& essai, std::span<const Qso
     Chronometrer(
         etat, [&] { essai.Ecrire(fiches); },
         [&] {
-            Tri tri(cahier.fichier, essai.NbFiches());
+            Tri tri(cahier);
             while (!tri.Etat().termine)
                 tri.Avancer(kTranche);
             fin = tri.Etat();

@@ -46,7 +46,7 @@ void Recrire(Cahier& cahier, NumeroFiche k) {
     // A record read and written again keeps its bytes, but for blanks in front of a text.
     Carte carte;
     LireFiche(carte, cahier, k);
-    EcrireFiche(carte, cahier, k);
+    Exiger(EcrireFiche(carte, cahier, k));
     const Zones zones = carte.zones;
     LireFiche(carte, cahier, k);
     Exiger(carte.zones == zones);
@@ -59,7 +59,7 @@ void Trier(Cahier& cahier) {
     std::vector<std::string> avant;
     for (const QsoRecord& fiche : Contacts(cahier))
         avant.push_back(texte(fiche));
-    Tri tri(cahier.fichier, cahier.nbFiches);
+    Tri tri(cahier);
     while (!tri.Etat().termine)
         tri.Avancer(1000);
     std::vector<std::string> apres;
@@ -83,7 +83,7 @@ void Ajouter(Cahier& cahier) {
 void Supprimer(Cahier& cahier, NumeroFiche k) {
     std::vector<QsoRecord> attendues = Contacts(cahier);
     attendues.erase(attendues.begin() + (k - kPremiereFiche));
-    SupprimerFiche(cahier, k, kLocator);
+    Exiger(SupprimerFiche(cahier, k, FicheDuCahier(cahier, k), kLocator));
     CompterFiches(cahier);
     Exiger(Contacts(cahier) == attendues);
 }

@@ -23,7 +23,8 @@ FichierFiches OuvrirEnEcriture(const std::filesystem::path& chemin, bool lecture
 } // namespace
 
 void OuvrirCahier(Cahier& cahier, const std::filesystem::path& chemin, bool lectureSeulePermise) {
-    if (cahier.fichier.Support().EstLeMeme(chemin)) {
+    const Fichier& ouvert = cahier.fichier.Support();
+    if (ouvert.EstLeMeme(chemin)) {
         cahier.chemin = chemin;
         return;
     }
@@ -33,75 +34,173 @@ void OuvrirCahier(Cahier& cahier, const std::filesystem::path& chemin, bool lect
             throw Erreur(NatureErreur::DejaOuvert, chemin);
         fichier.Support().DevenirLeCahier();
         cahier.fichier = std::move(fichier);
-    } catch (Erreur& echec) {
-        if (chemin == cahier.chemin)
-            echec.ImputerAuCahier();
+    } catch (const Erreur& echec) {
+        if (ouvert.EstOuvert() && chemin == cahier.chemin)
+            throw CahierPerdu(echec);
         throw;
     }
     cahier.chemin = chemin;
 }
 
 void CompterFiches(Cahier& cahier) {
-    if (!cahier.fichier.Support().EstLeMeme(cahier.chemin))
+    try {
         OuvrirCahier(cahier, cahier.chemin, cahier.lectureSeule);
+    } catch (const CahierPerdu&) { // NOLINT(bugprone-empty-catch)
+        // The file that is still open keeps every contact; who writes to it says so.
+    }
     cahier.nbFiches = cahier.fichier.Compter();
+}
+
+bool EstTelQueCompte(const Cahier& cahier) {
+    if (!cahier.fichier.Support().EstLeMeme(cahier.chemin))
+        return false;
+    // A deletion by another program leaves end-of-log records behind the one that counts.
+    std::array<QsoRecord, 2> bout;
+    const std::size_t contacts = cahier.nbFiches == 0 ? 0 : 1;
+    const std::size_t lues =
+        cahier.fichier.Lire(cahier.Prochaine() - static_cast<std::int32_t>(contacts), bout);
+    const bool dernier = contacts == 0 || (lues >= contacts && !EstFinDeLog(bout[0]));
+    return dernier && (lues == contacts || EstFinDeLog(bout[contacts]));
+}
+
+void VerifierCahier(Cahier& cahier) {
+    if (EstTelQueCompte(cahier))
+        return;
+    OuvrirCahier(cahier, cahier.chemin, cahier.lectureSeule);
+    cahier.nbFiches = cahier.fichier.Compter();
+}
+
+bool VerifierFiche(Cahier& cahier, NumeroFiche k, const QsoRecord& montree) {
+    VerifierCahier(cahier);
+    return cahier.Contient(k) && FicheDuCahier(cahier, k) == montree;
 }
 
 QsoRecord FicheDuCahier(const Cahier& cahier, NumeroFiche k) {
     return cahier.fichier.Lire(k);
 }
 
-void CorrigerFiche(Cahier& cahier, NumeroFiche k, const QsoRecord& fiche) {
+bool CorrigerFiche(Cahier& cahier, NumeroFiche k, const QsoRecord& montree,
+                   const QsoRecord& fiche) {
+    if (!VerifierFiche(cahier, k, montree))
+        return false;
     cahier.fichier.Ecrire(k, fiche);
+    return true;
 }
 
 void AjouterFiche(Cahier& cahier, const QsoRecord& contact, const QsoRecord& fin) {
-    FichierFiches& fichier = cahier.fichier;
-    const NumeroFiche k = cahier.Prochaine();
-    // Room first, behind the end of the log, where nothing counts: then both records replace
-    // bytes that are there, in one piece.
-    if (!EstFinDeLog(fichier.Lire(k)))
-        fichier.Ecrire(k, fin);
-    if (fichier.Support().Taille() < PositionFiche(k + 2))
-        fichier.Ecrire(k + 1, fin);
-    fichier.Ecrire(k, std::array{contact, fin});
-    SynchroniserCahier(cahier);
+    VerifierCahier(cahier);
+    AllongerCahier(cahier, [&] {
+        FichierFiches& fichier = cahier.fichier;
+        const NumeroFiche k = cahier.Prochaine();
+        // Room first, behind the end of the log, where nothing counts: then both records replace
+        // bytes that are there, in one piece.
+        if (!EstFinDeLog(fichier.Lire(k)))
+            fichier.Ecrire(k, fin);
+        if (fichier.Support().Taille() < PositionFiche(k + 2))
+            fichier.Ecrire(k + 1, fin);
+        fichier.Ecrire(k, std::array{contact, fin});
+        SynchroniserCahier(cahier);
+    });
     ++cahier.nbFiches;
 }
 
 namespace {
 
-// Moves records `k` + 1 to `derniere` down one place and the blank record `k` behind them, in
-// pieces that are replaced whole: at every instant the file holds each record exactly once.
-void DescendreFiches(FichierFiches& fichier, NumeroFiche k, NumeroFiche derniere) {
-    if (fichier.Support().Taille() < PositionFiche(derniere + 1))
-        fichier.Ecrire(derniere, fichier.Lire(derniere));
-    EcritureEntiere ecriture(fichier.Support(), PositionFiche(derniere + 1));
-    LecteurFiches lecteur(fichier); // of records that are not moved yet
-    std::array<QsoRecord, kFichesParPiece> piece;
-    while (k < derniere) {
-        const auto n = std::min(kFichesParPiece - 1, static_cast<std::size_t>(derniere - k));
-        const NumeroFiche debut = k;
-        for (std::size_t i = 0; i < n; ++i)
-            piece[i] = lecteur.Lire(++k);
-        piece[n] = QsoRecord{};
-        ecriture.Poser(PositionFiche(debut), OctetsFiches(std::span(piece).first(n + 1)));
+// Runs `reparer` after a failure, as far as the disk lets it: what the operator is told of is what
+// failed first.
+void Reparer(const std::function<void()>& reparer) {
+    try {
+        reparer();
+    } catch (const Erreur&) { // NOLINT(bugprone-empty-catch)
     }
 }
 
 } // namespace
 
-void SupprimerFiche(Cahier& cahier, NumeroFiche k, std::string_view monLocator) {
+void AllongerCahier(Cahier& cahier, const std::function<void()>& ecrire) {
     FichierFiches& fichier = cahier.fichier;
-    const NumeroFiche derniere = cahier.Derniere();
-    if (k < derniere) {
-        if (!Rogner(OctetsChamp(fichier.Lire(k), Champ::CSGN)).empty())
-            fichier.Ecrire(k, QsoRecord{});
-        DescendreFiches(fichier, k, derniere);
+    const NumeroFiche k = cahier.Prochaine();
+    const QsoRecord fin = fichier.Lire(k);
+    const std::int64_t taille = fichier.Support().Taille();
+    try {
+        ecrire();
+    } catch (const Erreur&) {
+        Reparer([&] {
+            if (PositionFiche(k) < taille)
+                fichier.Ecrire(k, fin);
+            SynchroniserCahier(cahier);
+            if (fichier.Support().Taille() > taille)
+                fichier.Support().Raccourcir(taille);
+            SynchroniserCahier(cahier);
+        });
+        throw;
     }
-    fichier.Ecrire(derniere, FicheFinDeLog(monLocator));
-    SynchroniserCahier(cahier);
+}
+
+namespace {
+
+// A deletion under way: every contact but the deleted one is in the file exactly once, and a blank
+// record in the place of the deleted one.
+struct Suppression {
+    FichierFiches& fichier;
+    NumeroFiche blanche; // where the blank record is
+    NumeroFiche derniere;
+    // The deleted contact, then what lay behind `blanche` before the piece that is being written.
+    std::array<QsoRecord, kFichesParPiece> piece;
+    std::size_t nombre = 1;
+
+    // Blanks the contact, then moves the records behind it down one place and the blank one behind
+    // them, in pieces that are replaced whole.
+    void Descendre() {
+        if (blanche == derniere)
+            return;
+        if (!Rogner(OctetsChamp(piece[0], Champ::CSGN)).empty())
+            fichier.Ecrire(blanche, QsoRecord{});
+        if (fichier.Support().Taille() < PositionFiche(derniere + 1))
+            fichier.Ecrire(derniere, fichier.Lire(derniere));
+        EcritureEntiere ecriture(fichier.Support(), PositionFiche(derniere + 1));
+        LecteurFiches lecteur(fichier); // of records that are not moved yet
+        std::array<QsoRecord, kFichesParPiece> descendue;
+        while (blanche < derniere) {
+            const auto n =
+                std::min(kFichesParPiece - 1, static_cast<std::size_t>(derniere - blanche));
+            for (std::size_t i = 0; i < n; ++i)
+                piece[i + 1] = lecteur.Lire(blanche + static_cast<std::int32_t>(i) + 1);
+            nombre = n + 1;
+            *std::copy_n(piece.begin() + 1, n, descendue.begin()) = QsoRecord{};
+            ecriture.Poser(PositionFiche(blanche),
+                           OctetsFiches(std::span(descendue).first(nombre)));
+            blanche += static_cast<std::int32_t>(n);
+            nombre = 1;
+        }
+    }
+
+    // The deleted contact back in the place of the blank one, and behind it what a piece that was
+    // cut short may have overwritten.
+    void Revenir() {
+        fichier.Ecrire(blanche, std::span(piece).first(nombre));
+        fichier.Support().Synchroniser();
+    }
+};
+
+} // namespace
+
+bool SupprimerFiche(Cahier& cahier, NumeroFiche k, const QsoRecord& montree,
+                    std::string_view monLocator) {
+    if (!VerifierFiche(cahier, k, montree))
+        return false;
+    const NumeroFiche derniere = cahier.Derniere();
+    Suppression suppression{cahier.fichier, k, derniere, {montree}};
+    try {
+        suppression.Descendre();
+        cahier.fichier.Ecrire(derniere, FicheFinDeLog(monLocator));
+        SynchroniserCahier(cahier);
+    } catch (const Erreur&) {
+        Reparer([&] { suppression.Revenir(); });
+        throw;
+    }
     --cahier.nbFiches;
+    return true;
 }
 
 void SynchroniserCahier(Cahier& cahier) {

@@ -52,6 +52,15 @@ std::string Phrase(NatureErreur nature, const std::string& objet, const std::err
         return refus("de réserver le fichier", RaisonFrancaise(raison));
     case NatureErreur::Remplacer:
         return refus("de remplacer le fichier", RaisonFrancaise(raison));
+    case NatureErreur::Projeter:
+        return refus("de classer le fichier", RaisonFrancaise(raison));
+    case NatureErreur::Perdu:
+        return "Un autre programme a remplacé ou supprimé le cahier" + cite + ", qui ne peut pas " +
+               "être rouvert\u00A0: " + RaisonFrancaise(raison) +
+               ".\n\nRien n'y est plus enregistré\u00A0; un contact en cours de saisie reste sur "
+               "la carte. Les contacts déjà enregistrés sont tous dans le fichier encore "
+               "ouvert\u00A0: «\u00A0Sauvegarder\u00A0» et «\u00A0Copier sur CD ou "
+               "disquette\u00A0» le copient en entier, une fois la saisie quittée.";
     case NatureErreur::DejaOuvert:
         return "Le cahier" + cite + " est déjà ouvert par un autre programme Orvalis.";
     case NatureErreur::ParametresIncomplets:
@@ -80,6 +89,12 @@ Erreur::Erreur(const std::string& imprimante)
 Erreur Erreur::DImprimante(std::string_view nom) {
     return Erreur(std::string{nom});
 }
+
+// A file that another program has locked gives no reason of the system.
+CahierPerdu::CahierPerdu(const Erreur& echec)
+    : Erreur(NatureErreur::Perdu, echec.Chemin(),
+             echec.code() ? echec.code()
+                          : std::make_error_code(std::errc::device_or_resource_busy)) {}
 
 std::string RaisonFrancaise(const std::error_code& raison) {
     for (const Raison& r : kRaisons)

@@ -20,6 +20,8 @@ enum class NatureErreur {
     Synchroniser,
     Verrouiller,
     Remplacer,
+    Projeter,             ///< mapping a file into memory, which the sort cannot do without
+    Perdu,                ///< another file has taken the place of the open logbook (CahierPerdu)
     DejaOuvert,           ///< another copy of the program has the logbook open
     ParametresIncomplets, ///< a Settings file that can be read but makes no sense
     EcrirePdf,            ///< a document that should become a PDF file
@@ -53,6 +55,15 @@ class Erreur : public std::runtime_error {
     std::filesystem::path chemin_;
     std::error_code raison_;
     bool concerneLeCahier_ = false;
+};
+
+/// What lies at the path of the open logbook is another file, which cannot be opened or locked, or
+/// none. The file that is still open keeps every contact, so this does not concern it: the operator
+/// is told, nothing was written, the program goes on and can still be made to copy the logbook.
+class CahierPerdu : public Erreur {
+  public:
+    /// `echec` is what kept the file at `Chemin()` from being opened or locked.
+    explicit CahierPerdu(const Erreur& echec);
 };
 
 /// The system's reason in French ("le disque est plein").

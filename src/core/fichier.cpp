@@ -124,6 +124,11 @@ void Fichier::Synchroniser() {
         throw Echec(NatureErreur::Synchroniser, DerniereErreur());
 }
 
+void Fichier::Raccourcir(std::int64_t taille) {
+    if (::ftruncate(descripteur_, static_cast<off_t>(taille)) != 0)
+        throw Echec(NatureErreur::Ecrire, DerniereErreur());
+}
+
 bool Fichier::Verrouiller() {
     if (::flock(descripteur_, LOCK_EX | LOCK_NB) == 0)
         return true;

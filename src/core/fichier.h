@@ -48,6 +48,8 @@ class Fichier {
     void Ecrire(std::int64_t position, std::span<const char> octets);
     /// Returns once what was written has reached the disk.
     void Synchroniser();
+    /// Cuts the file to its first `taille` bytes.
+    void Raccourcir(std::int64_t taille);
     /// Takes the advisory lock that keeps a second program off this file; false when another
     /// holder has it. It goes with the file's closing. A file system that knows no locks counts
     /// as locked.

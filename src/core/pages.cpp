@@ -30,13 +30,14 @@ std::optional<MouvementListe> PageDeTouche(ToucheListe touche, NumeroFiche coura
                                            std::int32_t nbPages) {
     const std::int32_t page = PageDeFiche(courante);
     switch (touche) {
+    // From a contact behind the last that can be listed, the page before is the last one.
     case ToucheListe::PagePrecedente:
         if (page >= 2)
-            return MouvementListe{page - 1, false};
+            return MouvementListe{std::min(page - 1, nbPages), false};
         break;
     case ToucheListe::Haut:
         if (ligne == 0 && page >= 2)
-            return MouvementListe{page - 1, true};
+            return MouvementListe{std::min(page - 1, nbPages), true};
         break;
     case ToucheListe::PageSuivante:
         if (page < nbPages)

@@ -24,9 +24,10 @@ Projection::Projection(const Fichier& fichier, std::int64_t taille)
     if (page_ >= 0 && ::ftruncate(page_, static_cast<off_t>(kPlusGrandePiece)) == 0)
         atelier_ = Projeter(page_, kPlusGrandePiece);
     if (atelier_ == nullptr) {
-        const Erreur echec = Echec();
+        const std::error_code raison(errno, std::generic_category());
         Liberer();
-        throw echec;
+        // Not a failure of the logbook: nothing was lost, and plain writes go on.
+        throw Erreur(NatureErreur::Projeter, fichier.Chemin(), raison);
     }
 }
 

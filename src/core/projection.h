@@ -30,7 +30,8 @@ inline constexpr std::size_t kPlusGrandePiece = 4096;
 class Projection {
   public:
     /// Maps the first `taille` bytes (1 to the file's size), for reading and writing. Throws
-    /// Erreur when the file may not be written or cannot be mapped.
+    /// Erreur (Projeter, which never concerns the logbook) when the file may not be written or
+    /// cannot be mapped.
     Projection(const Fichier& fichier, std::int64_t taille);
     Projection(const Projection&) = delete;
     Projection& operator=(const Projection&) = delete;

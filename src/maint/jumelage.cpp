@@ -26,17 +26,12 @@ std::span<const QsoRecord> LireBloc(const FichierFiches& source, NumeroFiche k,
     return fiches;
 }
 
-} // namespace
-
-std::int32_t JumelerCahier(Cahier& cahier, const Station& station,
-                           const std::filesystem::path& source) {
-    const FichierFiches autre(source, ModeFichier::Lecture);
-    const std::int32_t nombre = autre.Compter();
+// Writes the `nombre` contacts of `autre` behind those of the logbook, the first one last.
+void Ajouter(Cahier& cahier, const FichierFiches& autre, std::int32_t nombre,
+             const QsoRecord& fin) {
     FichierFiches& fichier = cahier.fichier;
     const NumeroFiche suivante = cahier.Prochaine();
-    const QsoRecord fin = FicheFinDeLog(station.monLocator);
     std::vector<QsoRecord> bloc(kFichesParBloc);
-
     // A logbook that had no end-of-log record gets one before anything is written behind it.
     if (nombre == 0 || !EstFinDeLog(fichier.Lire(suivante)))
         fichier.Ecrire(suivante, fin);
@@ -53,6 +48,17 @@ std::int32_t JumelerCahier(Cahier& cahier, const Station& station,
         fichier.Ecrire(suivante, LireBloc(autre, kPremiereFiche, kPremiereFiche, bloc));
         SynchroniserCahier(cahier);
     }
+}
+
+} // namespace
+
+std::int32_t JumelerCahier(Cahier& cahier, const Station& station,
+                           const std::filesystem::path& source) {
+    VerifierCahier(cahier);
+    const FichierFiches autre(source, ModeFichier::Lecture);
+    const std::int32_t nombre = autre.Compter();
+    AllongerCahier(cahier,
+                   [&] { Ajouter(cahier, autre, nombre, FicheFinDeLog(station.monLocator)); });
     CompterFiches(cahier);
     return nombre;
 }

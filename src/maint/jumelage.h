@@ -19,7 +19,8 @@ namespace orvalis {
 /// disk: killed before, the program leaves the contacts as they were, whatever lay behind them.
 ///
 /// Returns the number of contacts appended, N being counted anew.
-/// Throws Erreur, naming the source when that is what cannot be read.
+/// Throws Erreur, naming the source when that is what cannot be read; the logbook is then as it
+/// was, in its former length, as far as the disk lets it (AllongerCahier).
 std::int32_t JumelerCahier(Cahier& cahier, const Station& station,
                            const std::filesystem::path& source);
 

@@ -86,30 +86,33 @@ std::string_view MotDePasse(int passe) {
     return kMots[static_cast<std::size_t>(passe) - 1];
 }
 
-Tri::Tri(FichierFiches& fichier, std::int32_t nbFiches) : fichier_(fichier), nbFiches_(nbFiches) {
-    etat_.termine = nbFiches < 2;
+Tri::Tri(Cahier& cahier) : cahier_(cahier), nbFiches_(cahier.nbFiches) {
+    etat_.termine = nbFiches_ < 2;
     if (etat_.termine)
         return;
-    const std::int64_t taille = nbFiches * kTaille;
+    FichierFiches& fichier = cahier.fichier;
+    const std::int64_t taille = nbFiches_ * kTaille;
     if (fichier.Support().Taille() < taille)
-        fichier.Ecrire(NumeroFiche{nbFiches}, fichier.Lire(NumeroFiche{nbFiches}));
+        fichier.Ecrire(cahier.Derniere(), fichier.Lire(cahier.Derniere()));
     projection_.emplace(fichier.Support(), taille);
 }
 
 void Tri::Avancer(std::int64_t pasMax) {
     if (etat_.termine)
         return;
-    VerifierTaille();
+    etat_.interrompu = !EstIntact();
+    etat_.termine = etat_.interrompu;
+    if (etat_.interrompu)
+        return;
     MarcherPasse(etat_.pas + pasMax);
     if (etat_.position == nbFiches_)
         FinirPasse();
     PoserEchanges();
 }
 
-void Tri::VerifierTaille() const {
-    const Fichier& support = fichier_.Support();
-    if (support.Taille() < nbFiches_ * kTaille)
-        throw support.Echec(NatureErreur::Lire, std::make_error_code(std::errc::io_error));
+// A cut in the last contact still counts as that contact, but not in the mapping.
+bool Tri::EstIntact() const {
+    return EstTelQueCompte(cahier_) && cahier_.fichier.Support().Taille() >= nbFiches_ * kTaille;
 }
 
 void Tri::MarcherPasse(std::int64_t dernierPas) {
@@ -157,7 +160,7 @@ void Tri::FinirPasse() {
     etat_.position = 1;
     etat_.termine = etat_.passe == kNbPasses;
     if (etat_.termine)
-        fichier_.Support().Synchroniser();
+        SynchroniserCahier(cahier_);
     else
         ++etat_.passe;
 }

@@ -13,13 +13,13 @@
 // file therefore stands at every instant as the walk itself had it at some moment, and holds
 // every contact exactly once; between two calls of Avancer it stands exactly where Etat says.
 //
-// The records are read where they lie mapped into memory, so a file that another program cuts short
-// would end the program with a signal and no message. The size is therefore asked before each slice
-// of the walk (Avancer). What remains is a cut that falls into a slice, which takes a fraction of a
-// millisecond: there the signal still comes.
+// Before each slice of the walk (Avancer) it is asked whether the logbook is still the one that was
+// counted: one that another program has replaced, changed or cut short is not sorted on. The
+// records are read where they lie mapped into memory, so a cut that falls into a slice, which takes
+// a fraction of a millisecond, still ends the program with a signal and no message.
 #pragma once
 
-#include "core/fichier_fiches.h"
+#include "core/cahier.h"
 #include "core/projection.h"
 
 #include <array>
@@ -39,6 +39,7 @@ struct EtatTri {
     std::int64_t pas = 0;      ///< steps so far, over all passes
     std::int64_t echanges = 0; ///< exchanges so far
     bool termine = false;
+    bool interrompu = false; ///< ended before its time: another program has changed the logbook
 };
 
 /// The word shown during a pass (1 to 5).
@@ -47,14 +48,16 @@ struct EtatTri {
 /// One sort under way; it may be dropped at any instant and leaves a logbook with all its contacts.
 class Tri {
   public:
-    /// Sorts records 1 to `nbFiches` of `fichier`, which must outlive this object and which nobody
-    /// else may write meanwhile. Fewer than two: ended at once. A short last record is first
-    /// filled up with blanks. Throws Erreur, also when the logbook may not be written.
-    Tri(FichierFiches& fichier, std::int32_t nbFiches);
+    /// Sorts the contacts of `cahier`, which is counted, must outlive this object and stay open
+    /// meanwhile. Fewer than two: ended at once. A short last record is first filled up with
+    /// blanks. Throws Erreur, also when the logbook may not be written or the storage cannot be
+    /// mapped (Projeter).
+    explicit Tri(Cahier& cahier);
 
     /// Walks on for at most `pasMax` steps, and not beyond the end of a pass; when the last pass
     /// ends, what was sorted is flushed to the disk. A few thousand steps take about a tenth of a
-    /// millisecond. Throws Erreur, also when the file has become shorter than its contacts.
+    /// millisecond. Where another program has changed the logbook, nothing is written and the sort
+    /// has ended. Throws Erreur.
     void Avancer(std::int64_t pasMax);
 
     [[nodiscard]] const EtatTri& Etat() const noexcept { return etat_; }
@@ -62,14 +65,14 @@ class Tri {
   private:
     template<int passe> void Marcher(std::int64_t dernierPas);
     void MarcherPasse(std::int64_t dernierPas);
-    void VerifierTaille() const;
+    [[nodiscard]] bool EstIntact() const;
     void FinirPasse();
     void PoserEchanges();
     [[nodiscard]] const char* Fiche(std::int32_t k) const;
 
     static constexpr std::int32_t kAucune = std::numeric_limits<std::int32_t>::max();
 
-    FichierFiches& fichier_;
+    Cahier& cahier_;
     std::int32_t nbFiches_;
     std::optional<Projection> projection_;
     EtatTri etat_;

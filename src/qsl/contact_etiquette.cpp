@@ -213,10 +213,11 @@ Place EtiquetteSansMarque(const Cahier& cahier, const FeuilleQSL& feuille, Numer
     return kAucunePlace;
 }
 
-void MarquerContact(Cahier& cahier, NumeroFiche k, std::string_view maQsl) {
-    QsoRecord fiche = FicheDuCahier(cahier, k);
+bool MarquerContact(Cahier& cahier, NumeroFiche k, std::string_view maQsl) {
+    const QsoRecord trouvee = FicheDuCahier(cahier, k);
+    QsoRecord fiche = trouvee;
     MettreChamp(fiche, Champ::MQSL, maQsl);
-    CorrigerFiche(cahier, k, fiche);
+    return CorrigerFiche(cahier, k, trouvee, fiche);
 }
 
 } // namespace orvalis

@@ -57,7 +57,8 @@ struct ContactTrouve {
                                         NumeroFiche k);
 
 /// Sets MQSL of contact `k`, cut to 8 characters; its other bytes stay. The caller flushes
-/// (SynchroniserCahier).
-void MarquerContact(Cahier& cahier, NumeroFiche k, std::string_view maQsl);
+/// (SynchroniserCahier), and has the logbook asked for (VerifierCahier) before it looks for the
+/// contact. Returns false, having written nothing, when another program has changed it since.
+[[nodiscard]] bool MarquerContact(Cahier& cahier, NumeroFiche k, std::string_view maQsl);
 
 } // namespace orvalis

@@ -88,8 +88,8 @@ std::string Rappel(Place place, const QslSlotRecord& etiquette, Correspondance p
 // Sets MQSL of the contact of the label at `place`, or tells why there is none.
 void Marquer(Cahier& cahier, const ContactTrouve& trouve, std::string_view maQsl, Place place,
              const QslSlotRecord& etiquette, ReponseQSL& reponse) {
-    if (trouve.correspondance == Correspondance::Unique) {
-        MarquerContact(cahier, trouve.fiche, maQsl);
+    if (trouve.correspondance == Correspondance::Unique &&
+        MarquerContact(cahier, trouve.fiche, maQsl)) {
         reponse.marque = true;
         return;
     }
@@ -169,9 +169,8 @@ ReponseClic PreparerEtiquette(Cahier& cahier, FeuilleQSL& feuille, NumeroFiche k
     static_cast<void>(Accorder(feuille, clic.reponse));
     if (EtiquetteSansMarque(cahier, feuille, k) != kAucunePlace) {
         clic.suite = SuiteClic::Retabli;
-        MarquerContact(cahier, k, kEnCours);
+        clic.reponse.marque = MarquerContact(cahier, k, kEnCours);
         SynchroniserCahier(cahier);
-        clic.reponse.marque = true;
         return clic;
     }
     OuvrirPanneau(feuille);
@@ -243,6 +242,7 @@ ReponseQSL ValiderEtiquette(Cahier& cahier, FeuilleQSL& feuille) {
         feuille.vue.nrTag = kPlusDEtiquette;
         return reponse;
     }
+    VerifierCahier(cahier); // before the sheet is written for one of its contacts
     if (feuille.voie != VoieQSL::Aucune)
         feuille.boites[kBoiteManager] = feuille.voie == VoieQSL::Direct ? kVoieDirect : kVoieBureau;
     feuille.etiquetteEnCours = place;
@@ -275,6 +275,7 @@ ReponseQSL SupprimerEtiquette(Cahier& cahier, FeuilleQSL& feuille) {
     }
     if (!PeutToucher(feuille, reponse))
         return reponse;
+    VerifierCahier(cahier);
     LireEtiquette(feuille, place);
     const ContactTrouve trouve = ContactDeLaPlace(cahier, feuille, place);
     if (trouve.correspondance != Correspondance::PlusieursVierges) // all blank already
@@ -356,6 +357,7 @@ ReponseQSL ToutEstParfait(Cahier& cahier, FeuilleQSL& feuille, std::string_view 
     }
     if (!PeutToucher(feuille, reponse))
         return reponse;
+    VerifierCahier(cahier);
     const std::vector<Place> places = EtiquettesAImprimer(feuille);
     std::vector<QslSlotRecord> etiquettes;
     etiquettes.reserve(places.size());

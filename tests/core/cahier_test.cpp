@@ -59,7 +59,8 @@ TEST_F(Fiches, AjoutsEtSuppressionsOctetParOctet) {
         if (k == 0)
             AjouterFiche(cahier, Enregistrement(saisie), FicheFinDeLog("IN95AA"));
         else
-            SupprimerFiche(cahier, NumeroFiche{k}, "JN18AA");
+            EXPECT_TRUE(SupprimerFiche(cahier, NumeroFiche{k}, cahier.fichier.Lire(NumeroFiche{k}),
+                                       "JN18AA"));
         EXPECT_EQ(Octets(), apres);
         EXPECT_EQ(cahier.nbFiches, attendu);
         EXPECT_EQ(cahier.fichier.Compter(), attendu);

@@ -14,7 +14,7 @@ struct CahierATrier {
     Tri tri;
 
     explicit CahierATrier(const std::string& octets)
-        : cahier(Ouvrir(dossier.Poser("J.Vek", octets))), tri(cahier.fichier, cahier.nbFiches) {}
+        : cahier(Ouvrir(dossier.Poser("J.Vek", octets))), tri(cahier) {}
     [[nodiscard]] std::string Octets() const { return Lire(dossier / "J.Vek"); }
 };
 
@@ -93,8 +93,8 @@ TEST(Tri, DerniereFicheCourteEtLectureSeule) {
         cahier.tri.Avancer(kToutDroit);
     courte.resize(165, ' ');
     EXPECT_EQ(cahier.Octets(), courte + Contact("A", "01/01/02"));
-    FichierFiches lecture(cahier.dossier / "J.Vek", ModeFichier::Lecture);
-    EXPECT_THROW(Tri(lecture, 2).Avancer(kToutDroit), Erreur);
+    cahier.cahier.fichier = FichierFiches(cahier.dossier / "J.Vek", ModeFichier::Lecture);
+    EXPECT_THROW(Tri(cahier.cahier).Avancer(kToutDroit), Erreur);
 }
 
 TEST(Tri, UnFichierRaccourciSeDit) {

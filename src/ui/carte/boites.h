@@ -96,6 +96,13 @@ inline constexpr std::array<DescriptionBoite, kNbBoites> kBoites = {{
     {Boite::Manager, "lblLabels_17", "_ QSL Manager ______", 15, false, Touches::Majuscules},
 }};
 
+/// What a box is called where its caption is not seen: by a screen reader, in a message.
+inline constexpr std::array<std::string_view, kNbBoites> kNomsBoites = {
+    "Indicatif",   "Date",       "Heure de début", "Heure de fin", "Fréquence",
+    "Mode",        "RST donné",  "RST reçu",       "QTH",          "Son locator",
+    "Département", "Prénom",     "Informations",   "Ma QSL",       "Sa QSL",
+    "Mon locator", "QSL manager"};
+
 [[nodiscard]] constexpr const DescriptionBoite& Decrire(Boite boite) {
     return kBoites[Rang(boite)];
 }

@@ -51,9 +51,12 @@ void LireFiche(Carte& carte, const Cahier& cahier, NumeroFiche k) {
         MontrerZone(carte, d.boite);
 }
 
-void EcrireFiche(Carte& carte, Cahier& cahier, NumeroFiche k) {
-    carte.tampon = FicheDesZones(carte.zones);
-    CorrigerFiche(cahier, k, carte.tampon);
+bool EcrireFiche(Carte& carte, Cahier& cahier, NumeroFiche k) {
+    const QsoRecord fiche = FicheDesZones(carte.zones);
+    if (!CorrigerFiche(cahier, k, carte.tampon, fiche))
+        return false;
+    carte.tampon = fiche;
+    return true;
 }
 
 void MontrerLabels(Carte& carte, NumeroFiche k) {

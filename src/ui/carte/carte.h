@@ -107,8 +107,10 @@ void MettreAuRepos(Carte& carte);
 /// Erreur.
 void LireFiche(Carte& carte, const Cahier& cahier, NumeroFiche k);
 
-/// Writes record `k` from the working slots. The caller flushes. Throws Erreur.
-void EcrireFiche(Carte& carte, Cahier& cahier, NumeroFiche k);
+/// Writes record `k`, the one in the record buffer, from the working slots. The caller flushes.
+/// Returns false when another program has changed the logbook and record `k` no longer is what the
+/// buffer holds. Throws Erreur.
+[[nodiscard]] bool EcrireFiche(Carte& carte, Cahier& cahier, NumeroFiche k);
 
 /// The labels of record `k`, whose fields stand in the working slots. The distance goes from the
 /// contact's own MLOC to its SLOC, unless they are equal: then "0 Km" and "...".

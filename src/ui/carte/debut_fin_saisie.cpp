@@ -142,4 +142,14 @@ ContactFini FinirContact(const Carte& carte, const Station& station, FinDeSaisie
     return contact;
 }
 
+std::string ContactANoter(const Carte& carte) {
+    if (!carte.saisie.EnSaisie || !carte.saisie.QsoCommence)
+        return {};
+    std::string texte = "\n\nLe contact en cours n'est pas enregistré. Notez-le\u00A0:";
+    for (const DescriptionBoite& d : kBoites)
+        if (const std::string& zone = carte.zones[d.boite]; !Rogner(zone).empty())
+            texte += "\n" + std::string{kNomsBoites[Rang(d.boite)]} + "\u00A0: " + zone;
+    return texte;
+}
+
 } // namespace orvalis

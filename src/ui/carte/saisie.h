@@ -83,6 +83,10 @@ struct ContactFini {
 [[nodiscard]] ContactFini FinirContact(const Carte& carte, const Station& station, FinDeSaisie fin,
                                        bool suivantArme, const Instant& maintenant);
 
+/// The contact under entry field by field, for an operator who has to write it down since the
+/// program ends; empty when none was begun.
+[[nodiscard]] std::string ContactANoter(const Carte& carte);
+
 /// Whether a text may be a contact's callsign: neither empty nor the end-of-log mark.
 [[nodiscard]] bool IndicatifPermis(std::string_view texte);
 

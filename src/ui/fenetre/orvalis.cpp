@@ -2,6 +2,7 @@
 
 #include "core/erreurs.h"
 #include "ui/bureau/texte_qt.h"
+#include "ui/carte/saisie.h"
 #include "ui/flux/flux_demarrage.h"
 #include "ui/panneaux/fra_msg_fiche.h"
 #include "ui/panneaux/p_jumelage.h"
@@ -235,9 +236,14 @@ void Orvalis::Executer(const Action& flux, QuandGele quand) {
         flux();
         if (profondeur_ == 1)
             Peindre();
+    } catch (const CahierPerdu& perdu) {
+        // Nothing was written, and the file that is still open is the last that has every contact.
+        exterieur_.Avertir(this, Q(perdu.what()));
+        if (profondeur_ == 1)
+            Peindre();
     } catch (const std::exception& echec) {
         if (!std::exchange(ecran_.arret, true)) {
-            exterieur_.Avertir(this, Q(MessageErreur(echec)));
+            exterieur_.Avertir(this, Q(MessageErreur(echec) + ContactANoter(session_.carte)));
             QuitterProgramme(p_, 1);
         }
     }

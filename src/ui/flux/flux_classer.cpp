@@ -5,6 +5,7 @@
 #include "ui/bureau/systeme.h"
 #include "ui/carte/foyer.h"
 #include "ui/flux/conduite.h"
+#include "ui/flux/flux_fichiers.h"
 #include "ui/flux/flux_modification.h"
 #include "ui/flux/flux_navigation.h"
 
@@ -29,14 +30,13 @@ bool Regarder(Plateau& p) {
     return !p.ecran.arret;
 }
 
-// Returns false when the operator quit meanwhile.
-bool Trier(Plateau& p) {
+void Trier(Plateau& p) {
     PanneauClasser& classer = p.ecran.classer;
-    Tri tri(p.session.cahier.fichier, p.session.cahier.nbFiches);
+    Tri tri(p.session.cahier);
     while (!tri.Etat().termine) {
         Montrer(classer, tri.Etat().passe, tri.Etat());
         if (!Regarder(p))
-            return false;
+            return;
         QElapsedTimer depuis;
         depuis.start();
         // Each pass shows its word, however short it is.
@@ -44,14 +44,22 @@ bool Trier(Plateau& p) {
         while (!tri.Etat().termine && tri.Etat().passe == passe && depuis.elapsed() < kRythmeMs)
             tri.Avancer(kPasParRegard);
     }
+    if (tri.Etat().interrompu) {
+        p.systeme.Avertir(&p.fenetre,
+                          QStringLiteral("Un autre programme a modifié le cahier\u00A0: le "
+                                         "classement est arrêté. Vérifiez le cahier, "
+                                         "puis classez-le de nouveau."));
+        return;
+    }
     Montrer(classer, kNbPasses, tri.Etat());
-    return Regarder(p);
+    static_cast<void>(Regarder(p));
 }
 
 } // namespace
 
 void Classer(Plateau& p) {
     Ecran& e = p.ecran;
+    VerifierCahier(p.session.cahier);
     if (p.session.cahier.fichier.Support().EstProtege()) {
         p.systeme.Avertir(&p.fenetre,
                           QStringLiteral("Ce cahier est protégé en écriture : il ne peut pas être "
@@ -69,9 +77,11 @@ void Classer(Plateau& p) {
     {
         const Sablier sablier;
         const Gel gel(e);
-        if (!Trier(p))
-            return;
+        // Storage that cannot be mapped cannot be sorted; nothing else is the matter with it.
+        static_cast<void>(Essayer(p, [&] { Trier(p); }));
     }
+    if (e.arret)
+        return;
     RelireCahier(p);
     e.classer.titre = " Terminé ";
     e.classer.montre = false;

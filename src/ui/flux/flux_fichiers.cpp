@@ -23,7 +23,10 @@ QString NomDuFichier(const Session& session) {
 
 bool CopierVers(Plateau& p, const DemandeFichier& demande) {
     const QString cible = p.systeme.ChoisirFichier(&p.fenetre, demande);
-    return !p.ecran.arret && !cible.isEmpty() && Essayer(p, [&] {
+    if (p.ecran.arret || cible.isEmpty())
+        return false;
+    VerifierAvantCopie(p);
+    return !p.ecran.arret && Essayer(p, [&] {
         const Sablier sablier;
         CopierCahier(p.session.cahier, p.session.station, std::filesystem::path(S(cible)));
     });

@@ -14,7 +14,8 @@ namespace {
 void EffacerFiche(Plateau& p) {
     Session& s = p.session;
     const std::int32_t page = PageDeFiche(s.carte.ficheCourante);
-    SupprimerFiche(s.cahier, s.carte.ficheCourante, s.station.monLocator);
+    if (!SupprimerFiche(s.cahier, s.carte.ficheCourante, s.carte.tampon, s.station.monLocator))
+        return DireFicheChangee(p);
     p.ecran.contacts.montree = false; // its numbers no longer hold
     RelireCahier(p, page);
     p.ecran.recherche.montre = s.cahier.nbFiches != 0;
@@ -23,7 +24,8 @@ void EffacerFiche(Plateau& p) {
 void EnregistrerModification(Plateau& p) {
     Session& s = p.session;
     const NumeroFiche k = s.carte.ficheCourante;
-    EcrireFiche(s.carte, s.cahier, k);
+    if (!EcrireFiche(s.carte, s.cahier, k))
+        return DireFicheChangee(p);
     SynchroniserCahier(s.cahier);
     if (const int ligne = LigneDeFiche(p, k); ligne >= 0) {
         MontrerPage(p, s.page.numero);
@@ -63,11 +65,12 @@ void DemanderSuppression(Plateau& p) {
 
 void RepondreOuiAuCadre(Plateau& p) {
     LacherFoyer(p);
-    FermerQuestion(p);
+    // The question stays until it is answered: what cannot be written now is not dropped.
     if (DemandeEffacement(p))
         EffacerFiche(p);
     else
         EnregistrerModification(p);
+    FermerQuestion(p);
     RendreBoutons(p.ecran);
     DonnerFoyer(p, {Cible::Liste});
 }

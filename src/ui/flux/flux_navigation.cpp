@@ -1,5 +1,7 @@
 #include "ui/flux/flux_navigation.h"
 
+#include "ui/bureau/systeme.h"
+#include "ui/bureau/texte_qt.h"
 #include "ui/flux/conduite.h"
 #include "ui/flux/flux_modification.h"
 
@@ -55,7 +57,9 @@ void MontrerPage(Plateau& p, std::int32_t page) {
     liste.page = page;
     liste.nbPages = NbPages(cahier);
     liste.nbFiches = cahier.nbFiches;
-    liste.defilement = std::min(page * kFichesParPage, cahier.nbFiches);
+    // The contacts that cannot be listed lie behind the last page.
+    liste.defilement = page == liste.nbPages ? cahier.nbFiches : page * kFichesParPage;
+    liste.nom = NomMontre(p.session);
     liste.choisie = -1;
     liste.marquee = p.session.carte.ficheCourante;
     p.session.page = {page, plage.premiere, plage.derniere};
@@ -84,7 +88,6 @@ void ChoisirRangee(Plateau& p, NumeroFiche k) {
 void RelireCahier(Plateau& p, std::int32_t page) {
     CompterFiches(p.session.cahier);
     MontrerPage(p, std::min(page, NbPages(p.session.cahier)));
-    p.ecran.liste.nom = NomMontre(p.session);
     if (DerniereLigne(p) >= 0) {
         ChoisirLigne(p, DerniereLigne(p));
     } else if (!p.session.carte.saisie.EnSaisie) {
@@ -92,6 +95,32 @@ void RelireCahier(Plateau& p, std::int32_t page) {
         ViderCarte(p.session.carte);
         p.ecran.activeRech = false;
     }
+}
+
+void DireFicheChangee(Plateau& p) {
+    const NumeroFiche k = p.session.carte.ficheCourante;
+    p.ecran.contacts.montree = false; // its numbers no longer hold
+    RelireCahier(p, PageDeFiche(k));
+    if (const int ligne = LigneDeFiche(p, k); ligne >= 0)
+        ChoisirLigne(p, ligne);
+    p.ecran.recherche.montre = p.session.cahier.nbFiches != 0;
+    p.systeme.Avertir(
+        &p.fenetre,
+        QStringLiteral("Un autre programme a modifié le cahier\u00A0: la fiche N° %1 n'est plus "
+                       "celle qui était affichée. Rien n'a été changé\u00A0; vérifiez la fiche "
+                       "affichée maintenant avant de recommencer.")
+            .arg(k.Valeur()));
+}
+
+void VerifierAvantCopie(Plateau& p) {
+    const bool change = !EstTelQueCompte(p.session.cahier);
+    try {
+        VerifierCahier(p.session.cahier);
+    } catch (const CahierPerdu& perdu) {
+        p.systeme.Avertir(&p.fenetre, Q(perdu.what()));
+    }
+    if (change)
+        RelireCahier(p);
 }
 
 void ChoisirFiche(Plateau& p, NumeroFiche k) {

@@ -17,6 +17,14 @@ void MontrerPage(Plateau& p, std::int32_t page);
 /// last line, which shows that card, except during entry; without contacts, an empty card.
 void RelireCahier(Plateau& p, std::int32_t page = std::numeric_limits<std::int32_t>::max());
 
+/// Another program has changed the logbook, and what was meant for the card on show no longer fits:
+/// shows the card anew and tells the operator.
+void DireFicheChangee(Plateau& p);
+
+/// Backup and copy take what is there now; where that is not to be had, the operator is told and
+/// the file that is still open is copied.
+void VerifierAvantCopie(Plateau& p);
+
 /// Line (from 0) of record `k` in the list; -1 when the page on show does not hold it.
 [[nodiscard]] int LigneDeFiche(const Plateau& p, NumeroFiche k);
 

@@ -109,6 +109,8 @@ void CliquerMaQsl(Plateau& p) {
     Session& s = p.session;
     if (!Rogner(s.carte.Texte(Boite::MaQsl)).empty() || !ChargerAuBesoin(p))
         return;
+    if (!VerifierFiche(s.cahier, s.carte.ficheCourante, s.carte.tampon))
+        return DireFicheChangee(p);
     // The press has begun a modification by hand, which is not what it turns out to be.
     SuiteClic suite = SuiteClic::Ordinaire;
     Repondre(p, [&] {

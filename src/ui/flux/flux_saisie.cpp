@@ -8,6 +8,8 @@
 #include "ui/flux/flux_modification.h"
 #include "ui/flux/flux_navigation.h"
 
+#include <utility>
+
 namespace orvalis {
 namespace {
 
@@ -41,9 +43,16 @@ bool Enregistrer(Plateau& p, FinDeSaisie fin) {
         return false;
     }
     if (contact.verdict == Verdict::Enregistrer) {
-        s.carte.zones = contact.zones;
-        AjouterFiche(s.cahier, FicheDesZones(contact.zones), contact.fin);
+        // What ends the program names the contact as it would have been stored.
+        const Zones surLaCarte = std::exchange(s.carte.zones, contact.zones);
+        try {
+            AjouterFiche(s.cahier, FicheDesZones(contact.zones), contact.fin);
+        } catch (const CahierPerdu&) {
+            s.carte.zones = surLaCarte; // nothing ends: entry goes on
+            throw;
+        }
         s.carte.tampon = contact.fin;
+        s.carte.saisie.QsoCommence = false; // what fails from here on does not lose it
     }
     return true;
 }
@@ -51,6 +60,7 @@ bool Enregistrer(Plateau& p, FinDeSaisie fin) {
 } // namespace
 
 void NouveauQso(Plateau& p) {
+    VerifierCahier(p.session.cahier); // before a contact is typed that could not be stored
     AbandonnerModification(p);
     LacherFoyer(p);
     p.session.carte.saisie.EnSaisie = true;

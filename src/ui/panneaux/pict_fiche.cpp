@@ -24,12 +24,6 @@ constexpr std::array<std::array<Boite, 6>, 3> kRangees = {{
 }};
 constexpr Boite kPasDeBoite{};
 
-constexpr std::array<std::string_view, kNbBoites> kNomsAccessibles = {
-    "Indicatif",   "Date",       "Heure de début", "Heure de fin", "Fréquence",
-    "Mode",        "RST donné",  "RST reçu",       "QTH",          "Son locator",
-    "Département", "Prénom",     "Informations",   "Ma QSL",       "Sa QSL",
-    "Mon locator", "QSL manager"};
-
 // What a screen reader says before the figure.
 const QString kDistanceLue = QStringLiteral("Distance : ");
 const QString kAzimutLu = QStringLiteral("Azimut : ");
@@ -101,7 +95,7 @@ void PictFiche::FaireEntete(QHBoxLayout& entete) {
 
 TxtField* PictFiche::FaireBoite(const DescriptionBoite& boite) {
     auto* champ = new TxtField(boite, this);
-    champ->setAccessibleName(Q(kNomsAccessibles[Rang(boite.boite)]));
+    champ->setAccessibleName(Q(kNomsBoites[Rang(boite.boite)]));
     champ->setMinimumWidth(LargeurDeBoite(*champ, boite.longueur));
     boites_[Rang(boite.boite)] = champ;
     return champ;

@@ -20,7 +20,7 @@ TEST(Carte, UneFicheLueRemplitLesZonesEtLesBoites) {
     EXPECT_EQ(zones, "REMARQUE DE 20 CAR            |F6XYZ/P|12/05/02|18:30|18:45|14.250|SSB|59|"
                      "59+10|SAINT-ÉTIENNE|JN15EK|42|Œuvrard Z\xC2\x81|REMARQUE DE 20|En cours|OK|"
                      "JN18AA|CAR|");
-    EcrireFiche(carte, cahier, kPremiereFiche);
+    EXPECT_TRUE(EcrireFiche(carte, cahier, kPremiereFiche));
     EXPECT_EQ(Lire(cahier.chemin), complete + Fin());
     LireFiche(carte, cahier, NumeroFiche{9});
     EXPECT_EQ(carte.zones[Boite::Indicatif] + carte.Texte(Boite::Manager), "");
@@ -28,18 +28,19 @@ TEST(Carte, UneFicheLueRemplitLesZonesEtLesBoites) {
 
 TEST(Carte, UneFicheEcriteEstCoupeeOuCompletee) {
     const Dossier dossier;
-    Cahier cahier = Ouvrir(dossier.Poser("F5ABC.Vek", Fin()));
+    Cahier cahier = Ouvrir(dossier.Poser("F5ABC.Vek", Brute({}) + Contact("X").substr(0, 7)));
     Carte carte;
+    LireFiche(carte, cahier, NumeroFiche{2});
+    carte.zones = {};
     carte.zones[Boite::Indicatif] = "ABCDEFGHIJKLMNOPQRST";
     carte.zones[Boite::Ville] = "ÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉ漢";
     carte.zones[Boite::Departement] = "7";
     carte.zones.info = "INFO";
     carte.zones[Boite::Remarque] = "ignoree";
-    EcrireFiche(carte, cahier, NumeroFiche{3});
+    EXPECT_TRUE(EcrireFiche(carte, cahier, NumeroFiche{2}));
     const std::string ville(25, '\xC9');
     EXPECT_EQ(Lire(cahier.chemin),
-              Fin() + Brute({}) +
-                  Brute({{0, "ABCDEFGHIJKLMNO"}, {64, ville}, {95, "7"}, {113, "INFO"}}));
+              Brute({}) + Brute({{0, "ABCDEFGHIJKLMNO"}, {64, ville}, {95, "7"}, {113, "INFO"}}));
 }
 
 } // namespace orvalis::aides::carte
