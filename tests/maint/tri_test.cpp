@@ -97,19 +97,21 @@ TEST(Tri, DerniereFicheCourteEtLectureSeule) {
     EXPECT_THROW(Tri(cahier.cahier).Avancer(kToutDroit), Erreur);
 }
 
-TEST(Tri, UnFichierRaccourciSeDit) {
+TEST(Tri, UnCahierChangeParUnAutreProgrammeNEstPlusTouche) {
     std::string fiches;
     for (int i = 0; i < 60; ++i)
         fiches += Contact(std::to_string(i), i % 2 == 0 ? "01/01/02" : "01/01/01");
-    for (const std::size_t reste : {fiches.size() - 1, std::size_t{165}, std::size_t{0}}) {
+    const std::string changes[] = {fiches.substr(1), Contact("A"), "",
+                                   fiches + Contact("B") + Fin(),
+                                   fiches.substr(165) + Fin() + Fin()};
+    for (const std::string& change : changes) {
         CahierATrier cahier(fiches + Fin());
         cahier.tri.Avancer(10);
-        std::filesystem::resize_file(cahier.cahier.chemin, reste);
-        const auto avancer = [&cahier] { cahier.tri.Avancer(10); };
-        EXPECT_THAT(avancer,
-                    testing::Throws<Erreur>(testing::Property(&Erreur::ConcerneLeCahier, true)))
-            << reste;
-        EXPECT_EQ(cahier.Octets().size(), reste);
+        EXPECT_FALSE(cahier.tri.Etat().interrompu);
+        static_cast<void>(cahier.dossier.Poser("J.Vek", change));
+        cahier.tri.Avancer(10);
+        EXPECT_TRUE(cahier.tri.Etat().interrompu && cahier.tri.Etat().termine);
+        EXPECT_EQ(cahier.Octets(), change);
     }
 }
 

@@ -45,6 +45,7 @@ void Trier(Plateau& p) {
             tri.Avancer(kPasParRegard);
     }
     if (tri.Etat().interrompu) {
+        VerifierCahier(p.session.cahier); // says more where there is no logbook left
         p.systeme.Avertir(&p.fenetre,
                           QStringLiteral("Un autre programme a modifié le cahier\u00A0: le "
                                          "classement est arrêté. Vérifiez le cahier, "

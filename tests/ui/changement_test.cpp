@@ -1,0 +1,123 @@
+// The logbook replaced, rewritten, cut or deleted by another program while it is open.
+#include "ui/banc.h"
+
+#include <QTimer>
+
+namespace orvalis::operateur::changement {
+
+const std::string
+    kFin = Fin(),
+    kSupprime = "-", kNous = "F5ABC.Vek",
+    kSaisie =
+        "clic BtNewQSO; valide f6new, 14.210, ssb, , 57, jean, lyon, 69, jn25ab, rien, , , f5xyz",
+    kNouveau = Octets(
+        "F6NEW|21/11/26|18:30|18:30|14.210|SSB|59|57|LYON|JN25AB|69|Jean|RIEN           F5XYZ",
+        "JN04SD"),
+    kAutre = Octets("G3ABC|13/05/02"), kModifie = "clic TxtField_12; valide zoe",
+    kZoe = "touche Alt+O", kEfface = "clic BtKillFiche",
+    kQuestion = "Un autre programme a modifié le cahier\u00A0: ";
+
+// Puts another file of these bytes in the logbook's place, or none; `dedans` writes into the file.
+void Changer(const Banc& banc, const std::string& octets, bool dedans) {
+    const auto chemin = banc.Dossier() / kNous;
+    if (octets == kSupprime)
+        std::filesystem::remove(chemin);
+    else
+        banc.Ecrire(dedans ? kNous : "provisoire", octets);
+    if (octets != kSupprime && !dedans)
+        std::filesystem::rename(banc.Dossier() / "provisoire", chemin);
+}
+
+// The third contact with texts at some bytes.
+std::string Troisieme(std::size_t decalage, const std::string& texte) {
+    return Contacts(3).substr(2 * kTailleFiche).replace(decalage, texte.size(), texte);
+}
+
+TEST(Changement, RienNePasseACoteDuCahierQuiEstLa) {
+    const std::string c2 = Contacts(2), c3 = Contacts(3), c5 = Contacts(5);
+    const struct {
+        std::string nom, avant, change, dernier, apres, vu; // of a logbook of three contacts
+        std::string fichier = kNous;
+        bool dedans = false;
+    } cas[] = {
+        {"stored in a longer one", kSaisie, c5 + kFin, "clic BtEnrSuivant", c5 + kNouveau + kFin,
+         "NoFicheLab = \" Charger fiche N° 7\""},
+        {"stored, rewritten", kSaisie, c2 + kFin, "clic BtEnrTerminer", "",
+         "NoFicheLab = \" Fiche N° 3 \"", "", true},
+        {"stored, deleted from", kSaisie, c2 + kFin + kFin, "clic BtEnrSuivant",
+         c2 + kNouveau + kFin, "NoFicheLab = \" Charger fiche N° 4\"", kNous, true},
+        {"stored, cut", kSaisie, c2, "clic BtEnrSuivant", c2 + kNouveau + kFin,
+         "NoFicheLab = \" Charger fiche N° 4\"", kNous, true},
+        {"stored, gone", kSaisie, kSupprime, "clic BtEnrSuivant", "",
+         "averti contient contact en cours de saisie reste sur la carte; TxtField_1 = F6NEW; actif "
+         "BtEnrSuivant"},
+        {"corrected", kModifie, c3.substr(0, 330) + Troisieme(0, "") + c2 + kFin, kZoe,
+         c2 + Troisieme(98, "Zoe") + c2 + kFin, "LabJournal = \"F5ABC : 5 contacts\""},
+        {"corrected, another", kModifie, c2 + kAutre + kFin, kZoe, c2 + kAutre + kFin,
+         "averti contient " + kQuestion + "la fiche N° 3; TxtField_1 = G3ABC; caché FraMsgFiche"},
+        {"corrected, fewer", kModifie, kAutre + kFin, kZoe, kAutre + kFin,
+         "averti contient N° 3; TxtField_1 = G3ABC; ligne = 1/1"},
+        {"corrected, gone", kModifie, kSupprime, kZoe, "",
+         "averti contient n'existe pas; actif FraMsgFiche; TxtField_12 = Zoe"},
+        {"deleted", kEfface, c3 + kAutre + kFin, "clic FraCmdOui", c2 + kAutre + kFin + kFin,
+         "NoFicheLab = \" Fiche N° 3 \""},
+        {"deleted, another", kEfface, c2 + kAutre + kFin, "clic FraCmdOui", c2 + kAutre + kFin,
+         "averti contient " + kQuestion + "la fiche N° 3; TxtField_1 = G3ABC", kNous, true},
+        {"label placed, another", "", c2 + kAutre + kFin, "clic TxtField_14", c2 + kAutre + kFin,
+         "averti contient N° 3; caché PictFeuilleQSL; TxtField_1 = G3ABC"},
+        {"label erased", "clic TxtField_14; valide F5ABC; touche Alt+B, Alt+V",
+         Troisieme(143, "En cours") + c2 + kFin,
+         "menu MnuGestionFeuilleQSL; clic BtChoix_1, BtDelQSL", Troisieme(0, "") + c2 + kFin,
+         "actif PictFeuilleQSL"},
+        {"begun, gone", "", kSupprime, "clic BtNewQSO", "",
+         "averti contient n'existe pas; caché PictEnrs"},
+        {"sorted", "", kAutre + c2 + kFin, "menu MnuClasser", c2 + kAutre + kFin,
+         "NoFicheLab = \" Fiche N° 3 \""},
+        {"paired", "menu MnuJumeler; fichier AUTRE.Vek", c5 + kFin, "clic BtPjumeler",
+         c5 + kAutre + kFin, "NoFicheLab = \" Fiche N° 6 \""},
+        {"paired, gone", "menu MnuJumeler; fichier AUTRE.Vek", kSupprime, "clic BtPjumeler", "",
+         "averti contient n'existe pas"},
+        {"saved", "fichier VekSave/F5ABC.Vek", c5 + kFin, "menu MnuSauver", c5 + kFin,
+         "NoFicheLab = \" Fiche N° 5 \"", "VekSave/F5ABC.Vek"},
+        {"saved, gone", "fichier VekSave/F5ABC.Vek", kSupprime, "menu MnuSauver", c3 + kFin,
+         "averti contient le copient en entier", "VekSave/F5ABC.Vek"},
+        {"copied into its place", "fichier F5ABC.Vek", kSupprime, "menu MnuCopieSurDisque",
+         c3 + kFin, "averti contient fichier encore ouvert"},
+        {"reopened, gone", "", kSupprime, "menu MnuCourantF", "",
+         "averti contient n'existe pas; ligne = 3/3"}};
+    for (const auto& c : cas) {
+        Banc banc(c3 + kFin);
+        banc.Ecrire("AUTRE.Vek", kAutre + kFin);
+        banc.Suivre("before : " + (c.avant.empty() ? "clic ListeLog" : c.avant) + " ->");
+        Changer(banc, c.change, c.dedans);
+        banc.Suivre(c.nom + " : " + c.dernier + " -> " + c.vu);
+        EXPECT_EQ(Difference(c.fichier.empty() ? "" : banc.Lire(c.fichier), c.apres), "") << c.nom;
+        EXPECT_FALSE(banc.systeme.codeDeFin) << c.nom;
+    }
+}
+
+TEST(Changement, LaSaisieReprendQuandLeCahierEstRevenu) {
+    Banc banc(Contacts(3) + kFin);
+    banc.Suivre("typed : " + kSaisie + " ->");
+    Changer(banc, kSupprime, false);
+    banc.Suivre("refused : clic BtEnrSuivant -> averti contient n'existe pas");
+    Changer(banc, Contacts(3) + kFin, false);
+    const Cahier autreProgramme = aides::Ouvrir(banc.Dossier() / kNous);
+    banc.Suivre("locked : clic BtEnrTerminer -> averti contient utilisé par un autre programme");
+    const_cast<Cahier&>(autreProgramme).fichier = {};
+    banc.Suivre("back : clic BtEnrSuivant -> NoFicheLab = \" Charger fiche N° 5\"");
+    EXPECT_EQ(Difference(banc.OctetsCahier(), Contacts(3) + kNouveau + kFin), "");
+}
+
+TEST(Changement, UnClassementSArrete) {
+    for (const std::string& change : {Contacts(5) + kFin, kSupprime}) {
+        Banc banc(kAutre + Contacts(60) + kAutre + kFin);
+        QTimer::singleShot(0, [&] { Changer(banc, change, false); });
+        banc.Suivre("sorted : menu MnuClasser -> averti contient Un autre programme; caché "
+                    "PictClasser; actif ListeLog");
+        EXPECT_EQ(banc.OctetsCahier(), change == kSupprime ? "" : change);
+        EXPECT_FALSE(banc.systeme.codeDeFin);
+    }
+}
+
+} // namespace orvalis::operateur::changement
