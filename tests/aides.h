@@ -9,12 +9,17 @@
 #include "core/station.h"
 
 #include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <functional>
 #include <gmock/gmock.h>
+#include <linux/capability.h>
 #include <map>
 #include <sstream>
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 namespace orvalis::aides {
 
@@ -38,6 +43,41 @@ class Dossier {
 
   private:
     std::filesystem::path chemin_;
+};
+
+/// While one lives, no file of this program grows beyond `taille` bytes, as on a full disk.
+class DisquePlein {
+  public:
+    explicit DisquePlein(std::uintmax_t taille) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &avant_);
+        const rlimit limite{taille, avant_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limite);
+    }
+    DisquePlein(const DisquePlein&) = delete;
+    DisquePlein& operator=(const DisquePlein&) = delete;
+    ~DisquePlein() { ::setrlimit(RLIMIT_FSIZE, &avant_); }
+
+  private:
+    rlimit avant_ = {};
+};
+
+/// While one lives, the rights of files hold for root too.
+class SansPrivileges {
+  public:
+    SansPrivileges() {
+        ::syscall(SYS_capget, &tete_, avant_.data());
+        auto sans = avant_;
+        sans[0].effective &= ~(1U << CAP_DAC_OVERRIDE | 1U << CAP_DAC_READ_SEARCH);
+        ::syscall(SYS_capset, &tete_, sans.data());
+    }
+    SansPrivileges(const SansPrivileges&) = delete;
+    SansPrivileges& operator=(const SansPrivileges&) = delete;
+    ~SansPrivileges() { ::syscall(SYS_capset, &tete_, avant_.data()); }
+
+  private:
+    __user_cap_header_struct tete_ = {_LINUX_CAPABILITY_VERSION_3, 0};
+    std::array<__user_cap_data_struct, 2> avant_ = {};
 };
 
 inline std::string Lire(const std::filesystem::path& chemin) {

@@ -39,6 +39,8 @@ bool CreerCahier(const fs::path& lecteur, const Parametres& parametres) {
     // An existing logbook is not emptied: only its first record becomes the end of the log.
     fichier.Ecrire(kPremiereFiche, FicheFinDeLog(parametres.monLocator));
     fichier.Support().Synchroniser();
+    SynchroniserNom(fichier.Support().Chemin());
+    SynchroniserNom(dossier);
     return true;
 }
 

@@ -60,8 +60,11 @@ void Projection::Remplacer(std::int64_t position, std::size_t nombre) {
 
 void Projection::Remplacer(std::int64_t position, std::span<const char> anciens) {
     char* ici = octets_ + position;
-    errno = 0;
-    const auto copies = ::pread(page_, ici, anciens.size(), 0);
+    ssize_t copies = 0;
+    do {
+        errno = 0;
+        copies = ::pread(page_, ici, anciens.size(), 0);
+    } while (copies < 0 && errno == EINTR);
     if (copies == static_cast<ssize_t>(anciens.size()))
         return;
     const Erreur echec = Echec();

@@ -15,6 +15,7 @@ std::filesystem::path CheminSauvegardes(const std::filesystem::path& lecteur) {
         raison = std::make_error_code(std::errc::not_a_directory);
     if (raison)
         throw Erreur(NatureErreur::Creer, dossier, raison);
+    SynchroniserNom(dossier);
     return dossier;
 }
 
@@ -37,6 +38,7 @@ void CopierCahier(const Cahier& cahier, const Station& station,
         copie.Ecrire(k - static_cast<std::int32_t>(n), fiches);
     }
     copie.Support().Synchroniser();
+    SynchroniserNom(cible);
 }
 
 } // namespace orvalis

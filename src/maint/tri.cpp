@@ -103,7 +103,7 @@ void Tri::Avancer(std::int64_t pasMax) {
     etat_.interrompu = !EstIntact();
     etat_.termine = etat_.interrompu;
     if (etat_.interrompu)
-        return;
+        return SynchroniserCahier(cahier_);
     MarcherPasse(etat_.pas + pasMax);
     if (etat_.position == nbFiches_)
         FinirPasse();

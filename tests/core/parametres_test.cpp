@@ -26,6 +26,7 @@ TEST(Parametres, EcritureSousLeNomQuiEstLa) {
     const Dossier dossier;
     const auto chemin = TrouverFichier(dossier / "", kNomParametresEcrits);
     EXPECT_EQ(chemin.filename(), "ParVel.cfg");
+    static_cast<void>(dossier.Poser("ParVel.cfg.tmp", std::string(99, 'x'))); // of a program killed
     EcrireParametres(chemin, {"F5\"É", "F5.Vek", "JN1"});
     EXPECT_EQ(Lire(chemin), "\"F5\"\"\xC9\",\"F5.Vek\",\"JN1   \"\r\n");
     EXPECT_EQ(TrouverFichier(dossier / "", "PARVEL.CFG"), chemin);
@@ -46,6 +47,15 @@ TEST(Creation, SelonLaLongueurDeLIndicatif) {
             EXPECT_EQ(Lire(lecteur / "Orvalis/C.Vek"), passe ? Fin() : "") << longueur;
             EXPECT_EQ(std::filesystem::exists(lecteur / "Orvalis/ParVel.cfg"), passe) << longueur;
         }
+}
+
+TEST(Creation, PasSurUnCahierOuvert) {
+    const Dossier lecteur;
+    std::filesystem::create_directory(lecteur / "Orvalis");
+    const Cahier ouvert = Ouvrir(lecteur.Poser("Orvalis/C.Vek", Contact("A") + Fin()));
+    EXPECT_THROW(static_cast<void>(CreerCahier(lecteur / "", {"F5ABC", "C.Vek", "JN18AA"})),
+                 Erreur);
+    EXPECT_EQ(Lire(ouvert.chemin), Contact("A") + Fin());
 }
 
 TEST(Dossier, LeLecteurSuitLeDossierCourant) {

@@ -59,9 +59,9 @@ TEST_F(Recherche, ParDate) {
 
 TEST_F(Recherche, Doublons) {
     const auto contact = [](std::string_view indicatif, std::string_view fin = "18:45",
-                            std::string_view mode = "SSB") {
+                            std::string_view mode = "SSB", std::string_view mhz = "14.2") {
         return Brute(
-            {{0, indicatif}, {15, "12/05/02"}, {23, "18:30"}, {28, fin}, {33, "14.2"}, {43, mode}});
+            {{0, indicatif}, {15, "12/05/02"}, {23, "18:30"}, {28, fin}, {33, mhz}, {43, mode}});
     };
     const std::string a = contact("F1AAA");
     const std::pair<std::string, std::string_view> cas[] = {
@@ -71,6 +71,7 @@ TEST_F(Recherche, Doublons) {
         {a + a + a, "1 2 | 2 | Doublons trouvés"},
         {a + contact("F1AAA", "18:45", "CW"), "1 | 1 | Doublon trouvé"},
         {a + contact("F1AAA", "18:46"), "| 0 | Doublon trouvé"},
+        {a + contact("F1AAA", "18:45", "SSB", "7.05"), "| 0 | Doublon trouvé"},
         {a + contact("f1aaa"), "| 0 | Doublon trouvé"},
         {a + contact(" F1AAA"), "| 0 | Doublon trouvé"},
         {a + contact("F2BBB") + a, "| 0 | Doublon trouvé"}};

@@ -1,6 +1,8 @@
 #include "fautes/fautes.h"
 #include "qsl/qsl_slot_record.h"
 
+#include <span>
+
 namespace orvalis::operateur {
 namespace {
 
@@ -25,7 +27,7 @@ Fiches Sans(const Fiches& fiches, const Fiches& autres) {
 }
 
 std::string DegatDuCahier(const std::string& avant, const std::string& apres,
-                          const std::string& trouve) {
+                          const std::string& trouve, bool repare) {
     const Fiches anciens = Lire(avant), nouveaux = Lire(apres), trouves = Lire(trouve);
     if (anciens.size() * kTailleFiche < avant.size() &&
         trouves.size() * kTailleFiche >= trouve.size())
@@ -35,8 +37,10 @@ std::string DegatDuCahier(const std::string& avant, const std::string& apres,
     if (const Fiches perdus = Sans(communs, trouves); !perdus.empty())
         return "lost " + perdus[0];
     const Fiches restes = Sans(trouves, communs);
+    if (repare && trouve.size() != avant.size() && trouve.size() != apres.size())
+        return "logbook of " + std::to_string(trouve.size()) + " bytes";
     // A deletion blanks its contact first; contacts are appended together or not at all.
-    const Fiches blanche(disparus.size(), std::string(kTailleFiche, ' '));
+    const Fiches blanche(repare ? 0 : disparus.size(), std::string(kTailleFiche, ' '));
     if (restes == disparus || restes == apparus || (apparus.empty() && restes == blanche))
         return {};
     // Corrections come one after the other, which sorting leaves in the same places.
@@ -66,11 +70,42 @@ std::string DegatDeLaFeuille(const std::string& a, const std::string& b, const s
 
 } // namespace
 
-std::string Degat(Fichiers avant, Fichiers apres, Fichiers trouves) {
+std::string Journal(const Bilan& bilan) {
+    std::string journal, dernier;
+    for (const Appel& appel : std::span(bilan.appels).first(bilan.nombre)) {
+        const std::string_view nom(appel.nom);
+        const char* signe = nom.ends_with("sync") ? "!" : nom == "rename" ? ">" : "";
+        if (!appel.ecrit && *signe == '\0')
+            continue;
+        const std::string mot = std::string(" ") + appel.fichier.data() + signe;
+        if (mot != dernier)
+            journal += mot;
+        dernier = mot;
+    }
+    return journal.empty() ? "" : journal.substr(1);
+}
+
+std::string NonSynchronise(const Bilan& bilan) {
+    std::map<std::string, bool> sales;
+    for (const Appel& appel : std::span(bilan.appels).first(bilan.nombre)) {
+        const std::string_view nom(appel.nom), fichier(appel.fichier.data());
+        bool& sale = sales[std::string(fichier)];
+        const bool coupe = nom == "ftruncate" && fichier.ends_with(".Vek");
+        if (coupe && sale)
+            return std::string(fichier) + " is cut before it is flushed";
+        sale = (sale && !nom.ends_with("sync")) || appel.ecrit || coupe;
+    }
+    for (const auto& [fichier, sale] : sales)
+        if (sale && !fichier.ends_with(".tmp"))
+            return fichier + " is not flushed";
+    return {};
+}
+
+std::string Degat(Fichiers avant, Fichiers apres, Fichiers trouves, bool repare) {
     const std::string c = "F5ABC.Vek", f = "FeuilleQSL.txt";
     if (trouves.contains(f) && trouves[f].empty())
         return "a sheet of 0 bytes";
-    std::string degat = DegatDuCahier(avant[c], apres[c], trouves[c]);
+    std::string degat = DegatDuCahier(avant[c], apres[c], trouves[c], repare);
     if (degat.empty())
         degat = DegatDeLaFeuille(avant[f], apres[f], trouves[f], trouves[c]);
     for (const auto& [nom, octets] : avant)

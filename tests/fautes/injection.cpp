@@ -20,6 +20,7 @@ constexpr unsigned kTous = kLecture | kEcriture | kPlace | kAutre;
 constexpr Faute kFautes[] = {
     {.nom = "killed", .sortes = kTous, .tue = true},
     {.nom = "error", .sortes = kTous, .erreur = EIO},
+    {.nom = "interrupted", .sortes = kLecture | kEcriture, .erreur = EINTR},
     {.nom = "disk full", .sortes = kEcriture | kPlace, .erreur = ENOSPC, .plein = true},
     {.nom = "cut short", .sortes = kLecture | kEcriture, .courte = true},
     {.nom = "cut short, then full", .sortes = kEcriture, .courte = true, .plein = true}};
@@ -30,33 +31,49 @@ struct Etat {
     Plan plan;
     bool plein = false;
     Bilan* bilan = nullptr;
+    std::string projete = {}; // the file that was mapped last
 };
 constinit Etat etat;
 
-bool Suivi(const char* chemin) {
-    return etat.bilan != nullptr && std::string_view(chemin).starts_with(etat.lecteur);
+// The name under the drive; empty when the call is not followed.
+std::string Suivi(const char* chemin) {
+    const std::string_view texte(chemin);
+    if (etat.bilan == nullptr || !texte.starts_with(etat.lecteur))
+        return {};
+    return texte == etat.lecteur ? "." : std::string(texte.substr(etat.lecteur.size() + 1));
 }
 
-bool Suivi(int descripteur) {
+// What goes through the workshop goes into the file that is mapped.
+constexpr const char* kAtelier = "atelier";
+
+std::string Suivi(int descripteur) {
     if (etat.bilan == nullptr || descripteur < 0)
-        return false;
+        return {};
     std::array<char, kPage> chemin = {};
     const std::string lien = "/proc/self/fd/" + std::to_string(descripteur);
     ::syscall(SYS_readlink, lien.c_str(), chemin.data(), chemin.size() - 1);
-    return Suivi(chemin.data()) ||
-           std::string_view(chemin.data()).find("orvalis-atelier") != std::string_view::npos;
+    if (std::string_view(chemin.data()).find("orvalis-atelier") != std::string_view::npos)
+        return kAtelier;
+    return Suivi(chemin.data());
 }
 
 // Makes the call `vrai` with the number of bytes that the plan leaves it.
-template<typename T, typename Vrai> T Passer(bool suivi, const Appel& appel, Vrai vrai) {
-    if (!suivi)
+template<typename T, typename Vrai> T Passer(const std::string& fichier, Appel appel, Vrai vrai) {
+    if (fichier.empty())
         return T(vrai(appel.octets));
+    const std::string_view nom(appel.nom);
+    if (nom == "mmap" && fichier != kAtelier)
+        etat.projete = fichier;
+    appel.ecrit = nom == "pwrite" || (nom == "pread" && fichier == kAtelier);
+    (appel.ecrit && nom == "pread" ? etat.projete : fichier)
+        .copy(appel.fichier.data(), appel.fichier.size() - 1);
     const bool ici = etat.bilan->nombre == etat.plan.rang;
     const Faute faute = ici ? etat.plan.faute : Faute();
     etat.bilan->appels.at(etat.bilan->nombre++) = appel;
     const bool plein = etat.plein && (appel.sorte & (kEcriture | kPlace)) != 0;
     etat.plein |= faute.plein;
     if (plein || faute.erreur != 0) {
+        etat.bilan->appels.at(etat.bilan->nombre - 1).ecrit = false;
         errno = plein ? ENOSPC : faute.erreur;
         return T(-1L);
     }
@@ -90,11 +107,12 @@ std::vector<Plan> Fautes(const Appel& appel, std::size_t rang) {
 
 using namespace orvalis::operateur;
 
-// A function of the C library: its type and name, its parameters, whether it is on a file of the
-// drive, its sort, bytes and position, and the call of the system that it is, with `n` bytes.
+// A function of the C library: its type and name, its parameters, its file under the drive, its
+// sort, bytes and position, and the call of the system that it is, with `n` bytes.
 #define REMPLACER(T, nom, parametres, suivi, sorte, taille, position, ...)                         \
     extern "C" T nom parametres {                                                                  \
-        return Passer<T>(suivi, {sorte, static_cast<std::size_t>(taille), position, #nom},         \
+        return Passer<T>(suivi,                                                                    \
+                         {sorte, static_cast<std::size_t>(taille), position, #nom, false, {}},     \
                          [&]([[maybe_unused]] std::size_t n) { return ::syscall(__VA_ARGS__); });  \
     }
 
@@ -107,6 +125,7 @@ REMPLACER(int, open, (const char* nom, int drapeaux, ...),
           Suivi(nom), (drapeaux & O_CREAT) != 0 ? kPlace : kAutre, 0, 0,
           SYS_openat, AT_FDCWD, nom, drapeaux, 0600) // no fault depends on the rights
 REMPLACER(int, fdatasync, (int f), Suivi(f), kPlace, 0, 0, SYS_fdatasync, f)
+REMPLACER(int, fsync, (int f), Suivi(f), kPlace, 0, 0, SYS_fsync, f)
 REMPLACER(int, ftruncate, (int f, off_t taille) noexcept,
           Suivi(f), kPlace, 0, 0, SYS_ftruncate, f, taille)
 REMPLACER(int, fstat, (int f, struct stat* s) noexcept, Suivi(f), kAutre, 0, 0, SYS_fstat, f, s)
@@ -117,7 +136,7 @@ REMPLACER(int, rename, (const char* ancien, const char* nom) noexcept,
 REMPLACER(int, mkdir, (const char* nom, mode_t droits) noexcept,
           Suivi(nom), kPlace, 0, 0, SYS_mkdir, nom, droits)
 REMPLACER(int, memfd_create, (const char* nom, unsigned drapeaux) noexcept,
-          etat.bilan != nullptr, kPlace, 0, 0, SYS_memfd_create, nom, drapeaux)
+          etat.bilan == nullptr ? "" : kAtelier, kPlace, 0, 0, SYS_memfd_create, nom, drapeaux)
 REMPLACER(void*, mmap, (void* a, size_t t, int acces, int drapeaux, int f, off_t p) noexcept,
           Suivi(f), kAutre, 0, 0, SYS_mmap, a, t, acces, drapeaux, f, p)
 // clang-format on

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 
+#include <cerrno>
 #include <iostream>
 #include <sys/mman.h>
 #include <sys/wait.h>
@@ -61,13 +62,27 @@ std::string Essayer(const Operation& operation, Banc& banc, const Fichiers& avan
 }
 
 // What is wrong after a fault; empty when nothing is.
-std::string Juger(const Plan& plan, const std::string& message, const Fichiers& avant,
-                  const Fichiers& apres, const Fichiers& trouves) {
-    const bool tue = plan.faute.tue, dit = message.find("Impossible") != message.npos;
+std::string Juger(const Plan& plan, const Appel& appel, const std::string& message,
+                  const Bilan& bilan, const Fichiers& avant, const Fichiers& apres,
+                  const Fichiers& trouves) {
+    const bool tue = plan.faute.tue, interrompu = plan.faute.erreur == EINTR,
+               dit = !interrompu && (message.find("Impossible") != message.npos ||
+                                     message.find("est arrêté") != message.npos);
     if ((message == "killed") != tue)
         return tue ? "was not killed" : "died";
-    const std::string degat = Degat(avant, apres, trouves);
-    if (!degat.empty() || tue || dit)
+    // A sort that cannot map its file is refused, and all else goes on.
+    const bool fini = message.find(kFini) != message.npos;
+    if (appel.nom == std::string_view("mmap") && fini)
+        return "ended the program";
+    const std::string degat = Degat(avant, apres, trouves, plan.faute.erreur == EIO);
+    if (!degat.empty() || tue)
+        return degat;
+    // Marks that a failure leaves alone belong to labels that are still on the sheet.
+    const bool feuille = avant.contains("FeuilleQSL.txt");
+    if (std::string perte = NonSynchronise(bilan);
+        !perte.empty() && !plan.faute.plein && !(fini && feuille))
+        return perte;
+    if (dit)
         return degat;
     if (!message.empty())
         return "said: " + message;
@@ -81,6 +96,7 @@ void Parcourir(const Operation& operation, Bilan& bilan, int& essais, int& degat
     const Fichiers avant = LireFichiers(banc.Dossier());
     const std::string temoin = Essayer(operation, banc, avant, {}, bilan);
     const std::vector<Appel> appels(bilan.appels.data(), bilan.appels.data() + bilan.nombre);
+    const std::string ordre = Journal(bilan);
     const Fichiers apres = LireFichiers(banc.Dossier());
     const auto dire = [&](const std::string& texte) {
         std::cout << operation.nom << ": " << texte << std::endl;
@@ -90,12 +106,17 @@ void Parcourir(const Operation& operation, Bilan& bilan, int& essais, int& degat
         dire("does not work " + temoin);
         ++degats;
     }
+    if (ordre != operation.ordre) {
+        dire("writes and flushes " + ordre);
+        ++degats;
+    }
     for (std::size_t rang = 0; rang < appels.size(); ++rang)
         for (const Plan& plan : Fautes(appels[rang], rang)) {
             ++essais;
             const std::string message = Essayer(operation, banc, avant, plan, bilan);
             const Fichiers trouves = LireFichiers(banc.Dossier());
-            const std::string degat = Juger(plan, message, avant, apres, trouves);
+            const std::string degat =
+                Juger(plan, appels[rang], message, bilan, avant, apres, trouves);
             if (degat.empty())
                 continue;
             ++degats;

@@ -1,3 +1,4 @@
+#include "core/creation.h"
 #include "fautes/fautes.h"
 #include "print/enregistreur.h"
 #include "qsl/feuille_qsl.h"
@@ -5,6 +6,9 @@
 
 namespace orvalis::operateur {
 namespace {
+
+// The first run, without its dialog.
+constexpr const char* kCreer = "créer";
 
 // Other stations than those of Contacts().
 std::string Autres(int n) {
@@ -34,27 +38,36 @@ std::vector<Operation> Operations() {
     const std::string fin = Fin(), c24 = Contacts(24), c25 = Contacts(25) + fin,
                       saisie = "clic BtNewQSO; valide f6new, 14.210, ssb, , 57, jean, lyon, 69, "
                                "jn25ab, rien, , , f5xyz",
+                      vek = "Orvalis/F5ABC.Vek Orvalis/F5ABC.Vek!",
+                      parametres = "Orvalis/Parvel.cfg.tmp Orvalis/Parvel.cfg.tmp! "
+                                   "Orvalis/Parvel.cfg> Orvalis!",
+                      feuille = "Orvalis/FeuilleQSL.txt Orvalis/FeuilleQSL.txt!",
                       etiquettes = "menu MnuGestionFeuilleQSL; clic ";
-    return {
-        // name, logbook, gestures, the last one, labels
-        {"suivant", c24 + fin, saisie, "entree 1"},
-        {"terminer", c24 + fin + Autres(3) + fin, saisie, "clic BtEnrTerminer"},
-        {"sans-fin", c24, saisie, "entree 1"},
-        {"correction", c25, "clic TxtField_12; valide éloïse", "touche Alt+O"},
-        {"suppression", Contacts(130) + fin + Autres(2),
-         "clic CmdSensHaut; ligne 2; clic BtKillFiche", "clic FraCmdOui"},
-        {"suppression-derniere", c25, "clic BtKillFiche", "clic FraCmdOui"},
-        {"locator", Contacts(2) + fin,
-         "clic BtNewQSO; valide f6abc; clic TxtField_16; valide jn18du; clic ChangLocChk",
-         "clic BtChangValid"},
-        {"tri", Contacts(60).substr(30 * kTailleFiche) + Contacts(30) + fin, "", "menu MnuClasser"},
-        {"jumelage", c24 + fin, "fichier AUTRE.Vek; menu MnuJumeler", "clic BtPjumeler"},
-        {"sauvegarde", Contacts(60) + fin, "fichier VekSave/F5ABC.Vek", "menu MnuSauver"},
-        {"etiquette-placee", c25, "clic TxtField_14; valide F5ABC; touche Alt+B", "touche Alt+V",
-         0},
-        {"etiquette-supprimee", c25, etiquettes + "BtChoix_1", "clic BtDelQSL", 1},
-        {"etiquettes-imprimees", c25, etiquettes + "BtPrintQSL", "clic BtCtrl_Parfait", 3},
-        {"demarrage", Contacts(2) + fin, "", ""}};
+    return {// name, logbook, gestures, the last one, what is written and flushed, labels
+            {"suivant", c24 + fin, saisie, "entree 1", vek},
+            {"terminer", c24 + fin + Autres(3) + fin, saisie, "clic BtEnrTerminer", vek},
+            {"sans-fin", c24, saisie, "entree 1", vek},
+            {"correction", c25, "clic TxtField_12; valide éloïse", "touche Alt+O", vek},
+            {"suppression", Contacts(130) + fin + Autres(2),
+             "clic CmdSensHaut; ligne 2; clic BtKillFiche", "clic FraCmdOui", vek},
+            {"suppression-derniere", c25, "clic BtKillFiche", "clic FraCmdOui", vek},
+            {"locator", Contacts(2) + fin,
+             "clic BtNewQSO; valide f6abc; clic TxtField_16; valide jn18du; clic ChangLocChk",
+             "clic BtChangValid", parametres},
+            {"tri", Contacts(60).substr(30 * kTailleFiche) + Contacts(30) + fin, "",
+             "menu MnuClasser", vek},
+            {"jumelage", c24 + fin, "fichier AUTRE.Vek; menu MnuJumeler", "clic BtPjumeler",
+             vek + " " + vek},
+            {"sauvegarde", Contacts(60) + fin, "fichier VekSave/F5ABC.Vek", "menu MnuSauver",
+             "Orvalis! Orvalis/VekSave/F5ABC.Vek Orvalis/VekSave/F5ABC.Vek! Orvalis/VekSave!"},
+            {"etiquette-placee", c25, "clic TxtField_14; valide F5ABC; touche Alt+B",
+             "touche Alt+V", feuille + " " + vek, 0},
+            {"etiquette-supprimee", c25, etiquettes + "BtChoix_1", "clic BtDelQSL",
+             vek + " " + feuille, 1},
+            {"etiquettes-imprimees", c25, etiquettes + "BtPrintQSL", "clic BtCtrl_Parfait",
+             vek + " " + feuille, 3},
+            {"demarrage", Contacts(2) + fin, "", "", feuille + " Orvalis!"},
+            {"creation", "", "", kCreer, parametres + " " + vek + " Orvalis! .!"}};
 }
 
 void Preparer(const Operation& operation, Banc& banc) {
@@ -66,9 +79,10 @@ void Preparer(const Operation& operation, Banc& banc) {
     if (operation.etiquettes >= 0)
         banc.Ecrire("FeuilleQSL.txt", Feuille(operation.etiquettes));
     banc.systeme.imprimante = [] { return std::make_unique<Enregistreur>("Sans"); };
-    if (!operation.dernier.empty())
+    if (!operation.dernier.empty() && operation.dernier != kCreer)
         banc.Ouvrir();
-    banc.Suivre(operation.nom + " : " + operation.gestes + " ->");
+    if (!operation.gestes.empty())
+        banc.Suivre(operation.nom + " : " + operation.gestes + " ->");
 }
 
 std::string Agir(const Operation& operation, Banc& banc) {
@@ -76,14 +90,18 @@ std::string Agir(const Operation& operation, Banc& banc) {
         banc.Ouvrir();
     std::string texte;
     try {
-        banc.Faire(operation.dernier);
+        if (operation.dernier != kCreer)
+            banc.Faire(operation.dernier);
+        else if (!CreerCahier(banc.systeme.lecteur, {"F6NEW", "F5ABC.Vek", "JN18AA"}))
+            texte = "Impossible";
     } catch (const std::exception& erreur) {
         texte = erreur.what();
     }
     for (const QString& message : banc.systeme.avertissements)
         texte += S(message);
-    if (banc.systeme.codeDeFin && (texte.empty() || *banc.systeme.codeDeFin == 0))
-        texte = "ended without a word";
+    if (banc.systeme.codeDeFin)
+        texte =
+            texte.empty() || *banc.systeme.codeDeFin == 0 ? "ended without a word" : texte + kFini;
     return texte;
 }
 

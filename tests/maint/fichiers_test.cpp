@@ -124,4 +124,24 @@ TEST(Echecs, NeChangentRien) {
     EXPECT_EQ(nous.monLocator + std::to_string(cahier.nbFiches), "JN18AA1");
 }
 
+TEST(Echecs, UnDisquePleinRendLeCahierTelQuIlEtait) {
+    const std::string a = Contact("A"), f = Fin(), deux = Fois(2, a);
+    for (const std::string& avant : {a + f, a, a + deux.substr(0, 200), f}) {
+        const Dossier dossier;
+        const auto source = dossier.Poser("S.Vek", Fois(9, deux) + f);
+        Cahier cahier = Ouvrir(dossier.Poser("F5ABC.Vek", avant));
+        const std::int32_t n = cahier.nbFiches;
+        for (const std::size_t place : {0, 1, 107, 165, 200}) {
+            const DisquePlein plein(avant.size() + place);
+            EXPECT_THROW(JumelerCahier(cahier, MaStation(), source), Erreur);
+            EXPECT_EQ(Lire(cahier.chemin), avant) << place;
+            if (place > 164)
+                continue;
+            EXPECT_THROW(AjouterFiche(cahier, Enregistrement(a), FicheFinDeLog("")), Erreur);
+            EXPECT_EQ(Lire(cahier.chemin), avant) << place;
+            EXPECT_EQ(cahier.nbFiches, n);
+        }
+    }
+}
+
 } // namespace orvalis::aides::fichiers

@@ -120,4 +120,20 @@ TEST(Changement, UnClassementSArrete) {
     }
 }
 
+TEST(Changement, UnDisquePleinFaitNoterLeContact) {
+    Banc banc(Contacts(3) + kFin);
+    banc.Suivre("typed : " + kSaisie + " ->");
+    {
+        const aides::DisquePlein plein(banc.OctetsCahier().size() + 107);
+        banc.Suivre(R"(told : clic BtEnrSuivant -> averti = "Impossible d'écrire dans le fichier
+     « ~/F5ABC.Vek » : le fichier deviendrait trop grand.\n\nLe contact en cours n'est pas
+     enregistré. Notez-le :\nIndicatif : F6NEW\nDate : 21/11/26\nHeure de début :
+     18:30\nHeure de fin : 18:30\nFréquence : 14.210\nMode : SSB\nRST donné : 59\nRST
+     reçu : 57\nQTH : LYON\nSon locator : JN25AB\nDépartement : 69\nPrénom : Jean\nInformations :
+     RIEN\nMon locator : JN04SD\nQSL manager : F5XYZ")");
+    }
+    EXPECT_EQ(banc.systeme.codeDeFin, 1);
+    EXPECT_EQ(banc.OctetsCahier(), Contacts(3) + kFin);
+}
+
 } // namespace orvalis::operateur::changement

@@ -75,4 +75,18 @@ TEST(Maintenance, ErreursDesAutresFichiersSeDisentSansRienPerdre) {
     EXPECT_FALSE(banc.systeme.codeDeFin);
 }
 
+TEST(Maintenance, UnCahierProtegeNeSeClassePas) {
+    Banc banc(Contacts(3) + Fin());
+    const std::string octets = Contacts(60).substr(30 * kTailleFiche) + Contacts(30) + Fin();
+    banc.Ecrire("F6XYZ.Vek", octets);
+    std::filesystem::permissions(banc.Dossier() / "F6XYZ.Vek", std::filesystem::perms::owner_read);
+    const aides::SansPrivileges root;
+    banc.Suivre(R"(
+ looked at : fichier F6XYZ.Vek; menu MnuAutreF -> ligne = 10/10
+ not sorted : menu MnuClasser -> averti =
+     "Ce cahier est protégé en écriture : il ne peut pas être classé."; actif ListeLog PictRech)");
+    EXPECT_EQ(banc.Lire("F6XYZ.Vek"), octets);
+    EXPECT_FALSE(banc.systeme.codeDeFin);
+}
+
 } // namespace orvalis::operateur::maintenance

@@ -20,6 +20,7 @@ TEST(Navigation, TaillesDeCahier) {
             vu += '|' + banc.Texte(nom);
         EXPECT_EQ(vu, vus);
         EXPECT_EQ(banc.Controle<QScrollBar>("VScroll1")->maximum(), n);
+        EXPECT_EQ(banc.Controle<QScrollBar>("VScroll1")->value(), n);
     }
 }
 
@@ -47,6 +48,17 @@ TEST(Navigation, TouchesEtBoutons) {
  End : touche End -> ici = "Page 1 / 3| Fiche N° 25 "
  menus : touche Alt+N, F10 -> actif NmuFilect
  next menu : touche Right -> actif MnuLister)");
+}
+
+TEST(Navigation, DerriereLaDerniereFicheListee) {
+    const std::string loin = Octets("G9LOIN|13/05/02");
+    Banc banc(Contacts(32990) + loin + Contacts(9) + Fin());
+    banc.groupes["ici"] = "LabPage NoFicheLab";
+    banc.Suivre(R"(
+ found : foyer RechText; valide g9loin -> ici = "Page 1311 / 1311| Fiche N° 32991 "
+ none behind : clic BtContactsFermer; foyer ListeLog; touche PgDown
+     -> ici = "Page 1311 / 1311| Fiche N° 32991 "
+ the last one before : touche PgUp -> ici = "Page 1311 / 1311| Fiche N° 32751 ")");
 }
 
 // A list that takes the focus without a current line must not choose one by itself.
