@@ -24,15 +24,20 @@ void PlancherAjout(benchmark::State& etat, const CahierEssai& essai) {
     }
 }
 
-// The file keeps its length, so every round moves as many records as the first.
 void Supprimer(benchmark::State& etat, const CahierEssai& essai) {
     Cahier cahier = essai.Ouvrir();
     const Station poste = CahierEssai::Poste();
-    for ([[maybe_unused]] auto _ : etat) {
-        cahier.nbFiches = essai.NbFiches();
-        benchmark::DoNotOptimize(SupprimerFiche(
-            cahier, kPremiereFiche, FicheDuCahier(cahier, kPremiereFiche), poste.monLocator));
-    }
+    const QsoRecord premiere = FicheDuCahier(cahier, kPremiereFiche);
+    Chronometrer(
+        etat,
+        [&] {
+            essai.Ecrire(essai.Fiches());
+            cahier.nbFiches = essai.NbFiches();
+        },
+        [&] {
+            benchmark::DoNotOptimize(
+                SupprimerFiche(cahier, kPremiereFiche, premiere, poste.monLocator));
+        });
 }
 
 // A second logbook of the same size is appended, and the whole is counted.

@@ -78,7 +78,7 @@ std::string Juger(const Plan& plan, const Appel& appel, const std::string& messa
     if (!degat.empty() || tue)
         return degat;
     // Marks that a failure leaves alone belong to labels that are still on the sheet.
-    const bool feuille = avant.contains("FeuilleQSL.txt");
+    const bool feuille = avant.at("F5ABC.Vek").find("En cours") != std::string::npos;
     if (std::string perte = NonSynchronise(bilan);
         !perte.empty() && !plan.faute.plein && !(fini && feuille))
         return perte;
