@@ -77,10 +77,12 @@ std::string Juger(const Plan& plan, const Appel& appel, const std::string& messa
     const std::string degat = Degat(avant, apres, trouves, plan.faute.erreur == EIO);
     if (!degat.empty() || tue)
         return degat;
-    // Marks that a failure leaves alone belong to labels that are still on the sheet.
-    const bool feuille = avant.at("F5ABC.Vek").find("En cours") != std::string::npos;
+    // What changes contacts in their places is whole at every instant; what adds or deletes some
+    // mends what fails.
+    const auto fin = [](const Fichiers& f) { return f.at("F5ABC.Vek").find("\\ "); };
+    const bool repare = fin(avant) != fin(apres);
     if (std::string perte = NonSynchronise(bilan);
-        !perte.empty() && !plan.faute.plein && !(fini && feuille))
+        !perte.empty() && !plan.faute.plein && (repare || !fini))
         return perte;
     if (dit)
         return degat;

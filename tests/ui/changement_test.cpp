@@ -1,4 +1,5 @@
 // The logbook replaced, rewritten, cut or deleted by another program while it is open.
+#include "print/enregistreur.h"
 #include "ui/banc.h"
 
 #include <QTimer>
@@ -15,6 +16,7 @@ const std::string
         "JN04SD"),
     kAutre = Octets("G3ABC|13/05/02"), kModifie = "clic TxtField_12; valide zoe",
     kZoe = "touche Alt+O", kEfface = "clic BtKillFiche",
+    kEtiquette = "clic TxtField_14; valide F5ABC; touche Alt+B",
     kQuestion = "Un autre programme a modifié le cahier\u00A0: ";
 
 // Puts another file of these bytes in the logbook's place, or none; `dedans` writes into the file.
@@ -65,10 +67,16 @@ TEST(Changement, RienNePasseACoteDuCahierQuiEstLa) {
          "averti contient " + kQuestion + "la fiche N° 3; TxtField_1 = G3ABC", kNous, true},
         {"label placed, another", "", c2 + kAutre + kFin, "clic TxtField_14", c2 + kAutre + kFin,
          "averti contient N° 3; caché PictFeuilleQSL; TxtField_1 = G3ABC"},
-        {"label erased", "clic TxtField_14; valide F5ABC; touche Alt+B, Alt+V",
-         Troisieme(143, "En cours") + c2 + kFin,
+        {"label erased", kEtiquette + "; touche Alt+V", Troisieme(143, "En cours") + c2 + kFin,
          "menu MnuGestionFeuilleQSL; clic BtChoix_1, BtDelQSL", Troisieme(0, "") + c2 + kFin,
          "actif PictFeuilleQSL"},
+        {"label stored, gone", kEtiquette, kSupprime, "touche Alt+V",
+         aides::Fois(16, aides::Brute({{0, "***"}}, 106)),
+         "averti contient n'existe pas; actif BtValidQSL", "FeuilleQSL.txt"},
+        {"labels confirmed",
+         kEtiquette + "; touche Alt+V; menu MnuGestionFeuilleQSL; clic BtPrintQSL",
+         Troisieme(143, "En cours") + c2 + kFin, "clic BtCtrl_Parfait",
+         Troisieme(143, "21/11/26") + c2 + kFin, "caché PictFeuilleQSL"},
         {"begun, gone", "", kSupprime, "clic BtNewQSO", "",
          "averti contient n'existe pas; caché PictEnrs"},
         {"sorted", "", kAutre + c2 + kFin, "menu MnuClasser", c2 + kAutre + kFin,
@@ -88,6 +96,7 @@ TEST(Changement, RienNePasseACoteDuCahierQuiEstLa) {
     for (const auto& c : cas) {
         Banc banc(c3 + kFin);
         banc.Ecrire("AUTRE.Vek", kAutre + kFin);
+        banc.systeme.imprimante = [] { return std::make_unique<Enregistreur>("Sans"); };
         banc.Suivre("before : " + (c.avant.empty() ? "clic ListeLog" : c.avant) + " ->");
         Changer(banc, c.change, c.dedans);
         banc.Suivre(c.nom + " : " + c.dernier + " -> " + c.vu);
@@ -101,6 +110,7 @@ TEST(Changement, LaSaisieReprendQuandLeCahierEstRevenu) {
     banc.Suivre("typed : " + kSaisie + " ->");
     Changer(banc, kSupprime, false);
     banc.Suivre("refused : clic BtEnrSuivant -> averti contient n'existe pas");
+    banc.Suivre("its end is still open : clic TxtField_4; touche Tab -> TxtField_4 =");
     Changer(banc, Contacts(3) + kFin, false);
     const Cahier autreProgramme = aides::Ouvrir(banc.Dossier() / kNous);
     banc.Suivre("locked : clic BtEnrTerminer -> averti contient utilisé par un autre programme");
