@@ -158,19 +158,24 @@ struct Suppression {
             fichier.Ecrire(blanche, QsoRecord{});
         if (fichier.Support().Taille() < PositionFiche(derniere + 1))
             fichier.Ecrire(derniere, fichier.Lire(derniere));
-        EcritureEntiere ecriture(fichier.Support(), PositionFiche(derniere + 1));
-        LecteurFiches lecteur(fichier); // of records that are not moved yet
+        EcritureEntiere ecriture(fichier.Support(), PositionFiche(derniere + 1),
+                                 PositionFiche(blanche));
+        LecteurFiches lecteur(fichier);                 // of records that are not moved yet
+        std::array<QsoRecord, kFichesParPiece> enPlace; // what the piece under way replaces
         std::array<QsoRecord, kFichesParPiece> descendue;
+        enPlace[0] = fichier.Lire(blanche);
         while (blanche < derniere) {
             const auto n =
                 std::min(kFichesParPiece - 1, static_cast<std::size_t>(derniere - blanche));
-            for (std::size_t i = 0; i < n; ++i)
-                piece[i + 1] = lecteur.Lire(blanche + static_cast<std::int32_t>(i) + 1);
+            for (std::size_t i = 1; i <= n; ++i)
+                enPlace[i] = lecteur.Lire(blanche + static_cast<std::int32_t>(i));
             nombre = n + 1;
-            *std::copy_n(piece.begin() + 1, n, descendue.begin()) = QsoRecord{};
-            ecriture.Poser(PositionFiche(blanche),
-                           OctetsFiches(std::span(descendue).first(nombre)));
+            std::copy_n(enPlace.begin() + 1, n, piece.begin() + 1);
+            *std::copy_n(enPlace.begin() + 1, n, descendue.begin()) = QsoRecord{};
+            ecriture.Poser(PositionFiche(blanche), OctetsFiches(std::span(descendue).first(nombre)),
+                           OctetsFiches(std::span(enPlace).first(nombre)));
             blanche += static_cast<std::int32_t>(n);
+            enPlace[0] = QsoRecord{};
             nombre = 1;
         }
     }

@@ -44,6 +44,14 @@ void Projection::Liberer() noexcept {
         ::munmap(octets_, taille_);
 }
 
+void Projection::Amener([[maybe_unused]] std::int64_t position) noexcept {
+#ifdef MADV_POPULATE_READ // where the system does not know it, each page comes when it is written
+    const auto page = static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+    const std::size_t debut = static_cast<std::size_t>(position) / page * page;
+    static_cast<void>(::madvise(octets_ + debut, taille_ - debut, MADV_POPULATE_READ));
+#endif
+}
+
 Erreur Projection::Echec() const {
     // The kernel says "bad address" for a page that the disk does not take.
     const int raison = errno == EFAULT || errno == 0 ? EIO : errno;
@@ -73,9 +81,13 @@ void Projection::Remplacer(std::int64_t position, std::span<const char> anciens)
     throw echec;
 }
 
-EcritureEntiere::EcritureEntiere(Fichier& fichier, std::int64_t taille) : fichier_(fichier) {
+EcritureEntiere::EcritureEntiere(Fichier& fichier, std::int64_t taille,
+                                 std::optional<std::int64_t> depuis)
+    : fichier_(fichier) {
     try {
         projection_.emplace(fichier, taille);
+        if (depuis)
+            projection_->Amener(*depuis);
     } catch (const Erreur&) { // NOLINT(bugprone-empty-catch)
         // Better a write that a kill might cut than none.
     }
@@ -86,6 +98,14 @@ void EcritureEntiere::Poser(std::int64_t position, std::span<const char> octets)
         return fichier_.Ecrire(position, octets);
     std::copy(octets.begin(), octets.end(), projection_->Atelier().begin());
     projection_->Remplacer(position, octets.size());
+}
+
+void EcritureEntiere::Poser(std::int64_t position, std::span<const char> octets,
+                            std::span<const char> anciens) {
+    if (!projection_)
+        return fichier_.Ecrire(position, octets);
+    std::copy(octets.begin(), octets.end(), projection_->Atelier().begin());
+    projection_->Remplacer(position, anciens);
 }
 
 void EcrireEntier(Fichier& fichier, std::int64_t position, std::span<const char> octets) {

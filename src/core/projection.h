@@ -42,6 +42,9 @@ class Projection {
     [[nodiscard]] std::span<char, kPlusGrandePiece> Atelier() noexcept {
         return std::span<char, kPlusGrandePiece>(atelier_, kPlusGrandePiece);
     }
+    /// Brings what lies from byte `position` on within reach at once, for many pieces in a row:
+    /// otherwise the first write on each page of memory waits for that page.
+    void Amener(std::int64_t position) noexcept;
     /// Puts the first `nombre` bytes of the workshop at byte `position`, all of them or, when the
     /// program is killed or this throws Erreur, none. The piece lies within the mapping.
     void Remplacer(std::int64_t position, std::size_t nombre);
@@ -66,10 +69,13 @@ class Projection {
 class EcritureEntiere {
   public:
     /// For pieces within the first `taille` bytes (1 to the file's size) of `fichier`, which must
-    /// outlive this object.
-    EcritureEntiere(Fichier& fichier, std::int64_t taille);
+    /// outlive this object; from byte `depuis` on in a row, if given.
+    EcritureEntiere(Fichier& fichier, std::int64_t taille,
+                    std::optional<std::int64_t> depuis = std::nullopt);
     /// Puts `octets`, at most kPlusGrandePiece, at byte `position`. Throws Erreur.
     void Poser(std::int64_t position, std::span<const char> octets);
+    /// The same in place of bytes that the caller knows, as many, which spares reading them.
+    void Poser(std::int64_t position, std::span<const char> octets, std::span<const char> anciens);
 
   private:
     Fichier& fichier_;

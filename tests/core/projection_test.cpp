@@ -56,6 +56,10 @@ TEST(Projection, FichierRaccourciParUnAutre) {
         ASSERT_EQ(::ftruncate(fichier.Descripteur(), static_cast<off_t>(reste)), 0);
         EXPECT_THAT([&] { projection.Remplacer(kIci, kPiece); },
                     testing::Throws<Erreur>(testing::Property(&Erreur::ConcerneLeCahier, true)));
+        projection.Amener(0);
+        if (reste <= kTaille / 2) { // else the page is still there, and takes what the file has not
+            EXPECT_THROW(projection.Remplacer(kIci, std::string(kPiece, 'a')), Erreur) << reste;
+        }
         EXPECT_EQ(Contenu(fichier, 0), std::string(reste, 'a')) << "what remains stays as it was";
     }
 }
