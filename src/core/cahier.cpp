@@ -145,8 +145,10 @@ struct Suppression {
     FichierFiches& fichier;
     NumeroFiche blanche; // where the blank record is
     NumeroFiche derniere;
-    // The deleted contact, then what lay behind `blanche` before the piece that is being written.
-    std::array<QsoRecord, kFichesParPiece> piece;
+    QsoRecord supprimee;
+    // What lies from `blanche` on before the piece that is being written, and room for the blank
+    // record behind it: the piece is the same but for the first.
+    std::array<QsoRecord, kFichesParPiece + 1> fiches = {};
     std::size_t nombre = 1;
 
     // Blanks the contact, then moves the records behind it down one place and the blank one behind
@@ -154,28 +156,26 @@ struct Suppression {
     void Descendre() {
         if (blanche == derniere)
             return;
-        if (!Rogner(OctetsChamp(piece[0], Champ::CSGN)).empty())
+        if (!Rogner(OctetsChamp(supprimee, Champ::CSGN)).empty())
             fichier.Ecrire(blanche, QsoRecord{});
         if (fichier.Support().Taille() < PositionFiche(derniere + 1))
             fichier.Ecrire(derniere, fichier.Lire(derniere));
         EcritureEntiere ecriture(fichier.Support(), PositionFiche(derniere + 1),
                                  PositionFiche(blanche));
-        LecteurFiches lecteur(fichier);                 // of records that are not moved yet
-        std::array<QsoRecord, kFichesParPiece> enPlace; // what the piece under way replaces
-        std::array<QsoRecord, kFichesParPiece> descendue;
-        enPlace[0] = fichier.Lire(blanche);
+        LecteurFiches lecteur(fichier); // of records that are not moved yet
+        fiches[0] = fichier.Lire(blanche);
         while (blanche < derniere) {
             const auto n =
                 std::min(kFichesParPiece - 1, static_cast<std::size_t>(derniere - blanche));
             for (std::size_t i = 1; i <= n; ++i)
-                enPlace[i] = lecteur.Lire(blanche + static_cast<std::int32_t>(i));
+                fiches[i] = lecteur.Lire(blanche + static_cast<std::int32_t>(i));
+            fiches[n + 1] = QsoRecord{};
             nombre = n + 1;
-            std::copy_n(enPlace.begin() + 1, n, piece.begin() + 1);
-            *std::copy_n(enPlace.begin() + 1, n, descendue.begin()) = QsoRecord{};
-            ecriture.Poser(PositionFiche(blanche), OctetsFiches(std::span(descendue).first(nombre)),
-                           OctetsFiches(std::span(enPlace).first(nombre)));
+            ecriture.Poser(PositionFiche(blanche),
+                           OctetsFiches(std::span(fiches).subspan(1, nombre)),
+                           OctetsFiches(std::span(fiches).first(nombre)));
             blanche += static_cast<std::int32_t>(n);
-            enPlace[0] = QsoRecord{};
+            fiches[0] = QsoRecord{};
             nombre = 1;
         }
     }
@@ -183,7 +183,8 @@ struct Suppression {
     // The deleted contact back in the place of the blank one, and behind it what a piece that was
     // cut short may have overwritten.
     void Revenir() {
-        fichier.Ecrire(blanche, std::span(piece).first(nombre));
+        fiches[0] = supprimee;
+        fichier.Ecrire(blanche, std::span(fiches).first(nombre));
         fichier.Support().Synchroniser();
     }
 };
@@ -195,7 +196,7 @@ bool SupprimerFiche(Cahier& cahier, NumeroFiche k, const QsoRecord& montree,
     if (!VerifierFiche(cahier, k, montree))
         return false;
     const NumeroFiche derniere = cahier.Derniere();
-    Suppression suppression{cahier.fichier, k, derniere, {montree}};
+    Suppression suppression{cahier.fichier, k, derniere, montree};
     try {
         suppression.Descendre();
         cahier.fichier.Ecrire(derniere, FicheFinDeLog(monLocator));
