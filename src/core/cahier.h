@@ -23,7 +23,8 @@ struct Cahier {
     FichierFiches fichier;
     std::filesystem::path chemin; ///< of the open file
     std::string autre;            ///< name of another logbook on show; empty for our own
-    /// Another logbook whose name is not the station's callsign: it may only be looked at.
+    /// Another logbook whose name is not the station's callsign, or whose file may not be written:
+    /// it may only be looked at.
     bool lectureSeule = false;
     std::int32_t nbFiches = 0; ///< N, the number of contacts
 

@@ -9,12 +9,6 @@ namespace orvalis {
 namespace fs = std::filesystem;
 namespace {
 
-// The Settings file keeps whatever name it has; a new one gets the name with the capital V.
-fs::path CheminParametres(const fs::path& dossier) {
-    const fs::path present = TrouverFichier(dossier, kNomParametres);
-    return Present(present) ? present : dossier / fs::path{kNomParametresEcrits};
-}
-
 // Kept on purpose, for the operators: the lengths of locator and callsign must have a binary digit
 // in common. A locator has 6 characters, binary 110, so a callsign passes when the 2 or the 4 is in
 // its length: 2 to 7, 10 to 15 and 18 to 20 characters do; 1, 8, 9, 16 and 17 create nothing.
@@ -35,13 +29,22 @@ bool CreerCahier(const fs::path& lecteur, const Parametres& parametres) {
     FichierFiches fichier(TrouverFichier(dossier, parametres.nomFichier), ModeFichier::Creation);
     if (!fichier.Support().Verrouiller())
         throw Erreur(NatureErreur::DejaOuvert, dossier / parametres.nomFichier);
-    EcrireParametres(CheminParametres(dossier), parametres);
+    EcrireParametres(TrouverParametres(dossier), parametres);
     // An existing logbook is not emptied: only its first record becomes the end of the log.
     fichier.Ecrire(kPremiereFiche, FicheFinDeLog(parametres.monLocator));
     fichier.Support().Synchroniser();
     SynchroniserNom(fichier.Support().Chemin());
     SynchroniserNom(dossier);
     return true;
+}
+
+std::int32_t ContactsDejaLa(const fs::path& lecteur, std::string_view nomFichier) {
+    try {
+        const fs::path chemin = TrouverFichier(DossierProgramme(lecteur), nomFichier);
+        return Present(chemin) ? FichierFiches(chemin, ModeFichier::Lecture).Compter() : 0;
+    } catch (const std::exception&) {
+        return 0; // the creation itself will say what is wrong with it
+    }
 }
 
 std::string CheminProgrammeTexte(const fs::path& lecteur, std::string_view nom) {

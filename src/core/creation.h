@@ -3,6 +3,7 @@
 
 #include "core/parametres.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 
@@ -14,6 +15,11 @@ namespace orvalis {
 /// of 1, 8, 9, 16 and 17 do not. Throws Erreur, also when the logbook is open already; a new one
 /// may then be there, empty.
 [[nodiscard]] bool CreerCahier(const std::filesystem::path& lecteur, const Parametres& parametres);
+
+/// Contacts in a logbook that a creation under the name `nomFichier` would put out of sight; 0
+/// where there is no such file or none that can be counted.
+[[nodiscard]] std::int32_t ContactsDejaLa(const std::filesystem::path& lecteur,
+                                          std::string_view nomFichier);
 
 /// Path of a file of the program folder as messages show it, native separators (UTF-8).
 [[nodiscard]] std::string CheminProgrammeTexte(const std::filesystem::path& lecteur,

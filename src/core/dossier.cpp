@@ -92,13 +92,18 @@ fs::path TrouverFichier(const fs::path& dossier, std::string_view nom) {
         return exact;
     std::error_code erreur;
     const std::string cherche = Majuscules(nom);
+    fs::path trouve; // not the first that the folder happens to list
     for (auto it = fs::directory_iterator(dossier, erreur);
          !erreur && it != fs::directory_iterator(); it.increment(erreur))
         if (Majuscules(it->path().filename().string()) == cherche)
-            return it->path();
+            trouve = std::max(trouve, it->path());
     if (erreur && !EstAbsence(erreur))
-        throw Erreur(NatureErreur::Ouvrir, dossier, erreur);
-    return exact;
+        throw Erreur(NatureErreur::LireDossier, dossier, erreur);
+    return trouve.empty() ? exact : trouve;
+}
+
+fs::path TrouverParametres(const fs::path& dossier) {
+    return TrouverFichier(dossier, kNomParametres);
 }
 
 std::string NomDuCahier(std::string_view indicatif) {

@@ -8,8 +8,7 @@
 namespace orvalis {
 
 inline constexpr std::string_view kNomDossier = "Orvalis";
-inline constexpr std::string_view kNomParametres = "Parvel.cfg";
-inline constexpr std::string_view kNomParametresEcrits = "ParVel.cfg";
+inline constexpr std::string_view kNomParametres = "ParVel.cfg"; ///< as this program writes it
 inline constexpr std::string_view kNomFeuilleQSL = "FeuilleQSL.txt";
 inline constexpr std::string_view kNomSauvegardes = "VekSave";
 
@@ -34,9 +33,14 @@ inline constexpr std::string_view kNomSauvegardes = "VekSave";
 [[nodiscard]] bool Present(const std::filesystem::path& chemin);
 
 /// Path of the file `nom` (UTF-8) in `dossier`: the one that is there under that name in
-/// whatever case, else the name as given. Throws Erreur when the folder may not be read.
+/// whatever case, the name as given before all others, else the name as given. Throws Erreur when
+/// the folder may not be read.
 [[nodiscard]] std::filesystem::path TrouverFichier(const std::filesystem::path& dossier,
                                                    std::string_view nom);
+
+/// Path of the Settings file in `dossier`. Where several names differ only in case, the one that
+/// this program writes wins; where there is none, it is that one too.
+[[nodiscard]] std::filesystem::path TrouverParametres(const std::filesystem::path& dossier);
 
 /// Name of the logbook file for a callsign: its first eight characters, less those that no file
 /// name may hold, then ".Vek".

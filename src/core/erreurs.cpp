@@ -1,48 +1,75 @@
 #include "core/erreurs.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <new>
 #include <utility>
 
 namespace orvalis {
 namespace {
 
+// A line of a message breaks before no mark of punctuation and inside no quotes.
+constexpr std::string_view kDeuxPoints = "\u00a0: ";
+
 struct Raison {
     int code;
     std::string_view texte;
+    std::string_view remede = {}; ///< what the operator can do about it
 };
 
-constexpr std::array<Raison, 15> kRaisons = {{
+constexpr std::string_view kFaireDeLaPlace = "Libérez de la place ou choisissez un autre disque.";
+constexpr std::string_view kVoirLesDroits =
+    "Vérifiez vos droits sur ce fichier et sur son dossier.";
+
+constexpr std::array<Raison, 18> kRaisons = {{
     {ENOENT, "le fichier n'existe pas"},
-    {EACCES, "l'accès est refusé"},
-    {EPERM, "l'opération n'est pas permise"},
-    {ENOSPC, "le disque est plein"},
-    {EDQUOT, "l'espace disque accordé est épuisé"},
-    {EIO, "erreur de lecture ou d'écriture du support"},
-    {EROFS, "le support est protégé en écriture"},
+    {EACCES, "l'accès est refusé", kVoirLesDroits},
+    {EPERM, "l'opération n'est pas permise", kVoirLesDroits},
+    {ENOSPC, "le disque est plein", kFaireDeLaPlace},
+    {EDQUOT, "l'espace disque accordé est épuisé", kFaireDeLaPlace},
+    {EIO, "erreur de lecture ou d'écriture du support",
+     "Mettez vos fichiers à l'abri sur un autre support."},
+    {EROFS, "le support est protégé en écriture",
+     "Déverrouillez-le ou choisissez un autre support."},
     {EISDIR, "c'est un dossier, pas un fichier"},
+    {ESPIPE, "c'est un périphérique ou un tube, pas un fichier"},
     {ENOTDIR, "le chemin passe par un fichier qui n'est pas un dossier"},
+    {ELOOP, "c'est un lien qui ne mène nulle part"},
     {EFBIG, "le fichier deviendrait trop grand"},
     {ENAMETOOLONG, "le nom est trop long"},
     {EEXIST, "un fichier de ce nom existe déjà"},
     {EMFILE, "trop de fichiers sont ouverts"},
+    {ENOMEM, "la mémoire est épuisée"},
     {ENODEV, "le support ne permet pas cette opération"},
-    {EBUSY, "le fichier est utilisé par un autre programme"},
+    {EBUSY, "le fichier est utilisé par un autre programme", "Fermez-le, puis recommencez."},
 }};
+
+const Raison* TrouverRaison(const std::error_code& raison) {
+    const auto* ici = std::find_if(kRaisons.begin(), kRaisons.end(),
+                                   [&](const Raison& r) { return r.code == raison.value(); });
+    return ici == kRaisons.end() ? nullptr : ici;
+}
 
 // `objet` is the file, or the printer's name.
 std::string Phrase(NatureErreur nature, const std::string& objet, const std::error_code& raison) {
-    const std::string cite = " « " + objet + " »";
+    const std::string cite = " «\u00a0" + objet + "\u00a0»";
     const auto refus = [&cite](std::string_view action, std::string_view pourquoi) {
-        return "Impossible " + std::string{action} + cite + " : " + std::string{pourquoi} + ".";
+        return "Impossible " + std::string{action} + cite + std::string{kDeuxPoints} +
+               std::string{pourquoi} + ".";
     };
+    // What is to be made does not exist yet: the folder that holds it is what is missing.
+    const std::string creation =
+        raison.value() == ENOENT ? "le dossier n'existe pas" : RaisonFrancaise(raison);
     switch (nature) {
     case NatureErreur::Ouvrir:
         return refus("d'ouvrir le fichier", RaisonFrancaise(raison));
     case NatureErreur::Creer:
-        // A file that is to be made does not exist yet: its folder is what is missing.
-        return refus("de créer le fichier", raison.value() == ENOENT ? "le dossier n'existe pas"
-                                                                     : RaisonFrancaise(raison));
+        return refus("de créer le fichier", creation);
+    case NatureErreur::CreerDossier:
+        return refus("de créer le dossier", creation);
+    case NatureErreur::LireDossier:
+        return refus("de lire le dossier", RaisonFrancaise(raison));
     case NatureErreur::Lire:
         return refus("de lire le fichier", RaisonFrancaise(raison));
     case NatureErreur::Ecrire:
@@ -63,27 +90,62 @@ std::string Phrase(NatureErreur nature, const std::string& objet, const std::err
                "disquette\u00A0» le copient en entier, une fois la saisie quittée.";
     case NatureErreur::DejaOuvert:
         return "Le cahier" + cite + " est déjà ouvert par un autre programme Orvalis.";
+    case NatureErreur::CahierLuiMeme:
+        return "Le fichier" + cite + " est le cahier ouvert lui-même" + std::string{kDeuxPoints} +
+               "rien n'a été copié.";
     case NatureErreur::ParametresIncomplets:
-        return "Le fichier de paramètres" + cite +
-               " est incomplet : il doit contenir l'indicatif, le nom du cahier et le locator de "
-               "la station.";
+        return "Le fichier de paramètres" + cite + " est incomplet" + std::string{kDeuxPoints} +
+               "il doit contenir l'indicatif, le nom du cahier et le locator de la station.";
     case NatureErreur::EcrirePdf:
         return "Impossible d'écrire le fichier PDF" + cite + ".";
     case NatureErreur::Imprimer:
         break;
     }
     return objet.empty() ? "Aucune imprimante n'est choisie."
-                         : "L'imprimante" + cite + " ne répond pas : rien n'a été imprimé.";
+                         : "L'imprimante" + cite + " ne répond pas" + std::string{kDeuxPoints} +
+                               "rien n'a été imprimé.";
+}
+
+std::string_view Remede(NatureErreur nature, bool nomme, const std::error_code& raison) {
+    switch (nature) {
+    case NatureErreur::Perdu: // says itself what remains to be done
+        return {};
+    case NatureErreur::DejaOuvert:
+        return "Fermez-le d'abord dans l'autre programme.";
+    case NatureErreur::CahierLuiMeme:
+        return "Choisissez un autre nom ou un autre dossier.";
+    case NatureErreur::ParametresIncomplets:
+        return "Corrigez sa ligne, par exemple\u00a0: \"F5ABC\",\"F5ABC.Vek\",\"JN04SD\".";
+    case NatureErreur::EcrirePdf:
+        return "Choisissez un autre fichier par «\u00a0Configurer imprimante\u00a0».";
+    case NatureErreur::Imprimer:
+        return nomme
+                   ? "Vérifiez-la, ou prenez-en une autre par «\u00a0Configurer imprimante\u00a0»."
+                   : "Prenez-en une par «\u00a0Configurer imprimante\u00a0».";
+    default:
+        const Raison* connue = TrouverRaison(raison);
+        return connue == nullptr ? std::string_view{} : connue->remede;
+    }
+}
+
+std::string Message(NatureErreur nature, const std::string& objet, const std::error_code& raison,
+                    std::string_view suite) {
+    std::string message = Phrase(nature, objet, raison);
+    for (const std::string_view phrase : {suite, Remede(nature, !objet.empty(), raison)})
+        if (!phrase.empty())
+            message.append(" ").append(phrase);
+    return message;
 }
 
 } // namespace
 
-Erreur::Erreur(NatureErreur nature, std::filesystem::path chemin, std::error_code raison)
-    : std::runtime_error(Phrase(nature, chemin.string(), raison)), nature_(nature),
+Erreur::Erreur(NatureErreur nature, std::filesystem::path chemin, std::error_code raison,
+               std::string_view suite)
+    : std::runtime_error(Message(nature, chemin.string(), raison, suite)), nature_(nature),
       chemin_(std::move(chemin)), raison_(raison) {}
 
 Erreur::Erreur(const std::string& imprimante)
-    : std::runtime_error(Phrase(NatureErreur::Imprimer, imprimante, {})),
+    : std::runtime_error(Message(NatureErreur::Imprimer, imprimante, {}, {})),
       nature_(NatureErreur::Imprimer) {}
 
 Erreur Erreur::DImprimante(std::string_view nom) {
@@ -96,16 +158,28 @@ CahierPerdu::CahierPerdu(const Erreur& echec)
              echec.code() ? echec.code()
                           : std::make_error_code(std::errc::device_or_resource_busy)) {}
 
-std::string RaisonFrancaise(const std::error_code& raison) {
-    for (const Raison& r : kRaisons)
-        if (r.code == raison.value())
-            return std::string{r.texte};
-    return raison.message();
+Erreur Erreur::Suivie(std::string_view suite) const {
+    Erreur suivie(nature_, chemin_, raison_, suite);
+    suivie.concerneLeCahier_ = concerneLeCahier_;
+    return suivie;
 }
 
+std::string RaisonFrancaise(const std::error_code& raison) {
+    const Raison* connue = TrouverRaison(raison);
+    return connue != nullptr ? std::string{connue->texte}
+                             : "erreur n°\u00a0" + std::to_string(raison.value()) + " du système";
+}
+
+// What such an exception says of itself is English.
 std::string MessageErreur(const std::exception& erreur) {
-    const bool notre = dynamic_cast<const Erreur*>(&erreur) != nullptr;
-    return (notre ? "" : "Erreur inattendue : ") + std::string{erreur.what()};
+    if (dynamic_cast<const Erreur*>(&erreur) != nullptr)
+        return erreur.what();
+    std::string message = "Erreur inattendue";
+    if (const auto* systeme = dynamic_cast<const std::system_error*>(&erreur))
+        message += std::string{kDeuxPoints} + RaisonFrancaise(systeme->code());
+    else if (dynamic_cast<const std::bad_alloc*>(&erreur) != nullptr)
+        message += std::string{kDeuxPoints} + "la mémoire est épuisée";
+    return message + ".";
 }
 
 } // namespace orvalis

@@ -22,19 +22,28 @@ enum class NatureErreur {
     Remplacer,
     Projeter,             ///< mapping a file into memory, which the sort cannot do without
     Perdu,                ///< another file has taken the place of the open logbook (CahierPerdu)
+    LireDossier,
+    CreerDossier,
     DejaOuvert,           ///< another copy of the program has the logbook open
+    CahierLuiMeme,        ///< a copy of the open logbook onto itself
     ParametresIncomplets, ///< a Settings file that can be read but makes no sense
     EcrirePdf,            ///< a document that should become a PDF file
     Imprimer              ///< no printer, or one that does not answer
 };
 
-/// A failure that the operator must be told of; what() is the complete French sentence.
+/// A failure that the operator must be told of; what() is the complete French message: the fault,
+/// what has become of the file where that matters, what can be done about it.
 class Erreur : public std::runtime_error {
   public:
-    /// `raison` is the system's, for the operations it refuses.
-    Erreur(NatureErreur nature, std::filesystem::path chemin, std::error_code raison = {});
+    /// `raison` is the system's, for the operations it refuses; `suite` a sentence behind the
+    /// fault.
+    Erreur(NatureErreur nature, std::filesystem::path chemin, std::error_code raison = {},
+           std::string_view suite = {});
     /// The printer `nom` does not answer; without a name, none is chosen.
     [[nodiscard]] static Erreur DImprimante(std::string_view nom);
+
+    /// The same failure of a file with a sentence behind the fault.
+    [[nodiscard]] Erreur Suivie(std::string_view suite) const;
 
     [[nodiscard]] NatureErreur Nature() const noexcept { return nature_; }
     /// The file it happened to; empty for a printer.
@@ -66,7 +75,8 @@ class CahierPerdu : public Erreur {
     explicit CahierPerdu(const Erreur& echec);
 };
 
-/// The system's reason in French ("le disque est plein").
+/// The system's reason in French ("le disque est plein"), by its number where there is no word for
+/// it.
 [[nodiscard]] std::string RaisonFrancaise(const std::error_code& raison);
 
 /// What the operator reads of any exception: the sentence of an Erreur, else the best that can be

@@ -5,6 +5,7 @@
 #include <string>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 #include <utility>
 
@@ -27,20 +28,30 @@ int Drapeaux(ModeFichier mode) {
     return O_RDWR | O_CREAT | O_CLOEXEC;
 }
 
+// Whether the free blocks of the file system hold what is missing of `fin` bytes, as far as it
+// says. For the file systems that reserve nothing.
+bool ALaPlace(int descripteur, const struct stat& etat, std::int64_t fin) {
+    constexpr std::int64_t kBloc = 512; // of st_blocks, whatever the file system
+    struct statvfs disque = {};
+    if (::fstatvfs(descripteur, &disque) != 0)
+        return true;
+    const auto libres = static_cast<double>(disque.f_bavail) * static_cast<double>(disque.f_frsize);
+    return static_cast<double>(fin - etat.st_blocks * kBloc) <= libres;
+}
+
 } // namespace
 
 Fichier::Fichier(std::filesystem::path chemin, ModeFichier mode)
     : protege_(mode == ModeFichier::Lecture), chemin_(std::move(chemin)) {
     constexpr mode_t kDroits = 0666;
     const auto nature = mode == ModeFichier::Creation ? NatureErreur::Creer : NatureErreur::Ouvrir;
+    // A pipe would keep the program waiting, a device has no end to read up to.
+    struct stat etat = {};
+    if (::stat(chemin_.c_str(), &etat) == 0 && !S_ISREG(etat.st_mode))
+        throw Echec(nature, {S_ISDIR(etat.st_mode) ? EISDIR : ESPIPE, std::generic_category()});
     descripteur_ = ::open(chemin_.c_str(), Drapeaux(mode), kDroits);
     if (descripteur_ < 0)
         throw Echec(nature, DerniereErreur());
-    struct stat etat = {};
-    if (::fstat(descripteur_, &etat) == 0 && S_ISDIR(etat.st_mode)) {
-        Fermer();
-        throw Echec(nature, {EISDIR, std::generic_category()});
-    }
 }
 
 Fichier::Fichier(Fichier&& autre) noexcept
@@ -117,6 +128,22 @@ void Fichier::Ecrire(std::int64_t position, std::span<const char> octets) {
                                : DerniereErreur());
         ecrits += static_cast<std::size_t>(n);
     }
+}
+
+void Fichier::Reserver(std::int64_t fin) {
+    struct stat etat = {};
+    if (::fstat(descripteur_, &etat) != 0)
+        throw Echec(NatureErreur::Lire, DerniereErreur());
+    if (::fallocate(descripteur_, FALLOC_FL_KEEP_SIZE, 0, fin) == 0)
+        return;
+    const bool plein = errno == ENOSPC || errno == EDQUOT;
+    if (!plein && ALaPlace(descripteur_, etat, fin))
+        return;
+    const std::error_code raison =
+        plein ? DerniereErreur() : std::make_error_code(std::errc::no_space_on_device);
+    // What was reserved of it goes back.
+    static_cast<void>(::ftruncate(descripteur_, etat.st_size) == 0);
+    throw Echec(NatureErreur::Ecrire, raison);
 }
 
 void Fichier::Synchroniser() {

@@ -46,6 +46,9 @@ class Fichier {
     /// Writes all of `octets` at `position`, as one write of the system unless it cuts it short.
     /// When `position` lies beyond the end, the gap is filled with blanks in the same write.
     void Ecrire(std::int64_t position, std::span<const char> octets);
+    /// Makes sure that there is room on the disk for all bytes before `fin`; writes none, and the
+    /// size stays.
+    void Reserver(std::int64_t fin);
     /// Returns once what was written has reached the disk.
     void Synchroniser();
     /// Cuts the file to its first `taille` bytes.

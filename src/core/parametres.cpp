@@ -22,8 +22,18 @@ std::string LireOctets(const fs::path& chemin) {
     return octets;
 }
 
-// One value from `reste`, which is left behind its separator.
-std::string LireValeur(std::string_view& reste) {
+// Blank lines at the head of `reste` are no values.
+void PasserLignesVides(std::string_view& reste) {
+    const std::size_t debut = std::min(reste.find_first_not_of(" \t\r\n"), reste.size());
+    const std::size_t ligne = reste.find_last_of("\r\n", debut);
+    if (ligne != std::string_view::npos && ligne < debut)
+        reste.remove_prefix(ligne + 1);
+    else if (debut == reste.size())
+        reste = {};
+}
+
+// One value from `reste`, which is left behind its separator; `finDeLigne`: that ended a line.
+std::string LireValeur(std::string_view& reste, bool& finDeLigne) {
     std::string valeur;
     reste.remove_prefix(std::min(reste.find_first_not_of(" \t"), reste.size()));
     if (!reste.empty() && reste.front() == '"') {
@@ -46,6 +56,7 @@ std::string LireValeur(std::string_view& reste) {
         valeur = Rogner(reste.substr(0, fin));
         reste.remove_prefix(fin);
     }
+    finDeLigne = reste.empty() || reste.front() != ',';
     if (!reste.empty() && reste.front() == '\r' && reste.size() > 1 && reste[1] == '\n')
         reste.remove_prefix(1);
     if (!reste.empty())
@@ -66,12 +77,22 @@ std::string Guillemets(std::string_view texte) {
 } // namespace
 
 Parametres LireParametres(const fs::path& chemin) {
+    constexpr std::string_view kMarque = "\xEF\xBB\xBF"; // of an editor that writes UTF-8
     const std::string octets = LireOctets(chemin);
+    const bool utf8 = octets.starts_with(kMarque);
+    std::string_view reste = std::string_view(octets).substr(utf8 ? kMarque.size() : 0);
     std::vector<std::string> valeurs;
-    for (std::string_view reste = octets; !reste.empty() && valeurs.size() < kNbValeurs;)
-        valeurs.push_back(DepuisCp1252(LireValeur(reste)));
-    const bool complet =
-        valeurs.size() == kNbValeurs && !Rogner(valeurs[0]).empty() && !Rogner(valeurs[1]).empty();
+    for (bool nouvelleLigne = true; valeurs.size() < kNbValeurs;) {
+        if (nouvelleLigne)
+            PasserLignesVides(reste);
+        if (reste.empty())
+            break;
+        const std::string valeur = LireValeur(reste, nouvelleLigne);
+        valeurs.push_back(DepuisCp1252(utf8 ? VersCp1252(valeur) : valeur));
+    }
+    const bool complet = valeurs.size() == kNbValeurs &&
+                         std::none_of(valeurs.begin(), valeurs.end(),
+                                      [](const auto& valeur) { return Rogner(valeur).empty(); });
     if (!complet)
         throw Erreur(NatureErreur::ParametresIncomplets, chemin);
     return {valeurs[0], valeurs[1], Cadrer(valeurs[2], kLargeurLocator)};

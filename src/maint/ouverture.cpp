@@ -17,19 +17,22 @@ BilanOuverture OuvrirAutreCahier(Cahier& cahier, Station& station,
     if (chemin == cahier.chemin || cahier.fichier.Support().EstLeMeme(chemin))
         return {};
     const std::string nom = NomAutreCahier(chemin);
-    const bool lectureSeule = nom != station.indicatif;
     // Everything that can fail on reading is read before the current logbook is let go.
     const FichierFiches essai(chemin, ModeFichier::Lecture);
     const std::int32_t nbFiches = essai.Compter();
     const QsoRecord fin = essai.Lire(NumeroFiche{nbFiches} + 1);
-    OuvrirCahier(cahier, chemin, lectureSeule);
+    OuvrirCahier(cahier, chemin, true);
 
+    if (cahier.EstLeNotre())
+        station.propreLocator = station.monLocator;
     cahier.autre = nom;
-    cahier.lectureSeule = lectureSeule;
+    cahier.lectureSeule = nom != station.indicatif || cahier.fichier.Support().EstProtege();
     cahier.nbFiches = nbFiches;
     const BilanOuverture bilan{true, ExaminerCahier(cahier)};
-    if (bilan.etat.finPresente)
-        station.monLocator = Cadrer(TexteRogne(fin, Champ::MLOC), kLargeurLocator);
+    // Without one, not that of yet another logbook, shown before.
+    station.monLocator = bilan.etat.finPresente
+                             ? Cadrer(TexteRogne(fin, Champ::MLOC), kLargeurLocator)
+                             : station.propreLocator;
     return bilan;
 }
 

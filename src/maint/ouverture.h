@@ -22,9 +22,9 @@ struct BilanOuverture {
 
 /// Opens `chemin` in place of the logbook on show: path, name of the other logbook, whether it may
 /// only be looked at and N are set, and the own locator becomes that of the end-of-log record
-/// (trimmed, then kept as 6 characters); without one it stays as it was. A file that may not be
-/// written opens for reading when its name is not the station's callsign. That no record of it is
-/// current yet is the caller's business.
+/// (trimmed, then kept as 6 characters); without one it is the station's. A logbook may only be
+/// looked at when its name is not the station's callsign or its file may not be written. That no
+/// record of it is current yet is the caller's business.
 ///
 /// Throws Erreur; the current logbook then stays open as it was.
 [[nodiscard]] BilanOuverture OuvrirAutreCahier(Cahier& cahier, Station& station,

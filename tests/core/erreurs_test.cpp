@@ -16,12 +16,21 @@ std::error_code Systeme(int code) {
 TEST(Erreurs, PhrasesPourLOperateur) {
     using enum NatureErreur;
     const std::tuple<NatureErreur, int, const char*> cas[] = {
-        {Creer, EACCES, "de créer le fichier « é » : l'accès est refusé."},
-        {Lire, EIO, "de lire le fichier « é » : erreur de lecture ou d'écriture du support."},
+        {Creer, EACCES,
+         "de créer le fichier « é » : l'accès est refusé. Vérifiez vos droits sur ce fichier et "
+         "sur son dossier."},
+        {Lire, EIO,
+         "de lire le fichier « é » : erreur de lecture ou d'écriture du support. Mettez vos "
+         "fichiers à l'abri sur un autre support."},
         {Synchroniser, EDQUOT,
-         "d'écrire dans le fichier « é » : l'espace disque accordé est épuisé."},
-        {Verrouiller, EPERM, "de réserver le fichier « é » : l'opération n'est pas permise."},
-        {Remplacer, EROFS, "de remplacer le fichier « é » : le support est protégé en écriture."}};
+         "d'écrire dans le fichier « é » : l'espace disque accordé est épuisé. Libérez de la "
+         "place ou choisissez un autre disque."},
+        {Verrouiller, ENOTEMPTY, "de réserver le fichier « é » : erreur n° 39 du système."},
+        {CreerDossier, ENOENT, "de créer le dossier « é » : le dossier n'existe pas."},
+        {LireDossier, EMFILE, "de lire le dossier « é » : trop de fichiers sont ouverts."},
+        {Remplacer, EROFS,
+         "de remplacer le fichier « é » : le support est protégé en écriture. Déverrouillez-le ou "
+         "choisissez un autre support."}};
     for (const auto& [nature, code, phrase] : cas) {
         const Erreur erreur(nature, "é", Systeme(code));
         EXPECT_EQ(MessageErreur(erreur), std::string{"Impossible "} + phrase);
@@ -29,9 +38,13 @@ TEST(Erreurs, PhrasesPourLOperateur) {
         EXPECT_FALSE(erreur.ConcerneLeCahier()) << phrase;
     }
     EXPECT_STREQ(Erreur::DImprimante("Bureau").what(),
-                 "L'imprimante « Bureau » ne répond pas : rien n'a été imprimé.");
-    EXPECT_STREQ(Erreur::DImprimante("").what(), "Aucune imprimante n'est choisie.");
-    EXPECT_EQ(MessageErreur(std::out_of_range("vector")), "Erreur inattendue : vector");
+                 "L'imprimante « Bureau » ne répond pas : rien n'a été imprimé. Vérifiez-la, ou "
+                 "prenez-en une autre par « Configurer imprimante ».");
+    EXPECT_STREQ(Erreur::DImprimante("").what(), "Aucune imprimante n'est choisie. Prenez-en une "
+                                                 "par « Configurer imprimante ».");
+    EXPECT_EQ(MessageErreur(std::out_of_range("vector")), "Erreur inattendue.");
+    EXPECT_EQ(MessageErreur(std::system_error(Systeme(ENOSPC))),
+              "Erreur inattendue : le disque est plein.");
 }
 
 // What is thrown concerns the open logbook, or does not.

@@ -13,27 +13,34 @@ TEST(Parametres, FormesLues) {
         const Parametres lus = LireParametres(dossier.Poser("Parvel.cfg", octets));
         return lus.indicatif + '|' + lus.nomFichier + '|' + lus.monLocator;
     };
-    Verifier(lire, Textes{{"\"F5ABC\",\"F5ABC.Vek\",\"JN18AA\"\r\n", "F5ABC|F5ABC.Vek|JN18AA"},
-                          {"F5ABC , F5ABC.Vek, JN18AA", "F5ABC|F5ABC.Vek|JN18AA"},
-                          {"\"F5\"\"A,B\",\"\xE9.Vek\",\"JN18AABB\"\n", "F5\"A,B|é.Vek|JN18AA"},
-                          {"\"F5ABC\"\r\n\"F5ABC.Vek\"\r\n\"\"\r\n", "F5ABC|F5ABC.Vek|      "}});
-    for (const char* octets : {"", "\r\n", "\"F5ABC\"", "\"A\",\"B\"", "\"\",\"\",\"\""})
+    Verifier(lire,
+             Textes{{"\"F5ABC\",\"F5ABC.Vek\",\"JN18AA\"\r\n", "F5ABC|F5ABC.Vek|JN18AA"},
+                    {"F5ABC , F5ABC.Vek, JN18AA", "F5ABC|F5ABC.Vek|JN18AA"},
+                    {"\"F5\"\"A,B\",\"\xE9.Vek\",\"JN18AABB\"\n", "F5\"A,B|é.Vek|JN18AA"},
+                    {"\"F5ABC\"\r\n \t\n\r\n\"F5ABC.Vek\"\r\n\"J\"\r\n", "F5ABC|F5ABC.Vek|J     "},
+                    {"\xEF\xBB\xBF\n\"F5\xC3\x89\",\"F5.Vek\",\"JN18AA\"", "F5É|F5.Vek|JN18AA"}});
+    for (const char* octets :
+         {"", "\r\n", "\"F5ABC\"", "\"A\",\"B\"", "\"\",\"\",\"\"", "A,B,\nC",
+          "\"A\",\"B\"\r\n\r\n", "\"A\",\"B\",\"  \"", "\"A\",\"\",\"C\"", "A,B,"})
         EXPECT_THROW(lire(octets), Erreur) << octets;
     EXPECT_THROW(static_cast<void>(LireParametres(dossier / "rien")), Erreur);
 }
 
 TEST(Parametres, EcritureSousLeNomQuiEstLa) {
     const Dossier dossier;
-    const auto chemin = TrouverFichier(dossier / "", kNomParametresEcrits);
+    const auto chemin = TrouverParametres(dossier / "");
     EXPECT_EQ(chemin.filename(), "ParVel.cfg");
     static_cast<void>(dossier.Poser("ParVel.cfg.tmp", std::string(99, 'x'))); // of a program killed
     EcrireParametres(chemin, {"F5\"É", "F5.Vek", "JN1"});
     EXPECT_EQ(Lire(chemin), "\"F5\"\"\xC9\",\"F5.Vek\",\"JN1   \"\r\n");
     EXPECT_EQ(TrouverFichier(dossier / "", "PARVEL.CFG"), chemin);
-    EcrireParametres(TrouverFichier(dossier / "", kNomParametres), {"A", "B", "JN18AA"});
+    EcrireParametres(TrouverFichier(dossier / "", "Parvel.cfg"), {"A", "B", "JN18AA"});
     EXPECT_EQ(Lire(chemin), "\"A\",\"B\",\"JN18AA\"\r\n");
     const std::filesystem::directory_iterator fichiers(dossier / "");
     EXPECT_EQ(std::distance(begin(fichiers), end(fichiers)), 1);
+    for (const char* nom : {"PARVEL.CFG", "Parvel.cfg", "parvel.cfg"})
+        dossier.Poser(nom, "");
+    EXPECT_EQ(TrouverParametres(dossier / ""), chemin);
 }
 
 TEST(Creation, SelonLaLongueurDeLIndicatif) {

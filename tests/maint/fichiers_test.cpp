@@ -4,6 +4,38 @@
 #include "maint/jumelage.h"
 #include "maint/ouverture.h"
 
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/statvfs.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+// What the system refuses: reserving room, every write from the one of that number on, opening for
+// writing in a folder "protege"; the file system counts no free blocks while it reserves nothing.
+static struct { int reserver, ecriture; } refus;
+
+extern "C" int fallocate(int, int, off_t, off_t) {
+    errno = refus.reserver;
+    return refus.reserver == 0 ? 0 : -1;
+}
+extern "C" int fstatvfs(int, struct statvfs* disque) noexcept {
+    *disque = {};
+    return 0;
+}
+extern "C" ssize_t pwrite(int f, const void* octets, std::size_t n, off_t position) {
+    if (refus.ecriture == 0 || --refus.ecriture > 0)
+        return ::syscall(SYS_pwrite64, f, octets, n, position);
+    refus.ecriture = 1;
+    errno = EIO;
+    return -1;
+}
+extern "C" int open(const char* chemin, int drapeaux, ...) {
+    const bool refuse =
+        (drapeaux & O_RDWR) != 0 && std::string_view(chemin).find("/protege/") != std::string::npos;
+    errno = EACCES;
+    return refuse ? -1 : static_cast<int>(::syscall(SYS_openat, AT_FDCWD, chemin, drapeaux, 0600));
+}
+
 namespace orvalis::aides::fichiers {
 
 namespace fs = std::filesystem;
@@ -62,6 +94,30 @@ TEST(Copie, OctetParOctet) {
     }
 }
 
+TEST(Copie, EchecsDits) {
+    const std::string entier = "reste intact", effacee = "a été effacé", doute = "plus entier",
+                      gros = Fois(1700, Contact("A")) + Fin(), ancienne = Contact("X") + Fin();
+    const std::tuple<int, int, std::string, std::string> cas[] = {
+        // room refused, write refused; what it says of an older target, and of a new one
+        {ENOSPC, 0, entier, effacee},
+        {EOPNOTSUPP, 0, entier, effacee},
+        {0, 2, doute, effacee}};
+    for (const auto& [reserver, ecriture, avecAncienne, sans] : cas) {
+        const Dossier dossier;
+        const Cahier cahier = Ouvrir(dossier.Poser("F5ABC.Vek", gros));
+        const auto cible = dossier.Poser("Ancienne.Vek", ancienne);
+        for (const auto& [nom, dit] : Textes{{"Ancienne.Vek", avecAncienne}, {"N.Vek", sans}}) {
+            refus = {reserver, ecriture};
+            const fs::path chemin = dossier / nom;
+            EXPECT_THAT([&] { CopierCahier(cahier, MaStation(), chemin); },
+                        ThrowsMessage<Erreur>(HasSubstr(dit)));
+        }
+        refus = {};
+        EXPECT_EQ(Lire(cible) == ancienne, avecAncienne == entier);
+        EXPECT_FALSE(fs::exists(dossier / "N.Vek"));
+    }
+}
+
 TEST(Ouverture, AutreCahier) {
     const std::string a = Contact("A"), f = Fin("JN33AA");
     using Ouvert = std::tuple<std::string, std::string, std::int32_t, bool, bool, bool>;
@@ -70,6 +126,7 @@ TEST(Ouverture, AutreCahier) {
         {"Été.Vek", a + f + a, {"Été", "JN33AA", 1, true, true, true}},
         {"court.VEK", Fin(" JN3  "), {"court", "JN3   ", 0, true, true, true}},
         {"F5ABC.Vek", a + a + f, {"F5ABC", "JN33AA", 2, false, true, true}},
+        {"protege/F5ABC.Vek", a + a + f, {"F5ABC", "JN33AA", 2, true, true, true}},
         {"Sans.Vek", a + a, {"Sans", "JN18AA", 2, true, false, true}},
         {"Coupe.Vek", a + f + "abc", {"Coupe", "JN33AA", 1, true, true, false}},
         {".Vek", f, {".Vek", "JN33AA", 0, true, true, true}}};
@@ -77,7 +134,9 @@ TEST(Ouverture, AutreCahier) {
         const Dossier dossier;
         Station station = MaStation();
         Cahier cahier = Ouvrir(dossier.Poser("Station.Vek", Fois(3, a) + f));
+        fs::create_directory(dossier / "protege");
         const auto chemin = dossier.Poser(nom, octets);
+        EXPECT_TRUE(OuvrirAutreCahier(cahier, station, dossier.Poser("Avant.Vek", Fin(""))).ouvert);
         const auto [ouvert, etat] = OuvrirAutreCahier(cahier, station, chemin);
         EXPECT_TRUE(ouvert && cahier.chemin == chemin);
         EXPECT_EQ(Ouvert(cahier.autre, station.monLocator, cahier.nbFiches, cahier.lectureSeule,
@@ -105,7 +164,7 @@ TEST(Echecs, NeChangentRien) {
     Station nous = MaStation();
     Cahier cahier = Ouvrir(station);
     const Cahier autreProgramme = Ouvrir(prise);
-    for (const auto& chemin : {absente, ici}) {
+    for (const auto& chemin : {absente, ici, fs::path("/dev/null")}) {
         EXPECT_THAT([&] { JumelerCahier(cahier, nous, chemin); }, EchoueSur(chemin));
         EXPECT_THAT([&] { static_cast<void>(OuvrirAutreCahier(cahier, nous, chemin)); },
                     EchoueSur(chemin));
@@ -116,7 +175,8 @@ TEST(Echecs, NeChangentRien) {
     EXPECT_THROW(CopierCahier(cahier, nous, prise), Erreur);
 
     fs::create_symlink(station, dossier / "Lien.Vek");
-    CopierCahier(cahier, nous, dossier / "Lien.Vek");
+    EXPECT_THAT([&] { CopierCahier(cahier, nous, dossier / "Lien.Vek"); },
+                EchoueSur(dossier / "Lien.Vek"));
     EXPECT_FALSE(OuvrirAutreCahier(cahier, nous, dossier / "Lien.Vek").ouvert);
     EXPECT_EQ(Lire(station) + Lire(prise), octets + deux);
     EXPECT_TRUE(cahier.chemin == station && cahier.autre.empty());

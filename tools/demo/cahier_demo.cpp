@@ -170,7 +170,7 @@ int main(int nbArguments, char** arguments) try {
     const std::vector<QslSlotRecord> etiquettes = Etiquettes(fiches);
     Fichier feuille(dossier / kNomFeuilleQSL, ModeFichier::Creation);
     feuille.Ecrire(0, {etiquettes.data()->octets.data(), etiquettes.size() * kTailleEtiquette});
-    EcrireParametres(dossier / kNomParametresEcrits, {kIndicatif, nom, kLocator});
+    EcrireParametres(dossier / kNomParametres, {kIndicatif, nom, kLocator});
     return 0;
 } catch (const std::exception& erreur) {
     std::fprintf(stderr, "orvalis_demo: %s\n", erreur.what());

@@ -55,7 +55,7 @@ int main(int nbArguments, char** arguments) try {
     }
     const fs::path dossier = DossierProgramme(arguments[1]);
     const fs::path sortie = arguments[2];
-    const Parametres parametres = LireParametres(TrouverFichier(dossier, kNomParametres));
+    const Parametres parametres = LireParametres(TrouverParametres(dossier));
     const Station station{arguments[1], parametres.indicatif, parametres.monLocator};
     Cahier cahier;
     OuvrirCahier(cahier, TrouverFichier(dossier, parametres.nomFichier));

@@ -21,7 +21,7 @@ int main(int nbArguments, char** arguments) try {
         return 2;
     }
     const std::filesystem::path dossier = DossierProgramme(arguments[1]);
-    const Parametres parametres = LireParametres(TrouverFichier(dossier, kNomParametres));
+    const Parametres parametres = LireParametres(TrouverParametres(dossier));
     FichierFiches cahier(TrouverFichier(dossier, parametres.nomFichier),
                          ModeFichier::LectureEcriture);
     std::vector<QsoRecord> modele(static_cast<std::size_t>(cahier.Compter()) + 1);

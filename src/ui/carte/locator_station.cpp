@@ -17,10 +17,11 @@ VerdictLocator JugerLocatorStation(std::string_view texte) {
 void ChangerLocatorStation(Station& station, Carte& carte, std::string_view texte, bool garder) {
     const std::string locator = Cadrer(Rogner(texte), kLargeurLocator);
     if (garder) {
-        const auto chemin = TrouverFichier(DossierProgramme(station.lecteur), kNomParametres);
+        const auto chemin = TrouverParametres(DossierProgramme(station.lecteur));
         Parametres parametres = LireParametres(chemin);
         parametres.monLocator = locator;
         EcrireParametres(chemin, parametres);
+        station.propreLocator = locator;
     }
     station.monLocator = locator;
     if (carte.saisie.EnSaisie)

@@ -29,7 +29,7 @@ Demarrage ChargerParametres(Plateau& p) {
     Cahier& cahier = p.session.cahier;
     station.lecteur = p.systeme.Lecteur();
     const fs::path dossier = DossierProgramme(station.lecteur);
-    const fs::path chemin = TrouverFichier(dossier, kNomParametres);
+    const fs::path chemin = TrouverParametres(dossier);
     if (!Present(dossier) || !Present(chemin)) {
         bool cree = false;
         Dlg1 creation(station.lecteur, p.systeme, &p.fenetre);
