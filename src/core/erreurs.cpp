@@ -115,7 +115,7 @@ std::string_view Remede(NatureErreur nature, bool nomme, const std::error_code& 
     case NatureErreur::CahierLuiMeme:
         return "Choisissez un autre nom ou un autre dossier.";
     case NatureErreur::ParametresIncomplets:
-        return "Corrigez sa ligne, par exemple\u00a0: \"F5ABC\",\"F5ABC.Vek\",\"JN04SD\".";
+        return "Corrigez sa ligne, par exemple\u00a0: F5ABC,F5ABC.Vek,JN04SD";
     case NatureErreur::EcrirePdf:
         return "Choisissez un autre fichier par «\u00a0Configurer imprimante\u00a0».";
     case NatureErreur::Imprimer:

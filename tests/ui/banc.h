@@ -49,7 +49,7 @@ class SystemeDEssai : public Systeme {
     /// No other program is there.
     [[nodiscard]] std::optional<QString> Lancer(const QString& chemin) override {
         demandes << chemin;
-        return QStringLiteral("absent");
+        return QStringLiteral("refus %1").arg(demandes.size());
     }
     void Quitter(int code) override { codeDeFin = code; }
 };

@@ -12,7 +12,7 @@ std::string Refuses(const std::string& mots, unsigned tus = 0) {
     Ecran ecran;
     FeuilleQSL feuille;
     Cahier& cahier = session.cahier;
-    cahier.fichier = FichierFiches("/dev/null", ModeFichier::Lecture);
+    cahier.fichier = FichierFiches("/proc/self/exe", ModeFichier::Lecture);
     // So many contacts, the last of them on the card.
     const auto poser = [&](std::int32_t nbFiches) {
         cahier.nbFiches = nbFiches;

@@ -25,8 +25,10 @@ void DansLaCreation(Banc& banc, const std::string& chemin) {
 TEST(Demarrage, PremierLancementCreeLeCahierPuisLOuvre) {
     Banc banc;
     DansLaCreation(banc, R"(
- no such locator : valide f5abc/p, jn99zz -> Dlg1Fra2Text2 = ERREUR
- announced : valide jn04sd -> Dlg1Fra3Lab2 = "~/F5ABCP.Vek va être créé "
+ no callsign : foyer Dlg1Fra2Text2; valide jn99zz -> Dlg1Fra2Text2 = JN99ZZ; foyer = Dlg1Fra2Text1
+ no such locator : valide f5abc, jn99zz -> Dlg1Fra2Text2 = ERREUR
+ the callsign as it stands : foyer Dlg1Fra2Text1; tape /p; foyer Dlg1Fra2Text2; touche Ctrl+A
+ announced : valide jn04sd -> Dlg1Fra3Lab2 = "~/F5ABCP.Vek va être créé "; caché Dlg1Fra3Lab3
  a key too many : foyer Dlg1Fra2Text2; tape x -> actif Dlg1Fra3
  typed on : touche Backspace -> caché Dlg1Fra3
  held down : tape d; tient 3 -> actif Dlg1Fra3
@@ -39,6 +41,29 @@ TEST(Demarrage, PremierLancementCreeLeCahierPuisLOuvre) {
     EXPECT_FALSE(banc.systeme.codeDeFin);
 }
 
+TEST(Demarrage, CahierDejaLaSansParametres) {
+    const std::string perdus = "Dlg1Fra3Lab3 contient \"F5ABC.Vek contient déjà ";
+    for (const auto& [octets, avis] : aides::Textes{
+             {Contacts(40) + Fin(), perdus + "40 contacts : le premier sera remplacé et les "
+                                             "autres ne se verront plus.\""},
+             {"F6XYZ", perdus + "1 contact : il sera remplacé.\""},
+             {Fin(), "caché Dlg1Fra3Lab3"}}) {
+        Banc banc;
+        banc.Installer(octets);
+        std::filesystem::remove(banc.Dossier() / "Parvel.cfg");
+        const Cahier autreProgramme = aides::Ouvrir(banc.Dossier() / "F5ABC.Vek");
+        DansLaCreation(banc, "told : valide f5abc, jn04sd -> " + avis);
+        banc.Ouvrir();
+        EXPECT_EQ(banc.OctetsCahier(), octets);
+    }
+}
+
+TEST(Demarrage, CahierCoupe) {
+    Banc banc(Contacts(2) + "F1");
+    banc.Suivre("warned : -> ligne = 3/3; averti contient F5ABC.Vek » est peut-être abîmé");
+    banc.Suivre("again : menu MnuCourantF -> averti contient peut-être abîmé");
+}
+
 TEST(Demarrage, ToutArreterNeCreeRien) {
     Banc banc;
     DansLaCreation(banc, "");
@@ -49,15 +74,17 @@ TEST(Demarrage, ToutArreterNeCreeRien) {
 
 TEST(Demarrage, CeQuiNeSOuvrePasFinitEnMessage) {
     const std::string incomplet =
-        "Le fichier de paramètres « ~/Parvel.cfg » est incomplet : il doit contenir l'indicatif, "
-        "le nom du cahier et le locator de la station.";
+        "Le fichier de paramètres « ~/Parvel.cfg » est incomplet : il doit contenir "
+        "l'indicatif, le nom du cahier et le locator de la station. Corrigez sa ligne, par "
+        "exemple : F5ABC,F5ABC.Vek,JN04SD";
     for (const auto& [parametres, message] : aides::Textes{
              {"\"F5ABC\",\"F5ABC.Vek\"\r\n", incomplet},
              {"", incomplet},
              {"\"F5ABC\",\"absent.Vek\",\"JN04SD\"\r\n",
-              "Impossible d'ouvrir le fichier « ~/absent.Vek » : le fichier n'existe pas."},
+              "Impossible d'ouvrir le fichier « ~/absent.Vek » : le fichier n'existe pas."},
              {"\"F5ABC\",\"F5ABC.Vek\",\"JN04SD\"\r\n",
-              "Le cahier « ~/F5ABC.Vek » est déjà ouvert par un autre programme Orvalis."}}) {
+              "Le cahier « ~/F5ABC.Vek » est déjà ouvert par un autre programme Orvalis. "
+              "Fermez-le d'abord dans l'autre programme."}}) {
         Banc banc;
         banc.Installer(Fin());
         banc.Ecrire("Parvel.cfg", parametres);
@@ -76,7 +103,7 @@ TEST(Demarrage, HorlogeEtFin) {
  clock : -> LabHeure LabDate = 18:30:15|Samedi 21 Novembre 2026; caché PictRech
  an empty logbook makes no database : menu MnuCreateMDB refusé -> demandes =
  companion : clic Horloge -> demandes = ~/Chronel.exe|~/Chronel;
-     averti = "Impossible de démarrer « ~/Chronel.exe » : absent."
+     averti = "Impossible de démarrer « ~/Chronel.exe » : refus 1."
  end : clic BtFermerLog -> OrvalisLab03 = " Au revoir ")");
     EXPECT_EQ(banc.systeme.codeDeFin, 0);
 }

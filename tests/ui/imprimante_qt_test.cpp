@@ -7,6 +7,9 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <csignal>
+#include <sys/resource.h>
+
 namespace orvalis::aides::imprimante_qt {
 
 using namespace testing;
@@ -80,6 +83,28 @@ TEST_F(ImprimanteQtTest, SortiesImpossibles) {
         EXPECT_THAT([&] { imprimante.TerminerDocument(); },
                     ThrowsMessage<Erreur>(HasSubstr(sortie.toStdString())));
     }
+}
+
+// What one full disk did to the output does not last, and a file is replaced by a whole one only.
+TEST_F(ImprimanteQtTest, DisquePleinPuisLibere) {
+    const auto imprimer = [this](const char* texte) {
+        ImprimanteQt imprimante(pdf);
+        pdf.setResolution(600); // a device that does not take the resolution
+        imprimante.EcrireEn(1440, 2880, texte);
+        for (int i = 0; i < 20000; ++i)
+            imprimante.TracerLigne(0, i % 7919, 11000, i % 6007);
+        imprimante.TerminerDocument();
+    };
+    imprimer("premier");
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit plein{2000, RLIM_INFINITY};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &plein), 0);
+    EXPECT_THROW(imprimer("second"), Erreur);
+    const rlimit libre{RLIM_INFINITY, RLIM_INFINITY};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &libre), 0);
+    EXPECT_THAT(Relire(), Porte("premier", 1440, 2880));
+    imprimer("second");
+    EXPECT_THAT(Relire(), Porte("second", 1440, 2880));
 }
 
 } // namespace orvalis::aides::imprimante_qt

@@ -20,6 +20,9 @@ TEST(Maintenance, JumelageAvecSauvegarde) {
     banc.Suivre(R"(
  opened : menu MnuJumeler -> LabPj_2 = F5ABC.Vek; grisé ListeLog
  no : clic BtPjSauvegarder -> demandes = enregistrer|~/VekSave|F5ABC.Vek; actif BtPjSauvegarder
+ onto itself : fichier F5ABC.Vek; clic BtPjSauvegarder -> actif BtPjSauvegarder; averti =
+     "Le fichier « ~/F5ABC.Vek » est le cahier ouvert lui-même : rien n'a été copié. Choisissez
+     un autre nom ou un autre dossier."
  backup : fichier VekSave/F5ABC.Vek; clic BtPjSauvegarder -> grisé BtPjSauvegarder
  pairing : fichier AUTRE.Vek; clic BtPjumeler -> NoFicheLab = " Fiche N° 5 "; actif PJumelage
  a question beside it : clic TxtField_12; valide luc; touche Alt+N -> foyer = BtPjumeler
@@ -34,7 +37,7 @@ TEST(Maintenance, AutreCahierEnLectureSeulePuisRetour) {
     banc.Suivre(R"(
  cancelled, a question waits on : clic TxtField_12; valide luc; menu MnuAutreF -> actif FraMsgFiche
  another logbook : clic FraCmdNon; fichier F6XYZ.Vek; menu MnuAutreF
-     -> LabJournal = "F6XYZ (lecture seule) : 30 contacts"; actif BtFermerLog;
+     -> LabJournal = "F6XYZ (consultation) : 30 contacts"; actif BtFermerLog; caché LabDossier;
      grisé BtNewQSO BtKillFiche MnuJumeler MnuSauver
  for reading only : clic TxtField_6; valide CW -> caché FraMsgFiche)");
     auto* boite = banc.Controle<QLineEdit>("TxtField_6");
@@ -59,18 +62,24 @@ TEST(Maintenance, ErreursDesAutresFichiersSeDisentSansRienPerdre) {
     Banc banc(Contacts(3) + Fin());
     banc.Ecrire("coupe.Vek", Contacts(2) + "F1");
     std::filesystem::create_directory(banc.Dossier() / "VekSave");
+    banc.Ecrire("VekSave/F5ABC.Vek", Contacts(2) + Fin());
     banc.Suivre(R"(
  opened, missing : fichier absent.Vek; menu MnuAutreF -> averti =
-     "Impossible d'ouvrir le fichier « ~/absent.Vek » : le fichier n'existe pas."
+     "Impossible d'ouvrir le fichier « ~/absent.Vek » : le fichier n'existe pas."
  saved into no folder : fichier absent/copie.Vek; menu MnuSauver -> averti =
-     "Impossible de créer le fichier « ~/absent/copie.Vek » : le dossier n'existe pas."
+     "Impossible de créer le fichier « ~/absent/copie.Vek » : le dossier n'existe pas."
  copied onto a folder : fichier VekSave; menu MnuCopieSurDisque -> averti =
-     "Impossible de créer le fichier « ~/VekSave » : c'est un dossier, pas un fichier."
- copied to a full disk : fichier /dev/full; menu MnuCopieSurDisque -> averti =
-     "Impossible d'écrire dans le fichier « /dev/full » : le disque est plein."
+     "Impossible de créer le fichier « ~/VekSave » : c'est un dossier, pas un fichier."
+ copied to a device : fichier /dev/full; menu MnuCopieSurDisque -> averti =
+     "Impossible de créer le fichier « /dev/full » : c'est un périphérique ou un tube, pas un
+     fichier."
  opened, damaged : fichier coupe.Vek; menu MnuAutreF -> NoFicheLab = " Fiche N° 3 "; averti =
-     "Le cahier « ~/coupe.Vek » est peut-être abîmé : il n'a pas d'enregistrement de fin
-     et sa longueur n'est pas un nombre entier de fiches.")");
+     "Le cahier « ~/coupe.Vek » est peut-être abîmé : il n'a pas d'enregistrement de fin
+     et sa longueur n'est pas un nombre entier de fiches. Copiez-le à l'abri, puis vérifiez ses
+     derniers contacts."
+ one named like the own : fichier VekSave/F5ABC.Vek; menu MnuAutreF
+     -> LabJournal = "F5ABC : 2 contacts"; LabDossier = "Autre cahier, du dossier ~/VekSave"
+ the own one again : menu MnuCourantF -> caché LabDossier)");
     EXPECT_EQ(banc.OctetsCahier(), Contacts(3) + Fin());
     EXPECT_FALSE(banc.systeme.codeDeFin);
 }

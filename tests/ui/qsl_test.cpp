@@ -91,7 +91,8 @@ TEST(Qsl, VieDUneEtiquette) {
     banc.systeme.imprimante = [&pdf] { return std::make_unique<ImprimanteQt>(pdf); };
     pdf.setOutputFileName(QStringLiteral("/dev/full"));
     banc.Suivre("print failed : clic BtPrintQSL -> caché PictCtrlImpression; averti = Impossible "
-                "d'écrire le fichier PDF « /dev/full ».");
+                "d'écrire le fichier PDF « /dev/full ». Choisissez un autre fichier par "
+                "« Configurer imprimante ».");
     pdf.setOutputFileName(banc.Chemin("essai.pdf"));
     banc.Suivre(R"(
  printed : clic BtPrintQSL; touche Alt+Q, Alt+I, Alt+V refusé -> actif PictFeuilleQSL

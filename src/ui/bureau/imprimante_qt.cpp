@@ -2,15 +2,22 @@
 
 #include "core/erreurs.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPageLayout>
 #include <QPageSize>
+#include <QPrintEngine>
+#include <QSaveFile>
 #include <QString>
+#include <QTemporaryFile>
+#include <QVariant>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <memory>
 #include <utility>
 
 namespace orvalis {
@@ -52,6 +59,44 @@ Erreur Refus(const QPrinter& imprimante) {
     if (EstPdf(imprimante))
         return {NatureErreur::EcrirePdf, imprimante.outputFileName().toStdString()};
     return Erreur::DImprimante(imprimante.printerName().toStdString());
+}
+
+// What is chosen in the set-up of a printer. The last is what the dialog keeps of the options of a
+// CUPS printer; Qt has no public name for it.
+constexpr std::array kChoix = {
+    QPrintEngine::PPK_CollateCopies,   QPrintEngine::PPK_ColorMode,
+    QPrintEngine::PPK_Creator,         QPrintEngine::PPK_DocumentName,
+    QPrintEngine::PPK_FullPage,        QPrintEngine::PPK_CopyCount,
+    QPrintEngine::PPK_PageOrder,       QPrintEngine::PPK_PaperSource,
+    QPrintEngine::PPK_SelectionOption, QPrintEngine::PPK_PrinterProgram,
+    QPrintEngine::PPK_Resolution,      QPrintEngine::PPK_Duplex,
+    QPrintEngine::PPK_QPageLayout,     static_cast<QPrintEngine::PrintEnginePropertyKey>(0xfe00)};
+
+// The same choices with an output of their own. One that a full disk has broken stays broken.
+std::unique_ptr<QPrinter> SortieNeuve(const QPrinter& choisie) {
+    auto neuve = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    neuve->setOutputFormat(choisie.outputFormat());
+    if (!EstPdf(choisie))
+        neuve->setPrinterName(choisie.printerName());
+    for (const QPrintEngine::PrintEnginePropertyKey cle : kChoix)
+        if (const QVariant choix = choisie.printEngine()->property(cle); choix.isValid())
+            neuve->printEngine()->setProperty(cle, choix);
+    neuve->setPrintRange(choisie.printRange());
+    neuve->setFromTo(choisie.fromPage(), choisie.toPage());
+    return neuve;
+}
+
+// Puts a finished document in the place of a file, wholly or not at all.
+bool Livrer(const QString& document, const QString& cible) {
+    const QFileInfo la(cible);
+    QFile source(document);
+    QSaveFile fichier(cible);
+    fichier.setDirectWriteFallback(true); // a folder that takes no new file
+    if ((la.exists() && !la.isFile()) || !source.open(QIODevice::ReadOnly) ||
+        !fichier.open(QIODevice::WriteOnly))
+        return false;
+    const QByteArray octets = source.readAll();
+    return fichier.write(octets) == octets.size() && fichier.commit();
 }
 
 // A full disk shows only in the file: its last line is missing.
@@ -146,19 +191,25 @@ void ImprimanteQt::TerminerDocument() {
     const std::vector<Trace> dessin = std::exchange(dessin_, {});
     if (!SortieChoisie(imprimante_))
         throw Erreur::DImprimante({});
+    const std::unique_ptr<QPrinter> sortie = SortieNeuve(imprimante_);
+    QTemporaryFile document(QDir::tempPath() + QStringLiteral("/orvalisXXXXXX.pdf"));
+    const bool pdf = EstPdf(imprimante_);
+    if (pdf && document.open())
+        sortie->setOutputFileName(document.fileName());
     QPainter peintre;
-    if (!imprimante_.isValid() || !peintre.begin(&imprimante_))
+    if (!sortie->isValid() || !peintre.begin(sortie.get()))
         throw Refus(imprimante_);
     // A printer that refuses the resolution is scaled to twips.
-    peintre.scale(static_cast<double>(imprimante_.logicalDpiX()) / kTwipsParPouce,
-                  static_cast<double>(imprimante_.logicalDpiY()) / kTwipsParPouce);
+    peintre.scale(static_cast<double>(sortie->logicalDpiX()) / kTwipsParPouce,
+                  static_cast<double>(sortie->logicalDpiY()) / kTwipsParPouce);
     peintre.setPen({Qt::black, kEpaisseurTrait, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin});
     for (const Trace& trace : dessin)
         trace(peintre);
     const bool envoye = peintre.end();
-    const QPrinter::PrinterState etat = imprimante_.printerState();
+    const QPrinter::PrinterState etat = sortie->printerState();
     if (!envoye || etat == QPrinter::Error || etat == QPrinter::Aborted ||
-        (EstPdf(imprimante_) && !PdfComplet(imprimante_.outputFileName())))
+        (pdf && (!PdfComplet(document.fileName()) ||
+                 !Livrer(document.fileName(), imprimante_.outputFileName()))))
         throw Refus(imprimante_);
 }
 

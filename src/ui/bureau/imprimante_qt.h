@@ -24,7 +24,9 @@ namespace orvalis {
 ///
 /// The drawing is gathered and reaches the printer in one go with TerminerDocument(), since a
 /// system printer does not reliably take back a job begun: a document that is not ended prints
-/// nothing and leaves an existing PDF file alone. Only TerminerDocument() throws.
+/// nothing and leaves an existing PDF file alone. Each document has an output of its own with the
+/// choices made on the QPrinter, so that one that fails spoils no later one; a PDF file is replaced
+/// only by a document that is whole. Only TerminerDocument() throws.
 class ImprimanteQt : public Imprimante {
   public:
     explicit ImprimanteQt(QPrinter& imprimante);

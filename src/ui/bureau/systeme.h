@@ -19,7 +19,8 @@ class Imprimante;
 
 /// A file dialog as a command asks for it.
 struct DemandeFichier {
-    bool enregistrer = false; ///< save dialog, which confirms overwriting; else open dialog
+    bool enregistrer = false; ///< save dialog: it completes the name with ".Vek" and confirms
+                              ///< overwriting; else open dialog
     QString dossier;          ///< starting folder; the program folder when empty
     QString nomPropose;
     QString titre;

@@ -9,10 +9,12 @@
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTimer>
 
 #include <cmath>
@@ -71,6 +73,29 @@ void SystemeReel::Avertir(QWidget* parent, const QString& texte) {
     Dire(QMessageBox::Warning, parent, QStringLiteral("Orvalis"), texte);
 }
 
+namespace {
+
+// A logbook is found again by its ending.
+QString AvecExtension(const QString& chemin) {
+    const QString extension = QStringLiteral(".Vek");
+    return chemin.endsWith(extension, Qt::CaseInsensitive) ? chemin : chemin + extension;
+}
+
+bool Remplacer(QWidget* parent, const QString& chemin) {
+    if (!QFileInfo::exists(chemin))
+        return true;
+    QMessageBox boite(QMessageBox::Question, QStringLiteral("Orvalis"),
+                      QStringLiteral("Le fichier «\u00a0%1\u00a0» existe déjà. Voulez-vous le "
+                                     "remplacer\u00a0?")
+                          .arg(chemin),
+                      QMessageBox::Yes | QMessageBox::No, parent);
+    boite.setTextFormat(Qt::PlainText);
+    boite.setDefaultButton(QMessageBox::No);
+    return boite.exec() == QMessageBox::Yes;
+}
+
+} // namespace
+
 QString SystemeReel::ChoisirFichier(QWidget* parent, const DemandeFichier& demande) {
     const QString dossier = demande.dossier.isEmpty()
                                 ? QString::fromStdString(DossierProgramme(Lecteur()).string())
@@ -81,9 +106,16 @@ QString SystemeReel::ChoisirFichier(QWidget* parent, const DemandeFichier& deman
     dialogue.setFileMode(demande.enregistrer ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     if (!demande.nomPropose.isEmpty())
         dialogue.selectFile(demande.nomPropose);
-    if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty())
-        return {};
-    return dialogue.selectedFiles().constFirst();
+    // The dialog would ask before the name is complete.
+    dialogue.setOption(QFileDialog::DontConfirmOverwrite);
+    while (dialogue.exec() == QDialog::Accepted && !dialogue.selectedFiles().isEmpty()) {
+        const QString choisi = dialogue.selectedFiles().constFirst();
+        if (!demande.enregistrer)
+            return choisi;
+        if (const QString complet = AvecExtension(choisi); Remplacer(parent, complet))
+            return complet;
+    }
+    return {};
 }
 
 std::optional<QString> SystemeReel::Lancer(const QString& chemin) {
@@ -109,12 +141,32 @@ QPrinter& SystemeReel::Sortie() {
     return *sortie_;
 }
 
+namespace {
+
+// A file that is not there yet, in the folder of the last one.
+QString PdfPropose(const QString& dernier) {
+    if (!dernier.isEmpty() && !QFileInfo::exists(dernier))
+        return dernier; // chosen, and not written
+    const QDir dossier(dernier.isEmpty()
+                           ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                           : QFileInfo(dernier).path());
+    QString nom = QStringLiteral("Orvalis.pdf");
+    for (int n = 2; dossier.exists(nom); ++n)
+        nom = QStringLiteral("Orvalis-%1.pdf").arg(n);
+    return dossier.filePath(nom);
+}
+
+} // namespace
+
 bool SystemeReel::DemanderSortie(QWidget* parent, const QString& titre) {
     QPrinter& sortie = Sortie();
     sortie.setCopyCount(1);
     QPrintDialog dialogue(&sortie, parent);
     dialogue.setWindowTitle(titre);
     dialogue.setOptions(QAbstractPrintDialog::PrintToFile);
+    // Where Qt draws the dialog itself, it proposes a folder or the file just written.
+    if (auto* fichier = dialogue.findChild<QLineEdit*>(QStringLiteral("filename")))
+        fichier->setText(PdfPropose(sortie.outputFileName()));
     if (dialogue.exec() != QDialog::Accepted)
         return false;
     pdfEcrit_ = false;

@@ -86,6 +86,7 @@ struct ListeDuCahier {
     int choisie = -1;            ///< selected line, from 0; it may be another than the card's
     NumeroFiche marquee;         ///< record marked on the sheet
     std::string nom;             ///< LabJournal
+    std::string dossier;         ///< LabDossier
     friend bool operator==(const ListeDuCahier&, const ListeDuCahier&) = default;
 };
 

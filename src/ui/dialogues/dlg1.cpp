@@ -20,6 +20,23 @@
 #include <algorithm>
 
 namespace orvalis {
+namespace {
+
+// What a creation does to a logbook that is there; nothing for one without contacts.
+std::string AvisContactsPerdus(std::int32_t nombre, const std::string& nomFichier) {
+    if (nombre == 0)
+        return {};
+    const std::string suite =
+        nombre == 1 ? " contact\u00a0: il sera remplacé."
+                    : " contacts\u00a0: le premier sera remplacé et les autres ne se verront plus.";
+    return "Le fichier " + nomFichier + " contient déjà " + std::to_string(nombre) + suite +
+           "\nPour les garder, choisissez «\u00a0Tout arrêter\u00a0!!\u00a0» et renommez ce "
+           "fichier. "
+           "Puis relancez Orvalis, créez le cahier, et ajoutez-y le fichier renommé par "
+           "«\u00a0Jumeler deux Fichiers.Vek\u00a0».";
+}
+
+} // namespace
 
 Dlg1::Dlg1(std::filesystem::path lecteur, Systeme& systeme, QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::Dlg1>()), lecteur_(std::move(lecteur)),
@@ -64,18 +81,29 @@ bool Dlg1::eventFilter(QObject* objet, QEvent* evenement) {
     return true;
 }
 
-void Dlg1::AccepterIndicatif() {
+bool Dlg1::PrendreIndicatif() {
     const std::string texte = S(ui_->Dlg1Fra2Text1->text());
-    if (texte.empty())
-        return;
+    if (Rogner(texte).empty())
+        return false;
     indicatif_ = Majuscules(Rogner(texte));
     nomFichier_ = NomDuCahier(indicatif_);
+    return true;
+}
+
+void Dlg1::AccepterIndicatif() {
+    if (!PrendreIndicatif())
+        return;
     ui_->Dlg1Fra2Text2->clear();
     ui_->Dlg1Fra3->hide();
     ui_->Dlg1Fra2Text2->setFocus();
 }
 
 void Dlg1::AccepterLocator() {
+    // What the callsign box shows is what will be created, whether Enter was pressed there or not.
+    if (!PrendreIndicatif()) {
+        ui_->Dlg1Fra2Text1->setFocus();
+        return;
+    }
     const std::string texte = S(ui_->Dlg1Fra2Text2->text());
     if (!LocatorValide(texte)) {
         ui_->Dlg1Fra2Text2->setText(Q(kErreur));
@@ -85,6 +113,9 @@ void Dlg1::AccepterLocator() {
     }
     monLocator_ = texte;
     ui_->Dlg1Fra3Lab2->setText(Q(CheminProgrammeTexte(lecteur_, nomFichier_) + " va être créé "));
+    const std::string avis = AvisContactsPerdus(ContactsDejaLa(lecteur_, nomFichier_), nomFichier_);
+    ui_->Dlg1Fra3Lab3->setText(Q(avis));
+    ui_->Dlg1Fra3Lab3->setVisible(!avis.empty());
     ui_->Dlg1Fra3->show();
     // A long path takes a second line, which must not come out of the text above.
     layout()->activate();

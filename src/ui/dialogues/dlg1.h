@@ -26,6 +26,8 @@ class Dlg1 : public QDialog {
 
   private:
     void AccepterIndicatif();
+    /// Callsign and file name from the callsign box; false when that is empty.
+    bool PrendreIndicatif();
     void AccepterLocator();
     void CalculerLocator();
     void Valider();

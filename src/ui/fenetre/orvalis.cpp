@@ -4,6 +4,7 @@
 #include "ui/bureau/texte_qt.h"
 #include "ui/carte/saisie.h"
 #include "ui/flux/flux_demarrage.h"
+#include "ui/flux/flux_fichiers.h"
 #include "ui/panneaux/fra_msg_fiche.h"
 #include "ui/panneaux/p_jumelage.h"
 #include "ui/panneaux/panneau_horloge.h"
@@ -285,6 +286,9 @@ void Orvalis::LancerDemarrage() {
         if (ecran_.temoinDemarrage == 0)
             timer1_->start(kDureeTic);
     });
+    // The clock runs while the operator reads it.
+    if (ecran_.temoinDemarrage == 0)
+        Executer([this] { PrevenirSiIncomplet(p_); });
     demarrageEnCours_ = false;
 }
 

@@ -62,9 +62,10 @@ void Classer(Plateau& p) {
     Ecran& e = p.ecran;
     VerifierCahier(p.session.cahier);
     if (p.session.cahier.fichier.Support().EstProtege()) {
-        p.systeme.Avertir(&p.fenetre,
-                          QStringLiteral("Ce cahier est protégé en écriture : il ne peut pas être "
-                                         "classé."));
+        p.systeme.Avertir(
+            &p.fenetre,
+            QStringLiteral("Ce cahier est protégé en écriture\u00a0: il ne peut pas être "
+                           "classé."));
         return;
     }
     LacherFoyer(p);

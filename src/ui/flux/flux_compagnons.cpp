@@ -25,14 +25,15 @@ void LancerCompagnon(Plateau& p, std::string_view nom) {
     };
     std::optional<QString> raison = lancer(nom);
 #ifndef Q_OS_WIN
-    if (raison)
-        raison = lancer(nom.substr(0, nom.rfind('.')));
+    // The name without its ending is tried beside: what is wrong with the first stays the reason.
+    if (raison && !lancer(nom.substr(0, nom.rfind('.'))))
+        raison.reset();
 #endif
     const std::string chemin = CheminProgrammeTexte(p.session.station.lecteur, nom);
     if (raison)
-        p.systeme.Avertir(
-            &p.fenetre,
-            QStringLiteral("Impossible de démarrer « %1 » : %2.").arg(Q(chemin), *raison));
+        p.systeme.Avertir(&p.fenetre,
+                          QStringLiteral("Impossible de démarrer «\u00a0%1\u00a0»\u00a0: %2.")
+                              .arg(Q(chemin), *raison));
 }
 
 } // namespace

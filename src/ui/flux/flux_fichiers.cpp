@@ -32,18 +32,6 @@ bool CopierVers(Plateau& p, const DemandeFichier& demande) {
     });
 }
 
-void PrevenirSiIncomplet(Plateau& p, const EtatCahier& etat) {
-    QStringList defauts;
-    if (!etat.finPresente)
-        defauts << QStringLiteral("il n'a pas d'enregistrement de fin");
-    if (!etat.longueurEntiere)
-        defauts << QStringLiteral("sa longueur n'est pas un nombre entier de fiches");
-    if (!defauts.isEmpty())
-        p.systeme.Avertir(&p.fenetre, QStringLiteral("Le cahier « %1 » est peut-être abîmé : %2.")
-                                          .arg(Q(p.session.cahier.chemin.string()),
-                                               defauts.join(QStringLiteral(" et "))));
-}
-
 } // namespace
 
 bool Essayer(Plateau& p, const std::function<void()>& action) {
@@ -58,6 +46,22 @@ bool Essayer(Plateau& p, const std::function<void()>& action) {
         p.systeme.Avertir(&p.fenetre, Q(MessageErreur(echec)));
     }
     return false;
+}
+
+void PrevenirSiIncomplet(Plateau& p) {
+    const EtatCahier etat = ExaminerCahier(p.session.cahier);
+    QStringList defauts;
+    if (!etat.finPresente)
+        defauts << QStringLiteral("il n'a pas d'enregistrement de fin");
+    if (!etat.longueurEntiere)
+        defauts << QStringLiteral("sa longueur n'est pas un nombre entier de fiches");
+    if (!defauts.isEmpty())
+        p.systeme.Avertir(
+            &p.fenetre,
+            QStringLiteral(
+                "Le cahier «\u00a0%1\u00a0» est peut-être abîmé\u00a0: %2. Copiez-le à l'abri, "
+                "puis vérifiez ses derniers contacts.")
+                .arg(Q(p.session.cahier.chemin.string()), defauts.join(QStringLiteral(" et "))));
 }
 
 bool FaireSauvegarde(Plateau& p) {
@@ -79,9 +83,9 @@ void OuvrirCahierCourant(Plateau& p) {
             suite = ChargerParametres(p);
     });
     if (fait && suite == Demarrage::Arreter)
-        QuitterProgramme(p, 0);
+        return QuitterProgramme(p, 0);
     if (fait)
-        return;
+        return PrevenirSiIncomplet(p);
     AfficherFiche(p); // the logbook on show is still open and whole
     DonnerFoyer(p, {Cible::Liste});
 }
@@ -107,7 +111,7 @@ void OuvrirAutre(Plateau& p) {
     p.ecran.jumelage.montre = false;
     p.ecran.liste.active = true;
     InitialiserFenetre(p);
-    PrevenirSiIncomplet(p, bilan.etat);
+    PrevenirSiIncomplet(p);
 }
 
 void Sauvegarder(Plateau& p) {

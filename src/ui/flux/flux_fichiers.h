@@ -13,6 +13,9 @@ namespace orvalis {
 /// Runs `action`; a failure that does not concern the open logbook is told. Returns success.
 [[nodiscard]] bool Essayer(Plateau& p, const std::function<void()>& action);
 
+/// Warns of an open logbook without an end-of-log record or cut in the middle of a record.
+void PrevenirSiIncomplet(Plateau& p);
+
 /// Asks for a file in the backup folder and copies the logbook into it. Returns whether a backup
 /// was made.
 [[nodiscard]] bool FaireSauvegarde(Plateau& p);

@@ -26,12 +26,22 @@ void AllerPage(Plateau& p, std::int32_t page, bool derniereLigne) {
     ChoisirLigne(p, derniereLigne ? DerniereLigne(p) : 0);
 }
 
-// The name of the open logbook, how many contacts it holds, and whether it is read-only.
+// The name of the open logbook, how many contacts it holds, and whether it is only looked at. A
+// sort may still rewrite it unless its file is protected.
 std::string NomMontre(const Session& s) {
+    const bool protege = s.cahier.fichier.Support().EstProtege();
     const std::string nom =
-        s.cahier.lectureSeule ? s.cahier.autre + " (lecture seule)" : s.station.indicatif;
+        s.cahier.lectureSeule ? s.cahier.autre + (protege ? " (lecture seule)" : " (consultation)")
+                              : s.station.indicatif;
     return nom + " : " + std::to_string(s.cahier.nbFiches) + " contact" +
            (s.cahier.nbFiches < 2 ? "" : "s");
+}
+
+// Another logbook that is named like the station's own is told from it by its folder.
+std::string DossierMontre(const Session& s) {
+    return s.cahier.autre == s.station.indicatif && !s.cahier.EstLeNotre()
+               ? "Autre cahier, du dossier " + s.cahier.chemin.parent_path().string()
+               : std::string();
 }
 
 std::shared_ptr<const ContenuPage> LirePage(const Cahier& cahier, const PlagePage& plage) {
@@ -60,6 +70,7 @@ void MontrerPage(Plateau& p, std::int32_t page) {
     // The contacts that cannot be listed lie behind the last page.
     liste.defilement = page == liste.nbPages ? cahier.nbFiches : page * kFichesParPage;
     liste.nom = NomMontre(p.session);
+    liste.dossier = DossierMontre(p.session);
     liste.choisie = -1;
     liste.marquee = p.session.carte.ficheCourante;
     p.session.page = {page, plage.premiere, plage.derniere};

@@ -72,6 +72,8 @@ void PictListe::Montrer(const ListeDuCahier& liste, bool pagination, bool pageCh
         ui_->ListeLog->Remplir(liste.contenu->lignes);
     ui_->LabPage->setText(QStringLiteral("Page %1 / %2").arg(liste.page).arg(liste.nbPages));
     ui_->LabJournal->setText(Q(liste.nom));
+    ui_->LabDossier->setText(Q(liste.dossier));
+    ui_->LabDossier->setVisible(!liste.dossier.empty());
     ui_->VScroll1->setRange(liste.nbFiches > 0 ? 1 : 0, liste.nbFiches);
     ui_->VScroll1->setValue(liste.defilement);
     for (QPushButton* bouton :
