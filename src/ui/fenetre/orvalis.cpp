@@ -286,6 +286,10 @@ void Orvalis::LancerDemarrage() {
         if (ecran_.temoinDemarrage == 0)
             timer1_->start(kDureeTic);
     });
+    // Two windows that close one behind the other, as those of the creation do, can leave the
+    // keyboard with none.
+    if (!ecran_.arret)
+        activateWindow();
     // The clock runs while the operator reads it.
     if (ecran_.temoinDemarrage == 0)
         Executer([this] { PrevenirSiIncomplet(p_); });
