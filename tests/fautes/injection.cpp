@@ -124,6 +124,8 @@ REMPLACER(ssize_t, pwrite, (int f, const void* octets, size_t t, off_t p),
 REMPLACER(int, open, (const char* nom, int drapeaux, ...),
           Suivi(nom), (drapeaux & O_CREAT) != 0 ? kPlace : kAutre, 0, 0,
           SYS_openat, AT_FDCWD, nom, drapeaux, 0600) // no fault depends on the rights
+REMPLACER(int, fallocate, (int f, int mode, off_t debut, off_t taille),
+          Suivi(f), kPlace, 0, 0, SYS_fallocate, f, mode, debut, taille)
 REMPLACER(int, fdatasync, (int f), Suivi(f), kPlace, 0, 0, SYS_fdatasync, f)
 REMPLACER(int, fsync, (int f), Suivi(f), kPlace, 0, 0, SYS_fsync, f)
 REMPLACER(int, ftruncate, (int f, off_t taille) noexcept,

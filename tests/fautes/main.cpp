@@ -84,8 +84,12 @@ std::string Juger(const Plan& plan, const Appel& appel, const std::string& messa
     if (std::string perte = NonSynchronise(bilan);
         !perte.empty() && !plan.faute.plein && (repare || !fini))
         return perte;
+    for (const auto& [nom, octets] : trouves) // killed, it may leave what it had begun
+        if (const auto entier = apres.find(nom);
+            !avant.contains(nom) && (entier == apres.end() || entier->second != octets))
+            return nom + " is left unfinished";
     if (dit)
-        return degat;
+        return {};
     if (!message.empty())
         return "said: " + message;
     return trouves == apres ? "" : "said nothing, although it is not done";

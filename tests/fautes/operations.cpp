@@ -59,6 +59,8 @@ std::vector<Operation> Operations() {
          vek},
         {"jumelage", c24 + fin, "fichier AUTRE.Vek; menu MnuJumeler", "clic BtPjumeler",
          vek + " " + vek},
+        {"copie", Contacts(60) + fin, "fichier Copie.Vek", "menu MnuCopieSurDisque",
+         "Orvalis/Copie.Vek Orvalis/Copie.Vek! Orvalis!"},
         {"sauvegarde", Contacts(60) + fin, "fichier VekSave/F5ABC.Vek", "menu MnuSauver",
          "Orvalis! Orvalis/VekSave/F5ABC.Vek Orvalis/VekSave/F5ABC.Vek! Orvalis/VekSave!"},
         {"etiquette-placee", c25, "clic TxtField_14; valide F5ABC; touche Alt+B", "touche Alt+V",
@@ -83,8 +85,10 @@ void Preparer(const Operation& operation, Banc& banc) {
     banc.systeme.imprimante = [] { return std::make_unique<Enregistreur>("Sans"); };
     if (!operation.dernier.empty() && operation.dernier != kCreer)
         banc.Ouvrir();
+    const bool fini = cahier.find('\\') != std::string::npos;
     if (!operation.gestes.empty())
-        banc.Suivre(operation.nom + " : " + operation.gestes + " ->");
+        banc.Suivre(operation.nom + " : " + operation.gestes + " ->" +
+                    (fini ? "" : " averti contient peut-être abîmé"));
 }
 
 std::string Agir(const Operation& operation, Banc& banc) {

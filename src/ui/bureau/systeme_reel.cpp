@@ -109,10 +109,10 @@ QString SystemeReel::ChoisirFichier(QWidget* parent, const DemandeFichier& deman
     // The dialog would ask before the name is complete.
     dialogue.setOption(QFileDialog::DontConfirmOverwrite);
     while (dialogue.exec() == QDialog::Accepted && !dialogue.selectedFiles().isEmpty()) {
-        const QString choisi = dialogue.selectedFiles().constFirst();
+        QString choisi = dialogue.selectedFiles().constFirst();
         if (!demande.enregistrer)
             return choisi;
-        if (const QString complet = AvecExtension(choisi); Remplacer(parent, complet))
+        if (QString complet = AvecExtension(choisi); Remplacer(parent, complet))
             return complet;
     }
     return {};
