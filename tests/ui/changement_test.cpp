@@ -136,7 +136,7 @@ TEST(Changement, UnDisquePleinFaitNoterLeContact) {
     {
         const aides::DisquePlein plein(banc.OctetsCahier().size() + 107);
         banc.Suivre(R"(told : clic BtEnrSuivant -> averti = "Impossible d'écrire dans le fichier
-     « ~/F5ABC.Vek » : le fichier deviendrait trop grand.\n\nLe contact en cours n'est pas
+     « ~/F5ABC.Vek » : le fichier deviendrait trop grand.\n\nLe contact en cours n'est pas
      enregistré. Notez-le :\nIndicatif : F6NEW\nDate : 21/11/26\nHeure de début :
      18:30\nHeure de fin : 18:30\nFréquence : 14.210\nMode : SSB\nRST donné : 59\nRST
      reçu : 57\nQTH : LYON\nSon locator : JN25AB\nDépartement : 69\nPrénom : Jean\nInformations :

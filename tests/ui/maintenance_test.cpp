@@ -93,7 +93,7 @@ TEST(Maintenance, UnCahierProtegeNeSeClassePas) {
     banc.Suivre(R"(
  looked at : fichier F6XYZ.Vek; menu MnuAutreF -> ligne = 10/10
  not sorted : menu MnuClasser -> averti =
-     "Ce cahier est protégé en écriture : il ne peut pas être classé."; actif ListeLog PictRech)");
+     "Ce cahier est protégé en écriture : il ne peut pas être classé."; actif ListeLog PictRech)");
     EXPECT_EQ(banc.Lire("F6XYZ.Vek"), octets);
     EXPECT_FALSE(banc.systeme.codeDeFin);
 }
