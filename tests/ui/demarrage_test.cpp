@@ -25,6 +25,7 @@ void DansLaCreation(Banc& banc, const std::string& chemin) {
 TEST(Demarrage, PremierLancementCreeLeCahierPuisLOuvre) {
     Banc banc;
     DansLaCreation(banc, R"(
+ Escape ends nothing : touche Esc -> Dlg1Fra2Text1 =
  no callsign : foyer Dlg1Fra2Text2; valide jn99zz -> Dlg1Fra2Text2 = JN99ZZ; foyer = Dlg1Fra2Text1
  no such locator : valide f5abc, jn99zz -> Dlg1Fra2Text2 = ERREUR
  the callsign as it stands : foyer Dlg1Fra2Text1; tape /p; foyer Dlg1Fra2Text2; touche Ctrl+A

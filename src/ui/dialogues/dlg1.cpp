@@ -15,6 +15,7 @@
 #include "ui/widgets/police.h"
 #include "ui_dlg1.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 
 #include <algorithm>
@@ -79,6 +80,13 @@ bool Dlg1::eventFilter(QObject* objet, QEvent* evenement) {
     else
         static_cast<QPushButton*>(objet)->click();
     return true;
+}
+
+// Escape would end the program here, and what is typed with it; "Tout arrêter !!" says that it
+// does.
+void Dlg1::keyPressEvent(QKeyEvent* evenement) {
+    if (!evenement->matches(QKeySequence::Cancel))
+        QDialog::keyPressEvent(evenement);
 }
 
 bool Dlg1::PrendreIndicatif() {

@@ -23,6 +23,7 @@ class Dlg1 : public QDialog {
 
   protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;
+    void keyPressEvent(QKeyEvent* evenement) override;
 
   private:
     void AccepterIndicatif();

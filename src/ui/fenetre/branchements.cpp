@@ -38,6 +38,10 @@ std::vector<EntreeDeMenu> Orvalis::BrancherMenus() {
     auto* versLesMenus = new QShortcut(QKeySequence(Qt::Key_F10), this);
     connect(versLesMenus, &QShortcut::activated, this,
             [this] { menuBar()->setActiveAction(menuBar()->actions().front()); });
+    // A key held down closes one thing, not all that lie under one another.
+    auto* echap = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    echap->setAutoRepeat(false);
+    Brancher(echap, &QShortcut::activated, [this] { Echapper(p_); });
     return entrees;
 }
 

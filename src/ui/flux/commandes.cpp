@@ -1,5 +1,6 @@
 #include "ui/flux/commandes.h"
 
+#include "ui/carte/echappement.h"
 #include "ui/flux/flux_classer.h"
 #include "ui/flux/flux_compagnons.h"
 #include "ui/flux/flux_demarrage.h"
@@ -12,6 +13,7 @@
 #include "ui/flux/flux_recherche.h"
 #include "ui/flux/flux_saisie.h"
 
+#include <algorithm>
 #include <array>
 
 namespace orvalis {
@@ -94,6 +96,14 @@ std::span<const Commande> Commandes() {
 void LancerCommande(Plateau& p, const Commande& commande) {
     if (Permis(commande.conditions, ConditionsRemplies(p.session, p.ecran, p.feuille)))
         commande.flux(p);
+}
+
+void Echapper(Plateau& p) {
+    const std::string_view nom = CommandeDEchap(p.ecran, p.feuille.vue);
+    const auto commande = std::find_if(kCommandes.begin(), kCommandes.end(),
+                                       [nom](const Commande& c) { return c.nom == nom; });
+    if (commande != kCommandes.end())
+        LancerCommande(p, *commande);
 }
 
 } // namespace orvalis

@@ -26,4 +26,7 @@ struct Commande {
 /// command is asked here and nowhere else.
 void LancerCommande(Plateau& p, const Commande& commande);
 
+/// Runs the command that Escape stands for in the present state, if any.
+void Echapper(Plateau& p);
+
 } // namespace orvalis

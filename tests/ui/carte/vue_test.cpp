@@ -1,5 +1,6 @@
 // What is seen of the window in each state, and where the focus goes, without a window.
 #include "aides.h"
+#include "ui/carte/echappement.h"
 #include "ui/carte/foyer.h"
 #include "ui/carte/modification.h"
 #include "ui/carte/vue.h"
@@ -38,10 +39,17 @@ struct Scene {
         const auto boite = static_cast<Boite>(std::atoi(geste.c_str() + geste.find(' ') + 1));
         const Station& nous = session.station;
         const std::map<std::string, bool*> drapeaux = {
-            {"liste", &ecran.liste.active},       {"contacts", &ecran.contacts.montree},
-            {"jumelage", &ecran.jumelage.montre}, {"sauvegarde", &ecran.jumelage.sauvegardeFaite},
-            {"tri", &ecran.classer.montre},       {"lecture", &session.cahier.lectureSeule},
-            {"feuille", &feuille.vue.panneau},    {"controle", &feuille.vue.controle}};
+            {"liste", &ecran.liste.active},
+            {"contacts", &ecran.contacts.montree},
+            {"jumelage", &ecran.jumelage.montre},
+            {"sauvegarde", &ecran.jumelage.sauvegardeFaite},
+            {"tri", &ecran.classer.montre},
+            {"lecture", &session.cahier.lectureSeule},
+            {"feuille", &feuille.vue.panneau},
+            {"controle", &feuille.vue.controle},
+            {"revue", &feuille.vue.laisser},
+            {"locator", &ecran.locator.montre},
+            {"gel", &ecran.gel}};
         const std::map<std::string, std::function<void()>> gestes = {
             {"entree", [&] { Suivre(ValiderBoite(carte, nous, boite, {})); }},
             {"tape", [&] { SaisirTexte(carte, boite, geste.substr(geste.rfind(' ') + 1)); }},
@@ -164,6 +172,27 @@ TEST(Vue, CeQuOnVoitDansChaqueEtat) {
         if (AccorderFoyer(scene.session, scene.ecran, vue))
             vue = VoirFenetre(scene.session, scene.ecran, scene.feuille);
         EXPECT_EQ(Dire(vue, scene.ecran.foyer.ici), vu);
+    }
+}
+
+// What is open, the topmost last -> the button that Escape presses.
+TEST(Vue, CeQueVautEchap) {
+    for (const auto& [gestes, commande] : Textes{{"sans gel", ""},
+                                                 {"nouveau", ""},
+                                                 {"contacts", "BtContactsFermer"},
+                                                 {"contacts; nouveau", "BtContactsFermer"},
+                                                 {"contacts; jumelage", "BtPjAnnuler"},
+                                                 {"contacts; jumelage; feuille", "BtQuitQSL"},
+                                                 {"contacts; feuille; revue", "BtLeaveQSL"},
+                                                 {"contacts; nouveau; locator", "BtChangAnnul"},
+                                                 {"contacts; locator; efface", "FraCmdNon"},
+                                                 {"feuille; controle", ""},
+                                                 {"contacts; tri", ""},
+                                                 {"efface; gel", ""}}) {
+        Scene scene;
+        for (const std::string& geste : Couper(gestes, ";"))
+            scene.Faire(geste);
+        EXPECT_EQ(CommandeDEchap(scene.ecran, scene.feuille.vue), commande) << gestes;
     }
 }
 
