@@ -26,7 +26,11 @@ TEST(Maintenance, JumelageAvecSauvegarde) {
  backup : fichier VekSave/F5ABC.Vek; clic BtPjSauvegarder -> grisé BtPjSauvegarder
  pairing : fichier AUTRE.Vek; clic BtPjumeler -> NoFicheLab = " Fiche N° 5 "; actif PJumelage
  a question beside it : clic TxtField_12; valide luc; touche Alt+N -> foyer = BtPjumeler
- closed : clic BtPjAnnuler -> foyer = ListeLog)");
+ closed : clic BtPjAnnuler -> foyer = ListeLog
+ Escape : menu MnuJumeler; clic TxtField_12; valide luc; touche Esc
+     -> caché FraMsgFiche; foyer = BtPjSauvegarder
+ Escape again : touche Esc -> caché PJumelage; foyer = ListeLog
+ and no more : touche Esc -> actif BtFermerLog)");
     EXPECT_EQ(banc.Lire("VekSave/F5ABC.Vek"), Contacts(3) + Fin());
     EXPECT_EQ(Difference(banc.OctetsCahier(), Contacts(3) + Contacts(2) + Fin()), "");
 }

@@ -1,7 +1,9 @@
 // Browsing: pages, list keys, scroll bar, sheet, card.
 #include "ui/banc.h"
 
+#include <QAbstractScrollArea>
 #include <QScrollBar>
+#include <QWheelEvent>
 
 namespace orvalis::operateur::navigation {
 
@@ -39,7 +41,20 @@ TEST(Navigation, TouchesEtBoutons) {
  the card stays : clic CmdPagePlus -> ici = "Page 2 / 3| Fiche N° 1 "
  and stays : clic CmdPagePlus -> ici = "Page 3 / 3| Fiche N° 1 "
  back, to its first : clic CmdPageMoins -> ici = "Page 2 / 3| Fiche N° 26 "
- last page : clic CmdSensBas -> ici = "Page 3 / 3| Fiche N° 26 ")");
+ last page : clic CmdSensBas -> ici = "Page 3 / 3| Fiche N° 26 "
+ buttons by key : touche Alt+Home, Alt+PgDown, Alt+End, Alt+PgUp -> ici = "Page 2 / 3| Fiche N° 26 "
+ found contacts beside the list : touche Alt+C; foyer ListeLog; touche Tab -> foyer = ContactsListe
+ and their button : touche Tab, Tab -> foyer = CmdSensHaut
+ closed : touche Esc -> caché PictContacts; ici = "Page 2 / 3| Fiche N° 26 ")");
+    for (const char* sous : {"ListeLog", "PageText1"}) { // the wheel, over what shows all its lines
+        auto* vue = banc.Controle<QAbstractScrollArea>(sous)->viewport();
+        QWheelEvent cran({9, 9}, vue->mapToGlobal(QPointF(9, 9)), {}, {0, 120}, Qt::NoButton,
+                         Qt::NoModifier, Qt::NoScrollPhase, false);
+        banc.Suivre(" last page : clic CmdSensBas -> LabPage = \"Page 3 / 3\"");
+        QCoreApplication::sendEvent(vue, &cran);
+        banc.Suivre(" wheel : -> LabPage = \"Page 2 / 3\"");
+    }
+    banc.Suivre(" last page : clic CmdSensBas -> ici = \"Page 3 / 3| Fiche N° 26 \"");
     for (int i = 0; i < 2; ++i)
         banc.Controle<QScrollBar>("VScroll1")->triggerAction(QScrollBar::SliderPageStepSub);
     banc.Suivre(R"(

@@ -151,6 +151,11 @@ TEST(Qsl, LeServiceAttend) {
     // The command of the menu, then a press on box 14.
     banc.Suivre(R"(
  idle : menu MnuVirginTags, MnuGestionFeuilleQSL -> actif PictFeuilleQSL
+ arrows : foyer BtTag_1; touche Down, Down, Right -> foyer = BtTag_6
+ none behind the edge : touche Right -> foyer = BtTag_6
+ past a grey one : clic BtChoix_4; foyer BtTag_6; touche Up, Up -> foyer = BtChoix_2
+ Escape : clic BtChoix_4; touche Esc -> caché PictFeuilleQSL
+ again : menu MnuGestionFeuilleQSL -> actif PictFeuilleQSL
  idle, press : touche Alt+Q; clic TxtField_14 -> actif PictFeuilleQSL
  no correction : touche Alt+Q -> lecture TxtField_14
  MQSL not empty : ligne 1; clic TxtField_14 -> caché PictFeuilleQSL

@@ -76,6 +76,7 @@ void Orvalis::BrancherListes() {
     Brancher(liste, &PictListe::defilement, [this](int valeur) { SurDefilement(p_, valeur); });
     Brancher(liste, &PictListe::touche,
              [this](ToucheListe touche, bool* prise) { *prise = SurToucheListe(p_, touche); });
+    connect(&panneaux_.page, &VuePage::roulee, liste, &PictListe::Rouler);
     Brancher(&panneaux_.page, &VuePage::rangeeChoisie,
              [this](NumeroFiche k) { ChoisirRangee(p_, k); });
     Brancher(&panneaux_.contacts, &PictContacts::ligneChoisie,

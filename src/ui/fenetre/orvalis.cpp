@@ -172,9 +172,21 @@ void Orvalis::Disposer() {
     defilement->setFocusPolicy(Qt::NoFocus);
     defilement->setWidget(centre);
     setCentralWidget(defilement);
+    OrdonnerTabulation();
     const QSize voulue(1320, 740);
     const QScreen* ecran = QGuiApplication::primaryScreen();
     resize(ecran == nullptr ? voulue : voulue.boundedTo(ecran->availableSize() - QSize(16, 40)));
+}
+
+// What a list of contacts found is read beside the list of the log; the boxes of the card keep
+// their own order.
+void Orvalis::OrdonnerTabulation() {
+    const char* avant = "ListeLog";
+    for (const char* nom : {"ContactsListe", "BtContactsFermer"}) {
+        setTabOrder(findChild<QWidget*>(QLatin1String(avant)),
+                    findChild<QWidget*>(QLatin1String(nom)));
+        avant = nom;
+    }
 }
 
 QWidget* Orvalis::ColonneGauche() {

@@ -42,6 +42,7 @@ class Orvalis : public QMainWindow {
     enum class QuandGele { Non, Oui };
 
     void Disposer();
+    void OrdonnerTabulation();
     [[nodiscard]] QWidget* ColonneGauche();
     [[nodiscard]] QWidget* ColonneDroite();
     /// Fills the menu bar; returns its entries for the painter.

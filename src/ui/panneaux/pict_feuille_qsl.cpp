@@ -8,8 +8,10 @@
 #include "ui/widgets/teintes.h"
 #include "ui_pict_feuille_qsl.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -131,6 +133,8 @@ PictFeuilleQSL::ControlesPlace PictFeuilleQSL::FaireControles(Place place) {
     controles.tag->setToolTip(QStringLiteral("Préparer une étiquette sans partir d'une fiche"));
     controles.choix = new QPushButton(QStringLiteral("Retirer"), controles.cadre);
     controles.choix->setObjectName(Nom("BtChoix_", k));
+    for (QPushButton* bouton : {controles.tag, controles.choix})
+        bouton->installEventFilter(this);
     auto* pile = new QVBoxLayout(controles.cadre);
     pile->setContentsMargins(5, 2, 5, 2);
     pile->setSpacing(2);
@@ -210,6 +214,41 @@ void PictFeuilleQSL::OrdonnerTabulation() {
         ordre.insert(ordre.end(), {controles.tag, controles.choix});
     for (std::size_t i = 1; i < ordre.size(); ++i)
         setTabOrder(ordre[i - 1], ordre[i]);
+}
+
+bool PictFeuilleQSL::eventFilter(QObject* objet, QEvent* evenement) {
+    return (evenement->type() == QEvent::KeyPress &&
+            AllerALaPlace(objet, static_cast<QKeyEvent*>(evenement)->key())) ||
+           QFrame::eventFilter(objet, evenement);
+}
+
+// The arrows go from place to place as these lie on the sheet, and stop at its edges. In a place
+// whose large button is grey they come to the other one.
+bool PictFeuilleQSL::AllerALaPlace(const QObject* depuis, int touche) {
+    struct Pas {
+        int touche, rangee, colonne;
+    };
+    constexpr std::array<Pas, 4> kPas = {
+        {{Qt::Key_Up, -1, 0}, {Qt::Key_Down, 1, 0}, {Qt::Key_Left, 0, -1}, {Qt::Key_Right, 0, 1}}};
+    const auto pas = std::find_if(kPas.begin(), kPas.end(),
+                                  [touche](const Pas& p) { return p.touche == touche; });
+    const auto ici =
+        std::find_if(places_.begin(), places_.end(), [depuis](const ControlesPlace& c) {
+            return depuis == c.tag || depuis == c.choix;
+        });
+    if (pas == kPas.end() || ici == places_.end())
+        return false;
+    constexpr int kNbColonnes = 2;
+    const auto rang = static_cast<int>(ici - places_.begin());
+    const int rangee = rang / kNbColonnes + pas->rangee;
+    const int colonne = rang % kNbColonnes + pas->colonne;
+    if (rangee >= 0 && rangee < kNbEtiquettes / kNbColonnes && colonne >= 0 &&
+        colonne < kNbColonnes) {
+        const auto la = static_cast<std::size_t>(rangee * kNbColonnes + colonne);
+        const bool large = depuis == ici->tag && places_[la].tag->isEnabled();
+        (large ? places_[la].tag : places_[la].choix)->setFocus();
+    }
+    return true;
 }
 
 void PictFeuilleQSL::Montrer(const EtatFeuille& feuille) {

@@ -41,6 +41,9 @@ class PictFeuilleQSL : public QFrame {
     void boiteEntree(std::size_t boite); ///< Enter, either one
     void voieChoisie(orvalis::VoieQSL voie);
 
+  protected:
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
+
   private:
     struct ControlesPlace {
         QFrame* cadre = nullptr; ///< PictBtEtiq
@@ -58,6 +61,7 @@ class PictFeuilleQSL : public QFrame {
     void FaireBoite(std::size_t rang, QHBoxLayout& rangee);
     void BrancherBoutons();
     void OrdonnerTabulation();
+    [[nodiscard]] bool AllerALaPlace(const QObject* depuis, int touche);
     void MontrerPlaces(const EtatFeuille& feuille);
     void MontrerBoites(const EtatFeuille& feuille);
     void MontrerVoie(VoieQSL voie);

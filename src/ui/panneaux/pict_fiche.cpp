@@ -84,7 +84,9 @@ void PictFiche::FaireEntete(QHBoxLayout& entete) {
     labNonEnregistre_->hide();
     btActiveRech_ = new QPushButton(QStringLiteral("Voir contacts réalisés"), this);
     btActiveRech_->setObjectName(QStringLiteral("BtActiveRech"));
-    btActiveRech_->setToolTip(QStringLiteral("Lister tous les contacts faits avec cette station"));
+    btActiveRech_->setToolTip(
+        QStringLiteral("Lister tous les contacts faits avec cette station (Alt+C)"));
+    btActiveRech_->setShortcut(QKeySequence(QStringLiteral("Alt+C")));
     GarderPlace(*btActiveRech_);
     btActiveRech_->hide();
     entete.addWidget(noFicheLab_);

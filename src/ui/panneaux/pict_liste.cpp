@@ -6,6 +6,7 @@
 
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <QWheelEvent>
 
 #include <array>
 
@@ -29,6 +30,7 @@ constexpr std::array<LigneTouche, 4> kTouches = {{
 PictListe::PictListe(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::PictListe>()) {
     ui_->setupUi(this);
     ui_->ListeLog->installEventFilter(this);
+    ui_->ListeLog->viewport()->installEventFilter(this);
     connect(ui_->ListeLog, &ListeLignes::ligneChoisie, this, &PictListe::ligneChoisie);
     const std::array<std::pair<QPushButton*, BoutonPage>, 4> boutons = {{
         {ui_->CmdSensHaut, BoutonPage::Premiere},
@@ -82,7 +84,18 @@ void PictListe::Montrer(const ListeDuCahier& liste, bool pagination, bool pageCh
     ui_->ListeLog->Selectionner(liste.choisie);
 }
 
+// Handed over directly: what the bar leaves at its ends must not scroll the window.
+void PictListe::Rouler(QWheelEvent* evenement) {
+    static_cast<QObject*>(ui_->VScroll1)->event(evenement);
+    evenement->accept();
+}
+
 bool PictListe::eventFilter(QObject* objet, QEvent* evenement) {
+    if (objet == ui_->ListeLog->viewport() && evenement->type() == QEvent::Wheel &&
+        ui_->ListeLog->verticalScrollBar()->maximum() == 0) {
+        Rouler(static_cast<QWheelEvent*>(evenement));
+        return true;
+    }
     if (objet == ui_->ListeLog && evenement->type() == QEvent::KeyPress) {
         const int code = static_cast<QKeyEvent*>(evenement)->key();
         for (const LigneTouche& ligne : kTouches) {

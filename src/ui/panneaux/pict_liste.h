@@ -23,6 +23,8 @@ class PictListe : public QWidget {
     /// The page, its selected line, the scroll bar; `pageChangee`: not the contents of the last
     /// time.
     void Montrer(const ListeDuCahier& liste, bool pagination, bool pageChangee);
+    /// The wheel turned over a page that shows all its lines: what the scroll bar makes of it.
+    void Rouler(QWheelEvent* evenement);
 
   Q_SIGNALS:
     void ligneChoisie(int ligne); ///< from 0

@@ -201,6 +201,13 @@ QRect VuePage::RectDeRangee(int rang) const {
             mesures_.ligne};
 }
 
+void VuePage::wheelEvent(QWheelEvent* evenement) {
+    if (verticalScrollBar()->maximum() > 0)
+        QAbstractScrollArea::wheelEvent(evenement);
+    else
+        Q_EMIT roulee(evenement);
+}
+
 void VuePage::mousePressEvent(QMouseEvent* evenement) {
     if (evenement->button() != Qt::LeftButton)
         return;

@@ -4,6 +4,7 @@
 #include "ui/carte/ecran.h"
 
 #include <QAbstractScrollArea>
+#include <QWheelEvent>
 
 #include <memory>
 #include <vector>
@@ -26,11 +27,13 @@ class VuePage : public QAbstractScrollArea {
 
   Q_SIGNALS:
     void rangeeChoisie(orvalis::NumeroFiche numero);
+    void roulee(QWheelEvent* evenement); ///< the wheel, over a sheet that is whole on show
 
   protected:
     void paintEvent(QPaintEvent* evenement) override;
     void resizeEvent(QResizeEvent* evenement) override;
     void mousePressEvent(QMouseEvent* evenement) override;
+    void wheelEvent(QWheelEvent* evenement) override;
     void changeEvent(QEvent* evenement) override;
 
   private:
