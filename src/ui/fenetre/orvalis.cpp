@@ -3,6 +3,7 @@
 #include "core/erreurs.h"
 #include "ui/bureau/texte_qt.h"
 #include "ui/carte/saisie.h"
+#include "ui/fenetre/cadre.h"
 #include "ui/flux/flux_demarrage.h"
 #include "ui/flux/flux_fichiers.h"
 #include "ui/panneaux/fra_msg_fiche.h"
@@ -19,6 +20,7 @@
 #include "ui/panneaux/pict_menu.h"
 #include "ui/panneaux/pict_rech.h"
 #include "ui/widgets/gestes.h"
+#include "ui/widgets/rangees.h"
 #include "ui/widgets/vue_page.h"
 
 #include <QAbstractButton>
@@ -34,7 +36,6 @@
 #include <QMenuBar>
 #include <QScopedValueRollback>
 #include <QScreen>
-#include <QScrollArea>
 #include <QStackedWidget>
 #include <QTimer>
 
@@ -145,6 +146,7 @@ Orvalis::Orvalis(Systeme& systeme, QWidget* parent)
     BrancherFeuille();
     BrancherFoyer();
     Peindre();
+    Dimensionner();
     qApp->installEventFilter(this);
 }
 
@@ -156,24 +158,25 @@ Orvalis::~Orvalis() {
 }
 
 void Orvalis::Disposer() {
-    auto* centre = new QWidget;
-    auto* ligne = new QHBoxLayout(centre);
-    ligne->setContentsMargins(8, 6, 8, 6);
-    ligne->setSpacing(10);
-    ligne->addWidget(ColonneGauche());
     panneaux_.droite.addWidget(ColonneDroite());
     panneaux_.droite.addWidget(&panneaux_.feuilleQSL);
     panneaux_.feuilleQSL.Accueillir(panneaux_.ctrlImpression);
-    ligne->addWidget(&panneaux_.droite, 1);
-    // On a screen too small for the window, its parts stay within reach.
-    auto* defilement = new QScrollArea(this);
-    defilement->setFrameShape(QFrame::NoFrame);
-    defilement->setWidgetResizable(true);
-    defilement->setFocusPolicy(Qt::NoFocus);
-    defilement->setWidget(centre);
-    setCentralWidget(defilement);
+    cadre_ = new Cadre(*ColonneGauche(),
+                       {panneaux_.droite, [this] { return panneaux_.fiche.LargeurPleine(); },
+                        [this](int largeur, bool cote) {
+                            panneaux_.fiche.Ranger(largeur);
+                            rangeeBoutons_->Ranger(largeur);
+                            panneaux_.feuilleQSL.Ranger(largeur);
+                            panneaux_.page.Deployer(!cote);
+                        }},
+                       this);
+    setCentralWidget(cadre_);
     OrdonnerTabulation();
-    const QSize voulue(1320, 740);
+}
+
+// The window opens so that the sheet shows its largest type, as far as the screen allows.
+void Orvalis::Dimensionner() {
+    const QSize voulue = cadre_->TailleVoulue() + QSize(0, menuBar()->sizeHint().height());
     const QScreen* ecran = QGuiApplication::primaryScreen();
     resize(ecran == nullptr ? voulue : voulue.boundedTo(ecran->availableSize() - QSize(16, 40)));
 }
@@ -208,11 +211,14 @@ QWidget* Orvalis::ColonneDroite() {
     auto* pile = SansMarges<QVBoxLayout>(colonne);
     pile->addWidget(&panneaux_.fiche);
     auto* boutons = new QWidget(colonne);
-    auto* rangee = SansMarges<QHBoxLayout>(boutons);
-    rangee->addWidget(&panneaux_.menu);
-    rangee->addWidget(&panneaux_.enrs);
-    rangee->addStretch(1);
-    rangee->addWidget(&panneaux_.rech);
+    auto* tour = new QWidget(boutons); // the buttons at rest, or those of entry
+    auto* cote = SansMarges<QHBoxLayout>(tour);
+    cote->addWidget(&panneaux_.menu);
+    cote->addWidget(&panneaux_.enrs);
+    tour->setMinimumWidth(
+        std::max(LargeurMinimale(panneaux_.menu), LargeurMinimale(panneaux_.enrs)));
+    rangeeBoutons_ = SansMarges<Rangees>(boutons);
+    rangeeBoutons_->Ajouter({tour, &panneaux_.rech}, 6, 1);
     boutons->setMinimumHeight(panneaux_.menu.sizeHint().height());
     pile->addWidget(boutons);
     auto* feuille = new QWidget(colonne);

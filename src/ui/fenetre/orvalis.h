@@ -22,6 +22,8 @@ class QTimer;
 
 namespace orvalis {
 
+class Cadre;
+class Rangees;
 struct Commande;
 
 class Orvalis : public QMainWindow {
@@ -43,6 +45,7 @@ class Orvalis : public QMainWindow {
 
     void Disposer();
     void OrdonnerTabulation();
+    void Dimensionner();
     [[nodiscard]] QWidget* ColonneGauche();
     [[nodiscard]] QWidget* ColonneDroite();
     /// Fills the menu bar; returns its entries for the painter.
@@ -74,6 +77,8 @@ class Orvalis : public QMainWindow {
     Exterieur exterieur_;
     Plateau p_;
     QLabel* adieu_ = nullptr;
+    Cadre* cadre_ = nullptr;
+    Rangees* rangeeBoutons_ = nullptr; ///< under the card
     Panneaux panneaux_;
     std::unique_ptr<Peintre> peintre_;
     QTimer* timer1_ = nullptr;

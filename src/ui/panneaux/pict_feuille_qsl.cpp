@@ -5,6 +5,7 @@
 #include "ui/widgets/filtre_edition.h"
 #include "ui/widgets/police.h"
 #include "ui/widgets/presence.h"
+#include "ui/widgets/rangees.h"
 #include "ui/widgets/teintes.h"
 #include "ui_pict_feuille_qsl.h"
 
@@ -342,6 +343,13 @@ void PictFeuilleQSL::PeindreFonds() {
             palette.setColor(QPalette::Base, palette.color(QPalette::Window));
         boite.texte->setPalette(palette);
     }
+}
+
+void PictFeuilleQSL::Ranger(int largeur) {
+    const bool cote = LargeurMinimale(*ui_->planche) + LargeurMinimale(*ui_->colonneEdition) +
+                          ui_->layout1->spacing() <=
+                      largeur;
+    ui_->layout1->setDirection(cote ? QBoxLayout::LeftToRight : QBoxLayout::BottomToTop);
 }
 
 void PictFeuilleQSL::Accueillir(QWidget& panneau) {

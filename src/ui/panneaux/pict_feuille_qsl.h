@@ -33,6 +33,8 @@ class PictFeuilleQSL : public QFrame {
     void Montrer(const EtatFeuille& feuille);
     /// Puts a panel under the editor, where it comes and goes without moving anything.
     void Accueillir(QWidget& panneau);
+    /// Puts the editor beside the sheet, or above it where both do not fit into `largeur`.
+    void Ranger(int largeur);
 
   Q_SIGNALS:
     void choix(orvalis::Place place); ///< BtChoix

@@ -3,12 +3,16 @@
 #include "ui/bureau/texte_qt.h"
 #include "ui/widgets/police.h"
 #include "ui/widgets/presence.h"
+#include "ui/widgets/rangees.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <utility>
+#include <vector>
 
 namespace orvalis {
 namespace {
@@ -48,22 +52,19 @@ QLabel* FaireLabel(const char* nom, QWidget* parent) {
 PictFiche::PictFiche(QWidget* parent) : QFrame(parent) {
     setObjectName(QStringLiteral("PictFiche"));
     setFrameShape(QFrame::StyledPanel);
-    auto* pile = new QVBoxLayout(this);
-    pile->setContentsMargins(10, 6, 10, 8);
-    pile->setSpacing(4);
-    auto* entete = new QHBoxLayout;
-    FaireEntete(*entete);
-    pile->addLayout(entete);
+    rangees_ = new Rangees(this);
+    rangees_->setContentsMargins(10, 6, 10, 8);
+    rangees_->setSpacing(4);
+    FaireEntete();
     for (const auto& rangee : kRangees) {
-        auto* ligne = new QHBoxLayout;
-        ligne->setSpacing(10);
+        std::vector<QWidget*> cellules;
         for (const Boite premiere : rangee)
             if (premiere != kPasDeBoite)
-                ligne->addWidget(FaireCellule(premiere));
+                cellules.push_back(FaireCellule(premiere));
         if (&rangee == &kRangees.back())
-            ligne->addWidget(FaireResultats(), 1);
-        ligne->addStretch(1);
-        pile->addLayout(ligne);
+            cellules.push_back(FaireResultats());
+        const std::size_t nombre = cellules.size();
+        rangees_->Ajouter(std::move(cellules), 10, nombre);
     }
     QWidget* avant = nullptr;
     for (const Boite boite : kOrdreTabulation) {
@@ -73,7 +74,7 @@ PictFiche::PictFiche(QWidget* parent) : QFrame(parent) {
     }
 }
 
-void PictFiche::FaireEntete(QHBoxLayout& entete) {
+void PictFiche::FaireEntete() {
     noFicheLab_ = FaireLabel("NoFicheLab", this);
     noFicheLab_->setText(QStringLiteral("  Fiche N° 0  "));
     noFicheLab_->setFont(PoliceAjustee(font(), kTitre));
@@ -89,10 +90,10 @@ void PictFiche::FaireEntete(QHBoxLayout& entete) {
     btActiveRech_->setShortcut(QKeySequence(QStringLiteral("Alt+C")));
     GarderPlace(*btActiveRech_);
     btActiveRech_->hide();
-    entete.addWidget(noFicheLab_);
-    entete.addWidget(labNonEnregistre_);
-    entete.addStretch(1);
-    entete.addWidget(btActiveRech_);
+    // The longest number, so that it moves nothing.
+    noFicheLab_->setMinimumWidth(QFontMetrics(noFicheLab_->font())
+                                     .horizontalAdvance(QStringLiteral("Charger fiche N° 32767 ")));
+    rangees_->Ajouter({noFicheLab_, labNonEnregistre_, btActiveRech_}, 6, 2);
 }
 
 TxtField* PictFiche::FaireBoite(const DescriptionBoite& boite) {
@@ -103,18 +104,24 @@ TxtField* PictFiche::FaireBoite(const DescriptionBoite& boite) {
     return champ;
 }
 
+// Where the window is narrow, a caption may be cut at the underscores that follow its words.
+QLabel* PictFiche::FaireLegende(const DescriptionBoite& tete, QWidget* cellule) {
+    auto* legende = FaireLabel("", cellule);
+    legende->setObjectName(Q(tete.nomLegende));
+    legende->setText(Q(tete.legende));
+    legende->setFont(PoliceAjustee(font(), kPetite));
+    const std::string_view mots = tete.legende.substr(0, tete.legende.find_last_not_of("_ ") + 1);
+    legende->setMinimumWidth(legende->fontMetrics().horizontalAdvance(Q(mots)));
+    return legende;
+}
+
 QWidget* PictFiche::FaireCellule(Boite premiere) {
     auto* cellule = new QWidget(this);
     auto* pile = new QVBoxLayout(cellule);
     pile->setContentsMargins(0, 0, 0, 0);
     pile->setSpacing(1);
     const DescriptionBoite& tete = Decrire(premiere);
-    auto* legende = FaireLabel("", cellule);
-    legende->setObjectName(Q(tete.nomLegende));
-    legende->setText(Q(tete.legende));
-    legende->setFont(PoliceAjustee(font(), kPetite));
-    // The underscores of a caption may be cut where the window is narrow, its box may not.
-    legende->setMinimumWidth(1);
+    QLabel* legende = FaireLegende(tete, cellule);
     pile->addWidget(legende);
     auto* ligne = new QHBoxLayout;
     ligne->setSpacing(4);
@@ -159,6 +166,16 @@ QWidget* PictFiche::FaireResultats() {
     labAzim_->setAccessibleName(kAzimutLu);
     grille->setColumnStretch(2, 1);
     return cadre;
+}
+
+int PictFiche::LargeurPleine() const {
+    const QMargins bords = rangees_->contentsMargins();
+    return rangees_->LargeurPleine() + bords.left() + bords.right() + 2 * frameWidth();
+}
+
+void PictFiche::Ranger(int largeur) {
+    const QMargins bords = rangees_->contentsMargins();
+    rangees_->Ranger(largeur - bords.left() - bords.right() - 2 * frameWidth());
 }
 
 void PictFiche::Montrer(const VueCarte& vue) {

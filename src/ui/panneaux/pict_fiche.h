@@ -10,9 +10,10 @@
 
 class QLabel;
 class QPushButton;
-class QHBoxLayout;
 
 namespace orvalis {
+
+class Rangees;
 
 class PictFiche : public QFrame {
     Q_OBJECT
@@ -22,13 +23,19 @@ class PictFiche : public QFrame {
     [[nodiscard]] TxtField& TxtFieldDe(Boite boite) { return *boites_[Rang(boite)]; }
     /// Everything the card shows; what is there already is not written again.
     void Montrer(const VueCarte& vue);
+    /// Breaks the rows of boxes where the card is at most `largeur` wide.
+    void Ranger(int largeur);
+    /// The width in which no row breaks.
+    [[nodiscard]] int LargeurPleine() const;
 
   private:
     [[nodiscard]] QWidget* FaireCellule(Boite premiere);
     [[nodiscard]] QWidget* FaireResultats();
-    void FaireEntete(QHBoxLayout& entete);
+    void FaireEntete();
+    [[nodiscard]] QLabel* FaireLegende(const DescriptionBoite& tete, QWidget* cellule);
     [[nodiscard]] TxtField* FaireBoite(const DescriptionBoite& boite);
 
+    Rangees* rangees_ = nullptr;
     std::array<TxtField*, kNbBoites> boites_{};
     QLabel* noFicheLab_ = nullptr;
     QLabel* labNonEnregistre_ = nullptr;

@@ -91,6 +91,16 @@ void VuePage::Ajuster() {
     viewport()->update();
 }
 
+QSize VuePage::sizeHint() const {
+    const Mesures m = Mesurer(kPointsMax);
+    return QSize(m.largeur, m.hauteur) + 2 * QSize(frameWidth(), frameWidth());
+}
+
+void VuePage::Deployer(bool entiere) {
+    const int barre = horizontalScrollBar()->sizeHint().height();
+    setMinimumHeight(entiere ? Mesurer(kPointsMin).hauteur + 2 * frameWidth() + barre : 0);
+}
+
 const std::vector<RangeePage>& VuePage::Rangees() const {
     return contenu_->rangees;
 }

@@ -20,6 +20,9 @@ class VuePage : public QAbstractScrollArea {
     void Montrer(std::shared_ptr<const ContenuPage> contenu);
     /// Marks the row of the record on the card, or none.
     void Marquer(NumeroFiche numero);
+    /// Whether the sheet asks for the height of all its rows, because what holds it scrolls.
+    void Deployer(bool entiere);
+    [[nodiscard]] QSize sizeHint() const override;
     /// Where row `rang` (from 0) lies in the viewport.
     [[nodiscard]] QRect RectDeRangee(int rang) const;
     /// The sheet as fixed-pitch text, a line per row.
