@@ -70,30 +70,39 @@ struct DescriptionBoite {
     std::size_t longueur;     ///< most characters the box takes
     bool centre;
     Touches touches;
+    std::string_view exemple; ///< shown pale in the empty box that has the focus; none: nothing
 };
 
-/// In the order of their numbers.
+/// In the order of their numbers. My QSL has no example: it is left to the QSL service.
 inline constexpr std::array<DescriptionBoite, kNbBoites> kBoites = {{
     {Boite::Indicatif, "Frm01Lab01", "_ Indicatif_______________________", 15, false,
-     Touches::Majuscules},
-    {Boite::Date, "Frm01Lab02", "_ Date _____", 8, true, Touches::DateHeureFreq},
-    {Boite::Debut, "Frm01Lab03", "_ Heures   Début /  Fin", 5, true, Touches::DateHeureFreq},
-    {Boite::Fin, "", "", 5, true, Touches::DateHeureFreq},
-    {Boite::Frequence, "Frm01Lab05", "_ Fréquence________", 10, false, Touches::DateHeureFreq},
-    {Boite::Mode, "Frm01Lab06", "_ Mode______", 5, true, Touches::Majuscules},
-    {Boite::ReportDonne, "Frm01Lab07", "_ RST Donné    /    Reçu", 8, true, Touches::Report},
-    {Boite::ReportRecu, "", "", 8, true, Touches::Report},
+     Touches::Majuscules, "ex. F5ABC"},
+    {Boite::Date, "Frm01Lab02", "_ Date _____", 8, true, Touches::DateHeureFreq, "jj/mm/aa"},
+    {Boite::Debut, "Frm01Lab03", "_ Heures   Début /  Fin", 5, true, Touches::DateHeureFreq,
+     "hh:mm"},
+    {Boite::Fin, "", "", 5, true, Touches::DateHeureFreq, "hh:mm"},
+    {Boite::Frequence, "Frm01Lab05", "_ Fréquence________", 10, false, Touches::DateHeureFreq,
+     "ex. 14.200"},
+    {Boite::Mode, "Frm01Lab06", "_ Mode______", 5, true, Touches::Majuscules, "ex. SSB"},
+    {Boite::ReportDonne, "Frm01Lab07", "_ RST Donné    /    Reçu", 8, true, Touches::Report,
+     "ex. 59"},
+    {Boite::ReportRecu, "", "", 8, true, Touches::Report, "ex. 59"},
     {Boite::Ville, "Frm01Lab09", "_ QTH ______________________________", 25, false,
-     Touches::Majuscules},
-    {Boite::SonLocator, "Frm01Lab10", "_ Son Locator _", 6, true, Touches::Majuscules},
-    {Boite::Departement, "Frm01Lab11", "_ Département ____________", 3, true, Touches::Chiffres},
+     Touches::Majuscules, "ex. BLOIS"},
+    {Boite::SonLocator, "Frm01Lab10", "_ Son Locator _", 6, true, Touches::Majuscules,
+     "ex. JN18DU"},
+    {Boite::Departement, "Frm01Lab11", "_ Département ____________", 3, true, Touches::Chiffres,
+     "ex. 41"},
     {Boite::Prenom, "Frm01Lab12", "_ Prénom  ___________________________", 15, false,
-     Touches::Libres},
-    {Boite::Remarque, "lblLabels", "_ Infos ____________", 15, false, Touches::Majuscules},
-    {Boite::MaQsl, "Frm01Lab14", "_ Ma QSL ___", 8, true, Touches::Libres},
-    {Boite::SaQsl, "Frm01Lab15", "_ Sa QSL __", 8, true, Touches::Libres},
-    {Boite::MonLocator, "Frm01Lab16", " _Mon Locator__", 6, true, Touches::Majuscules},
-    {Boite::Manager, "lblLabels_17", "_ QSL Manager ______", 15, false, Touches::Majuscules},
+     Touches::Libres, "ex. Jean"},
+    {Boite::Remarque, "lblLabels", "_ Infos ____________", 15, false, Touches::Majuscules,
+     "ex. BON SIGNAL"},
+    {Boite::MaQsl, "Frm01Lab14", "_ Ma QSL ___", 8, true, Touches::Libres, ""},
+    {Boite::SaQsl, "Frm01Lab15", "_ Sa QSL __", 8, true, Touches::Libres, "jj/mm/aa"},
+    {Boite::MonLocator, "Frm01Lab16", " _Mon Locator__", 6, true, Touches::Majuscules,
+     "ex. JN18DU"},
+    {Boite::Manager, "lblLabels_17", "_ QSL Manager ______", 15, false, Touches::Majuscules,
+     "ex. F6XYZ"},
 }};
 
 /// What a box is called where its caption is not seen: by a screen reader, in a message.

@@ -5,6 +5,7 @@
 #include "ui_a_propos.h"
 
 #include <QIcon>
+#include <QShortcut>
 #include <QSysInfo>
 
 namespace orvalis {
@@ -29,7 +30,13 @@ APropos::APropos(Systeme& systeme, QWidget* parent)
     Q_UNUSED(systeme);
     ui_->BtInfosSysteme->hide();
 #endif
+    connect(ui_->BtGuide, &QPushButton::clicked, this, [this] {
+        guideVoulu_ = true;
+        accept();
+    });
     connect(ui_->BtFermerInfos, &QPushButton::clicked, this, &QDialog::accept);
+    connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, ui_->BtGuide,
+            &QPushButton::click);
     ui_->BtFermerInfos->setDefault(true);
 }
 

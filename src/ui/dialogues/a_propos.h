@@ -18,9 +18,12 @@ class APropos : public QDialog {
   public:
     APropos(Systeme& systeme, QWidget* parent);
     ~APropos() override;
+    /// The box was left for the guide.
+    [[nodiscard]] bool GuideVoulu() const { return guideVoulu_; }
 
   private:
     std::unique_ptr<Ui::APropos> ui_;
+    bool guideVoulu_ = false;
 };
 
 } // namespace orvalis

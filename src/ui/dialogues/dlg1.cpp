@@ -8,8 +8,10 @@
 #include "ui/bureau/systeme.h"
 #include "ui/bureau/texte_qt.h"
 #include "ui/carte/boites.h"
+#include "ui/carte/chapitre.h"
 #include "ui/carte/saisie.h"
 #include "ui/dialogues/dlg2.h"
+#include "ui/dialogues/guide.h"
 #include "ui/widgets/filtre_edition.h"
 #include "ui/widgets/gestes.h"
 #include "ui/widgets/police.h"
@@ -17,6 +19,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QShortcut>
 
 #include <algorithm>
 
@@ -43,6 +46,8 @@ Dlg1::Dlg1(std::filesystem::path lecteur, Systeme& systeme, QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::Dlg1>()), lecteur_(std::move(lecteur)),
       systeme_(systeme) {
     ui_->setupUi(this);
+    connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
+            [this] { Guide::Ouvrir(*this, kChapitreCreation); });
     ui_->LabDisk->setText(Q(" Le disque courant est le disque : " + TexteLecteur(lecteur_)));
     GarderPlace(*ui_->Dlg1Fra3);
     ui_->Dlg1Fra3->hide();

@@ -3,6 +3,8 @@
 #include "core/texte.h"
 #include "geo/locator.h"
 #include "geo/notations.h"
+#include "ui/carte/chapitre.h"
+#include "ui/dialogues/guide.h"
 #include "ui/widgets/gestes.h"
 #include "ui_dlg2.h"
 
@@ -10,6 +12,7 @@
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QShortcut>
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <QValidator>
@@ -75,6 +78,8 @@ class Dlg2::Filtre : public QValidator {
 
 Dlg2::Dlg2(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::Dlg2>()) {
     ui_->setupUi(this);
+    connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
+            [this] { Guide::Ouvrir(*this, kChapitreCoordonnees); });
     using enum Touches;
     constexpr Regle kSoixante{Chiffres, 2, 60};
     constexpr Regle kDecimal{Decimal, 0, 0};

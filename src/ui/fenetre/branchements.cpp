@@ -4,6 +4,7 @@
 #include "ui/fenetre/menus.h"
 #include "ui/fenetre/orvalis.h"
 #include "ui/flux/commandes.h"
+#include "ui/flux/flux_compagnons.h"
 #include "ui/flux/flux_demarrage.h"
 #include "ui/flux/flux_locator.h"
 #include "ui/flux/flux_navigation.h"
@@ -42,6 +43,8 @@ std::vector<EntreeDeMenu> Orvalis::BrancherMenus() {
     auto* echap = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     echap->setAutoRepeat(false);
     Brancher(echap, &QShortcut::activated, [this] { Echapper(p_); });
+    auto* aide = new QShortcut(QKeySequence(Qt::Key_F1), this);
+    Brancher(aide, &QShortcut::activated, [this] { VoirGuide(p_); });
     return entrees;
 }
 

@@ -5,8 +5,10 @@
 #include "core/erreurs.h"
 #include "ui/bureau/systeme.h"
 #include "ui/bureau/texte_qt.h"
+#include "ui/carte/chapitre.h"
 #include "ui/dialogues/a_propos.h"
 #include "ui/dialogues/dlg2.h"
+#include "ui/dialogues/guide.h"
 
 #include <optional>
 #include <string_view>
@@ -54,6 +56,12 @@ void EditerLocator(Plateau& p) {
 void VoirInfos(Plateau& p) {
     APropos infos(p.systeme, &p.fenetre);
     p.dehors([&] { infos.exec(); });
+    if (infos.GuideVoulu())
+        VoirGuide(p);
+}
+
+void VoirGuide(Plateau& p) {
+    Guide::Ouvrir(p.fenetre, ChapitreDuGuide(p.session, p.ecran, p.feuille.vue));
 }
 
 } // namespace orvalis

@@ -15,7 +15,10 @@ void CreerBaseDeDonnees(Plateau& p);
 /// MnuEditLocator: the coordinates dialog.
 void EditerLocator(Plateau& p);
 
-/// MnuVoir: the About box.
+/// MnuVoir: the About box, which leads to the guide.
 void VoirInfos(Plateau& p);
+
+/// F1: the operator's guide, at the chapter of what is on show.
+void VoirGuide(Plateau& p);
 
 } // namespace orvalis

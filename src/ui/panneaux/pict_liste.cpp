@@ -2,6 +2,7 @@
 
 #include "ui/bureau/texte_qt.h"
 #include "ui/widgets/presence.h"
+#include "ui/widgets/teintes.h"
 #include "ui_pict_liste.h"
 
 #include <QKeyEvent>
@@ -44,6 +45,14 @@ PictListe::PictListe(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui
     connect(ui_->VScroll1, &QScrollBar::valueChanged, this, &PictListe::defilement);
     ui_->VScroll1->setSingleStep(kFichesParPage);
     ui_->VScroll1->setPageStep(kFichesParPage);
+    // Greyed with the list during entry, they are read all the same.
+    for (QLabel* label : {ui_->LabJournal, ui_->LabPage})
+        PeindreSelonBureau(*label, [label] {
+            QPalette palette;
+            palette.setColor(QPalette::Disabled, QPalette::WindowText,
+                             palette.color(QPalette::Active, QPalette::WindowText));
+            label->setPalette(palette);
+        });
     Dimensionner();
 }
 

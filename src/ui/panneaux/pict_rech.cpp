@@ -22,9 +22,7 @@ PictRech::PictRech(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::
     PeindreSelonBureau(*ui_->RechText, [this] {
         // Some dark palettes leave the placeholder black.
         QPalette palette;
-        QColor discret = palette.color(QPalette::Text);
-        discret.setAlpha(140);
-        palette.setColor(QPalette::PlaceholderText, discret);
+        palette.setColor(QPalette::PlaceholderText, Discrete(palette.color(QPalette::Text)));
         ui_->RechText->setPalette(palette);
     });
 }

@@ -2,6 +2,7 @@
 
 #include "ui/bureau/texte_qt.h"
 #include "ui/widgets/police.h"
+#include "ui/widgets/teintes.h"
 
 #include <QKeyEvent>
 #include <QSignalBlocker>
@@ -10,6 +11,17 @@
 namespace orvalis {
 
 ListeLignes::ListeLignes(QWidget* parent) : QListWidget(parent) {
+    // During entry it cannot be used, but it is read all the same.
+    PeindreSelonBureau(*this, [this] {
+        QPalette palette;
+        for (const QPalette::ColorRole role : {QPalette::Text, QPalette::HighlightedText})
+            palette.setColor(QPalette::Disabled, role,
+                             palette.color(QPalette::Active, QPalette::Text));
+        palette.setColor(QPalette::Disabled, QPalette::Highlight,
+                         Melange(palette.color(QPalette::Active, QPalette::Window),
+                                 palette.color(QPalette::Active, QPalette::Text), 0.15));
+        setPalette(palette);
+    });
     connect(this, &QListWidget::currentRowChanged, this, [this](int ligne) {
         if (ligne >= 0)
             Q_EMIT ligneChoisie(ligne);

@@ -62,6 +62,12 @@ void RougirTexte(QAbstractButton& bouton) {
     });
 }
 
+QColor Melange(const QColor& fond, const QColor& encre, double part) {
+    const auto mele = [part](int a, int b) { return qRound(a + (b - a) * part); };
+    return {mele(fond.red(), encre.red()), mele(fond.green(), encre.green()),
+            mele(fond.blue(), encre.blue())};
+}
+
 void PeindreSelonBureau(QWidget& widget, std::function<void()> peindre) {
     peindre();
     widget.installEventFilter(new Repeintre(widget, std::move(peindre)));

@@ -30,6 +30,15 @@ void RougirTexte(QAbstractButton& bouton);
     return EstSombre(fond) ? QColor(0xFF, 0x80, 0x80) : QColor(0xC0, 0, 0);
 }
 
+/// `texte` made pale, to be read beside it but not as it; 4.5:1 on the backgrounds of a box.
+[[nodiscard]] inline QColor Discrete(QColor texte) {
+    texte.setAlpha(150);
+    return texte;
+}
+
+/// `fond` with `part` (0 to 1) of `encre` in it.
+[[nodiscard]] QColor Melange(const QColor& fond, const QColor& encre, double part);
+
 /// Paints now, and again each time the desktop changes its colours while `widget` lives.
 void PeindreSelonBureau(QWidget& widget, std::function<void()> peindre);
 

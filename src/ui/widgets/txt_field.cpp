@@ -1,10 +1,12 @@
 #include "ui/widgets/txt_field.h"
 
 #include "ui/widgets/filtre_edition.h"
+#include "ui/widgets/police.h"
 #include "ui/widgets/teintes.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPalette>
 
 namespace orvalis {
@@ -48,6 +50,27 @@ void TxtField::AppliquerCouleur() {
         palette.setColor(QPalette::Text, RougeSur(palette.color(QPalette::Window)));
     }
     setPalette(palette);
+}
+
+// Qt shows no placeholder in a centred box that has the focus. Pale, slanted and small, an example
+// is never taken for a text that Enter would keep.
+void TxtField::paintEvent(QPaintEvent* evenement) {
+    QLineEdit::paintEvent(evenement);
+    if (!hasFocus() || boite_.exemple.empty() || !displayText().isEmpty())
+        return;
+    constexpr int kRetrait = 6; // behind the caret, and as much at the other end
+    const QString exemple = Q(boite_.exemple);
+    const QRect place = rect().adjusted(kRetrait, 0, -kRetrait, 0);
+    QFont penchee = PoliceAjustee(font(), kPetite);
+    penchee.setItalic(true);
+    const int large = QFontMetrics(penchee).horizontalAdvance(exemple);
+    if (large > place.width())
+        penchee = PoliceAjustee(penchee, static_cast<qreal>(place.width()) / large);
+    QPainter peintre(this);
+    peintre.setFont(penchee);
+    peintre.setPen(Discrete(palette().color(QPalette::Text)));
+    const auto cote = boite_.centre ? Qt::AlignHCenter : Qt::AlignLeft;
+    peintre.drawText(place, static_cast<int>(cote | Qt::AlignVCenter), exemple);
 }
 
 void TxtField::keyPressEvent(QKeyEvent* evenement) {

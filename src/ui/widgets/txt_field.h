@@ -29,6 +29,7 @@ class TxtField : public QLineEdit {
     void cliquee(); ///< press and release, or F2
 
   protected:
+    void paintEvent(QPaintEvent* evenement) override;
     void keyPressEvent(QKeyEvent* evenement) override;
     void mousePressEvent(QMouseEvent* evenement) override;
     void mouseMoveEvent(QMouseEvent* evenement) override;
