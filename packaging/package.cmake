@@ -15,7 +15,7 @@ set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS CHANGELOG.md pack
              packaging/org.orvalis.Orvalis.metainfo.xml)
 
 install(TARGETS orvalis RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(FILES packaging/orvalis.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES packaging/orvalis.desktop packaging/orvalis-exemple.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/orvalis.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES packaging/org.orvalis.Orvalis.metainfo.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
@@ -23,6 +23,31 @@ install(FILES packaging/orvalis.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES packaging/orvalis.fr.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/fr/man1 RENAME orvalis.1)
 install(FILES CHANGELOG.md docs/guide.md docs/formats.md packaging/copyright packaging/changelog
         DESTINATION ${CMAKE_INSTALL_DOCDIR})
+# The sample logbook and its launcher, which copies it once for each user.
+install(PROGRAMS packaging/orvalis-exemple DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(DIRECTORY ${exemple}/Orvalis DESTINATION ${CMAKE_INSTALL_DATADIR}/orvalis/exemple)
+
+# The guide for a browser too. The program needs no converter: F1 shows the text itself.
+foreach(essai /usr/bin/python3 python3)
+    execute_process(COMMAND ${essai} -c "import markdown" RESULT_VARIABLE absent OUTPUT_QUIET
+                    ERROR_QUIET)
+    if(absent EQUAL 0)
+        set(python_markdown ${essai})
+        break()
+    endif()
+endforeach()
+if(python_markdown)
+    set(guide_html ${CMAKE_BINARY_DIR}/guide.html)
+    add_custom_command(OUTPUT ${guide_html}
+        COMMAND ${python_markdown} ${CMAKE_SOURCE_DIR}/packaging/guide_html.py
+                ${CMAKE_SOURCE_DIR}/docs/guide.md ${guide_html}
+        DEPENDS docs/guide.md packaging/guide_html.py VERBATIM)
+    add_custom_target(orvalis_guide_html ALL DEPENDS ${guide_html})
+    install(FILES ${guide_html} DESTINATION ${CMAKE_INSTALL_DOCDIR})
+else()
+    message(STATUS "python3-markdown is missing: what is installed will hold the guide as Markdown, "
+                   "not as HTML.")
+endif()
 install(DIRECTORY docs/images DESTINATION ${CMAKE_INSTALL_DOCDIR} FILES_MATCHING PATTERN "*.png")
 
 set(CPACK_GENERATOR DEB)

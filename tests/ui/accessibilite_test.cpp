@@ -5,7 +5,13 @@
 #include <QAction>
 #include <QApplication>
 #include <QMenuBar>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTest>
+#include <QTextBlock>
+#include <QTextBrowser>
 
+#include <cmath>
 #include <set>
 
 namespace orvalis::operateur::accessibilite {
@@ -65,6 +71,79 @@ TEST(Accessibilite, NomsEtClavierDansChaqueEtat) {
         EXPECT_EQ(Defauts(*dialogue), "");
 }
 
+// In large type and on small screens too, and without a second scroll bar.
+TEST(Accessibilite, LaBoiteQuiALeFoyerSeVoit) {
+    const QFont avant = QApplication::font();
+    for (const int points : {8, 16})
+        for (const QSize taille : {QSize(1280, 680), QSize(683, 384)}) {
+            QFont police = avant;
+            police.setPointSize(points);
+            QApplication::setFont(police);
+            const Banc banc(Contacts(30) + Fin());
+            banc.fenetre->resize(taille);
+            for (const DescriptionBoite& d : kBoites) {
+                auto* boite = banc.Controle<QWidget>("TxtField_" + std::to_string(Numero(d.boite)));
+                boite->setFocus();
+                QTest::qWait(1);
+                EXPECT_EQ(boite->visibleRegion().boundingRect(), boite->rect())
+                    << points << " points, " << taille.width() << ", " << Numero(d.boite);
+            }
+            const auto* cadre = qobject_cast<QScrollArea*>(banc.fenetre->centralWidget());
+            EXPECT_EQ(cadre->horizontalScrollBar()->maximum(), 0) << points << taille.width();
+        }
+    QApplication::setFont(avant);
+}
+
+// Pixels of another colour than the ground, less a caret.
+TEST(Accessibilite, ExempleDansLaBoiteVideQuiALeFoyer) {
+    const Banc banc(Octets("F5XYZ") + Fin());
+    for (const auto& [nom, peint] : std::map<std::string, bool>{
+             {"TxtField_5", true}, {"TxtField_3", true}, {"TxtField_14", false}}) {
+        auto* boite = banc.Controle<QWidget>(nom);
+        for (const bool foyer : {false, true}) {
+            banc.Controle<QWidget>(foyer ? nom : "ListeLog")->setFocus();
+            const QImage image = boite->grab(boite->rect().adjusted(4, 4, -4, -4)).toImage();
+            int encre = 0;
+            for (int x = 0; x < image.width(); ++x)
+                for (int y = 0; y < image.height(); ++y)
+                    encre += image.pixel(x, y) != image.pixel(0, 0) ? 1 : 0;
+            EXPECT_EQ(encre > 2 * image.height(), peint && foyer) << nom << foyer;
+        }
+    }
+}
+
+// What is on show -> the chapter that F1 opens.
+TEST(Accessibilite, LeGuideSOuvreAuChapitre) {
+    for (const auto& [chemin, titre] : aides::Textes{
+             {"touche F1", "Parcourir le cahier"},
+             {"foyer TxtField_9; touche F1", "La fenêtre"},
+             {"touche Alt+N, F1", "Entrer des contacts"},
+             {"menu MnuJumeler; touche F1", "Jumeler deux cahiers"},
+             {"touche Alt+S, F1", "Supprimer"},
+             {"clic TxtField_12; touche F1", "Corriger"},
+             {"touche Alt+C, F1", "Retrouver une station, une date, un doublon"},
+             {"touche Alt+N; menu MnuChangerLocator; touche F1", "Changer de locator en portable"},
+             {"menu MnuGestionFeuilleQSL; touche F1", "Tenir la feuille"},
+             {"menu MnuGestionFeuilleQSL; clic BtTag_1; touche F1", "Préparer une étiquette"}}) {
+        Banc banc(Contacts(3) + Fin());
+        banc.Faire(chemin);
+        QTest::qWait(1);
+        const auto* texte = banc.Controle<QTextBrowser>("GuideTexte");
+        EXPECT_EQ(S(texte->cursorForPosition({40, 12}).block().text()), titre) << chemin;
+    }
+}
+
+double Contraste(const QColor& a, const QColor& b) {
+    const auto clarte = [](const QColor& couleur) {
+        const auto lineaire = [](double c) {
+            return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * lineaire(couleur.redF()) + 0.7152 * lineaire(couleur.greenF()) +
+               0.0722 * lineaire(couleur.blueF()) + 0.05;
+    };
+    return std::max(clarte(a), clarte(b)) / std::min(clarte(a), clarte(b));
+}
+
 TEST(Accessibilite, CouleursSuiventLeBureau) {
     Banc banc(Contacts(1) + Fin());
     banc.Suivre("labels : menu MnuGestionFeuilleQSL");
@@ -81,6 +160,16 @@ TEST(Accessibilite, CouleursSuiventLeBureau) {
         EXPECT_EQ(couleur("BtKillFiche", QPalette::ButtonText), rouge);
         EXPECT_EQ(couleur("TxtField_15", QPalette::Text), rouge);
         EXPECT_EQ(couleur("PictBtEtiq02", QPalette::WindowText), palette.color(QPalette::Mid));
+        for (const auto& [nom, encre, fond] :
+             {std::tuple{"ListeLog", QPalette::Text, QPalette::Base},
+              {"ListeLog", QPalette::HighlightedText, QPalette::Highlight},
+              {"LabJournal", QPalette::WindowText, QPalette::Window}}) { // as they are in entry
+            const QPalette grise = banc.Controle<QWidget>(nom)->palette();
+            EXPECT_GE(Contraste(grise.color(QPalette::Disabled, encre),
+                                grise.color(QPalette::Disabled, fond)),
+                      4.5)
+                << nom << sombre;
+        }
         EXPECT_EQ(couleur("RechText", QPalette::PlaceholderText).rgb(),
                   palette.color(QPalette::Text).rgb());
     }

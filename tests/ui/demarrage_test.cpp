@@ -100,6 +100,8 @@ TEST(Demarrage, CeQuiNeSOuvrePasFinitEnMessage) {
 
 TEST(Demarrage, HorlogeEtFin) {
     Banc banc(Fin());
+    EXPECT_THAT(S(banc.Controle<QWidget>("PageText1")->accessibleDescription()),
+                testing::HasSubstr("Alt+N"));
     banc.Suivre(R"(
  clock : -> LabHeure LabDate = 18:30:15|Samedi 21 Novembre 2026; caché PictRech
  an empty logbook makes no database : menu MnuCreateMDB refusé -> demandes =

@@ -32,6 +32,18 @@ VueBoutons VoirBoutons(const Session& session, const Ecran& ecran, unsigned cond
     return vue;
 }
 
+// What stands on an empty sheet; nothing once a contact is under entry.
+std::string Inviter(const Session& session, unsigned conditions) {
+    if (!Permis(kCahierOuvert | kPret | kHorsSaisie, conditions) || session.cahier.nbFiches > 0)
+        return {};
+    if (session.cahier.lectureSeule)
+        return "Ce cahier est vide.";
+    return "Le cahier est vide.\n\n"
+           "Alt+N (Nouveau QSO) : entrer le premier contact\n"
+           "Fichier > Jumeler deux Fichiers.Vek : reprendre les contacts d'un autre cahier\n"
+           "F1 : ouvrir le guide";
+}
+
 // Where the operator goes on when a wish cannot be granted, first what covers the rest.
 constexpr std::array<Foyer, 9> kReplis = {{
     {Cible::Revoir},
@@ -63,6 +75,7 @@ VueFenetre VoirFenetre(const Session& session, const Ecran& ecran, const EtatFeu
     if (feuille.vue.panneau)
         vue.feuille = feuille;
     vue.heure = ecran.heure;
+    vue.invitation = Inviter(session, vue.conditions);
     vue.titre = ecran.titre;
     vue.adieu = ecran.adieu;
     return vue;

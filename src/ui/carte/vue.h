@@ -52,6 +52,7 @@ struct VueFenetre {
     PanneauJumelage jumelage;
     EtatFeuille feuille; ///< as it is while it is on show, else blank
     std::optional<Instant> heure;
+    std::string invitation; ///< on the sheet of an empty logbook: how to begin
     std::string titre;
     std::string adieu;
     unsigned conditions = 0; ///< those that commands may count on (conditions.h)

@@ -115,6 +115,8 @@ void Peintre::PeindreCarte(const VueFenetre& vue) {
 }
 
 void Peintre::PeindreListe(const VueFenetre& vue) {
+    if (Differe(vue, &VueFenetre::invitation))
+        p_.page.Inviter(Q(vue.invitation));
     if (!Differe(vue, &VueFenetre::liste))
         return;
     const ListeDuCahier& liste = vue.liste;

@@ -107,7 +107,16 @@ const std::vector<RangeePage>& VuePage::Rangees() const {
 
 void VuePage::Montrer(std::shared_ptr<const ContenuPage> contenu) {
     contenu_ = std::move(contenu);
-    setAccessibleDescription(toPlainText());
+    DireTout();
+}
+
+void VuePage::Inviter(const QString& texte) {
+    invitation_ = texte;
+    DireTout();
+}
+
+void VuePage::DireTout() {
+    setAccessibleDescription(invitation_.isEmpty() ? toPlainText() : invitation_);
     viewport()->update();
 }
 
@@ -130,6 +139,28 @@ void VuePage::paintEvent(QPaintEvent* /*evenement*/) {
     peintre.fillRect(0, 0, mesures_.largeur, mesures_.hauteur, EncresDe(palette()).papier);
     PeindreRangees(peintre);
     PeindreTete(peintre);
+    if (!invitation_.isEmpty())
+        PeindreInvitation(peintre);
+}
+
+// Over the part that is on show, on paper free of lines.
+void VuePage::PeindreInvitation(QPainter& peintre) const {
+    const Encres encres = EncresDe(palette());
+    peintre.setFont(PoliceAjustee(font(), 1.1));
+    const QRect place =
+        viewport()->rect().translated(horizontalScrollBar()->value(), verticalScrollBar()->value());
+    const QRect libre(place.left(), mesures_.tete, std::min(place.width(), mesures_.largeur),
+                      std::min(place.height(), mesures_.hauteur) - mesures_.tete);
+    constexpr int kCentre = Qt::AlignCenter | Qt::TextWordWrap;
+    const int air = mesures_.ligne;
+    const QRect cadre =
+        peintre.boundingRect(libre.adjusted(air, air, -air, -air), kCentre, invitation_)
+            .adjusted(-air, -air, air, air);
+    peintre.setPen(encres.filet);
+    peintre.setBrush(encres.papier);
+    peintre.drawRect(cadre);
+    peintre.setPen(encres.encre);
+    peintre.drawText(cadre, kCentre, invitation_);
 }
 
 void VuePage::PeindreTete(QPainter& peintre) const {

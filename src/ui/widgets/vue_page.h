@@ -18,6 +18,8 @@ class VuePage : public QAbstractScrollArea {
 
     /// The rows of a page.
     void Montrer(std::shared_ptr<const ContenuPage> contenu);
+    /// A text across the sheet, for a page without rows.
+    void Inviter(const QString& texte);
     /// Marks the row of the record on the card, or none.
     void Marquer(NumeroFiche numero);
     /// Whether the sheet asks for the height of all its rows, because what holds it scrolls.
@@ -54,12 +56,15 @@ class VuePage : public QAbstractScrollArea {
     [[nodiscard]] Mesures Mesurer(qreal points) const;
     void Ajuster();
     void PeindreTete(QPainter& peintre) const;
+    void PeindreInvitation(QPainter& peintre) const;
+    void DireTout();
     void PeindreRangees(QPainter& peintre) const;
 
     [[nodiscard]] const std::vector<RangeePage>& Rangees() const;
 
     std::shared_ptr<const ContenuPage> contenu_ = std::make_shared<const ContenuPage>();
     NumeroFiche marquee_;
+    QString invitation_;
     Mesures mesures_;
 };
 
