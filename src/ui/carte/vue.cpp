@@ -39,9 +39,9 @@ std::string Inviter(const Session& session, unsigned conditions) {
     if (session.cahier.lectureSeule)
         return "Ce cahier est vide.";
     return "Le cahier est vide.\n\n"
-           "Alt+N (Nouveau QSO) : entrer le premier contact\n"
-           "Fichier > Jumeler deux Fichiers.Vek : reprendre les contacts d'un autre cahier\n"
-           "F1 : ouvrir le guide";
+           "Alt+N (Nouveau QSO) : entrer le premier contact\n"
+           "Fichier > Jumeler deux Fichiers.Vek : reprendre les contacts d'un autre cahier\n"
+           "F1 : ouvrir le guide";
 }
 
 // Where the operator goes on when a wish cannot be granted, first what covers the rest.

@@ -146,7 +146,7 @@ void VuePage::paintEvent(QPaintEvent* /*evenement*/) {
 // Over the part that is on show, on paper free of lines.
 void VuePage::PeindreInvitation(QPainter& peintre) const {
     const Encres encres = EncresDe(palette());
-    peintre.setFont(PoliceAjustee(font(), 1.1));
+    peintre.setFont(font());
     const QRect place =
         viewport()->rect().translated(horizontalScrollBar()->value(), verticalScrollBar()->value());
     const QRect libre(place.left(), mesures_.tete, std::min(place.width(), mesures_.largeur),
