@@ -96,12 +96,13 @@ TEST(Accessibilite, LaBoiteQuiALeFoyerSeVoit) {
 
 // Pixels of another colour than the ground, less a caret.
 TEST(Accessibilite, ExempleDansLaBoiteVideQuiALeFoyer) {
-    const Banc banc(Octets("F5XYZ") + Fin());
+    Banc banc(Fin());
+    banc.Suivre("entry : touche Alt+N; valide f5xyz -> foyer = TxtField_5");
     for (const auto& [nom, peint] : std::map<std::string, bool>{
-             {"TxtField_5", true}, {"TxtField_3", true}, {"TxtField_14", false}}) {
+             {"TxtField_5", true}, {"TxtField_6", true}, {"TxtField_14", false}}) {
         auto* boite = banc.Controle<QWidget>(nom);
         for (const bool foyer : {false, true}) {
-            banc.Controle<QWidget>(foyer ? nom : "ListeLog")->setFocus();
+            banc.Controle<QWidget>(foyer ? nom : "TxtField_9")->setFocus();
             const QImage image = boite->grab(boite->rect().adjusted(4, 4, -4, -4)).toImage();
             int encre = 0;
             for (int x = 0; x < image.width(); ++x)

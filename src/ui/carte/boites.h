@@ -70,7 +70,7 @@ struct DescriptionBoite {
     std::size_t longueur;     ///< most characters the box takes
     bool centre;
     Touches touches;
-    std::string_view exemple; ///< shown pale in the empty box that has the focus; none: nothing
+    std::string_view exemple; ///< shown pale in the empty box that is typed in; none: nothing
 };
 
 /// In the order of their numbers. My QSL has no example: it is left to the QSL service.

@@ -1,5 +1,6 @@
 #include "ui/widgets/txt_field.h"
 
+#include "ui/bureau/texte_qt.h"
 #include "ui/widgets/filtre_edition.h"
 #include "ui/widgets/police.h"
 #include "ui/widgets/teintes.h"
@@ -56,7 +57,7 @@ void TxtField::AppliquerCouleur() {
 // is never taken for a text that Enter would keep.
 void TxtField::paintEvent(QPaintEvent* evenement) {
     QLineEdit::paintEvent(evenement);
-    if (!hasFocus() || boite_.exemple.empty() || !displayText().isEmpty())
+    if (!hasFocus() || isReadOnly() || boite_.exemple.empty() || !displayText().isEmpty())
         return;
     constexpr int kRetrait = 6; // behind the caret, and as much at the other end
     const QString exemple = Q(boite_.exemple);
