@@ -140,6 +140,8 @@ void Guide::Habiller() {
         return;
     QTextDocument& document = *texte_->document();
     document.setUndoRedoEnabled(false);
+    QTextCursor ensemble(&document); // one layout for all that changes
+    ensemble.beginEditBlock();
     for (QTextBlock bloc = document.begin(); bloc.isValid(); bloc = bloc.next()) {
         if (bloc.blockFormat().headingLevel() == 0)
             continue;
@@ -160,6 +162,7 @@ void Guide::Habiller() {
             table->setFormat(format);
         }
     AjusterImages();
+    ensemble.endEditBlock();
     if (source.hasFragment())
         texte_->scrollToAnchor(source.fragment());
 }
@@ -168,6 +171,8 @@ void Guide::Habiller() {
 void Guide::AjusterImages() {
     QTextDocument& document = *texte_->document();
     const int place = texte_->viewport()->width() - 2 * qRound(document.documentMargin());
+    QTextCursor ensemble(&document);
+    ensemble.beginEditBlock();
     for (QTextBlock bloc = document.begin(); bloc.isValid(); bloc = bloc.next())
         for (auto it = bloc.begin(); !it.atEnd(); ++it) {
             QTextImageFormat image = it.fragment().charFormat().toImageFormat();
@@ -175,13 +180,18 @@ void Guide::AjusterImages() {
                 continue;
             const QUrl ou = texte_->source().resolved(QUrl(image.name()));
             const QSize taille = QImageReader(u':' + ou.path()).size();
-            image.setWidth(std::min(place, taille.width()));
+            const int large = std::min(place, taille.width());
+            if (qRound(image.width()) == large)
+                break;
+            image.setWidth(large);
+            image.setHeight(large * taille.height() / std::max(1, taille.width()));
             QTextCursor ici(&document);
             ici.setPosition(it.fragment().position());
             ici.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
             ici.setCharFormat(image);
             break; // the format of the block has changed under the walk: a picture stands alone
         }
+    ensemble.endEditBlock();
 }
 
 void Guide::resizeEvent(QResizeEvent* evenement) {
