@@ -117,11 +117,8 @@ TEST(Accessibilite, ExempleDansLaBoiteVideQuiALeFoyer) {
 TEST(Accessibilite, LeGuideSOuvreAuChapitre) {
     for (const auto& [chemin, titre] : aides::Textes{
              {"touche F1", "Parcourir le cahier"},
-             {"foyer TxtField_9; touche F1", "La fenêtre"},
-             {"touche Alt+N, F1", "Entrer des contacts"},
              {"menu MnuJumeler; touche F1", "Jumeler deux cahiers"},
              {"touche Alt+S, F1", "Supprimer"},
-             {"clic TxtField_12; touche F1", "Corriger"},
              {"touche Alt+C, F1", "Retrouver une station, une date, un doublon"},
              {"touche Alt+N; menu MnuChangerLocator; touche F1", "Changer de locator en portable"},
              {"menu MnuGestionFeuilleQSL; touche F1", "Tenir la feuille"},
