@@ -71,4 +71,15 @@ std::string HeureLongue(const Instant& instant) {
     return HeureCourte(instant) + ":" + DeuxChiffres(instant.secondes);
 }
 
+std::string MentionUtc(const Instant& instant) {
+    if (instant.decalageUtc == 0)
+        return {};
+    constexpr int kMinutesParHeure = 60;
+    const int ecart = std::abs(instant.decalageUtc);
+    const int minutes = ecart % kMinutesParHeure;
+    return std::string{"heure locale, UTC"} + (instant.decalageUtc < 0 ? "−" : "+") +
+           std::to_string(ecart / kMinutesParHeure) +
+           (minutes == 0 ? "" : ":" + DeuxChiffres(minutes));
+}
+
 } // namespace orvalis

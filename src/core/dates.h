@@ -15,6 +15,7 @@ struct Instant {
     int heures = 0;
     int minutes = 0;
     int secondes = 0;
+    int decalageUtc = 0; ///< minutes by which it is ahead of UTC
     friend bool operator==(const Instant&, const Instant&) = default;
 };
 
@@ -46,5 +47,8 @@ struct Verification {
 
 /// hh:mm:ss
 [[nodiscard]] std::string HeureLongue(const Instant& instant);
+
+/// "heure locale, UTC+5:30", hours alone where they are whole; nothing when the clock tells UTC.
+[[nodiscard]] std::string MentionUtc(const Instant& instant);
 
 } // namespace orvalis

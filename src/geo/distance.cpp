@@ -91,4 +91,18 @@ TextesDistance DistanceAzimut(MemoireDistance& memoire, std::string_view locator
             TexteAzimut(Azimut(memoire, cosDelta, cosAngle, angle))};
 }
 
+std::optional<int> CapVrai(const MemoireDistance& memoire) {
+    const double latitude1 = memoire.latitude1 * kRadian;
+    const double latitude2 = memoire.latitude2 * kRadian;
+    const double versLEst = (memoire.longitude1 - memoire.longitude2) * kRadian;
+    const double est = std::sin(versLEst) * std::cos(latitude2);
+    const double nord = std::cos(latitude1) * std::sin(latitude2) -
+                        std::sin(latitude1) * std::cos(latitude2) * std::cos(versLEst);
+    constexpr double kUnSeulPoint = 1e-9; // far less than a locator tells apart
+    if (std::hypot(est, nord) < kUnSeulPoint)
+        return std::nullopt;
+    const int degres = static_cast<int>(std::lround(std::atan2(est, nord) / kRadian));
+    return (degres + 360) % 360;
+}
+
 } // namespace orvalis

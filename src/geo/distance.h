@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -35,5 +36,11 @@ struct TextesDistance {
 ///  - two points that coincide are 0 km apart, in the direction 90 degrees.
 [[nodiscard]] TextesDistance DistanceAzimut(MemoireDistance& memoire, std::string_view locator1,
                                             std::string_view locator2);
+
+/// The direction in which the second point lies seen from the first: whole degrees from the North
+/// by the East, 0 to 359. The azimuth above counts by the West and takes a correspondent across the
+/// 180th meridian for one on this side of it; this is for a compass. Nothing when the points are
+/// one.
+[[nodiscard]] std::optional<int> CapVrai(const MemoireDistance& memoire);
 
 } // namespace orvalis

@@ -8,8 +8,6 @@
 namespace orvalis {
 namespace {
 
-constexpr int kLargeur = 5200;
-constexpr int kHauteur = 1780;
 constexpr std::array kXColonnes = {300, 6100};
 constexpr int kYPremiereRangee = 400;
 constexpr int kPas = 1980;
@@ -65,7 +63,9 @@ class Dessin {
     void Centrer(int gauche, int largeur, int y, std::string_view texte) {
         Ecrire(gauche + (largeur - imp_.LargeurTexte(texte)) / 2, y, texte);
     }
-    void Cadre() { imp_.TracerRectangle(o_.x, o_.y, o_.x + kLargeur, o_.y + kHauteur); }
+    void Cadre() {
+        imp_.TracerRectangle(o_.x, o_.y, o_.x + kLargeurEtiquette, o_.y + kHauteurEtiquette);
+    }
 
     void Tableau() {
         for (const int y : kFilets)
@@ -120,12 +120,13 @@ void ImprimerEtiquette(Imprimante& imprimante, PositionEtiquette position, Genre
     dessin.Police(kPoliceEtiquette, Longueur(enTete) < kEnTeteLong ? kPoliceGrande : kPolicePetite);
     dessin.Cadre();
     if (remplie) {
-        dessin.Centrer(0, kLargeur, 20, enTete);
+        dessin.Centrer(0, kLargeurEtiquette, kBandeEnTete.haut, enTete);
         if (!donnees.texte2.empty())
-            dessin.Ecrire(2100, 300, "Via QSL Manager " + donnees.texte2);
+            dessin.Ecrire(2100, kBandeManager.haut, "Via QSL Manager " + donnees.texte2);
     } else {
         imprimante.ChoisirTaille(kPoliceGrande);
-        dessin.Ecrire(200, 20, " " + std::string{station} + "   Confirming QSO with");
+        dessin.Ecrire(200, kBandeEnTete.haut,
+                      " " + std::string{station} + "   Confirming QSO with");
     }
     dessin.Tableau();
     dessin.Police(kPoliceValeurs, kPolicePetite);

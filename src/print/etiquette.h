@@ -27,6 +27,17 @@ struct DonneesEtiquette {
 
 enum class GenreEtiquette : std::uint8_t { Remplie = 1, Vierge = 2 };
 
+inline constexpr int kLargeurEtiquette = 5200; ///< twips
+inline constexpr int kHauteurEtiquette = 1780;
+
+/// The line of a label from `haut` to `bas`, in twips from its upper edge.
+struct BandeEtiquette {
+    int haut = 0;
+    int bas = 0;
+};
+inline constexpr BandeEtiquette kBandeEnTete = {20, 290};
+inline constexpr BandeEtiquette kBandeManager = {300, 570};
+
 /// Column (1 or 2) and row (1 to 8) of a label on the sheet.
 struct PositionEtiquette {
     int colonne = 1;

@@ -159,6 +159,14 @@ QslSlotRecord LireEnregistrement(const FeuilleQSL& feuille, Place place) {
     return etiquette;
 }
 
+QslSlotRecord EtiquetteDesBoites(const EtatFeuille& feuille) {
+    QslSlotRecord etiquette;
+    for (const LienBoite& lien : kLiens)
+        MettreChamp(etiquette, lien.champ, feuille.boites[lien.ecrite]);
+    MettreChamp(etiquette, ChampEtiquette::Voie, TexteVoie(feuille));
+    return etiquette;
+}
+
 void LireEtiquette(FeuilleQSL& feuille, Place place) {
     feuille.tampon = LireEnregistrement(feuille, place);
     for (const LienBoite& lien : kLiens)
@@ -175,9 +183,7 @@ void LireEtiquette(FeuilleQSL& feuille, Place place) {
 
 void EcrireEtiquette(FeuilleQSL& feuille, Place place) {
     OuvrirFeuilleQSL(feuille);
-    for (const LienBoite& lien : kLiens)
-        MettreChamp(feuille.tampon, lien.champ, feuille.boites[lien.ecrite]);
-    MettreChamp(feuille.tampon, ChampEtiquette::Voie, TexteVoie(feuille));
+    feuille.tampon = EtiquetteDesBoites(feuille);
     EcrireEntier(feuille.fichier, Position(place), feuille.tampon.octets);
     feuille.connue[EtatFeuille::Rang(place)] = feuille.tampon;
 }

@@ -61,6 +61,9 @@ struct VueFeuille {
     friend bool operator==(const VueFeuille&, const VueFeuille&) = default;
 };
 
+/// The records of all places.
+using Planche = std::array<QslSlotRecord, kNbEtiquettes>;
+
 /// What the sheet and the label editor show.
 struct EtatFeuille {
     std::array<EtatEtiquette, kNbEtiquettes> etats{};
@@ -70,6 +73,8 @@ struct EtatFeuille {
     bool fraiche = false;       ///< the boxes hold a label that was never on the sheet
     Place etiquetteEnCours;     ///< place under edit; none while there is no label
     std::string ligneMemorisee; ///< first text line of the last label validated in this run
+    QslSlotRecord tampon;       ///< label last read or written
+    Planche connue; ///< what the screen stands for: as the file was loaded or written last
     VueFeuille vue;
 
     [[nodiscard]] EtatEtiquette Etat(Place place) const { return etats[Rang(place)]; }
@@ -80,15 +85,10 @@ struct EtatFeuille {
     friend bool operator==(const EtatFeuille&, const EtatFeuille&) = default;
 };
 
-/// The records of all places.
-using Planche = std::array<QslSlotRecord, kNbEtiquettes>;
-
 /// The sheet with its file.
 struct FeuilleQSL : EtatFeuille {
     std::filesystem::path chemin;
     Fichier fichier;
-    QslSlotRecord tampon; ///< label last read or written
-    Planche connue;       ///< what the screen stands for: as the file was loaded or written last
 };
 
 /// The two buttons of one place.
@@ -121,6 +121,9 @@ void ChargerFeuilleQSL(FeuilleQSL& feuille, const std::filesystem::path& dossier
 /// The record of a place, blank beyond the end of the file. For the printer and for checks:
 /// changes nothing.
 [[nodiscard]] QslSlotRecord LireEnregistrement(const FeuilleQSL& feuille, Place place);
+
+/// The record that EcrireEtiquette would write from the boxes and the route option.
+[[nodiscard]] QslSlotRecord EtiquetteDesBoites(const EtatFeuille& feuille);
 
 /// Reads a place into the boxes and the route option; NrTag names it.
 void LireEtiquette(FeuilleQSL& feuille, Place place);

@@ -63,6 +63,12 @@ TEST(Dates, TextesDeLHorloge) {
     EXPECT_EQ(DateLongue({2000, 2, 29}), "Mardi 29 Février 2000");
     EXPECT_EQ(DateCourte(instant), "02/08/26");
     EXPECT_EQ(HeureLongue(instant), "07:05:09");
+    const auto mention = [](const std::string& minutes) {
+        return MentionUtc({.decalageUtc = std::stoi(minutes)});
+    };
+    EXPECT_EQ(Suite(mention, "0|60|330|-210|-15|840"),
+              "|heure locale, UTC+1|heure locale, UTC+5:30|heure locale, UTC−3:30|"
+              "heure locale, UTC−0:15|heure locale, UTC+14");
 }
 
 TEST(Departements, NomDuCode) {

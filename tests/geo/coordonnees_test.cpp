@@ -92,6 +92,23 @@ TEST(Distance, QuandLesFormulesNOntPasDeValeur) {
         EXPECT_EQ(Dire(memoire, "", ""), attendu);
 }
 
+TEST(Distance, CapVraiDesDeuxCotes) {
+    const auto dire = [](const std::string& d) {
+        MemoireDistance memoire;
+        const std::string azimut = DistanceAzimut(memoire, d.substr(0, 6), d.substr(7)).azimut;
+        return azimut + ' ' + std::to_string(CapVrai(memoire).value_or(-1));
+    };
+    Verifier(dire, Textes{{"JN04SD JN04TD", "270° 90"},
+                          {"JN04SD FN31PR", "065° 295"},
+                          {"JN04SD JO62QM", "321° 39"},
+                          {"JN04SD JN04SE", "000° 0"},
+                          {"JN04SD JN03SD", "180° 180"},
+                          {"JN04SD JN04SD", "090° -1"},
+                          // Across the 180th meridian the azimuth takes the East for the West.
+                          {"RJ50AA AJ50AA", "090° 90"},
+                          {"AJ50AA RJ50AA", "270° 270"}});
+}
+
 TEST(Notations, DegresMinutesSecondes) {
     const std::pair<Dms, const char*> cas[] = {
         {{44, 8, 45}, "44.1375"}, {{0, 0, 1}, "0.0001"},       {{0, 1, 0}, "0.0200"},

@@ -1,6 +1,8 @@
 #include "aides.h"
 #include "print/enregistreur.h"
 #include "print/etiquette.h"
+#include "ui/carte/apercu_etiquette.h"
+#include "ui/carte/donnees_etiquette.h"
 
 namespace orvalis::aides::etiquette {
 
@@ -26,6 +28,34 @@ TEST(Etiquette, Remplie) {
     EXPECT_EQ(donnees.texte2 + donnees.route + donnees.mode, "F6KQVBUREAUCW") << "trimmed in place";
     EXPECT_EQ(OrigineDeEtiquette({2, 9}), (OrigineEtiquette{6100, 0}));
     EXPECT_EQ(OrigineDeEtiquette({1, 0}), (OrigineEtiquette{300, 0}));
+}
+
+TEST(Etiquette, ApercuEtCeQuiYEstDouteux) {
+    // Callsign, heading and remark of the boxes; what is printed as heading and manager, and what
+    // of both is to be looked at twice. The own callsign is F5AB.
+    const auto dire = [](const std::string& boites) {
+        EtatFeuille feuille;
+        const auto b = Couper(boites, ",");
+        std::tie(feuille.boites[kBoiteIndicatif], feuille.boites[kBoiteLigne1],
+                 feuille.boites[kBoiteLigne2]) = std::tie(b.at(0), b.at(1), b.at(2));
+        feuille.fraiche = true;
+        const auto apercu = VoirApercu(feuille, "F5AB");
+        if (!apercu)
+            return std::string{"rien"};
+        const DonneesEtiquette d = DonneesDeEtiquette(apercu->etiquette);
+        return d.texte1 + '|' + d.texte2 + (apercu->sansIndicatif ? " indicatif" : "") +
+               (apercu->sansManager ? " manager" : "");
+    };
+    Verifier(dire, Textes{{"F6A,de f5ab/p,dl9abc/p", "de f5ab/p|dl9abc/p"},
+                          {"F6A,F5ABC,", "F5ABC| indicatif"},
+                          {"F6A,,BEAM 3", "|BEAM 3 indicatif manager"},
+                          {"F6A,F5ABC F5AB,73", "F5ABC F5AB|73 manager"},
+                          {"F6A,F5AB,59ANTENNE 12", "F5AB|59ANTENNE 12 manager"},
+                          // A label takes fifteen characters of what its boxes show.
+                          {"F6A,de la part de F5AB,BEAM 3 EL      DL9ABC",
+                           "de la part de F|BEAM 3 EL indicatif manager"},
+                          {",F5AB,", "rien"},
+                          {"***,F5AB,", "rien"}});
 }
 
 TEST(FeuilleImprimee, EtiquettesAuxLongsEnTetes) {

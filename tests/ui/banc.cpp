@@ -119,6 +119,12 @@ std::string Banc::Etat(const std::string& nom) const {
     const auto est = [controle](const char* quoi) { return controle->property(quoi).toBool(); };
     if (!est("enabled") || (controle->isWidgetType() && !est("visible")))
         return controle->isWidgetType() && !est("visible") ? "caché" : "grisé";
+    const auto* boite = qobject_cast<const QLineEdit*>(controle);
+    const auto rouge = [boite](QPalette::ColorRole role) {
+        return boite != nullptr && boite->palette().color(role) == QColor(0xA0, 0, 0);
+    };
+    if (rouge(QPalette::Text) && rouge(QPalette::HighlightedText))
+        return "rouge";
     return est("checked") ? "coché" : est("readOnly") ? "lecture" : "actif";
 }
 

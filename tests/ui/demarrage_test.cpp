@@ -27,7 +27,7 @@ TEST(Demarrage, PremierLancementCreeLeCahierPuisLOuvre) {
     DansLaCreation(banc, R"(
  Escape ends nothing : touche Esc -> Dlg1Fra2Text1 =
  no callsign : foyer Dlg1Fra2Text2; valide jn99zz -> Dlg1Fra2Text2 = JN99ZZ; foyer = Dlg1Fra2Text1
- no such locator : valide f5abc, jn99zz -> Dlg1Fra2Text2 = ERREUR
+ no such locator : valide f5abc, jn99zz -> Dlg1Fra2Text2 = ERREUR; rouge Dlg1Fra2Text2
  the callsign as it stands : foyer Dlg1Fra2Text1; tape /p; foyer Dlg1Fra2Text2; touche Ctrl+A
  announced : valide jn04sd -> Dlg1Fra3Lab2 = "~/F5ABCP.Vek va être créé "; caché Dlg1Fra3Lab3
  a key too many : foyer Dlg1Fra2Text2; tape x -> actif Dlg1Fra3
@@ -99,11 +99,15 @@ TEST(Demarrage, CeQuiNeSOuvrePasFinitEnMessage) {
 }
 
 TEST(Demarrage, HorlogeEtFin) {
-    Banc banc(Fin());
+    Banc banc;
+    banc.systeme.maintenant.decalageUtc = 60;
+    banc.Installer(Fin());
+    banc.Ouvrir();
     EXPECT_THAT(S(banc.Controle<QWidget>("PageText1")->accessibleDescription()),
                 testing::HasSubstr("Alt+N"));
     banc.Suivre(R"(
- clock : -> LabHeure LabDate = 18:30:15|Samedi 21 Novembre 2026; caché PictRech
+ clock : -> LabHeure LabDate LabUTC = "18:30:15|Samedi 21 Novembre 2026|heure locale, UTC+1";
+     caché PictRech
  an empty logbook makes no database : menu MnuCreateMDB refusé -> demandes =
  companion : clic Horloge -> demandes = ~/Chronel.exe|~/Chronel;
      averti = "Impossible de démarrer « ~/Chronel.exe » : refus 1."

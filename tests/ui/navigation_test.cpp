@@ -76,6 +76,23 @@ TEST(Navigation, DerriereLaDerniereFicheListee) {
  the last one before : touche PgUp -> ici = "Page 1311 / 1311| Fiche N° 32751 ")");
 }
 
+// Outside entry and correction, what a search or a list of contacts chooses is seen in its page.
+TEST(Navigation, LaPageSuitLeContactTrouve) {
+    Banc banc(Contacts(60) + Octets("F3QSO/P") + Fin());
+    banc.groupes["ici"] = "NoFicheLab LabPage ligne";
+    banc.Suivre(R"(
+ search : foyer RechText; valide f3qso -> ici = " Fiche N° 3 |Page 1 / 3|3/25"; PageText1 contient
+     F3QSO
+ line of the contacts : touche Tab; foyer ContactsListe; touche Down
+     -> ici = " Fiche N° 61 |Page 3 / 3|11/11"
+ list of the station : clic BtContactsFermer; ligne 2; clic BtActiveRech
+     -> ici = " Fiche N° 52 |Page 3 / 3|2/11"
+ under correction it stays : clic BtContactsFermer; foyer RechText; valide f3qso; clic TxtField_12;
+     valide Luc; foyer ContactsListe; touche Down -> ici = " Fiche N° 61 |Page 1 / 3|3/25"
+ in entry it stays : clic BtContactsFermer, BtNewQSO; valide f30qso; clic BtActiveRech
+     -> LabPage ligne = "Page 3 / 3|11/11")");
+}
+
 // A list that takes the focus without a current line must not choose one by itself.
 TEST(Navigation, LaCarteNeChangePasToutSeule) {
     Banc banc(Contacts(60) + Fin());
@@ -96,12 +113,17 @@ TEST(Navigation, CarteListeEtFeuilleMontrentLesOctets) {
                "JN04SD") +
         Octets("F5XYZ") + Fin());
     banc.Suivre(R"(
- both locators empty : -> LabDist LabAzim = "0 Km      |... "
+ both locators empty : -> LabDist LabAzim = "0 Km      |... "; caché LabUTC
  list : rangee 1 -> ListeLog =
      "1      : F6ABCDEFGH:12/05/02:18:30      |2      : F5XYZ     :        :           "
  card : -> NoFicheLab TxtField_1 TxtField_13 TxtField_17 LabDept LabDist LabAzim =
      " Fiche N° 1 |F6ABCDEFGHIJ/P|ANTENNE YAGI 3|F5XYZ|Aisne|1275.5 Km |321°"
  sheet : -> PageText1 contient "Besançon             Éloïse")");
+    const std::string lu = S(banc.Controle<QWidget>("BoussoleAzim")->accessibleName());
+    EXPECT_EQ(lu,
+              "Azimut 321°, compté vers l'ouest : la station est au cap 039°, compté vers l'est");
+    banc.Suivre("no locator : ligne 2 ->");
+    EXPECT_EQ(S(banc.Controle<QWidget>("BoussoleAzim")->accessibleName()), "");
 }
 
 } // namespace orvalis::operateur::navigation

@@ -41,7 +41,13 @@ TEST(Qsl, VieDUneEtiquette) {
  a fresh label : -> NrTag FLdText_8 = Etiquette N° 1|BÉAM 3 EL      DL9ABC; caché BtValidQSL
  meanwhile : -> grisé MnuCourantF MnuClasser MnuImpPage MnuDoublons MnuVirginTags
      MnuGestionFeuilleQSL; actif MnuQuitter MnuEditLocator MnuVoir
- heading : valide F5ABC -> actif BtValidQSL
+ label as stored, not as typed : -> EtiquetteApercu contient
+     "  Confirming QSO with  F6XYZ/P\nVia QSL Manager BÉAM 3 EL\nTO"; LabApercu =
+     "L'en-tête ne porte pas votre indicatif, F5ABC.\nAprès « Via QSL Manager » il y a
+     une remarque, pas un manager."
+ own callsign : touche Alt+M -> FLdText_7 foyer = F5ABC|FLdText_7; LabApercu =
+     "Après « Via QSL Manager » il y a une remarque, pas un manager."
+ heading : entree 1 -> actif BtValidQSL; foyer = FLdText_8
  stored : touche Alt+B, Alt+V -> caché PictFeuilleQSL; actif PictFiche PictListe
  marked : -> TxtField_14 foyer ligne = En cours|ListeLog|3/3
  the next one : menu MnuGestionFeuilleQSL; clic BtTag_5 -> FLdText_1 FLdText_7 = |F5ABC
@@ -65,12 +71,14 @@ TEST(Qsl, VieDUneEtiquette) {
     std::vector<std::string> operations;
     banc.systeme.imprimante = [&] { return std::make_unique<Enregistreur>(operations); };
     banc.Suivre(R"(
- sheet : menu MnuGestionFeuilleQSL
-     -> BtTag_1 BtTag_3 foyer = F6XYZ/P [1]|Etiquette  [3] libre|BtChoix_1
+ sheet : menu MnuGestionFeuilleQSL -> caché EtiquetteApercu; EtiquetteVue_3 =;
+     EtiquetteVue_1 contient 59+20dB\nSSB; BtTag_1 BtTag_3 foyer = F6XYZ/P [1]|Etiquette  [3] libre|BtChoix_1
  on paper : clic BtPrintQSL; touche Return -> foyer = BtChoix_1
- review : touche Return -> FLdText_5 FLdText_6 = 59+20dB|SSB; lecture FLdText_7
+ review : touche Return -> FLdText_5 FLdText_6 = 59+20dB|SSB; lecture FLdText_7;
+     EtiquetteApercu contient 59+20dB\nSSB; grisé BtIndicatifQSL
  the way out : -> caché BtQuitQSL; foyer = BtLeaveQSL
- taken off : touche Alt+S -> BtTag_1 = Etiquette  [1] libre)");
+ taken off : touche Alt+S -> BtTag_1 EtiquetteVue_1 = Etiquette  [1] libre|;
+     caché EtiquetteApercu)");
     EXPECT_THAT(operations, testing::IsSupersetOf(Liste(R"(
  R 300 400 5500 2180; T 1150 420 10g Comic sans MS F5ABC  Confirming QSO with  F6XYZ/P;
  T 2400 700 10g Comic sans MS Via QSL Manager BÉAM 3 EL; T 824 1320 8g Courrier F6XYZ/P;

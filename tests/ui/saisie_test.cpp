@@ -2,6 +2,8 @@
 #include "ui/banc.h"
 
 #include <QAbstractButton>
+#include <QListWidget>
+#include <QScrollBar>
 #include <QTimer>
 #include <QTimerEvent>
 
@@ -81,9 +83,10 @@ TEST(Saisie, LocatorFauxGeleUneSeconde) {
         QTimerEvent tic(banc.Controle<QTimer>("Timer1")->timerId());
         QCoreApplication::sendEvent(banc.Controle<QTimer>("Timer1"), &tic);
         banc.Suivre("gel : touche Backspace; valide x; clic BtEnrAnnuler -> TxtField_10 = ERREUR; "
-                    "LabHeure = 18:30:16");
+                    "LabHeure = 18:30:16; rouge TxtField_10");
     };
-    banc.Suivre("wrong : valide jn99zz -> TxtField_1 TxtField_10 foyer = F6ABC||TxtField_10");
+    banc.Suivre("wrong : valide jn99zz -> TxtField_1 TxtField_10 foyer = F6ABC||TxtField_10; actif "
+                "TxtField_10");
     EXPECT_FALSE(banc.systeme.pendantPause) << "there was no pause";
     banc.systeme.pendantPause = [&banc] { banc.fenetre->close(); };
     banc.Suivre("quit meanwhile : clic TxtField_16; valide jn99zz -> ChangLocText = ERREUR");
@@ -147,23 +150,34 @@ TEST(Saisie, ModificationSansSourisEtRefus) {
     Banc banc(Contacts(3) + Fin());
     banc.Suivre(R"(
  Enter alone modifies nothing : foyer TxtField_6; valide CW -> caché FraMsgFiche
- F2 : foyer TxtField_6; touche F2; valide CW -> actif FraMsgFiche
+ F2 : foyer TxtField_6; touche F2; valide CW -> actif FraMsgFiche;
+     FraLabTouches = Alt+O : oui\nAlt+N : non
  No : touche Alt+N -> TxtField_6 = SSB; actif BtActiveRech
  another card while it waits is a No : clic TxtField_6; valide AM; ligne 1 -> caché FraMsgFiche)");
     EXPECT_EQ(Difference(banc.OctetsCahier(), Contacts(3) + Fin()), "");
-    banc.Suivre("deleted : clic BtKillFiche; touche Alt+O");
+    banc.Suivre("deletion : clic BtKillFiche -> actif FraMsgFiche");
+    const auto ou = [&banc](const char* nom) {
+        const auto* w = banc.Controle<QWidget>(nom);
+        return QRect(w->mapTo(banc.fenetre.get(), QPoint()), w->size());
+    };
+    for (const char* nom : {"PictPage", "PictFiche", "PictMenu", "PictRech"})
+        EXPECT_FALSE(ou("FraMsgFiche").intersects(ou(nom))) << nom;
+    banc.Suivre("deleted : touche Alt+O");
     EXPECT_EQ(banc.OctetsCahier().substr(0, 2 * kTailleFiche), Contacts(3).substr(kTailleFiche));
 }
 
 TEST(Recherche, SansIndicatifLaListeEstVide) {
     Banc banc(Octets("|12/05/02") + Contacts(1) + Fin());
     banc.Suivre("emptied : clic BtActiveRech, BtContactsFermer; ligne 1; clic BtActiveRech -> "
-                "ContactsListe NbreContacts ContactsLab = |0|");
+                "ContactsListe NbreContacts ContactsLab = |0|Contacts");
 }
 
 TEST(Recherche, IndicatifDateEtDoublons) {
     const std::string jumelle = Octets("F6ABC/P|13/05/02|10:00||7.050");
     Banc banc(Contacts(2) + Octets("f6abc") + jumelle + jumelle + Fin());
+    banc.Suivre(
+        "two at first : foyer RechText; valide 12/05/02 -> NbreContacts ContactsLab = 2|Contacts");
+    banc.Suivre("closed : clic BtContactsFermer");
     banc.Suivre("pasted : foyer RechText; colle RechText f6ab; touche Ctrl+A; "
                 "colle RechText \u0007 -> RechText = F6AB");
     banc.Suivre(R"(
@@ -173,7 +187,7 @@ TEST(Recherche, IndicatifDateEtDoublons) {
  first card : -> NbreContacts NoFicheLab foyer = 3 Contacts réalisés| Fiche N° 3 |ListeLog
  typed : foyer ContactsListe; tape 5 -> NoFicheLab = " Fiche N° 3 "
  closed : clic BtContactsFermer -> actif PictRech
- date : foyer RechText; valide 12/05/02 -> NbreContacts = 2
+ date : foyer RechText; valide 12/05/02 -> NbreContacts ContactsLab = 2|
  doubles : clic BtContactsFermer; menu MnuDoublons -> grisé BtNewQSO; ContactsListe NbreContacts
      ContactsLab = "4      F6ABC/P   Le 13/05/02 à 10:00          |1|Doublon trouvé"
  closed again : clic BtContactsFermer -> actif BtNewQSO
@@ -190,6 +204,34 @@ TEST(Recherche, IndicatifDateEtDoublons) {
  deleted : clic BtActiveRech; touche Alt+S, Alt+O -> caché PictContacts
  during entry : touche Alt+N; valide f6xyz; clic BtActiveRech; valide 14.2; tape ss; touche Alt+L
      -> TxtField_6 foyer = SS|TxtField_6)");
+}
+
+// After a deletion the duplicates that are left are on show, scrolled as they were.
+TEST(Recherche, DoublonsEffacesUnParUn) {
+    const auto double_ = [](int n) { return Octets("F" + std::to_string(n) + "QSO"); };
+    std::string octets;
+    for (int n = 10; n < 70; ++n)
+        octets += double_(n) + double_(n);
+    Banc banc(octets + Fin());
+    auto* defilement = banc.Controle<QListWidget>("ContactsListe")->verticalScrollBar();
+    banc.groupes["ici"] = "NbreContacts NoFicheLab LabPage";
+    banc.Suivre("found : menu MnuDoublons -> NbreContacts = 60");
+    for (int n = 0; n < 45; ++n)
+        banc.Suivre("down : touche Down");
+    const int ici = defilement->value();
+    EXPECT_GT(ici, 0);
+    banc.Suivre(R"(
+ found : -> ici = "60| Fiche N° 91 |Page 4 / 5"
+ deleted : clic BtKillFiche; touche Alt+O -> ici = "59| Fiche N° 100 |Page 4 / 5"; actif
+     PictContacts; grisé BtNewQSO; foyer = ListeLog)");
+    EXPECT_EQ(defilement->value(), ici);
+    EXPECT_EQ(banc.Controle<QListWidget>("ContactsListe")->currentRow(), -1);
+    banc.Suivre(
+        "on from what is in sight : foyer ContactsListe; touche Down -> NoFicheLab = \" Fiche N° " +
+        std::to_string(2 * ici + 1) + " \"");
+    banc.Suivre(R"(
+ another list goes : clic BtContactsFermer; foyer RechText; valide f11qso; clic BtKillFiche;
+     touche Alt+O -> caché PictContacts; actif BtNewQSO)");
 }
 
 } // namespace orvalis::operateur::saisie

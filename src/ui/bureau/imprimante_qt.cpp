@@ -5,51 +5,26 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QFontMetricsF>
 #include <QPageLayout>
 #include <QPageSize>
+#include <QPainter>
 #include <QPrintEngine>
 #include <QSaveFile>
 #include <QString>
 #include <QTemporaryFile>
 #include <QVariant>
 
-#include <algorithm>
 #include <array>
-#include <cmath>
 #include <memory>
-#include <utility>
 
 namespace orvalis {
 namespace {
 
 constexpr int kTwipsParPouce = 1440;
-constexpr int kTwipsParPoint = 20;
-constexpr double kEpaisseurTrait = 8; // twips
 
 // A device that prints up to the edge (a PDF file) names no margin. Ten points centre the page
 // and the sheet of labels on A4 and keep a PDF printable on any printer.
 constexpr QMarginsF kMargesParDefaut{10, 10, 10, 10};
-
-// Families that stand in for one the system lacks, best first. The layouts are measured for the
-// narrow faces asked for; what the system would pick by itself crosses the rules, and for the
-// second is a script with swashes. A family that is not here gets the system's choice.
-struct Remplacants {
-    std::string_view famille;
-    std::array<std::string_view, 3> par;
-};
-constexpr std::array kRemplacants = {
-    Remplacants{"MS sans Serif", {"Microsoft Sans Serif", "Arial", "Liberation Sans"}},
-    Remplacants{"Comic sans MS", {"Comic Relief", "Comic Neue", "Liberation Sans"}},
-    // Kept on purpose with its double r, for the printed sheets: no system has it, and Arial is
-    // what the layout was measured with in its place. A wider face runs the date of a label into
-    // the time.
-    Remplacants{"Courrier", {"Arial", "Liberation Sans", "Nimbus Sans"}},
-};
-
-QString Texte(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
 
 bool EstPdf(const QPrinter& imprimante) {
     return imprimante.outputFormat() == QPrinter::PdfFormat;
@@ -137,58 +112,8 @@ void ImprimanteQt::ChoisirPapier(Papier papier, Orientation orientation) {
     imprimante_.setPageMargins(marges.isNull() ? kMargesParDefaut : marges, QPageLayout::Point);
 }
 
-void ImprimanteQt::ChoisirPolice(std::string_view famille) {
-    QStringList familles{Texte(famille)};
-    for (const Remplacants& remplacants : kRemplacants)
-        if (remplacants.famille == famille)
-            for (const std::string_view par : remplacants.par)
-                familles << Texte(par);
-    police_.setFamilies(familles);
-}
-
-// One unit is a twip, so that the size in units does not depend on the device.
-void ImprimanteQt::ChoisirTaille(int points) {
-    police_.setPixelSize(points * kTwipsParPoint);
-}
-
-void ImprimanteQt::ChoisirGras(bool gras) {
-    police_.setBold(gras);
-}
-
-void ImprimanteQt::Placer(int x, int y) {
-    position_ = QPointF(x, y);
-}
-
-void ImprimanteQt::Ecrire(std::string_view utf8, Suite suite) {
-    const QFontMetricsF mesures(police_, &imprimante_);
-    const QString texte = Texte(utf8);
-    const QPointF ligneDeBase = position_ + QPointF(0, mesures.ascent());
-    dessin_.emplace_back([police = police_, ligneDeBase, texte](QPainter& peintre) {
-        peintre.setFont(police);
-        peintre.drawText(ligneDeBase, texte);
-    });
-    if (suite == Suite::MemeLigne)
-        position_.rx() += mesures.horizontalAdvance(texte);
-    else
-        position_ = QPointF(0, position_.y() + mesures.lineSpacing());
-}
-
-int ImprimanteQt::LargeurTexte(std::string_view utf8) const {
-    return static_cast<int>(
-        std::lround(QFontMetricsF(police_, &imprimante_).horizontalAdvance(Texte(utf8))));
-}
-
-void ImprimanteQt::TracerLigne(int x1, int y1, int x2, int y2) {
-    dessin_.emplace_back([=](QPainter& peintre) { peintre.drawLine(x1, y1, x2, y2); });
-}
-
-void ImprimanteQt::TracerRectangle(int x1, int y1, int x2, int y2) {
-    const QRect cadre(std::min(x1, x2), std::min(y1, y2), std::abs(x2 - x1), std::abs(y2 - y1));
-    dessin_.emplace_back([=](QPainter& peintre) { peintre.drawRect(cadre); });
-}
-
 void ImprimanteQt::TerminerDocument() {
-    const std::vector<Trace> dessin = std::exchange(dessin_, {});
+    const DessinQt dessin = Prendre();
     if (!SortieChoisie(imprimante_))
         throw Erreur::DImprimante({});
     const std::unique_ptr<QPrinter> sortie = SortieNeuve(imprimante_);
@@ -202,9 +127,7 @@ void ImprimanteQt::TerminerDocument() {
     // A printer that refuses the resolution is scaled to twips.
     peintre.scale(static_cast<double>(sortie->logicalDpiX()) / kTwipsParPouce,
                   static_cast<double>(sortie->logicalDpiY()) / kTwipsParPouce);
-    peintre.setPen({Qt::black, kEpaisseurTrait, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin});
-    for (const Trace& trace : dessin)
-        trace(peintre);
+    dessin.Peindre(peintre);
     const bool envoye = peintre.end();
     const QPrinter::PrinterState etat = sortie->printerState();
     if (!envoye || etat == QPrinter::Error || etat == QPrinter::Aborted ||

@@ -1,15 +1,9 @@
 // The system's printer, or a PDF file, behind the printer interface.
 #pragma once
 
-#include "print/imprimante.h"
+#include "ui/bureau/dessin_qt.h"
 
-#include <QFont>
-#include <QPainter>
-#include <QPointF>
 #include <QPrinter>
-
-#include <functional>
-#include <vector>
 
 namespace orvalis {
 
@@ -27,28 +21,20 @@ namespace orvalis {
 /// nothing and leaves an existing PDF file alone. Each document has an output of its own with the
 /// choices made on the QPrinter, so that one that fails spoils no later one; a PDF file is replaced
 /// only by a document that is whole. Only TerminerDocument() throws.
-class ImprimanteQt : public Imprimante {
+class ImprimanteQt : public DessinQt {
   public:
     explicit ImprimanteQt(QPrinter& imprimante);
 
     void ChoisirPapier(Papier papier, Orientation orientation) override;
-    void ChoisirPolice(std::string_view famille) override;
-    void ChoisirTaille(int points) override;
-    void ChoisirGras(bool gras) override;
-    void Placer(int x, int y) override;
-    void Ecrire(std::string_view utf8, Suite suite) override;
-    [[nodiscard]] int LargeurTexte(std::string_view utf8) const override;
-    void TracerLigne(int x1, int y1, int x2, int y2) override;
-    void TracerRectangle(int x1, int y1, int x2, int y2) override;
     void TerminerDocument() override;
 
-  private:
-    using Trace = std::function<void(QPainter&)>;
+  protected:
+    [[nodiscard]] QFontMetricsF Mesures(const QFont& police) const override {
+        return {police, &imprimante_};
+    }
 
+  private:
     QPrinter& imprimante_;
-    std::vector<Trace> dessin_;
-    QFont police_;
-    QPointF position_;
 };
 
 } // namespace orvalis

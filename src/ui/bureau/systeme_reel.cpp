@@ -50,9 +50,15 @@ std::filesystem::path SystemeReel::Lecteur() const {
 }
 
 Instant SystemeReel::Maintenant() const {
+    constexpr int kSecondesParMinute = 60;
     const QDateTime t = QDateTime::currentDateTime();
-    return {t.date().year(), t.date().month(),  t.date().day(),
-            t.time().hour(), t.time().minute(), t.time().second()};
+    return {t.date().year(),
+            t.date().month(),
+            t.date().day(),
+            t.time().hour(),
+            t.time().minute(),
+            t.time().second(),
+            t.offsetFromUtc() / kSecondesParMinute};
 }
 
 void SystemeReel::Pause(int secondes) {

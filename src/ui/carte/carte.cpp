@@ -74,6 +74,12 @@ void MontrerLabels(Carte& carte, NumeroFiche k) {
     carte.departement = NomDepartement(carte.zones[Boite::Departement]);
 }
 
+std::optional<int> CapMontre(const Carte& carte) {
+    // The texts that say that there is none are blank or "...".
+    const bool chiffre = carte.azimut.find_first_of("0123456789") != std::string::npos;
+    return chiffre ? CapVrai(carte.memoireDistance) : std::nullopt;
+}
+
 void ViderCarte(Carte& carte) {
     carte.ficheCourante = kAucuneFiche;
     carte.zones = {};

@@ -116,6 +116,9 @@ void LireFiche(Carte& carte, const Cahier& cahier, NumeroFiche k);
 /// contact's own MLOC to its SLOC, unless they are equal: then "0 Km" and "...".
 void MontrerLabels(Carte& carte, NumeroFiche k);
 
+/// The true direction of the correspondent, when an azimuth is on show.
+[[nodiscard]] std::optional<int> CapMontre(const Carte& carte);
+
 /// A card without contact: slots, boxes and labels empty, no record current.
 void ViderCarte(Carte& carte);
 

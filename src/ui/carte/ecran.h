@@ -103,10 +103,12 @@ struct ListeContacts {
     bool montree = false;
     std::shared_ptr<const std::vector<std::string>> lignes;
     int choisie = -1;
-    std::string compte = "0";    ///< NbreContacts
-    std::string nature;          ///< ContactsLab
-    bool boutonsGrises = false;  ///< BtNewQSO and BtFermerLog
-    bool supprimerGrise = false; ///< BtKillFiche
+    std::string compte = "0";        ///< NbreContacts
+    std::string nature = "Contacts"; ///< ContactsLab
+    bool doublons = false;           ///< what was found are contacts logged twice
+    bool reprise = false;            ///< searched again after a deletion: scrolled as it was
+    bool boutonsGrises = false;      ///< BtNewQSO and BtFermerLog
+    bool supprimerGrise = false;     ///< BtKillFiche
     friend bool operator==(const ListeContacts&, const ListeContacts&) = default;
 };
 
@@ -163,6 +165,7 @@ struct Ecran {
     PanneauLocator locator;
     PanneauClasser classer;
     PanneauJumelage jumelage;
+    std::optional<Foyer> enErreur;           ///< box that reads "ERREUR" for its second
     std::optional<Instant> heure;            ///< of the clock; nothing before its first tick
     std::string titre = " Cahier de Trafic"; ///< of the window
     std::string adieu;                       ///< OrvalisLab03

@@ -131,6 +131,8 @@ void ViderContacts(ListeContacts& contacts) {
     contacts.choisie = vide.choisie;
     contacts.compte = vide.compte;
     contacts.nature = vide.nature;
+    contacts.doublons = vide.doublons;
+    contacts.reprise = vide.reprise;
 }
 
 void RendreBoutons(Ecran& ecran) {

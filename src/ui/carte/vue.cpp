@@ -9,9 +9,17 @@ namespace orvalis {
 namespace {
 
 VueCarte VoirCarte(const Carte& carte, const Ecran& ecran) {
-    return {carte.boites,          carte.numero,          carte.distance,
-            carte.azimut,          carte.departement,     ecran.activeRech,
-            carte.saisie.EnSaisie, !ecran.classer.montre, carte.PrendDuTexte()};
+    return {.boites = carte.boites,
+            .enErreur = BoiteDuFoyer(ecran.enErreur.value_or(Foyer{})),
+            .numero = carte.numero,
+            .distance = carte.distance,
+            .azimut = carte.azimut,
+            .cap = CapMontre(carte),
+            .departement = carte.departement,
+            .activeRech = ecran.activeRech,
+            .nonEnregistre = carte.saisie.EnSaisie,
+            .active = !ecran.classer.montre,
+            .prendDuTexte = carte.PrendDuTexte()};
 }
 
 VueBoutons VoirBoutons(const Session& session, const Ecran& ecran, unsigned conditions) {
@@ -74,6 +82,9 @@ VueFenetre VoirFenetre(const Session& session, const Ecran& ecran, const EtatFeu
     vue.jumelage = ecran.jumelage;
     if (feuille.vue.panneau)
         vue.feuille = feuille;
+    if (feuille.vue.panneau && !feuille.vue.controle)
+        vue.apercu = VoirApercu(feuille, session.station.indicatif);
+    vue.locatorEnErreur = ecran.enErreur == Foyer{Cible::TexteLocator};
     vue.heure = ecran.heure;
     vue.invitation = Inviter(session, vue.conditions);
     vue.titre = ecran.titre;

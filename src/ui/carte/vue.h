@@ -3,6 +3,7 @@
 #pragma once
 
 #include "qsl/feuille_qsl.h"
+#include "ui/carte/apercu_etiquette.h"
 #include "ui/carte/ecran.h"
 #include "ui/carte/session.h"
 
@@ -15,9 +16,11 @@ namespace orvalis {
 /// PictFiche.
 struct VueCarte {
     std::array<BoiteMontree, kNbBoites> boites;
+    std::optional<Boite> enErreur; ///< the box that reads "ERREUR"
     std::string numero;
     std::string distance;
     std::string azimut;
+    std::optional<int> cap; ///< true direction of the correspondent, clockwise from the North
     std::string departement;
     bool activeRech = false;    ///< BtActiveRech is on show
     bool nonEnregistre = false; ///< the banner of a contact that is not stored yet
@@ -48,9 +51,11 @@ struct VueFenetre {
     ListeContacts contacts;
     std::optional<Question> question;
     PanneauLocator locator;
+    bool locatorEnErreur = false; ///< ChangLocText reads "ERREUR"
     PanneauClasser classer;
     PanneauJumelage jumelage;
-    EtatFeuille feuille; ///< as it is while it is on show, else blank
+    EtatFeuille feuille;                   ///< as it is while it is on show, else blank
+    std::optional<ApercuEtiquette> apercu; ///< of the label in its editor
     std::optional<Instant> heure;
     std::string invitation; ///< on the sheet of an empty logbook: how to begin
     std::string titre;

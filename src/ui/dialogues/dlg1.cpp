@@ -15,6 +15,7 @@
 #include "ui/widgets/filtre_edition.h"
 #include "ui/widgets/gestes.h"
 #include "ui/widgets/police.h"
+#include "ui/widgets/teintes.h"
 #include "ui_dlg1.h"
 
 #include <QKeyEvent>
@@ -65,6 +66,8 @@ Dlg1::Dlg1(std::filesystem::path lecteur, Systeme& systeme, QWidget* parent)
                 ui_->Dlg1Fra3->hide();
         });
     }
+    connect(ui_->Dlg1Fra2Text2, &QLineEdit::textChanged, this,
+            [this] { ui_->Dlg1Fra2Text2->setPalette({}); });
     for (QPushButton* bouton : findChildren<QPushButton*>())
         bouton->installEventFilter(this);
     connect(ui_->BtAppelLocator, &QPushButton::clicked, this, &Dlg1::CalculerLocator);
@@ -120,6 +123,7 @@ void Dlg1::AccepterLocator() {
     const std::string texte = S(ui_->Dlg1Fra2Text2->text());
     if (!LocatorValide(texte)) {
         ui_->Dlg1Fra2Text2->setText(Q(kErreur));
+        ui_->Dlg1Fra2Text2->setPalette(EnErreur({}));
         ui_->Dlg1Fra2Text2->selectAll();
         ui_->Dlg1Fra3->hide();
         return;

@@ -204,11 +204,13 @@ QWidget* Orvalis::ColonneGauche() {
     return colonne;
 }
 
-// The card, the buttons under it, then the sheet; whatever asks or answers something lies over the
-// right of the sheet, under the card, and moves nothing.
+// The card, the buttons under it, beside them the question about the card, then the sheet; whatever
+// else asks or answers something lies over the right of the sheet, under the card, and moves
+// nothing.
 QWidget* Orvalis::ColonneDroite() {
     auto* colonne = new QWidget;
     auto* pile = SansMarges<QVBoxLayout>(colonne);
+    pile->setSpacing(0); // the room between card and sheet is the question's
     pile->addWidget(&panneaux_.fiche);
     auto* boutons = new QWidget(colonne);
     auto* tour = new QWidget(boutons); // the buttons at rest, or those of entry
@@ -218,8 +220,10 @@ QWidget* Orvalis::ColonneDroite() {
     tour->setMinimumWidth(
         std::max(LargeurMinimale(panneaux_.menu), LargeurMinimale(panneaux_.enrs)));
     rangeeBoutons_ = SansMarges<Rangees>(boutons);
-    rangeeBoutons_->Ajouter({tour, &panneaux_.rech}, 6, 1);
-    boutons->setMinimumHeight(panneaux_.menu.sizeHint().height());
+    rangeeBoutons_->Ajouter({tour, &panneaux_.msgFiche, &panneaux_.rech}, 6, 2);
+    constexpr int kEcarts = 12;
+    boutons->setMinimumHeight(std::max(panneaux_.menu.sizeHint().height() + kEcarts,
+                                       panneaux_.msgFiche.sizeHint().height()));
     pile->addWidget(boutons);
     auto* feuille = new QWidget(colonne);
     feuille->setObjectName(QStringLiteral("PictPage"));
@@ -227,9 +231,9 @@ QWidget* Orvalis::ColonneDroite() {
     auto* reponses = new QVBoxLayout;
     reponses->setContentsMargins(0, 0, 1, 0);
     reponses->setSpacing(0);
-    for (QWidget* panneau : std::initializer_list<QWidget*>{
-             &panneaux_.msgFiche, &panneaux_.changLocator, &panneaux_.classer, &panneaux_.jumelage,
-             &panneaux_.contacts}) {
+    for (QWidget* panneau :
+         std::initializer_list<QWidget*>{&panneaux_.changLocator, &panneaux_.classer,
+                                         &panneaux_.jumelage, &panneaux_.contacts}) {
         // The list takes the height there is; the others are as high as what they say.
         const bool haut = panneau == &panneaux_.contacts;
         reponses->addWidget(panneau, haut ? 1 : 0);

@@ -143,6 +143,8 @@ void Peintre::PeindrePanneaux(const VueFenetre& vue) {
         p_.menu.CederAltN(vue.question.has_value());
     }
     p_.changLocator.Montrer(vue.locator);
+    if (Differe(vue, &VueFenetre::locatorEnErreur))
+        p_.changLocator.MontrerErreur(vue.locatorEnErreur);
     Presenter(p_.changLocator, vue.locator.montre);
     if (Differe(vue, &VueFenetre::locator))
         p_.enrs.CederAltA(vue.locator.montre);
@@ -166,8 +168,10 @@ void Peintre::PeindreFeuille(const VueFenetre& vue) {
     const bool montree = vue.feuille.vue.panneau;
     if (!Differe(vue, &VueFenetre::feuille))
         return;
-    if (montree)
+    if (montree) {
         p_.feuilleQSL.Montrer(vue.feuille);
+        p_.feuilleQSL.MontrerApercu(vue.apercu);
+    }
     Presenter(p_.ctrlImpression, vue.feuille.vue.controle);
     QWidget& colonne = montree ? static_cast<QWidget&>(p_.feuilleQSL) : *p_.droite.widget(0);
     if (p_.droite.currentWidget() != &colonne) {

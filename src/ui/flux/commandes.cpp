@@ -77,6 +77,7 @@ constexpr std::array kCommandes = std::to_array<Commande>({
     {"BtPjAnnuler", {}, kToujours, FermerJumelage},
     // A click on the box of my QSL, which makes a label of a stored contact.
     {"TxtField_14", {}, kSansAttente | kCahierPropre | kFicheMontree, CliquerMaQsl},
+    {"BtIndicatifQSL", {}, kToujours, SurBtIndicatifQSL},
     {"BtValidQSL", {}, kToujours, SurBtValidQSL},
     {"BtDelQSL", {}, kToujours, SurBtDelQSL},
     {"BtLeaveQSL", {}, kToujours, SurBtLeaveQSL},

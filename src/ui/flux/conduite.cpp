@@ -14,7 +14,7 @@ void AppliquerReponse(Plateau& p, Reponse reponse) {
     if (!enErreur)
         return;
     MontrerTexte(s.carte, *enErreur, kErreur);
-    if (!AttendreErreur(p))
+    if (!AttendreErreur(p, SurBoite(*enErreur)))
         return;
     MontrerTexte(s.carte, *enErreur, {});
     DonnerFoyer(p, SurBoite(*enErreur));
@@ -34,9 +34,11 @@ Gel::~Gel() {
     ecran_.gel = avant_;
 }
 
-bool AttendreErreur(Plateau& p) {
+bool AttendreErreur(Plateau& p, const Foyer& ou) {
     const Gel gel(p.ecran);
+    p.ecran.enErreur = ou;
     p.systeme.Pause(1);
+    p.ecran.enErreur.reset();
     return !p.ecran.arret;
 }
 

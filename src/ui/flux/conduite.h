@@ -30,8 +30,8 @@ class Gel {
     bool avant_;
 };
 
-/// The second during which a refused text reads "ERREUR", the window frozen. Returns false when
-/// the operator quit meanwhile.
-[[nodiscard]] bool AttendreErreur(Plateau& p);
+/// The second during which the text refused in the box `ou` reads "ERREUR", the window frozen.
+/// Returns false when the operator quit meanwhile.
+[[nodiscard]] bool AttendreErreur(Plateau& p, const Foyer& ou);
 
 } // namespace orvalis

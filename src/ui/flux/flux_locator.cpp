@@ -50,7 +50,7 @@ void SurEntreeLocator(Plateau& p) {
     case VerdictLocator::Refuse:
         MontrerTexteLocator(p.session.carte, p.ecran, kErreur);
         p.ecran.foyer.selection = Foyer{Cible::TexteLocator};
-        if (!AttendreErreur(p))
+        if (!AttendreErreur(p, {Cible::TexteLocator}))
             break;
         DonnerFoyer(p, {Cible::TexteLocator});
         MontrerTexteLocator(p.session.carte, p.ecran, {});

@@ -4,6 +4,7 @@
 #include "ui/carte/modification.h"
 #include "ui/flux/conduite.h"
 #include "ui/flux/flux_navigation.h"
+#include "ui/flux/flux_recherche.h"
 
 #include <utility>
 
@@ -16,8 +17,14 @@ void EffacerFiche(Plateau& p) {
     const std::int32_t page = PageDeFiche(s.carte.ficheCourante);
     if (!SupprimerFiche(s.cahier, s.carte.ficheCourante, s.carte.tampon, s.station.monLocator))
         return DireFicheChangee(p);
-    p.ecran.contacts.montree = false; // its numbers no longer hold
+    // The numbers of a list no longer hold. One of duplicates is searched again, so that the
+    // operator goes on where he was.
+    bool& listeMontree = p.ecran.contacts.montree;
+    listeMontree &= p.ecran.contacts.doublons;
     RelireCahier(p, page);
+    listeMontree &= s.cahier.nbFiches != 0;
+    if (listeMontree)
+        ReprendreDoublons(p);
     p.ecran.recherche.montre = s.cahier.nbFiches != 0;
 }
 

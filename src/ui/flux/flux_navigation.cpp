@@ -142,6 +142,16 @@ void ChoisirFiche(Plateau& p, NumeroFiche k) {
     AfficherFiche(p);
 }
 
+void MontrerContact(Plateau& p, NumeroFiche k) {
+    const bool libre = !p.session.carte.EnEdition();
+    ChoisirFiche(p, k);
+    if (!libre || p.session.carte.ficheCourante != k || k.Valeur() > kDerniereListable)
+        return;
+    if (const std::int32_t page = PageDeFiche(k); page != p.session.page.numero)
+        MontrerPage(p, page);
+    p.ecran.liste.choisie = LigneDeFiche(p, k);
+}
+
 void AfficherFiche(Plateau& p) {
     Carte& carte = p.session.carte;
     if (carte.saisie.EnSaisie)

@@ -38,6 +38,10 @@ void ChoisirRangee(Plateau& p, NumeroFiche k);
 /// answer are dropped. Does nothing during entry.
 void ChoisirFiche(Plateau& p, NumeroFiche k);
 
+/// The same for a contact found by a search; unless a card is under modification, list and sheet
+/// turn to its page, on which it is selected.
+void MontrerContact(Plateau& p, NumeroFiche k);
+
 /// Shows the card of the current record; a card under entry is never overwritten.
 void AfficherFiche(Plateau& p);
 

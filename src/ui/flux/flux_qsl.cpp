@@ -170,6 +170,13 @@ void SurVoie(Plateau& p, VoieQSL voie) {
         DonnerFoyerValider(p);
 }
 
+void SurBtIndicatifQSL(Plateau& p) {
+    if (!p.feuille.fraiche || p.feuille.vue.controle)
+        return;
+    SaisirBoiteEtiquette(p.feuille, kBoiteLigne1, p.session.station.indicatif);
+    DonnerFoyerBoite(p, kBoiteLigne1);
+}
+
 void SurBtValidQSL(Plateau& p) {
     Repondre(p, [&p] { return ValiderEtiquette(p.session.cahier, p.feuille); });
 }

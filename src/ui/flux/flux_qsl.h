@@ -29,7 +29,9 @@ void SurEntreeEtiquette(Plateau& p, std::size_t boite);
 /// OptBureau or OptDirect, the one already chosen included.
 void SurVoie(Plateau& p, VoieQSL voie);
 
-/// The buttons of the panel.
+/// BtIndicatifQSL: the own callsign becomes the heading of a fresh label.
+void SurBtIndicatifQSL(Plateau& p);
+/// The other buttons of the panel.
 void SurBtValidQSL(Plateau& p);
 void SurBtDelQSL(Plateau& p);
 void SurBtLeaveQSL(Plateau& p);

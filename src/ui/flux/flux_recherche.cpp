@@ -16,6 +16,7 @@ namespace {
 // entered or corrected.
 void MontrerResultat(Plateau& p, ResultatRecherche resultat, bool selection) {
     ListeContacts& contacts = p.ecran.contacts;
+    contacts.doublons = contacts.reprise = false;
     contacts.lignes = std::make_shared<const std::vector<std::string>>(std::move(resultat.lignes));
     contacts.choisie = -1;
     contacts.compte = resultat.nbreContacts;
@@ -25,7 +26,7 @@ void MontrerResultat(Plateau& p, ResultatRecherche resultat, bool selection) {
         return;
     contacts.choisie = 0;
     if (!p.session.carte.EnEdition())
-        ChoisirFiche(p, NumeroDeLigne(contacts.lignes->front()));
+        MontrerContact(p, NumeroDeLigne(contacts.lignes->front()));
 }
 
 bool IndicatifSurLaCarte(const Plateau& p) {
@@ -112,16 +113,23 @@ void MontrerDoublons(Plateau& p) {
     p.ecran.activeRech = false;
     p.ecran.contacts.montree = true;
     MontrerResultat(p, ChercherDoublons(p.session.cahier), !carte.saisie.EnSaisie);
+    p.ecran.contacts.doublons = true;
     p.ecran.contacts.boutonsGrises = true;
     if (!carte.EnEdition())
         DonnerFoyer(p, {Cible::Contacts});
+}
+
+void ReprendreDoublons(Plateau& p) {
+    const Sablier sablier;
+    MontrerResultat(p, ChercherDoublons(p.session.cahier), false);
+    p.ecran.contacts.doublons = p.ecran.contacts.reprise = true;
 }
 
 void ChoisirContact(Plateau& p, int ligne) {
     p.ecran.contacts.choisie = ligne;
     const auto& lignes = p.ecran.contacts.lignes;
     if (lignes && ligne >= 0 && static_cast<std::size_t>(ligne) < lignes->size())
-        ChoisirFiche(p, NumeroDeLigne((*lignes)[static_cast<std::size_t>(ligne)]));
+        MontrerContact(p, NumeroDeLigne((*lignes)[static_cast<std::size_t>(ligne)]));
 }
 
 } // namespace orvalis

@@ -21,5 +21,7 @@ void FermerContacts(Plateau& p);
 void ChoisirContact(Plateau& p, int ligne);
 /// MnuDoublons.
 void MontrerDoublons(Plateau& p);
+/// After a deletion: the duplicates that are left, scrolled as they were, none of them chosen.
+void ReprendreDoublons(Plateau& p);
 
 } // namespace orvalis

@@ -22,7 +22,12 @@ class FraMsgFiche : public QGroupBox {
     /// The texts of the question; its coming and going is the painter's.
     void Montrer(const Question& question);
 
+  protected:
+    void changeEvent(QEvent* evenement) override;
+    void paintEvent(QPaintEvent* evenement) override;
+
   private:
+    void Encadrer();
     std::unique_ptr<Ui::FraMsgFiche> ui_;
 };
 

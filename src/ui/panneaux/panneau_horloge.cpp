@@ -10,6 +10,8 @@ PanneauHorloge::PanneauHorloge(QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::PanneauHorloge>()) {
     ui_->setupUi(this);
     ui_->LabHeure->setFont(PoliceAjustee(font(), 1.7));
+    ui_->LabUTC->setFont(PoliceAjustee(font(), kPetite));
+    ui_->LabUTC->hide();
 }
 
 PanneauHorloge::~PanneauHorloge() = default;
@@ -17,6 +19,9 @@ PanneauHorloge::~PanneauHorloge() = default;
 void PanneauHorloge::Montrer(const Instant& instant) {
     ui_->LabHeure->setText(Q(HeureLongue(instant)));
     ui_->LabDate->setText(Q(DateLongue(instant)));
+    const QString utc = Q(MentionUtc(instant));
+    ui_->LabUTC->setText(utc);
+    ui_->LabUTC->setVisible(!utc.isEmpty());
     ui_->Horloge->Montrer(instant);
 }
 

@@ -1,4 +1,5 @@
-// The clock: time of day, long date, and the button that starts the time-setting tool.
+// The clock: time of day, long date, how far that is from UTC, and the button that starts the
+// time-setting tool.
 #pragma once
 
 #include "core/dates.h"

@@ -25,6 +25,10 @@ PictChangLocator::PictChangLocator(QWidget* parent)
 
 PictChangLocator::~PictChangLocator() = default;
 
+void PictChangLocator::MontrerErreur(bool erreur) {
+    ui_->ChangLocText->setPalette(erreur ? EnErreur({}) : QPalette());
+}
+
 void PictChangLocator::Montrer(const PanneauLocator& locator) {
     if (const QString texte = Q(locator.texte); ui_->ChangLocText->text() != texte)
         ui_->ChangLocText->setText(texte);

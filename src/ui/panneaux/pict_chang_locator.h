@@ -20,6 +20,8 @@ class PictChangLocator : public QFrame {
     ~PictChangLocator() override;
 
     void Montrer(const PanneauLocator& locator);
+    /// Whether the box reads "ERREUR".
+    void MontrerErreur(bool erreur);
 
   Q_SIGNALS:
     void texteChange(const QString& texte);

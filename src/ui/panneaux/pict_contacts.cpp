@@ -32,7 +32,7 @@ void PictContacts::changeEvent(QEvent* evenement) {
 
 void PictContacts::Montrer(const ListeContacts& contacts, bool lignesChangees) {
     if (lignesChangees && contacts.lignes)
-        ui_->ContactsListe->Remplir(*contacts.lignes);
+        ui_->ContactsListe->Remplir(*contacts.lignes, contacts.reprise);
     ui_->ContactsListe->Selectionner(contacts.choisie);
     ui_->NbreContacts->setText(Q(contacts.compte));
     ui_->ContactsLab->setText(Q(contacts.nature));

@@ -7,6 +7,7 @@
 #include "ui/widgets/presence.h"
 #include "ui/widgets/rangees.h"
 #include "ui/widgets/teintes.h"
+#include "ui/widgets/vue_etiquette.h"
 #include "ui_pict_feuille_qsl.h"
 
 #include <QKeyEvent>
@@ -114,6 +115,7 @@ PictFeuilleQSL::PictFeuilleQSL(QWidget* parent)
         ui_->grillePlaces->setRowStretch(rang / 2, 1);
     }
     FaireBoites();
+    FaireApercu();
     BrancherBoutons();
     OrdonnerTabulation();
     PeindreSelonBureau(*this, [this] { PeindreFonds(); });
@@ -136,19 +138,51 @@ PictFeuilleQSL::ControlesPlace PictFeuilleQSL::FaireControles(Place place) {
     controles.choix->setObjectName(Nom("BtChoix_", k));
     for (QPushButton* bouton : {controles.tag, controles.choix})
         bouton->installEventFilter(this);
+    controles.etiquette = new VueEtiquette(controles.cadre);
+    controles.etiquette->setObjectName(Nom("EtiquetteVue_", k));
+    controles.etiquette->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     auto* pile = new QVBoxLayout(controles.cadre);
-    pile->setContentsMargins(5, 2, 5, 2);
+    pile->setContentsMargins(5, 3, 5, 3);
     pile->setSpacing(2);
-    pile->addStretch(1);
     pile->addWidget(controles.tag);
-    pile->addWidget(controles.choix, 0, Qt::AlignRight);
-    pile->addStretch(1);
+    auto* dessous = new QHBoxLayout;
+    dessous->setSpacing(4);
+    dessous->addWidget(controles.etiquette, 1);
+    dessous->addWidget(controles.choix, 0, Qt::AlignBottom);
+    pile->addLayout(dessous, 1);
     connect(controles.choix, &QPushButton::clicked, this, [this, place] { Q_EMIT choix(place); });
     connect(controles.tag, &QPushButton::clicked, this, [this, place] { Q_EMIT tag(place); });
     return controles;
 }
 
+// Under the editor one thing at a time, in the same place: what to do when there is no label, the
+// label as it will be printed, the print check.
+void PictFeuilleQSL::FaireApercu() {
+    apercu_ = new QWidget(ui_->colonneEdition);
+    etiquette_ = new VueEtiquette(apercu_);
+    etiquette_->setObjectName(QStringLiteral("EtiquetteApercu"));
+    etiquette_->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    etiquette_->setToolTip(QStringLiteral("L'étiquette telle qu'elle sera imprimée"));
+    avis_ = new QLabel(apercu_);
+    avis_->setObjectName(QStringLiteral("LabApercu"));
+    avis_->setTextFormat(Qt::PlainText);
+    avis_->setWordWrap(true);
+    avis_->setStyleSheet(
+        QStringLiteral("background:%1; color:%2; border-radius:4px; padding:1px 8px;")
+            .arg(kAmbre.name(), kEncreSurAmbre.name()));
+    auto* pile = new QVBoxLayout(apercu_);
+    pile->setContentsMargins(0, 0, 0, 0);
+    pile->setSpacing(4);
+    pile->addWidget(etiquette_);
+    pile->addWidget(avis_);
+    pile->addStretch(1);
+    ui_->dessous->addWidget(apercu_, 0, 0);
+}
+
 void PictFeuilleQSL::FaireBoites() {
+    btIndicatif_ = new QPushButton(QStringLiteral("&Mon indicatif"), ui_->PictTag);
+    btIndicatif_->setObjectName(QStringLiteral("BtIndicatifQSL"));
+    btIndicatif_->setToolTip(QStringLiteral("Mettre mon indicatif dans l'en-tête"));
     const std::array<QHBoxLayout*, 5> rangees = {ui_->rangee1, ui_->rangee2, ui_->rangee3,
                                                  ui_->rangee4, ui_->rangee5};
     for (std::size_t i = 0; i < kNbBoitesEtiquette; ++i)
@@ -183,6 +217,8 @@ void PictFeuilleQSL::FaireBoite(std::size_t rang, QHBoxLayout& rangee) {
         cellule->addWidget(boite.legende);
         cellule->addWidget(boite.texte);
         rangee.addLayout(cellule, static_cast<int>(d.longueur));
+        if (d.boite == kBoiteLigne1)
+            rangee.addWidget(btIndicatif_, 0, Qt::AlignBottom);
     }
     connect(boite.texte, &QLineEdit::textChanged, this,
             [this, &d](const QString& texte) { Q_EMIT boiteSaisie(d.boite, texte); });
@@ -213,6 +249,9 @@ void PictFeuilleQSL::OrdonnerTabulation() {
                   ui_->BtDelQSL, ui_->BtLeaveQSL, ui_->BtPrintQSL, ui_->BtRestore, ui_->BtQuitQSL});
     for (const ControlesPlace& controles : places_)
         ordre.insert(ordre.end(), {controles.tag, controles.choix});
+    // Last, so that the way through the boxes stays what the operators' hands know; it has a
+    // letter.
+    ordre.push_back(btIndicatif_);
     for (std::size_t i = 1; i < ordre.size(); ++i)
         setTabOrder(ordre[i - 1], ordre[i]);
 }
@@ -280,6 +319,7 @@ void PictFeuilleQSL::MontrerPlaces(const EtatFeuille& feuille) {
         controles.choix->setToolTip(BulleChoix(feuille.Etat(place)));
         TeinterFond(*controles.choix, vue.jaune ? Teinte::Jaune : Teinte::Aucune);
         controles.cadre->setLineWidth(place == etudiee ? kTraitEtudiee : 1);
+        controles.etiquette->Montrer(VoirPreparee(feuille, place));
     }
 }
 
@@ -304,7 +344,21 @@ void PictFeuilleQSL::MontrerBoites(const EtatFeuille& feuille) {
     Boite(kBoiteMode).legende->setText(legende(echanges ? kBoiteReport : kBoiteMode));
     Boite(kBoiteReport).legende->setText(legende(echanges ? kBoiteMode : kBoiteReport));
     Activer(*ui_->OptVia, feuille.fraiche);
+    Activer(*btIndicatif_, feuille.fraiche);
     ui_->LabAide->setVisible(feuille.boites[kBoiteIndicatif].empty() && !feuille.vue.controle);
+}
+
+void PictFeuilleQSL::MontrerApercu(const std::optional<ApercuEtiquette>& apercu) {
+    etiquette_->Montrer(apercu);
+    avis_->setText(apercu ? Q(apercu->avis) : QString());
+    avis_->setVisible(!avis_->text().isEmpty());
+    apercu_->setVisible(apercu.has_value());
+}
+
+// The label as wide as the editor, as high as that makes it.
+void PictFeuilleQSL::resizeEvent(QResizeEvent* evenement) {
+    QFrame::resizeEvent(evenement);
+    etiquette_->setFixedHeight(VueEtiquette::HauteurPour(ui_->colonneEdition->width()));
 }
 
 void PictFeuilleQSL::MontrerVoie(VoieQSL voie) {
@@ -354,7 +408,7 @@ void PictFeuilleQSL::Ranger(int largeur) {
 
 void PictFeuilleQSL::Accueillir(QWidget& panneau) {
     GarderPlace(panneau);
-    ui_->accueil->addWidget(&panneau);
+    ui_->dessous->addWidget(&panneau, 0, 0, Qt::AlignTop);
 }
 
 } // namespace orvalis

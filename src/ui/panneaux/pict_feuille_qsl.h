@@ -3,11 +3,13 @@
 #pragma once
 
 #include "qsl/feuille_qsl.h"
+#include "ui/carte/apercu_etiquette.h"
 
 #include <QFrame>
 
 #include <array>
 #include <memory>
+#include <optional>
 
 class QHBoxLayout;
 class QLabel;
@@ -21,6 +23,7 @@ class PictFeuilleQSL;
 namespace orvalis {
 
 class FiltreEdition;
+class VueEtiquette;
 
 class PictFeuilleQSL : public QFrame {
     Q_OBJECT
@@ -31,6 +34,8 @@ class PictFeuilleQSL : public QFrame {
     /// Paints the whole panel. Text is edited only while the label is a fresh one, and nothing
     /// while the print check waits.
     void Montrer(const EtatFeuille& feuille);
+    /// What is printed of the label in the editor, and what to look at twice.
+    void MontrerApercu(const std::optional<ApercuEtiquette>& apercu);
     /// Puts a panel under the editor, where it comes and goes without moving anything.
     void Accueillir(QWidget& panneau);
     /// Puts the editor beside the sheet, or above it where both do not fit into `largeur`.
@@ -45,12 +50,14 @@ class PictFeuilleQSL : public QFrame {
 
   protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;
+    void resizeEvent(QResizeEvent* evenement) override;
 
   private:
     struct ControlesPlace {
         QFrame* cadre = nullptr; ///< PictBtEtiq
         QPushButton* tag = nullptr;
         QPushButton* choix = nullptr;
+        VueEtiquette* etiquette = nullptr;
     };
     struct BoiteEditeur {
         QLineEdit* texte = nullptr;
@@ -60,6 +67,7 @@ class PictFeuilleQSL : public QFrame {
 
     [[nodiscard]] ControlesPlace FaireControles(Place place);
     void FaireBoites();
+    void FaireApercu();
     void FaireBoite(std::size_t rang, QHBoxLayout& rangee);
     void BrancherBoutons();
     void OrdonnerTabulation();
@@ -74,6 +82,10 @@ class PictFeuilleQSL : public QFrame {
     std::unique_ptr<Ui::PictFeuilleQSL> ui_;
     std::array<ControlesPlace, kNbEtiquettes> places_;
     std::array<BoiteEditeur, kNbBoitesEtiquette> boites_;
+    QPushButton* btIndicatif_ = nullptr; ///< puts the own callsign into the heading
+    QWidget* apercu_ = nullptr;          ///< the two that follow
+    VueEtiquette* etiquette_ = nullptr;
+    QLabel* avis_ = nullptr;
 };
 
 } // namespace orvalis

@@ -1,9 +1,11 @@
 #include "ui/panneaux/pict_fiche.h"
 
 #include "ui/bureau/texte_qt.h"
+#include "ui/widgets/boussole.h"
 #include "ui/widgets/police.h"
 #include "ui/widgets/presence.h"
 #include "ui/widgets/rangees.h"
+#include "ui/widgets/teintes.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -81,7 +83,8 @@ void PictFiche::FaireEntete() {
     labNonEnregistre_ = FaireLabel("LabNonEnregistre", this);
     labNonEnregistre_->setText(QStringLiteral("Nouveau contact, pas encore enregistré"));
     labNonEnregistre_->setStyleSheet(
-        QStringLiteral("background:#ffd866; color:#3a2d00; border-radius:4px; padding:1px 8px;"));
+        QStringLiteral("background:%1; color:%2; border-radius:4px; padding:1px 8px;")
+            .arg(kAmbre.name(), kEncreSurAmbre.name()));
     labNonEnregistre_->hide();
     btActiveRech_ = new QPushButton(QStringLiteral("Voir contacts réalisés"), this);
     btActiveRech_->setObjectName(QStringLiteral("BtActiveRech"));
@@ -164,7 +167,10 @@ QWidget* PictFiche::FaireResultats() {
     labAzim_ = ajouter(1, "Azimut", "LabAzim", QStringLiteral("000° "));
     labDist_->setAccessibleName(kDistanceLue);
     labAzim_->setAccessibleName(kAzimutLu);
-    grille->setColumnStretch(2, 1);
+    boussole_ = new Boussole(cadre);
+    boussole_->setObjectName(QStringLiteral("BoussoleAzim"));
+    grille->addWidget(boussole_, 0, 2, 2, 1, Qt::AlignVCenter);
+    grille->setColumnStretch(3, 1);
     return cadre;
 }
 
@@ -178,18 +184,33 @@ void PictFiche::Ranger(int largeur) {
     rangees_->Ranger(largeur - bords.left() - bords.right() - 2 * frameWidth());
 }
 
+void PictFiche::MontrerCap(const VueCarte& vue) {
+    const QString lu = vue.cap ? QStringLiteral("Azimut %1, compté vers l'ouest : la station est "
+                                                "au cap %2°, compté vers l'est")
+                                     .arg(Q(vue.azimut).trimmed())
+                                     .arg(*vue.cap, 3, 10, QLatin1Char('0'))
+                               : QString();
+    if (boussole_->accessibleName() == lu)
+        return;
+    boussole_->Montrer(vue.cap);
+    for (QWidget* widget : {static_cast<QWidget*>(labAzim_), static_cast<QWidget*>(boussole_)})
+        widget->setToolTip(lu);
+    boussole_->setAccessibleName(lu);
+}
+
 void PictFiche::Montrer(const VueCarte& vue) {
     for (const DescriptionBoite& d : kBoites) {
         const BoiteMontree& montree = vue.boites[Rang(d.boite)];
         TxtField& ici = TxtFieldDe(d.boite);
         if (const QString texte = Q(montree.texte); ici.text() != texte)
             ici.Montrer(texte);
-        ici.Colorer(montree.couleur);
+        ici.Colorer(montree.couleur, vue.enErreur == d.boite);
         ici.PrendreDuTexte(vue.prendDuTexte);
     }
     noFicheLab_->setText(Q(vue.numero));
     MontrerMesure(*labDist_, kDistanceLue, Q(vue.distance));
     MontrerMesure(*labAzim_, kAzimutLu, Q(vue.azimut));
+    MontrerCap(vue);
     labDept_->setText(Q(vue.departement));
     labNonEnregistre_->setVisible(vue.nonEnregistre);
     Presenter(*btActiveRech_, vue.activeRech);

@@ -13,6 +13,7 @@ class QPushButton;
 
 namespace orvalis {
 
+class Boussole;
 class Rangees;
 
 class PictFiche : public QFrame {
@@ -32,6 +33,7 @@ class PictFiche : public QFrame {
     [[nodiscard]] QWidget* FaireCellule(Boite premiere);
     [[nodiscard]] QWidget* FaireResultats();
     void FaireEntete();
+    void MontrerCap(const VueCarte& vue);
     [[nodiscard]] QLabel* FaireLegende(const DescriptionBoite& tete, QWidget* cellule);
     [[nodiscard]] TxtField* FaireBoite(const DescriptionBoite& boite);
 
@@ -42,6 +44,7 @@ class PictFiche : public QFrame {
     QLabel* labDept_ = nullptr;
     QLabel* labDist_ = nullptr;
     QLabel* labAzim_ = nullptr;
+    Boussole* boussole_ = nullptr;
     QPushButton* btActiveRech_ = nullptr;
 };
 

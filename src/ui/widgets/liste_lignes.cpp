@@ -5,6 +5,7 @@
 #include "ui/widgets/teintes.h"
 
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QtMath>
 
@@ -31,13 +32,18 @@ ListeLignes::ListeLignes(QWidget* parent) : QListWidget(parent) {
             [this](QListWidgetItem* element) { Q_EMIT ligneChoisie(row(element)); });
 }
 
-void ListeLignes::Remplir(std::span<const std::string> lignes) {
+void ListeLignes::Remplir(std::span<const std::string> lignes, bool enPlace) {
     const QSignalBlocker silence(this);
+    const int defilement = enPlace ? verticalScrollBar()->value() : 0;
     QStringList textes;
     for (const std::string& ligne : lignes)
         textes << Q(ligne);
     clear();
     addItems(textes);
+    if (!enPlace)
+        return;
+    executeDelayedItemsLayout();
+    verticalScrollBar()->setValue(defilement);
 }
 
 void ListeLignes::Selectionner(int ligne) {
@@ -64,6 +70,10 @@ void ListeLignes::keyPressEvent(QKeyEvent* evenement) {
     switch (evenement->key()) {
     case Qt::Key_Up:
     case Qt::Key_Down:
+        // From no line they go to what is in sight, not to the head of a list that was scrolled.
+        if (const QModelIndex enVue = indexAt({0, 0}); currentRow() < 0 && enVue.isValid())
+            return setCurrentRow(enVue.row());
+        [[fallthrough]];
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
     case Qt::Key_Home:

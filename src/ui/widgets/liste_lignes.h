@@ -16,8 +16,8 @@ class ListeLignes : public QListWidget {
   public:
     explicit ListeLignes(QWidget* parent = nullptr);
 
-    /// Shows these lines; none is selected.
-    void Remplir(std::span<const std::string> lignes);
+    /// Shows these lines; none is selected. `enPlace`: scrolled as the lines before were.
+    void Remplir(std::span<const std::string> lignes, bool enPlace = false);
     /// Selects a line (from 0) without reporting it; out of range: none.
     void Selectionner(int ligne);
     /// Takes the fixed-pitch font at the size of `modele`; returns the pixels that `caracteres`

@@ -68,6 +68,15 @@ QColor Melange(const QColor& fond, const QColor& encre, double part) {
             mele(fond.blue(), encre.blue())};
 }
 
+QPalette EnErreur(QPalette palette) {
+    const QColor fond = palette.color(QPalette::Base);
+    const QColor rouge = EstSombre(fond) ? RougeSur(fond) : QColor(0xA0, 0, 0);
+    palette.setColor(QPalette::Text, rouge);
+    palette.setColor(QPalette::HighlightedText, rouge);
+    palette.setColor(QPalette::Highlight, fond);
+    return palette;
+}
+
 void PeindreSelonBureau(QWidget& widget, std::function<void()> peindre) {
     peindre();
     widget.installEventFilter(new Repeintre(widget, std::move(peindre)));

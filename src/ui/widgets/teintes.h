@@ -3,10 +3,15 @@
 
 #include <QAbstractButton>
 #include <QColor>
+#include <QPalette>
 
 #include <functional>
 
 namespace orvalis {
+
+/// What is worth a second look, under a dark text: that of the banner of a contact not yet stored.
+inline const QColor kAmbre{0xFF, 0xD8, 0x66};
+inline const QColor kEncreSurAmbre{0x3A, 0x2D, 0x00};
 
 enum class Teinte {
     Aucune,     ///< the palette's own
@@ -38,6 +43,10 @@ void RougirTexte(QAbstractButton& bouton);
 
 /// `fond` with `part` (0 to 1) of `encre` in it.
 [[nodiscard]] QColor Melange(const QColor& fond, const QColor& encre, double part);
+
+/// `palette` for a box that reads "ERREUR": its text dark red, selected or not, its background as
+/// it was.
+[[nodiscard]] QPalette EnErreur(QPalette palette);
 
 /// Paints now, and again each time the desktop changes its colours while `widget` lives.
 void PeindreSelonBureau(QWidget& widget, std::function<void()> peindre);

@@ -26,10 +26,11 @@ void TxtField::Montrer(const QString& texte) {
     filtre_->Montrer(texte);
 }
 
-void TxtField::Colorer(Couleur couleur) {
-    if (couleur_ == couleur)
+void TxtField::Colorer(Couleur couleur, bool erreur) {
+    if (couleur_ == couleur && erreur_ == erreur)
         return;
     couleur_ = couleur;
+    erreur_ = erreur;
     AppliquerCouleur();
 }
 
@@ -50,7 +51,7 @@ void TxtField::AppliquerCouleur() {
     } else if (saQsl) {
         palette.setColor(QPalette::Text, RougeSur(palette.color(QPalette::Window)));
     }
-    setPalette(palette);
+    setPalette(erreur_ ? EnErreur(palette) : palette);
 }
 
 // Qt shows no placeholder in a centred box that has the focus. Pale, slanted and small, an example

@@ -20,8 +20,9 @@ class TxtField : public QLineEdit {
     void Montrer(const QString& texte);
     /// Whether it takes text; else it is for reading, choosing and copying, and looks the same.
     void PrendreDuTexte(bool prend);
-    /// Background by a colour of the boxes; at rest it is the palette's own.
-    void Colorer(Couleur couleur);
+    /// Background by a colour of the boxes; at rest it is the palette's own. `erreur`: the text
+    /// reads "ERREUR".
+    void Colorer(Couleur couleur, bool erreur);
 
   Q_SIGNALS:
     void entree();  ///< Enter, either one
@@ -42,6 +43,7 @@ class TxtField : public QLineEdit {
     FiltreEdition* filtre_;
     bool pressionRecue_ = false;
     Couleur couleur_;
+    bool erreur_ = false;
 };
 
 } // namespace orvalis
