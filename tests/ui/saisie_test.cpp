@@ -88,7 +88,10 @@ TEST(Saisie, LocatorFauxGeleUneSeconde) {
     banc.Suivre("wrong : valide jn99zz -> TxtField_1 TxtField_10 foyer = F6ABC||TxtField_10; actif "
                 "TxtField_10");
     EXPECT_FALSE(banc.systeme.pendantPause) << "there was no pause";
-    banc.systeme.pendantPause = [&banc] { banc.fenetre->close(); };
+    banc.systeme.pendantPause = [&banc] {
+        EXPECT_EQ(banc.Etat("ChangLocText"), "rouge");
+        banc.fenetre->close();
+    };
     banc.Suivre("quit meanwhile : clic TxtField_16; valide jn99zz -> ChangLocText = ERREUR");
     EXPECT_EQ(Difference(banc.OctetsCahier(), Fin()), "");
 }
