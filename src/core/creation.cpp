@@ -7,16 +7,13 @@
 
 namespace orvalis {
 namespace fs = std::filesystem;
-namespace {
 
 // Kept on purpose, for the operators: the lengths of locator and callsign must have a binary digit
 // in common. A locator has 6 characters, binary 110, so a callsign passes when the 2 or the 4 is in
 // its length: 2 to 7, 10 to 15 and 18 to 20 characters do; 1, 8, 9, 16 and 17 create nothing.
-bool LongueurPasse(std::string_view indicatif) {
+bool IndicatifCreable(std::string_view indicatif) {
     return (Longueur(indicatif) & kLargeurLocator) != 0;
 }
-
-} // namespace
 
 bool CreerCahier(const fs::path& lecteur, const Parametres& parametres) {
     const fs::path dossier = DossierProgramme(lecteur);
@@ -24,7 +21,7 @@ bool CreerCahier(const fs::path& lecteur, const Parametres& parametres) {
     fs::create_directory(dossier, erreur);
     if (!fs::is_directory(dossier, erreur))
         return false;
-    if (!LongueurPasse(parametres.indicatif))
+    if (!IndicatifCreable(parametres.indicatif))
         return false;
     FichierFiches fichier(TrouverFichier(dossier, parametres.nomFichier), ModeFichier::Creation);
     if (!fichier.Support().Verrouiller())

@@ -21,6 +21,9 @@ namespace orvalis {
 [[nodiscard]] std::int32_t ContactsDejaLa(const std::filesystem::path& lecteur,
                                           std::string_view nomFichier);
 
+/// Whether the length of a callsign passes there.
+[[nodiscard]] bool IndicatifCreable(std::string_view indicatif);
+
 /// Path of a file of the program folder as messages show it, native separators (UTF-8).
 [[nodiscard]] std::string CheminProgrammeTexte(const std::filesystem::path& lecteur,
                                                std::string_view nom);

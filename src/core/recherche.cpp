@@ -1,11 +1,14 @@
 #include "core/recherche.h"
 
+#include "core/dates.h"
 #include "core/pages.h"
 #include "core/texte.h"
 
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <unordered_set>
+#include <utility>
 
 namespace orvalis {
 namespace {
@@ -72,18 +75,29 @@ std::vector<std::string> Parcourir(const Cahier& cahier, Retenir retenir) {
     return lignes;
 }
 
-ResultatRecherche ParIndicatif(const Cahier& cahier, std::string_view texte) {
-    const Pliage pliage;
-    const std::string cherche = pliage.Plier(VersCp1252(Rogner(texte)));
+// Whether a record is a contact with a station.
+class EstContactAvec {
+  public:
+    explicit EstContactAvec(std::string_view indicatif)
+        : cherche_(pliage_.Plier(VersCp1252(Rogner(indicatif)))) {}
     // The lengths first: they settle most records without looking at their letters.
-    const auto estContact = [&](const QsoRecord& fiche) {
+    bool operator()(const QsoRecord& fiche) const {
         const std::string_view indicatif = Rogner(OctetsChamp(fiche, Champ::CSGN));
-        const std::size_t n = cherche.size();
+        const std::size_t n = cherche_.size();
         return indicatif.size() >= n && (indicatif.size() == n || indicatif[n] == '/') &&
-               pliage.Contient(indicatif, cherche);
-    };
+               pliage_.Contient(indicatif, cherche_);
+    }
+    [[nodiscard]] bool Vide() const { return cherche_.empty(); }
+
+  private:
+    Pliage pliage_;
+    std::string cherche_;
+};
+
+ResultatRecherche ParIndicatif(const Cahier& cahier, std::string_view texte) {
+    const EstContactAvec estContact(texte);
     ResultatRecherche resultat;
-    if (!cherche.empty())
+    if (!estContact.Vide())
         resultat.lignes = Parcourir(cahier, estContact);
     const std::size_t nb = resultat.lignes.size();
     resultat.nbreContacts =
@@ -109,6 +123,17 @@ ResultatRecherche ParDate(const Cahier& cahier, std::string_view texte) {
     if (nb != 2)
         resultat.contactsLab = nb > 2 ? "Contacts" : "Contact";
     return resultat;
+}
+
+// Date and start time as one number that grows with time; texts are read by position.
+std::int64_t Moment(const QsoRecord& fiche) {
+    const auto nombre = [&fiche](Champ champ, std::size_t position) {
+        return ValeurNumerique(OctetsChamp(fiche, champ).substr(position, 2));
+    };
+    const std::int64_t jour =
+        (AnneeComplete(nombre(Champ::DQSO, 6)) * 100LL + nombre(Champ::DQSO, 3)) * 100 +
+        nombre(Champ::DQSO, 0);
+    return (jour * 100 + nombre(Champ::HDEB, 0)) * 100 + nombre(Champ::HDEB, 3);
 }
 
 } // namespace
@@ -140,6 +165,39 @@ ResultatRecherche ChercherDoublons(const Cahier& cahier) {
     resultat.nbreContacts = std::to_string(nb);
     resultat.contactsLab = nb < 2 ? "Doublon trouvé" : "Doublons trouvés";
     return resultat;
+}
+
+StationContactee ChercherStation(const Cahier& cahier, std::string_view indicatif) {
+    const EstContactAvec estContact(indicatif);
+    StationContactee station;
+    std::int64_t dernier = 0;
+    LecteurFiches lecteur(cahier.fichier);
+    for (NumeroFiche k = kPremiereFiche; k <= cahier.Derniere() && !estContact.Vide(); ++k) {
+        const QsoRecord& fiche = lecteur.Lire(k);
+        if (!estContact(fiche))
+            continue;
+        const std::int64_t moment = Moment(fiche);
+        if (station.fois++ == 0 || moment >= dernier) {
+            dernier = moment;
+            station.derniere = fiche;
+        }
+    }
+    return station;
+}
+
+std::int32_t CompterDejaLa(const Cahier& cahier, NumeroFiche premiere) {
+    std::unordered_set<std::string> presentes;
+    std::int32_t nombre = 0;
+    LecteurFiches lecteur(cahier.fichier);
+    for (NumeroFiche k = kPremiereFiche; k <= cahier.Derniere(); ++k) {
+        const QsoRecord& fiche = lecteur.Lire(k);
+        std::string cle{fiche.octets.data(), kOctetsDoublon};
+        if (k < premiere)
+            presentes.insert(std::move(cle));
+        else if (presentes.contains(cle))
+            ++nombre;
+    }
+    return nombre;
 }
 
 } // namespace orvalis

@@ -32,4 +32,17 @@ struct ResultatRecherche {
 /// the number of its first record. Throws Erreur.
 [[nodiscard]] ResultatRecherche ChercherDoublons(const Cahier& cahier);
 
+/// The contacts made with a station, suffixed forms included as in the search by callsign.
+struct StationContactee {
+    std::int32_t fois = 0;
+    QsoRecord derniere; ///< the last of them by date and time; of equal ones that stored last
+};
+
+/// Counts them in the logbook, which is counted. Throws Erreur.
+[[nodiscard]] StationContactee ChercherStation(const Cahier& cahier, std::string_view indicatif);
+
+/// How many of the records from `premiere` on to N stand before it already, callsign, date, times
+/// and frequency equal. Throws Erreur.
+[[nodiscard]] std::int32_t CompterDejaLa(const Cahier& cahier, NumeroFiche premiere);
+
 } // namespace orvalis

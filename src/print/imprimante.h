@@ -5,6 +5,7 @@
 // top-left corner and never wrapped. Lines and rectangles are thin and black, texts are black.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace orvalis {
@@ -46,6 +47,9 @@ class Imprimante {
     virtual void TracerLigne(int x1, int y1, int x2, int y2) = 0;
     /// An unfilled rectangle between two opposite corners.
     virtual void TracerRectangle(int x1, int y1, int x2, int y2) = 0;
+
+    /// The printer or file that the document goes to, for the operator (UTF-8); may be empty.
+    [[nodiscard]] virtual std::string Nom() const { return {}; }
 
     /// Sends the document. Throws Erreur when there is no printer, when it fails, or when the PDF
     /// file cannot be written.

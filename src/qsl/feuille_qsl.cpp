@@ -188,7 +188,7 @@ void EcrireEtiquette(FeuilleQSL& feuille, Place place) {
     feuille.connue[EtatFeuille::Rang(place)] = feuille.tampon;
 }
 
-void ProchaineEtiquetteLibre(FeuilleQSL& feuille, Place& place) {
+void ProchaineEtiquetteLibre(EtatFeuille& feuille, Place& place) {
     while (place < kDernierePlace && feuille.Etat(place) != EtatEtiquette::Libre)
         ++place;
     feuille.vue.nrTag = LegendeEtiquette(place);

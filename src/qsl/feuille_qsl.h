@@ -135,7 +135,7 @@ void EcrireEtiquette(FeuilleQSL& feuille, Place place);
 
 /// From `place` upward, the first free one, or 16 when there is none. NrTag names it; when 16
 /// was reached and is withdrawn, NrTag says that there is no label left and BtValidQSL goes.
-void ProchaineEtiquetteLibre(FeuilleQSL& feuille, Place& place);
+void ProchaineEtiquetteLibre(EtatFeuille& feuille, Place& place);
 
 /// Empties boxes 1 to `derniere` and turns both route options off.
 void ViderBoites(FeuilleQSL& feuille, std::size_t derniere = kNbBoitesEtiquette);

@@ -213,17 +213,27 @@ void SaisirBoiteEtiquette(FeuilleQSL& feuille, std::size_t boite, std::string_vi
         feuille.voie = VoieQSL::Aucune;
 }
 
-void EntrerBoiteEtiquette(FeuilleQSL& feuille) {
+void EntrerBoiteEtiquette(EtatFeuille& feuille) {
     if (!feuille.vue.controle && Rogner(feuille.boites[kBoiteIndicatif]) != kMarqueLibre)
         feuille.vue.valider = true;
 }
 
-void ChoisirVoie(FeuilleQSL& feuille, VoieQSL voie) {
+void ChoisirVoie(EtatFeuille& feuille, VoieQSL voie) {
     if (feuille.vue.controle)
         return;
     feuille.voie = voie;
     feuille.boites[kBoiteManager].clear();
     feuille.vue.valider = true;
+}
+
+ProjetEtiquette ProjeterEtiquette(const Cahier& cahier, EtatFeuille& feuille) {
+    if (const std::string_view refus = RefusDeValider(cahier, feuille); !refus.empty())
+        return {kAucunePlace, refus};
+    Place place = kPremierePlace;
+    ProchaineEtiquetteLibre(feuille, place);
+    if (feuille.Etat(place) != EtatEtiquette::Libre)
+        return {kAucunePlace, kPlusDEtiquette};
+    return {place, {}};
 }
 
 ReponseQSL ValiderEtiquette(Cahier& cahier, FeuilleQSL& feuille) {
@@ -236,10 +246,9 @@ ReponseQSL ValiderEtiquette(Cahier& cahier, FeuilleQSL& feuille) {
     }
     if (!PeutToucher(feuille, reponse))
         return reponse;
-    Place place = kPremierePlace;
-    ProchaineEtiquetteLibre(feuille, place);
-    if (feuille.Etat(place) != EtatEtiquette::Libre) {
-        feuille.vue.nrTag = kPlusDEtiquette;
+    const auto [place, refus] = ProjeterEtiquette(cahier, feuille);
+    if (place == kAucunePlace) {
+        feuille.vue.nrTag = refus;
         return reponse;
     }
     VerifierCahier(cahier); // before the sheet is written for one of its contacts

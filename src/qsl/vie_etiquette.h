@@ -61,10 +61,18 @@ void CliquerTag(FeuilleQSL& feuille, Place place);
 void SaisirBoiteEtiquette(FeuilleQSL& feuille, std::size_t boite, std::string_view texte);
 
 /// Enter in any box: shows BtValidQSL unless box 1 holds "***".
-void EntrerBoiteEtiquette(FeuilleQSL& feuille);
+void EntrerBoiteEtiquette(EtatFeuille& feuille);
 
 /// A route option was chosen: empties the manager box, shows BtValidQSL.
-void ChoisirVoie(FeuilleQSL& feuille, VoieQSL voie);
+void ChoisirVoie(EtatFeuille& feuille, VoieQSL voie);
+
+/// What BtValidQSL comes to: the place that the label takes, or why it takes none. The search for
+/// the place shows in NrTag: who only wants to know asks on a copy.
+struct ProjetEtiquette {
+    Place place = kAucunePlace;
+    std::string_view refus; ///< as NrTag says it; empty when there is a place
+};
+[[nodiscard]] ProjetEtiquette ProjeterEtiquette(const Cahier& cahier, EtatFeuille& feuille);
 
 /// BtValidQSL: puts the fresh label on the first free place, marks its contact "En cours" (the one
 /// that it numbers, else the one that its confirmation will take) and closes the panel. Without a

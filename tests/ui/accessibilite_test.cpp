@@ -88,7 +88,8 @@ TEST(Accessibilite, LaBoiteQuiALeFoyerSeVoit) {
                 EXPECT_EQ(boite->visibleRegion().boundingRect(), boite->rect())
                     << points << " points, " << taille.width() << ", " << Numero(d.boite);
             }
-            const auto* cadre = qobject_cast<QScrollArea*>(banc.fenetre->centralWidget());
+            const auto* cadre = banc.fenetre->centralWidget()->findChild<QScrollArea*>(
+                {}, Qt::FindDirectChildrenOnly);
             EXPECT_EQ(cadre->horizontalScrollBar()->maximum(), 0) << points << taille.width();
         }
     QApplication::setFont(avant);

@@ -29,7 +29,8 @@ TEST(Demarrage, PremierLancementCreeLeCahierPuisLOuvre) {
  no callsign : foyer Dlg1Fra2Text2; valide jn99zz -> Dlg1Fra2Text2 = JN99ZZ; foyer = Dlg1Fra2Text1
  no such locator : valide f5abc, jn99zz -> Dlg1Fra2Text2 = ERREUR; rouge Dlg1Fra2Text2
  the callsign as it stands : foyer Dlg1Fra2Text1; tape /p; foyer Dlg1Fra2Text2; touche Ctrl+A
- announced : valide jn04sd -> Dlg1Fra3Lab2 = "~/F5ABCP.Vek va être créé "; caché Dlg1Fra3Lab3
+ advice : tape jn04sd -> Dlg1Conseil contient « JN04SD », puis Valider
+ announced : entree 1 -> Dlg1Conseil contient crée le cahier F5ABCP.Vek; Dlg1Fra3Lab2 = "~/F5ABCP.Vek va être créé "; caché Dlg1Fra3Lab3
  a key too many : foyer Dlg1Fra2Text2; tape x -> actif Dlg1Fra3
  typed on : touche Backspace -> caché Dlg1Fra3
  held down : tape d; tient 3 -> actif Dlg1Fra3
@@ -67,7 +68,9 @@ TEST(Demarrage, CahierCoupe) {
 
 TEST(Demarrage, ToutArreterNeCreeRien) {
     Banc banc;
-    DansLaCreation(banc, "");
+    DansLaCreation(banc, R"(
+ eight characters : tape f5abc/mm -> Dlg1Conseil contient avec 8 caractères, Valider ne fera rien
+ seven : touche Backspace -> Dlg1Conseil contient accepte « F5ABC/M », puis Locator)");
     banc.Ouvrir();
     EXPECT_EQ(banc.systeme.codeDeFin, 0);
     EXPECT_FALSE(std::filesystem::exists(banc.Dossier()));

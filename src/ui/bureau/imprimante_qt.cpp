@@ -1,6 +1,7 @@
 #include "ui/bureau/imprimante_qt.h"
 
 #include "core/erreurs.h"
+#include "ui/bureau/texte_qt.h"
 
 #include <QDir>
 #include <QFile>
@@ -110,6 +111,11 @@ void ImprimanteQt::ChoisirPapier(Papier papier, Orientation orientation) {
     page.setUnits(QPageLayout::Point);
     const QMarginsF marges = page.minimumMargins();
     imprimante_.setPageMargins(marges.isNull() ? kMargesParDefaut : marges, QPageLayout::Point);
+}
+
+std::string ImprimanteQt::Nom() const {
+    const bool pdf = imprimante_.outputFormat() == QPrinter::PdfFormat;
+    return S(pdf ? imprimante_.outputFileName() : imprimante_.printerName());
 }
 
 void ImprimanteQt::TerminerDocument() {

@@ -26,6 +26,7 @@ class ImprimanteQt : public DessinQt {
     explicit ImprimanteQt(QPrinter& imprimante);
 
     void ChoisirPapier(Papier papier, Orientation orientation) override;
+    [[nodiscard]] std::string Nom() const override;
     void TerminerDocument() override;
 
   protected:

@@ -71,46 +71,49 @@ struct DescriptionBoite {
     bool centre;
     Touches touches;
     std::string_view exemple; ///< shown pale in the empty box that is typed in; none: nothing
+    std::string_view nom;     ///< where its caption is not seen: in a sentence, by a screen reader
+    std::string_view prend;   ///< what it takes where that is not plain, in words
+    std::string_view faut;    ///< what Enter needs where it does not take any text, in words
+    std::string_view modele;  ///< a text of that form, where there is one
 };
 
 /// In the order of their numbers. My QSL has no example: it is left to the QSL service.
 inline constexpr std::array<DescriptionBoite, kNbBoites> kBoites = {{
     {Boite::Indicatif, "Frm01Lab01", "_ Indicatif_______________________", 15, false,
-     Touches::Majuscules, "ex. F5ABC"},
-    {Boite::Date, "Frm01Lab02", "_ Date _____", 8, true, Touches::DateHeureFreq, "jj/mm/aa"},
+     Touches::Majuscules, "ex. F5ABC", "Indicatif", "", "un indicatif", ""},
+    {Boite::Date, "Frm01Lab02", "_ Date _____", 8, true, Touches::DateHeureFreq, "jj/mm/aa", "Date",
+     "", "jj/mm/aa", "01/02/03"},
     {Boite::Debut, "Frm01Lab03", "_ Heures   Début /  Fin", 5, true, Touches::DateHeureFreq,
-     "hh:mm"},
-    {Boite::Fin, "", "", 5, true, Touches::DateHeureFreq, "hh:mm"},
+     "hh:mm", "Heure de début", "", "hh:mm", "12:34"},
+    {Boite::Fin, "", "", 5, true, Touches::DateHeureFreq, "hh:mm", "Heure de fin", "", "hh:mm",
+     "12:34"},
     {Boite::Frequence, "Frm01Lab05", "_ Fréquence________", 10, false, Touches::DateHeureFreq,
-     "ex. 14.200"},
-    {Boite::Mode, "Frm01Lab06", "_ Mode______", 5, true, Touches::Majuscules, "ex. SSB"},
+     "ex. 14.200", "Fréquence", "MHz, point décimal", "une fréquence", ""},
+    {Boite::Mode, "Frm01Lab06", "_ Mode______", 5, true, Touches::Majuscules, "ex. SSB", "Mode", "",
+     "un mode", ""},
     {Boite::ReportDonne, "Frm01Lab07", "_ RST Donné    /    Reçu", 8, true, Touches::Report,
-     "ex. 59"},
-    {Boite::ReportRecu, "", "", 8, true, Touches::Report, "ex. 59"},
+     "ex. 59", "RST donné", "chiffres, point et +", "un report", ""},
+    {Boite::ReportRecu, "", "", 8, true, Touches::Report, "ex. 59", "RST reçu",
+     "chiffres, point et +", "un report", ""},
     {Boite::Ville, "Frm01Lab09", "_ QTH ______________________________", 25, false,
-     Touches::Majuscules, "ex. BLOIS"},
-    {Boite::SonLocator, "Frm01Lab10", "_ Son Locator _", 6, true, Touches::Majuscules,
-     "ex. JN18DU"},
+     Touches::Majuscules, "ex. BLOIS", "QTH", "", "", ""},
+    {Boite::SonLocator, "Frm01Lab10", "_ Son Locator _", 6, true, Touches::Majuscules, "ex. JN18DU",
+     "Son locator", "", "un locator comme JN18DU", ""},
     {Boite::Departement, "Frm01Lab11", "_ Département ____________", 3, true, Touches::Chiffres,
-     "ex. 41"},
+     "ex. 41", "Département", "", "0 à 95 ou 971 à 974", ""},
     {Boite::Prenom, "Frm01Lab12", "_ Prénom  ___________________________", 15, false,
-     Touches::Libres, "ex. Jean"},
+     Touches::Libres, "ex. Jean", "Prénom", "", "", ""},
     {Boite::Remarque, "lblLabels", "_ Infos ____________", 15, false, Touches::Majuscules,
-     "ex. BON SIGNAL"},
-    {Boite::MaQsl, "Frm01Lab14", "_ Ma QSL ___", 8, true, Touches::Libres, ""},
-    {Boite::SaQsl, "Frm01Lab15", "_ Sa QSL __", 8, true, Touches::Libres, "jj/mm/aa"},
-    {Boite::MonLocator, "Frm01Lab16", " _Mon Locator__", 6, true, Touches::Majuscules,
-     "ex. JN18DU"},
+     "ex. BON SIGNAL", "Informations", "", "", ""},
+    {Boite::MaQsl, "Frm01Lab14", "_ Ma QSL ___", 8, true, Touches::Libres, "", "Ma QSL", "", "",
+     ""},
+    {Boite::SaQsl, "Frm01Lab15", "_ Sa QSL __", 8, true, Touches::Libres, "jj/mm/aa", "Sa QSL", "",
+     "", ""},
+    {Boite::MonLocator, "Frm01Lab16", " _Mon Locator__", 6, true, Touches::Majuscules, "ex. JN18DU",
+     "Mon locator", "", "un locator comme JN18DU", ""},
     {Boite::Manager, "lblLabels_17", "_ QSL Manager ______", 15, false, Touches::Majuscules,
-     "ex. F6XYZ"},
+     "ex. F6XYZ", "QSL manager", "", "", ""},
 }};
-
-/// What a box is called where its caption is not seen: by a screen reader, in a message.
-inline constexpr std::array<std::string_view, kNbBoites> kNomsBoites = {
-    "Indicatif",   "Date",       "Heure de début", "Heure de fin", "Fréquence",
-    "Mode",        "RST donné",  "RST reçu",       "QTH",          "Son locator",
-    "Département", "Prénom",     "Informations",   "Ma QSL",       "Sa QSL",
-    "Mon locator", "QSL manager"};
 
 [[nodiscard]] constexpr const DescriptionBoite& Decrire(Boite boite) {
     return kBoites[Rang(boite)];

@@ -1,5 +1,7 @@
 #include "ui/carte/conditions.h"
 
+#include <array>
+
 namespace orvalis {
 namespace {
 
@@ -10,7 +12,38 @@ bool UnPanneauAttend(const Carte& carte, const Ecran& ecran, const EtatFeuille& 
            feuille.vue.panneau || feuille.vue.controle;
 }
 
+struct Raison {
+    Condition condition;
+    std::string_view mots;
+};
+
+// What stands in the way, first what must go first.
+constexpr std::array<Raison, 15> kRaisons = {{
+    {kSansGel, "un instant, un travail est en cours"},
+    {kSansControle, "répondez d'abord au contrôle de l'impression"},
+    {kSansFeuille, "quittez d'abord la feuille d'étiquettes"},
+    {kHorsSaisie, "terminez d'abord la saisie"},
+    {kSansReponse, "répondez d'abord Oui ou Non"},
+    {kHorsEdition, "terminez d'abord la correction"},
+    {kEnSaisie, "seulement pendant une saisie"},
+    {kCahierPropre, "seulement sur votre propre cahier"},
+    {kModifiable, "ce cahier est en lecture seule"},
+    {kAuMoinsUn, "le cahier est vide"},
+    {kAuMoinsDeux, "il faut au moins deux contacts"},
+    {kFicheMontree, "aucune fiche n'est affichée"},
+    {kCahierOuvert, "aucun cahier n'est ouvert"},
+    {kPret, "le cahier n'est pas encore ouvert"},
+    {kSansAttente, "un autre panneau attend votre réponse"},
+}};
+
 } // namespace
+
+std::string_view RaisonDuRefus(unsigned requises, unsigned remplies) {
+    for (const Raison& raison : kRaisons)
+        if (!Permis(requises & raison.condition, remplies))
+            return raison.mots;
+    return {};
+}
 
 unsigned ConditionsRemplies(const Session& session, const Ecran& ecran,
                             const EtatFeuille& feuille) {

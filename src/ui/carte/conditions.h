@@ -6,6 +6,8 @@
 #include "ui/carte/ecran.h"
 #include "ui/carte/session.h"
 
+#include <string_view>
+
 namespace orvalis {
 
 /// Several are joined with `|`.
@@ -35,6 +37,10 @@ inline constexpr unsigned kConditionsMuettes = kSansAttente;
 inline constexpr unsigned kPourModifier = kHorsSaisie | kModifiable | kAuMoinsUn | kFicheMontree;
 inline constexpr unsigned kPourNouveau = kHorsSaisie | kModifiable;
 inline constexpr unsigned kPourSupprimer = kHorsSaisie | kModifiable | kAuMoinsUn;
+
+/// Why a command that asks for `requises` does nothing in a state that meets `remplies`, in words:
+/// the first thing to do about it; empty when it may run.
+[[nodiscard]] std::string_view RaisonDuRefus(unsigned requises, unsigned remplies);
 
 /// The conditions that the state meets.
 [[nodiscard]] unsigned ConditionsRemplies(const Session& session, const Ecran& ecran,

@@ -148,7 +148,7 @@ std::string ContactANoter(const Carte& carte) {
     std::string texte = "\n\nLe contact en cours n'est pas enregistré. Notez-le\u00A0:";
     for (const DescriptionBoite& d : kBoites)
         if (const std::string& zone = carte.zones[d.boite]; !Rogner(zone).empty())
-            texte += "\n" + std::string{kNomsBoites[Rang(d.boite)]} + "\u00A0: " + zone;
+            texte += "\n" + std::string{d.nom} + "\u00A0: " + zone;
     return texte;
 }
 

@@ -6,6 +6,7 @@
 #include "core/dates.h"
 #include "core/page_texte.h"
 #include "core/pages.h"
+#include "maint/sauvegardes.h"
 #include "ui/carte/boites.h"
 
 #include <cstdint>
@@ -26,13 +27,17 @@ enum class Cible : unsigned char {
     Recherche,        ///< RechText
     Nouveau,          ///< BtNewQSO
     Suivant,          ///< BtEnrSuivant
+    Terminer,         ///< BtEnrTerminer
+    Oui,              ///< FraCmdOui
     Non,              ///< FraCmdNon
     TexteLocator,     ///< ChangLocText
     ValiderLocator,   ///< BtChangValid
+    AnnulerLocator,   ///< BtChangAnnul
     Sauvegarder,      ///< BtPjSauvegarder
     Jumeler,          ///< BtPjumeler
     BoiteEtiquette,   ///< FLdText, by number
-    VoieEtiquette,    ///< the route option that is chosen, else OptBureau
+    VoieBureau,       ///< OptBureau
+    VoieDirecte,      ///< OptDirect
     ValiderEtiquette, ///< BtValidQSL
     LaisserEtiquette, ///< BtLeaveQSL
     ChoixEtiquette,   ///< BtChoix, by place
@@ -147,6 +152,29 @@ struct PanneauJumelage {
     friend bool operator==(const PanneauJumelage&, const PanneauJumelage&) = default;
 };
 
+/// What the last command did, for the line of advice. It stands until something else that is seen
+/// of the logbook, the card or a panel changes (OublierAnnonce, conseil.h).
+struct Annonce {
+    std::string texte;
+    unsigned rang = 0; ///< grows with each, so that the same text twice is two
+    friend bool operator==(const Annonce&, const Annonce&) = default;
+};
+
+/// The menu entry or button that pointer or menu key stands on.
+struct Designation {
+    std::string nom;         ///< objectName; empty for none
+    std::string legende;     ///< of a menu entry, without the blanks around it
+    unsigned conditions = 0; ///< what its command asks for (conditions.h)
+    unsigned annonce = 0;    ///< rank of the last announcement when it was come to
+};
+
+/// What the backup folder held of our own logbook when it was looked at last.
+struct EtatSauvegarde {
+    bool connu = false; ///< it could be looked at
+    std::optional<Sauvegarde> derniere;
+    int jours = 0; ///< age of the newest backup
+};
+
 /// The start-up marker holds its first value until the window is initialised.
 inline constexpr int kDemarrageAFaire = 4;
 
@@ -170,6 +198,10 @@ struct Ecran {
     std::string titre = " Cahier de Trafic"; ///< of the window
     std::string adieu;                       ///< OrvalisLab03
     EtatFoyer foyer;
+    Annonce annonce;
+    std::string dejaContacte; ///< what was found of the station under entry; empty before
+    EtatSauvegarde sauvegarde;
+    Designation designee;
 };
 
 } // namespace orvalis

@@ -38,9 +38,13 @@ bool Joignable(const Carte& carte, const Ecran& ecran, const Foyer& foyer) {
         return !carte.saisie.EnSaisie && ecran.menuActif && !ecran.contacts.boutonsGrises;
     case Cible::Suivant:
         return carte.saisie.EnSaisie && ecran.suivantArme;
+    case Cible::Terminer:
+        return carte.saisie.EnSaisie;
+    case Cible::Oui:
     case Cible::Non:
         return ecran.question.has_value();
     case Cible::TexteLocator:
+    case Cible::AnnulerLocator:
         return ecran.locator.montre;
     case Cible::ValiderLocator:
         return ecran.locator.montre && ecran.locator.valider;

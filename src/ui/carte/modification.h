@@ -19,6 +19,11 @@ namespace orvalis {
 /// The question that asks whether to delete the card on show.
 [[nodiscard]] Question QuestionEffacer(const Carte& carte);
 
+/// Whether Oui and Non answer for a deletion; else for the changes that NbModifs counts.
+[[nodiscard]] inline bool DemandeEffacement(const Carte& carte) {
+    return carte.saisie.NbModifs == 0;
+}
+
 /// Colours and state once Oui has stored the changes (EcrireFiche comes first).
 [[nodiscard]] Carte RepondreOui(const Carte& carte);
 

@@ -8,7 +8,8 @@
 namespace orvalis {
 namespace {
 
-VueCarte VoirCarte(const Carte& carte, const Ecran& ecran) {
+VueCarte VoirCarte(const Session& session, const Ecran& ecran) {
+    const Carte& carte = session.carte;
     return {.boites = carte.boites,
             .enErreur = BoiteDuFoyer(ecran.enErreur.value_or(Foyer{})),
             .numero = carte.numero,
@@ -17,7 +18,8 @@ VueCarte VoirCarte(const Carte& carte, const Ecran& ecran) {
             .cap = CapMontre(carte),
             .departement = carte.departement,
             .activeRech = ecran.activeRech,
-            .nonEnregistre = carte.saisie.EnSaisie,
+            .bandeau = Bandeau(session, ecran),
+            .infoJointe = ChercherInfoJointe(carte),
             .active = !ecran.classer.montre,
             .prendDuTexte = carte.PrendDuTexte()};
 }
@@ -37,6 +39,8 @@ VueBoutons VoirBoutons(const Session& session, const Ecran& ecran, unsigned cond
     vue.suivantArme = ecran.suivantArme;
     vue.annuler = ecran.annulerActif;
     vue.tempsReel = saisie.tempsReel;
+    if (saisie.EnSaisie)
+        vue.bulleTerminer = "Terminer " + DireTerminer(session, ecran).texte;
     return vue;
 }
 
@@ -70,7 +74,7 @@ constexpr std::array<Foyer, 9> kReplis = {{
 VueFenetre VoirFenetre(const Session& session, const Ecran& ecran, const EtatFeuille& feuille) {
     VueFenetre vue;
     vue.conditions = ConditionsRemplies(session, ecran, feuille);
-    vue.carte = VoirCarte(session.carte, ecran);
+    vue.carte = VoirCarte(session, ecran);
     vue.boutons = VoirBoutons(session, ecran, vue.conditions);
     vue.liste = ecran.liste;
     vue.pagination = ecran.liste.nbFiches > kFichesParPage;
@@ -89,7 +93,26 @@ VueFenetre VoirFenetre(const Session& session, const Ecran& ecran, const EtatFeu
     vue.invitation = Inviter(session, vue.conditions);
     vue.titre = ecran.titre;
     vue.adieu = ecran.adieu;
+    vue.annonce = ecran.annonce.rang;
+    vue.conseil = Conseiller(session, ecran, feuille);
     return vue;
+}
+
+bool OublierAnnonce(Ecran& ecran, const VueFenetre& avant, const VueFenetre& apres) {
+    const auto memeTexte = [](const BoiteMontree& a, const BoiteMontree& b) {
+        return a.texte == b.texte;
+    };
+    const VueCarte &a = avant.carte, &b = apres.carte;
+    const bool meme = std::equal(a.boites.begin(), a.boites.end(), b.boites.begin(), memeTexte) &&
+                      a.numero == b.numero && avant.boutons == apres.boutons &&
+                      avant.liste == apres.liste && avant.recherche == apres.recherche &&
+                      avant.contacts == apres.contacts && avant.question == apres.question &&
+                      avant.locator == apres.locator && avant.jumelage == apres.jumelage &&
+                      avant.feuille == apres.feuille;
+    const bool oublie = !meme && avant.annonce == apres.annonce && !ecran.annonce.texte.empty();
+    if (oublie)
+        ecran.annonce.texte.clear();
+    return oublie;
 }
 
 bool Joignable(const VueFenetre& vue, const Carte& carte, const Ecran& ecran, const Foyer& foyer) {
@@ -97,7 +120,8 @@ bool Joignable(const VueFenetre& vue, const Carte& carte, const Ecran& ecran, co
     const bool editeur = feuille.panneau && !feuille.controle;
     switch (foyer.cible) {
     case Cible::BoiteEtiquette:
-    case Cible::VoieEtiquette:
+    case Cible::VoieBureau:
+    case Cible::VoieDirecte:
     case Cible::ChoixEtiquette:
         return editeur;
     case Cible::ValiderEtiquette:

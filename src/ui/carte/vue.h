@@ -4,6 +4,7 @@
 
 #include "qsl/feuille_qsl.h"
 #include "ui/carte/apercu_etiquette.h"
+#include "ui/carte/conseil.h"
 #include "ui/carte/ecran.h"
 #include "ui/carte/session.h"
 
@@ -22,8 +23,9 @@ struct VueCarte {
     std::string azimut;
     std::optional<int> cap; ///< true direction of the correspondent, clockwise from the North
     std::string departement;
-    bool activeRech = false;    ///< BtActiveRech is on show
-    bool nonEnregistre = false; ///< the banner of a contact that is not stored yet
+    bool activeRech = false;              ///< BtActiveRech is on show
+    std::string bandeau;                  ///< of a contact that is not stored yet; empty for none
+    std::optional<InfoJointe> infoJointe; ///< said beside the box that does not show it
     bool active = true;
     bool prendDuTexte = false; ///< its boxes; else they are for reading, choosing and copying
     friend bool operator==(const VueCarte&, const VueCarte&) = default;
@@ -39,6 +41,7 @@ struct VueBoutons {
     bool suivantArme = false;
     bool annuler = true;
     bool tempsReel = true;
+    std::string bulleTerminer; ///< what BtEnrTerminer would do
     friend bool operator==(const VueBoutons&, const VueBoutons&) = default;
 };
 
@@ -61,10 +64,17 @@ struct VueFenetre {
     std::string titre;
     std::string adieu;
     unsigned conditions = 0; ///< those that commands may count on (conditions.h)
+    unsigned annonce = 0;    ///< rank of what the last command announced
+    Conseil conseil;
 };
 
 [[nodiscard]] VueFenetre VoirFenetre(const Session& session, const Ecran& ecran,
                                      const EtatFeuille& feuille);
+
+/// A gesture that changes what is seen of the logbook, the card or a panel forgets what the last
+/// command did, unless it is that command. Moves of the focus and the clock are no such change.
+/// Returns whether it was forgotten, so that the view must be taken again.
+[[nodiscard]] bool OublierAnnonce(Ecran& ecran, const VueFenetre& avant, const VueFenetre& apres);
 
 /// Whether a control that rules name can take the focus in this view, which knows of the label
 /// sheet too (foyer.h). Controls that no rule names are not judged.

@@ -9,15 +9,16 @@
 #include "ui/bureau/texte_qt.h"
 #include "ui/carte/boites.h"
 #include "ui/carte/chapitre.h"
-#include "ui/carte/saisie.h"
 #include "ui/dialogues/dlg2.h"
 #include "ui/dialogues/guide.h"
 #include "ui/widgets/filtre_edition.h"
 #include "ui/widgets/gestes.h"
+#include "ui/widgets/lab_conseil.h"
 #include "ui/widgets/police.h"
 #include "ui/widgets/teintes.h"
 #include "ui_dlg1.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QShortcut>
@@ -62,7 +63,7 @@ Dlg1::Dlg1(std::filesystem::path lecteur, Systeme& systeme, QWidget* parent)
         connect(boite, &QLineEdit::textEdited, this, [this, boite](const QString& texte) {
             const bool premiere = boite == ui_->Dlg1Fra2Text1;
             const std::string lu = Majuscules(Rogner(S(texte)));
-            if (lu != (premiere ? indicatif_ : monLocator_))
+            if (lu != (premiere ? acceptee_.indicatif : acceptee_.monLocator))
                 ui_->Dlg1Fra3->hide();
         });
     }
@@ -73,7 +74,14 @@ Dlg1::Dlg1(std::filesystem::path lecteur, Systeme& systeme, QWidget* parent)
     connect(ui_->BtAppelLocator, &QPushButton::clicked, this, &Dlg1::CalculerLocator);
     connect(ui_->Dlg1Fra3CmdValider, &QPushButton::clicked, this, &Dlg1::Valider);
     connect(ui_->Dlg1Fra2CmdArreter, &QPushButton::clicked, this, &QDialog::reject);
+    conseil_ = new LabConseil(this);
+    conseil_->setObjectName(QStringLiteral("Dlg1Conseil"));
+    layout()->addWidget(conseil_);
+    for (QLineEdit* boite : {ui_->Dlg1Fra2Text1, ui_->Dlg1Fra2Text2})
+        connect(boite, &QLineEdit::textChanged, this, &Dlg1::Conseiller);
+    connect(qApp, &QApplication::focusChanged, this, &Dlg1::Conseiller);
     ui_->Dlg1Fra2Text1->setFocus();
+    Conseiller();
 }
 
 Dlg1::~Dlg1() = default;
@@ -97,40 +105,53 @@ void Dlg1::keyPressEvent(QKeyEvent* evenement) {
         QDialog::keyPressEvent(evenement);
 }
 
-bool Dlg1::PrendreIndicatif() {
-    const std::string texte = S(ui_->Dlg1Fra2Text1->text());
-    if (Rogner(texte).empty())
-        return false;
-    indicatif_ = Majuscules(Rogner(texte));
-    nomFichier_ = NomDuCahier(indicatif_);
-    return true;
+Creation Dlg1::Lire() const {
+    Creation creation = acceptee_;
+    creation.texteIndicatif = S(ui_->Dlg1Fra2Text1->text());
+    creation.texteLocator = S(ui_->Dlg1Fra2Text2->text());
+    creation.complete = ui_->Dlg1Fra3->isVisibleTo(this);
+    const QWidget* foyer = focusWidget();
+    creation.foyer = foyer == ui_->Dlg1Fra2Text1        ? CibleCreation::Indicatif
+                     : foyer == ui_->Dlg1Fra2Text2      ? CibleCreation::Locator
+                     : foyer == ui_->Dlg1Fra3CmdValider ? CibleCreation::Valider
+                                                        : CibleCreation::Autre;
+    return creation;
+}
+
+void Dlg1::Conseiller() {
+    conseil_->Montrer(ConseillerCreation(Lire()));
 }
 
 void Dlg1::AccepterIndicatif() {
-    if (!PrendreIndicatif())
+    Creation creation = Lire();
+    orvalis::AccepterIndicatif(creation);
+    if (creation.foyer != CibleCreation::Locator)
         return;
+    acceptee_ = creation;
     ui_->Dlg1Fra2Text2->clear();
     ui_->Dlg1Fra3->hide();
     ui_->Dlg1Fra2Text2->setFocus();
 }
 
 void Dlg1::AccepterLocator() {
-    // What the callsign box shows is what will be created, whether Enter was pressed there or not.
-    if (!PrendreIndicatif()) {
+    Creation creation = Lire();
+    orvalis::AccepterLocator(creation);
+    if (creation.foyer == CibleCreation::Indicatif) {
         ui_->Dlg1Fra2Text1->setFocus();
         return;
     }
-    const std::string texte = S(ui_->Dlg1Fra2Text2->text());
-    if (!LocatorValide(texte)) {
-        ui_->Dlg1Fra2Text2->setText(Q(kErreur));
+    if (creation.erreur) {
+        ui_->Dlg1Fra2Text2->setText(Q(creation.texteLocator));
         ui_->Dlg1Fra2Text2->setPalette(EnErreur({}));
         ui_->Dlg1Fra2Text2->selectAll();
         ui_->Dlg1Fra3->hide();
         return;
     }
-    monLocator_ = texte;
-    ui_->Dlg1Fra3Lab2->setText(Q(CheminProgrammeTexte(lecteur_, nomFichier_) + " va être créé "));
-    const std::string avis = AvisContactsPerdus(ContactsDejaLa(lecteur_, nomFichier_), nomFichier_);
+    acceptee_ = creation;
+    ui_->Dlg1Fra3Lab2->setText(
+        Q(CheminProgrammeTexte(lecteur_, creation.nomFichier) + " va être créé "));
+    const std::string avis =
+        AvisContactsPerdus(ContactsDejaLa(lecteur_, creation.nomFichier), creation.nomFichier);
     ui_->Dlg1Fra3Lab3->setText(Q(avis));
     ui_->Dlg1Fra3Lab3->setVisible(!avis.empty());
     ui_->Dlg1Fra3->show();
@@ -152,14 +173,15 @@ void Dlg1::CalculerLocator() {
 
 void Dlg1::Valider() {
     try {
-        if (!CreerCahier(lecteur_, {indicatif_, nomFichier_, monLocator_}))
+        if (!CreerCahier(lecteur_,
+                         {acceptee_.indicatif, acceptee_.nomFichier, acceptee_.monLocator}))
             return;
     } catch (const std::exception& echec) {
         systeme_.Avertir(this, Q(MessageErreur(echec)));
         return;
     }
     systeme_.Informer(this, QStringLiteral(" Création réalisée avec succès"),
-                      Q("   Le fichier " + nomFichier_ + " est créé  \n\n"));
+                      Q("   Le fichier " + acceptee_.nomFichier + " est créé  \n\n"));
     accept();
 }
 

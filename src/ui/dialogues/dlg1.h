@@ -1,11 +1,12 @@
 // The first run: asks for callsign and locator, writes the Settings file and an empty logbook.
 #pragma once
 
+#include "ui/carte/creation_cahier.h"
+
 #include <QDialog>
 
 #include <filesystem>
 #include <memory>
-#include <string>
 
 namespace orvalis::Ui {
 class Dlg1;
@@ -13,6 +14,7 @@ class Dlg1;
 
 namespace orvalis {
 
+class LabConseil;
 class Systeme;
 
 class Dlg1 : public QDialog {
@@ -26,6 +28,9 @@ class Dlg1 : public QDialog {
     void keyPressEvent(QKeyEvent* evenement) override;
 
   private:
+    /// The dialog as the rules know it.
+    [[nodiscard]] Creation Lire() const;
+    void Conseiller();
     void AccepterIndicatif();
     /// Callsign and file name from the callsign box; false when that is empty.
     bool PrendreIndicatif();
@@ -36,9 +41,8 @@ class Dlg1 : public QDialog {
     std::unique_ptr<Ui::Dlg1> ui_;
     std::filesystem::path lecteur_;
     Systeme& systeme_;
-    std::string indicatif_;
-    std::string nomFichier_;
-    std::string monLocator_;
+    Creation acceptee_; ///< what Enter has accepted
+    LabConseil* conseil_ = nullptr;
 };
 
 } // namespace orvalis

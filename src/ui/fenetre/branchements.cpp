@@ -1,6 +1,8 @@
 // What the controls report, and the flow that answers it. Menu entries and buttons stand in the
 // table of the commands; here is what brings something along: a line, a box, a text.
+#include "core/texte.h"
 #include "ui/bureau/texte_qt.h"
+#include "ui/fenetre/designateur.h"
 #include "ui/fenetre/menus.h"
 #include "ui/fenetre/orvalis.h"
 #include "ui/flux/commandes.h"
@@ -61,12 +63,22 @@ void Orvalis::BrancherCommande(QObject& objet, const Commande& commande) {
     const auto lancer = [this, &commande, quand] {
         Executer([&] { LancerCommande(p_, commande); }, quand);
     };
+    designateur_->Suivre(objet, commande);
     if (auto* action = qobject_cast<QAction*>(&objet))
         connect(action, &QAction::triggered, this, lancer);
     else if (auto* bouton = qobject_cast<QAbstractButton*>(&objet))
         connect(bouton, &QAbstractButton::clicked, this, lancer);
     else if (auto* boite = qobject_cast<TxtField*>(&objet))
         connect(boite, &TxtField::cliquee, this, lancer);
+}
+
+void Orvalis::Designer(const Commande* commande) {
+    // At once: a button that the painter hides is left while no flow runs.
+    ecran_.designee = {};
+    if (commande != nullptr)
+        ecran_.designee = {std::string{commande->nom}, std::string{Rogner(commande->legende)},
+                           commande->conditions, ecran_.annonce.rang};
+    Executer([] {});
 }
 
 void Orvalis::BrancherListes() {

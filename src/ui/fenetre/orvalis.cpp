@@ -4,6 +4,7 @@
 #include "ui/bureau/texte_qt.h"
 #include "ui/carte/saisie.h"
 #include "ui/fenetre/cadre.h"
+#include "ui/fenetre/designateur.h"
 #include "ui/flux/flux_demarrage.h"
 #include "ui/flux/flux_fichiers.h"
 #include "ui/panneaux/fra_msg_fiche.h"
@@ -20,6 +21,7 @@
 #include "ui/panneaux/pict_menu.h"
 #include "ui/panneaux/pict_rech.h"
 #include "ui/widgets/gestes.h"
+#include "ui/widgets/lab_conseil.h"
 #include "ui/widgets/rangees.h"
 #include "ui/widgets/vue_page.h"
 
@@ -125,19 +127,20 @@ Orvalis::Orvalis(Systeme& systeme, QWidget* parent)
          *this,
          [this](const Action& action) { Sortir(action); },
          [this] { close(); }},
-      adieu_(new QLabel(this)), panneaux_{*new PanneauHorloge(this),    *new PictListe(this),
-                                          *new VuePage(this),           *new PictFiche(this),
-                                          *new PictMenu(this),          *new PictEnrs(this),
-                                          *new PictRech(this),          *new PictContacts(this),
-                                          *new FraMsgFiche(this),       *new PictChangLocator(this),
-                                          *new PictClasser(this),       *new PJumelage(this),
-                                          *new QStackedWidget(this),    *new PictFeuilleQSL(this),
-                                          *new PictCtrlImpression(this)},
+      adieu_(new QLabel(this)),
+      panneaux_{
+          *new PanneauHorloge(this),   *new PictListe(this),      *new VuePage(this),
+          *new PictFiche(this),        *new PictMenu(this),       *new PictEnrs(this),
+          *new PictRech(this),         *new PictContacts(this),   *new FraMsgFiche(this),
+          *new PictChangLocator(this), *new PictClasser(this),    *new PJumelage(this),
+          *new QStackedWidget(this),   *new PictFeuilleQSL(this), *new PictCtrlImpression(this),
+          *new LabConseil(this)},
       timer1_(new QTimer(this)) {
     ChargerRessources();
     setObjectName(QStringLiteral("Orvalis"));
     setWindowIcon(QIcon(QStringLiteral(":/orvalis.svg")));
     timer1_->setObjectName(QStringLiteral("Timer1"));
+    designateur_ = new Designateur([this](const Commande* c) { Designer(c); }, this);
     Disposer();
     peintre_ = std::make_unique<Peintre>(*this, panneaux_, *adieu_, BrancherMenus());
     BrancherBoutons();
@@ -170,13 +173,20 @@ void Orvalis::Disposer() {
                             panneaux_.page.Deployer(!cote);
                         }},
                        this);
-    setCentralWidget(cadre_);
+    // The line of advice is in view whatever is scrolled out of it.
+    auto* tout = new QWidget(this);
+    auto* pile = SansMarges<QVBoxLayout>(tout);
+    pile->setSpacing(0);
+    pile->addWidget(cadre_, 1);
+    pile->addWidget(&panneaux_.conseil);
+    setCentralWidget(tout);
     OrdonnerTabulation();
 }
 
 // The window opens so that the sheet shows its largest type, as far as the screen allows.
 void Orvalis::Dimensionner() {
-    const QSize voulue = cadre_->TailleVoulue() + QSize(0, menuBar()->sizeHint().height());
+    const QSize voulue = cadre_->TailleVoulue() +
+                         QSize(0, menuBar()->sizeHint().height() + panneaux_.conseil.height());
     const QScreen* ecran = QGuiApplication::primaryScreen();
     resize(ecran == nullptr ? voulue : voulue.boundedTo(ecran->availableSize() - QSize(16, 40)));
 }
@@ -281,6 +291,9 @@ void Orvalis::Sortir(const Action& action) {
 void Orvalis::Peindre() {
     VueFenetre vue = VoirFenetre(session_, ecran_, feuille_);
     if (AccorderFoyer(session_, ecran_, vue))
+        vue = VoirFenetre(session_, ecran_, feuille_);
+    if (const auto& derniere = peintre_->Derniere();
+        derniere && OublierAnnonce(ecran_, *derniere, vue))
         vue = VoirFenetre(session_, ecran_, feuille_);
     peintre_->Peindre(vue, ecran_.foyer);
     // What had the focus may have gone without being known to the rules.

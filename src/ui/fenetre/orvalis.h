@@ -23,6 +23,7 @@ class QTimer;
 namespace orvalis {
 
 class Cadre;
+class Designateur;
 class Rangees;
 struct Commande;
 
@@ -51,6 +52,8 @@ class Orvalis : public QMainWindow {
     /// Fills the menu bar; returns its entries for the painter.
     [[nodiscard]] std::vector<EntreeDeMenu> BrancherMenus();
     void BrancherBoutons();
+    /// The command that the pointer or a menu key stands on; none for nullptr.
+    void Designer(const Commande* commande);
     void BrancherCommande(QObject& objet, const Commande& commande);
     void BrancherListes();
     void BrancherFiche();
@@ -80,6 +83,7 @@ class Orvalis : public QMainWindow {
     Cadre* cadre_ = nullptr;
     Rangees* rangeeBoutons_ = nullptr; ///< under the card
     Panneaux panneaux_;
+    Designateur* designateur_ = nullptr;
     std::unique_ptr<Peintre> peintre_;
     QTimer* timer1_ = nullptr;
     std::vector<const QObject*> memeGeles_; ///< act although the window is frozen

@@ -6,6 +6,7 @@ class QStackedWidget;
 namespace orvalis {
 
 class FraMsgFiche;
+class LabConseil;
 class PJumelage;
 class PanneauHorloge;
 class PictChangLocator;
@@ -36,6 +37,7 @@ struct Panneaux {
     QStackedWidget& droite; ///< the column of the card, or the label sheet
     PictFeuilleQSL& feuilleQSL;
     PictCtrlImpression& ctrlImpression;
+    LabConseil& conseil;
 };
 
 } // namespace orvalis

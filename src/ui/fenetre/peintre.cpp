@@ -15,6 +15,7 @@
 #include "ui/panneaux/pict_liste.h"
 #include "ui/panneaux/pict_menu.h"
 #include "ui/panneaux/pict_rech.h"
+#include "ui/widgets/lab_conseil.h"
 #include "ui/widgets/presence.h"
 #include "ui/widgets/vue_page.h"
 
@@ -37,21 +38,24 @@ struct NomDeCible {
     int derniere; // of controls that are numbered from 1; else 0
 };
 
-constexpr std::array<NomDeCible, 18> kNoms = {{
+constexpr std::array<NomDeCible, 21> kNoms = {{
     {Cible::Boite, "TxtField_%1", static_cast<int>(kNbBoites)},
     {Cible::Liste, "ListeLog", 0},
     {Cible::Contacts, "ContactsListe", 0},
     {Cible::Recherche, "RechText", 0},
     {Cible::Nouveau, "BtNewQSO", 0},
     {Cible::Suivant, "BtEnrSuivant", 0},
+    {Cible::Terminer, "BtEnrTerminer", 0},
+    {Cible::Oui, "FraCmdOui", 0},
     {Cible::Non, "FraCmdNon", 0},
     {Cible::TexteLocator, "ChangLocText", 0},
     {Cible::ValiderLocator, "BtChangValid", 0},
+    {Cible::AnnulerLocator, "BtChangAnnul", 0},
     {Cible::Sauvegarder, "BtPjSauvegarder", 0},
     {Cible::Jumeler, "BtPjumeler", 0},
     {Cible::BoiteEtiquette, "FLdText_%1", static_cast<int>(kNbBoitesEtiquette)},
-    {Cible::VoieEtiquette, "OptBureau", 0},
-    {Cible::VoieEtiquette, "OptDirect", 0},
+    {Cible::VoieBureau, "OptBureau", 0},
+    {Cible::VoieDirecte, "OptDirect", 0},
     {Cible::ValiderEtiquette, "BtValidQSL", 0},
     {Cible::LaisserEtiquette, "BtLeaveQSL", 0},
     {Cible::ChoixEtiquette, "BtChoix_%1", kNbEtiquettes},
@@ -84,7 +88,7 @@ void Peintre::Peindre(VueFenetre vue, EtatFoyer& foyer) {
     PeindrePanneaux(vue);
     PeindreFeuille(vue);
     PeindreCommandes(vue);
-    AccorderVoeu(vue, foyer);
+    AccorderVoeu(foyer);
     derniere_ = std::move(vue);
 }
 
@@ -161,6 +165,7 @@ void Peintre::PeindrePanneaux(const VueFenetre& vue) {
     if (Differe(vue, &VueFenetre::titre))
         fenetre_.setWindowTitle(Q(vue.titre));
     adieu_.setText(Q(vue.adieu));
+    p_.conseil.Montrer(vue.conseil);
 }
 
 void Peintre::PeindreFeuille(const VueFenetre& vue) {
@@ -188,26 +193,25 @@ void Peintre::PeindreCommandes(const VueFenetre& vue) {
         entree.action->setEnabled(Permis(entree.conditions, visibles));
 }
 
-void Peintre::AccorderVoeu(const VueFenetre& vue, EtatFoyer& foyer) {
+void Peintre::AccorderVoeu(EtatFoyer& foyer) {
     if (foyer.voeu) {
-        QWidget* voulu = WidgetDe(vue, *foyer.voeu);
+        QWidget* voulu = WidgetDe(*foyer.voeu);
         if (voulu != nullptr)
             voulu->setFocus();
         else if (foyer.voeu->cible == Cible::Aucune)
             OterLeFoyer(fenetre_);
     }
     if (foyer.selection)
-        if (auto* boite = qobject_cast<QLineEdit*>(WidgetDe(vue, *foyer.selection)))
+        if (auto* boite = qobject_cast<QLineEdit*>(WidgetDe(*foyer.selection)))
             boite->selectAll();
     foyer.voeu.reset();
     foyer.selection.reset();
 }
 
-QWidget* Peintre::WidgetDe(const VueFenetre& vue, const Foyer& foyer) const {
-    const bool direct = foyer.cible == Cible::VoieEtiquette && vue.feuille.voie == VoieQSL::Direct;
+QWidget* Peintre::WidgetDe(const Foyer& foyer) const {
     const auto ici = std::find_if(nommes_.begin(), nommes_.end(),
                                   [&](const Nomme& nomme) { return nomme.foyer == foyer; });
-    return ici == nommes_.end() ? nullptr : (ici + (direct ? 1 : 0))->widget;
+    return ici == nommes_.end() ? nullptr : ici->widget;
 }
 
 } // namespace orvalis

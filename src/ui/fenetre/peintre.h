@@ -34,6 +34,8 @@ class Peintre {
     /// Whether what had the focus was hidden or disabled, so that nothing has it in the window that
     /// the operator works in, although `foyer` was not to be dropped.
     [[nodiscard]] bool FoyerPerdu(const EtatFoyer& foyer) const;
+    /// The last view that was painted; none before the first.
+    [[nodiscard]] const std::optional<VueFenetre>& Derniere() const { return derniere_; }
     /// What controls report meanwhile comes from the painter, not from the operator.
     [[nodiscard]] bool EnCours() const { return enCours_; }
     /// What the rules call a control of the window.
@@ -51,8 +53,8 @@ class Peintre {
     void PeindrePanneaux(const VueFenetre& vue);
     void PeindreFeuille(const VueFenetre& vue);
     void PeindreCommandes(const VueFenetre& vue);
-    void AccorderVoeu(const VueFenetre& vue, EtatFoyer& foyer);
-    [[nodiscard]] QWidget* WidgetDe(const VueFenetre& vue, const Foyer& foyer) const;
+    void AccorderVoeu(EtatFoyer& foyer);
+    [[nodiscard]] QWidget* WidgetDe(const Foyer& foyer) const;
 
     QMainWindow& fenetre_;
     Panneaux p_;

@@ -3,6 +3,7 @@
 #include "maint/tri.h"
 #include "ui/bureau/sablier.h"
 #include "ui/bureau/systeme.h"
+#include "ui/carte/conseil.h"
 #include "ui/carte/foyer.h"
 #include "ui/flux/conduite.h"
 #include "ui/flux/flux_fichiers.h"
@@ -53,7 +54,11 @@ void Trier(Plateau& p) {
         return;
     }
     Montrer(classer, kNbPasses, tri.Etat());
-    static_cast<void>(Regarder(p));
+    if (!Regarder(p))
+        return;
+    const std::int64_t echanges = tri.Etat().echanges;
+    Annoncer(p.ecran, echanges == 0 ? "Le cahier était déjà en ordre"
+                                    : "Cahier classé en " + Compte(echanges, "échange"));
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include "ui/carte/foyer.h"
 #include "ui/dialogues/dlg1.h"
 #include "ui/flux/conduite.h"
+#include "ui/flux/flux_fichiers.h"
 #include "ui/flux/flux_navigation.h"
 #include "ui/flux/flux_qsl.h"
 
@@ -60,6 +61,7 @@ void InitialiserFenetre(Plateau& p) {
     p.ecran.recherche.montre = !vide;
     DonnerFoyer(p, {vide ? Cible::Nouveau : Cible::Liste});
     p.ecran.titre = Titre(p.session.station);
+    RegarderSauvegardes(p);
     if (!vide)
         ChargerFeuille(p);
 }

@@ -9,6 +9,7 @@
 #include "ui/bureau/sablier.h"
 #include "ui/bureau/systeme.h"
 #include "ui/bureau/texte_qt.h"
+#include "ui/carte/conseil.h"
 #include "ui/flux/conduite.h"
 #include "ui/flux/flux_demarrage.h"
 #include "ui/flux/flux_modification.h"
@@ -21,15 +22,24 @@ QString NomDuFichier(const Session& session) {
     return Q(session.cahier.chemin.filename().string());
 }
 
-bool CopierVers(Plateau& p, const DemandeFichier& demande) {
+// Returns whether there is a copy; `fait` says so, its place and contacts behind it.
+bool CopierVers(Plateau& p, const DemandeFichier& demande, std::string_view fait) {
+    const Cahier& cahier = p.session.cahier;
     const QString cible = p.systeme.ChoisirFichier(&p.fenetre, demande);
     if (p.ecran.arret || cible.isEmpty())
         return false;
     VerifierAvantCopie(p);
-    return !p.ecran.arret && Essayer(p, [&] {
+    const std::filesystem::path chemin(S(cible));
+    const auto copier = [&] {
         const Sablier sablier;
-        CopierCahier(p.session.cahier, p.session.station, std::filesystem::path(S(cible)));
-    });
+        CopierCahier(cahier, p.session.station, chemin);
+    };
+    if (p.ecran.arret || !Essayer(p, copier))
+        return false;
+    if (!cahier.fichier.Support().EstLeMeme(chemin)) // nothing was copied
+        Annoncer(p.ecran, std::string{fait} + " dans " + S(cible) + std::string{kDeuxPoints} +
+                              Compte(cahier.nbFiches, "contact"));
+    return true;
 }
 
 } // namespace
@@ -68,8 +78,28 @@ bool FaireSauvegarde(Plateau& p) {
     std::filesystem::path dossier;
     if (!Essayer(p, [&] { dossier = CheminSauvegardes(p.session.station.lecteur); }))
         return false;
-    return CopierVers(p, {true, Q(dossier.string()), NomDuFichier(p.session),
-                          QStringLiteral("Sauvegarder le cahier")});
+    const bool fait = CopierVers(p,
+                                 {true, Q(dossier.string()), NomDuFichier(p.session),
+                                  QStringLiteral("Sauvegarder le cahier")},
+                                 "Sauvegardé");
+    RegarderSauvegardes(p);
+    return fait;
+}
+
+void RegarderSauvegardes(Plateau& p) {
+    const Session& s = p.session;
+    EtatSauvegarde& etat = p.ecran.sauvegarde;
+    if (!s.cahier.EstLeNotre())
+        return;
+    etat.connu = false;
+    try {
+        etat.derniere = DerniereSauvegarde(s.station.lecteur, s.cahier.chemin.filename().string(),
+                                           etat.derniere);
+        etat.jours = etat.derniere ? JoursDepuis(*etat.derniere) : 0;
+        etat.connu = true;
+    } catch (const std::exception&) {
+        etat.derniere.reset(); // what is only shown keeps nobody from the logbook
+    }
 }
 
 void OuvrirCahierCourant(Plateau& p) {
@@ -121,7 +151,8 @@ void Sauvegarder(Plateau& p) {
 
 void CopierSurDisque(Plateau& p) {
     CopierVers(
-        p, {true, DossierAmovible(), NomDuFichier(p.session), QStringLiteral("Copier le cahier")});
+        p, {true, DossierAmovible(), NomDuFichier(p.session), QStringLiteral("Copier le cahier")},
+        "Copié");
     p.session.station.lecteur = p.systeme.Lecteur(); // the dialog may have changed the folder
 }
 

@@ -16,6 +16,9 @@ namespace orvalis {
 /// Warns of an open logbook without an end-of-log record or cut in the middle of a record.
 void PrevenirSiIncomplet(Plateau& p);
 
+/// Looks what the newest backup of our own logbook is; without a word where it cannot be told.
+void RegarderSauvegardes(Plateau& p);
+
 /// Asks for a file in the backup folder and copies the logbook into it. Returns whether a backup
 /// was made.
 [[nodiscard]] bool FaireSauvegarde(Plateau& p);

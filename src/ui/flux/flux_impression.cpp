@@ -5,17 +5,20 @@
 #include "ui/bureau/sablier.h"
 #include "ui/bureau/systeme.h"
 #include "ui/bureau/texte_qt.h"
+#include "ui/carte/conseil.h"
 
 #include <memory>
 
 namespace orvalis {
-bool Imprimer(Plateau& p, const std::function<void(Imprimante&)>& dessin) {
+bool Imprimer(Plateau& p, std::string_view fait, const std::function<void(Imprimante&)>& dessin) {
     try {
         const std::unique_ptr<Imprimante> imprimante = p.systeme.PreparerImpression(&p.fenetre);
         if (imprimante == nullptr || p.ecran.arret)
             return false;
         const Sablier sablier;
         dessin(*imprimante);
+        const std::string nom = imprimante->Nom();
+        Annoncer(p.ecran, std::string{fait} + (nom.empty() ? "" : std::string{kDeuxPoints} + nom));
         return true;
     } catch (const Erreur& echec) {
         if (echec.ConcerneLeCahier())
@@ -31,13 +34,14 @@ void ConfigurerImprimante(Plateau& p) {
 
 void ImprimerPageAffichee(Plateau& p) {
     const Session& s = p.session;
-    static_cast<void>(Imprimer(p, [&s](Imprimante& imprimante) {
+    const std::string fait = "Page " + std::to_string(s.page.numero) + " imprimée";
+    static_cast<void>(Imprimer(p, fait, [&s](Imprimante& imprimante) {
         ImprimerPage(imprimante, s.cahier, s.station, s.page, s.page.premiere);
     }));
 }
 
 void ImprimerPageVierge(Plateau& p) {
-    static_cast<void>(Imprimer(p, [&p](Imprimante& imprimante) {
+    static_cast<void>(Imprimer(p, "Page vierge imprimée", [&p](Imprimante& imprimante) {
         Session& s = p.session;
         // Kept on purpose, for the printed sheets: the page on show then counts as blank until a
         // page is shown again.

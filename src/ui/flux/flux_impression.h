@@ -4,15 +4,17 @@
 #include "ui/flux/plateau.h"
 
 #include <functional>
+#include <string_view>
 
 namespace orvalis {
 
 class Imprimante;
 
 /// Runs a drawing on the printer chosen, asking for one when there is none. Returns whether the
-/// document was sent: false when the operator cancelled, and when the printer failed, which is
-/// told.
-[[nodiscard]] bool Imprimer(Plateau& p, const std::function<void(Imprimante&)>& dessin);
+/// document was sent, which `fait` announces: false when the operator cancelled, and when the
+/// printer failed, which is told.
+[[nodiscard]] bool Imprimer(Plateau& p, std::string_view fait,
+                            const std::function<void(Imprimante&)>& dessin);
 
 /// MnuConfigImp: the printer of every print to come.
 void ConfigurerImprimante(Plateau& p);

@@ -1,10 +1,12 @@
 #include "ui/flux/flux_jumelage.h"
 
 #include "core/dossier.h"
+#include "core/recherche.h"
 #include "maint/jumelage.h"
 #include "ui/bureau/sablier.h"
 #include "ui/bureau/systeme.h"
 #include "ui/bureau/texte_qt.h"
+#include "ui/carte/conseil.h"
 #include "ui/flux/conduite.h"
 #include "ui/flux/flux_fichiers.h"
 #include "ui/flux/flux_modification.h"
@@ -30,7 +32,15 @@ void Jumeler(Plateau& p) {
         return;
     static_cast<void>(Essayer(p, [&] {
         const Sablier sablier;
-        JumelerCahier(s.cahier, s.station, std::filesystem::path(S(source)));
+        const std::filesystem::path chemin(S(source));
+        const NumeroFiche premiere = s.cahier.Prochaine();
+        const std::int32_t nombre = JumelerCahier(s.cahier, s.station, chemin);
+        const std::int32_t deja = CompterDejaLa(s.cahier, premiere);
+        Annoncer(p.ecran, Compte(nombre, "contact") + " de " + chemin.filename().string() +
+                              (nombre < 2 ? " ajouté" : " ajoutés") +
+                              (deja == 0 ? ", aucun n'y était déjà"
+                                         : ", dont " + Nombre(deja) + " y étai" +
+                                               (deja < 2 ? "t" : "ent") + " déjà"));
     }));
     if (!p.ecran.arret)
         RelireCahier(p);

@@ -1,5 +1,6 @@
 #include "ui/flux/flux_modification.h"
 
+#include "ui/carte/conseil.h"
 #include "ui/carte/foyer.h"
 #include "ui/carte/modification.h"
 #include "ui/flux/conduite.h"
@@ -15,7 +16,8 @@ namespace {
 void EffacerFiche(Plateau& p) {
     Session& s = p.session;
     const std::int32_t page = PageDeFiche(s.carte.ficheCourante);
-    if (!SupprimerFiche(s.cahier, s.carte.ficheCourante, s.carte.tampon, s.station.monLocator))
+    const NumeroFiche k = s.carte.ficheCourante;
+    if (!SupprimerFiche(s.cahier, k, s.carte.tampon, s.station.monLocator))
         return DireFicheChangee(p);
     // The numbers of a list no longer hold. One of duplicates is searched again, so that the
     // operator goes on where he was.
@@ -26,6 +28,7 @@ void EffacerFiche(Plateau& p) {
     if (listeMontree)
         ReprendreDoublons(p);
     p.ecran.recherche.montre = s.cahier.nbFiches != 0;
+    Annoncer(p.ecran, "Fiche " + std::to_string(k.Valeur()) + " supprimée");
 }
 
 void EnregistrerModification(Plateau& p) {
@@ -39,17 +42,13 @@ void EnregistrerModification(Plateau& p) {
         p.ecran.liste.choisie = ligne;
     }
     s.carte = RepondreOui(s.carte);
+    Annoncer(p.ecran, "Fiche " + std::to_string(k.Valeur()) + " corrigée");
     AfficherFiche(p);
 }
 
 void FermerQuestion(Plateau& p) {
     p.ecran.question.reset();
     p.ecran.menuActif = true;
-}
-
-// A deletion is asked for the card, a change for what NbModifs counts; Oui and Non go by that.
-bool DemandeEffacement(const Plateau& p) {
-    return p.session.carte.saisie.NbModifs == 0;
 }
 
 } // namespace
@@ -73,7 +72,7 @@ void DemanderSuppression(Plateau& p) {
 void RepondreOuiAuCadre(Plateau& p) {
     LacherFoyer(p);
     // The question stays until it is answered: what cannot be written now is not dropped.
-    if (DemandeEffacement(p))
+    if (DemandeEffacement(p.session.carte))
         EffacerFiche(p);
     else
         EnregistrerModification(p);
@@ -85,7 +84,7 @@ void RepondreOuiAuCadre(Plateau& p) {
 void RepondreNonAuCadre(Plateau& p) {
     LacherFoyer(p);
     FermerQuestion(p);
-    const bool effacement = DemandeEffacement(p);
+    const bool effacement = DemandeEffacement(p.session.carte);
     p.session.carte = RepondreNon(p.session.carte);
     if (effacement)
         RendreListe(p);

@@ -8,7 +8,9 @@
 #include "qsl/vie_etiquette.h"
 #include "ui/bureau/systeme.h"
 #include "ui/bureau/texte_qt.h"
+#include "ui/carte/conseil.h"
 #include "ui/carte/donnees_etiquette.h"
+#include "ui/carte/entree_panneaux.h"
 #include "ui/flux/conduite.h"
 #include "ui/flux/flux_impression.h"
 #include "ui/flux/flux_modification.h"
@@ -53,19 +55,11 @@ ReponseQSL Repondre(Plateau& p, const std::function<ReponseQSL()>& action) {
 }
 
 void DonnerFoyerBoite(Plateau& p, std::size_t boite) {
-    const Foyer cible{Cible::BoiteEtiquette, static_cast<int>(boite)};
-    DonnerFoyer(p, cible);
-    p.ecran.foyer.selection = cible;
+    DonnerFoyerEtiquette(p.session.carte, p.ecran, p.session.station, boite);
 }
 
 void DonnerFoyerChoix(Plateau& p, Place place) {
     DonnerFoyer(p, {Cible::ChoixEtiquette, place.Valeur()});
-}
-
-// None when the button is hidden.
-void DonnerFoyerValider(Plateau& p) {
-    if (p.feuille.vue.valider)
-        DonnerFoyer(p, {Cible::ValiderEtiquette});
 }
 
 // A logbook without contacts was opened without its sheet. Returns whether there is one.
@@ -100,7 +94,7 @@ void GererFeuille(Plateau& p) {
 }
 
 void ImprimerEtiquettesVierges(Plateau& p) {
-    static_cast<void>(Imprimer(p, [&p](Imprimante& imprimante) {
+    static_cast<void>(Imprimer(p, "Étiquettes vierges imprimées", [&p](Imprimante& imprimante) {
         ImprimerFeuilleVierge(imprimante, p.session.station.indicatif, p.enTete);
     }));
 }
@@ -129,7 +123,7 @@ void CliquerMaQsl(Plateau& p) {
         if (p.feuille.boites[kBoiteLigne1].empty())
             DonnerFoyerBoite(p, kBoiteLigne1);
         else
-            DonnerFoyer(p, {Cible::VoieEtiquette});
+            DonnerFoyer(p, FoyerDeLaVoie(p.feuille));
     }
 }
 
@@ -150,24 +144,12 @@ void SurSaisieEtiquette(Plateau& p, std::size_t boite, const std::string& texte)
         SaisirBoiteEtiquette(p.feuille, kBoiteRappel, texte);
 }
 
-// Enter goes on to the next box, by way of the route, and ends on the button that it shows.
 void SurEntreeEtiquette(Plateau& p, std::size_t boite) {
-    EntrerBoiteEtiquette(p.feuille);
-    if (p.feuille.fraiche && boite == kBoiteNumeroFiche)
-        DonnerFoyerBoite(p, kBoiteIndicatif);
-    else if (!p.feuille.fraiche || boite >= kBoiteManager)
-        DonnerFoyerValider(p);
-    else if (boite == kBoiteLigne2)
-        DonnerFoyer(p, {Cible::VoieEtiquette});
-    else
-        DonnerFoyerBoite(p, boite + 1);
+    EntrerEtiquette(p.feuille, p.session.carte, p.ecran, p.session.station, boite);
 }
 
 void SurVoie(Plateau& p, VoieQSL voie) {
-    const bool confirmee = p.feuille.voie == voie;
-    ChoisirVoie(p.feuille, voie);
-    if (confirmee)
-        DonnerFoyerValider(p);
+    EntrerVoie(p.feuille, p.session.carte, p.ecran, p.session.station, voie);
 }
 
 void SurBtIndicatifQSL(Plateau& p) {
@@ -178,7 +160,12 @@ void SurBtIndicatifQSL(Plateau& p) {
 }
 
 void SurBtValidQSL(Plateau& p) {
-    Repondre(p, [&p] { return ValiderEtiquette(p.session.cahier, p.feuille); });
+    if (!Repondre(p, [&p] { return ValiderEtiquette(p.session.cahier, p.feuille); }).fait)
+        return;
+    const Place place = p.feuille.etiquetteEnCours;
+    Annoncer(p.ecran, "Étiquette " + std::to_string(place.Valeur()) + " préparée" +
+                          std::string{kDeuxPoints} +
+                          p.feuille.indicatifs[EtatFeuille::Rang(place)]);
 }
 
 void SurBtDelQSL(Plateau& p) {
@@ -217,7 +204,9 @@ void SurBtPrintQSL(Plateau& p) {
     std::vector<EtiquettePlacee> etiquettes;
     for (const Place place : EtiquettesAImprimer(p.feuille))
         etiquettes.push_back({place, DonneesDeEtiquette(LireEnregistrement(p.feuille, place))});
-    if (!Imprimer(p, [&](Imprimante& imp) { ImprimerFeuille(imp, etiquettes, p.enTete); }))
+    const auto nb = static_cast<std::int64_t>(etiquettes.size());
+    const std::string fait = Compte(nb, "étiquette") + (nb < 2 ? " imprimée" : " imprimées");
+    if (!Imprimer(p, fait, [&](Imprimante& imp) { ImprimerFeuille(imp, etiquettes, p.enTete); }))
         return;
     DemanderControle(p.feuille);
     DonnerFoyer(p, {Cible::Revoir});

@@ -2,6 +2,8 @@
 
 #include "core/recherche.h"
 #include "ui/bureau/sablier.h"
+#include "ui/carte/conseil.h"
+#include "ui/carte/entree_panneaux.h"
 #include "ui/carte/foyer.h"
 #include "ui/flux/conduite.h"
 #include "ui/flux/flux_navigation.h"
@@ -70,13 +72,7 @@ void Rechercher(Plateau& p) {
     if (texte.empty())
         return;
     MontrerResultat(p, ChercherContacts(p.session.cahier, texte), true);
-    p.ecran.recherche = {false, {}};
-    p.ecran.contacts.montree = true;
-    p.ecran.activeRech |= IndicatifSurLaCarte(p);
-    if (p.session.carte.saisie.EnSaisie)
-        DonnerFoyer(p, SurBoite(p.session.carte.saisie.DerniereZone));
-    else
-        DonnerFoyer(p, {Cible::Liste});
+    CederAuxContacts(p.session.carte, p.ecran, p.session.station);
 }
 
 void CliquerRecherche(Plateau& p) {
@@ -114,6 +110,10 @@ void MontrerDoublons(Plateau& p) {
     p.ecran.contacts.montree = true;
     MontrerResultat(p, ChercherDoublons(p.session.cahier), !carte.saisie.EnSaisie);
     p.ecran.contacts.doublons = true;
+    const std::size_t nb = p.ecran.contacts.lignes->size();
+    Annoncer(p.ecran,
+             (nb == 0 ? "Aucun doublon" : Compte(static_cast<std::int64_t>(nb), "doublon")) +
+                 " entre fiches qui se suivent");
     p.ecran.contacts.boutonsGrises = true;
     if (!carte.EnEdition())
         DonnerFoyer(p, {Cible::Contacts});

@@ -2,9 +2,11 @@
 
 #include "ui/bureau/systeme.h"
 #include "ui/carte/conditions.h"
+#include "ui/carte/conseil.h"
 #include "ui/carte/foyer.h"
 #include "ui/carte/saisie.h"
 #include "ui/flux/conduite.h"
+#include "ui/flux/flux_fichiers.h"
 #include "ui/flux/flux_modification.h"
 #include "ui/flux/flux_navigation.h"
 
@@ -27,6 +29,7 @@ void OuvrirFicheVierge(Plateau& p) {
     e.liste.active = false;
     e.liste.marquee = kAucuneFiche;
     e.activeRech = false;
+    e.dejaContacte.clear();
     AppliquerReponse(
         p, PreparerSaisie(p.session.carte, p.session.station, p.session.cahier.Prochaine()));
 }
@@ -53,6 +56,9 @@ bool Enregistrer(Plateau& p, FinDeSaisie fin) {
         }
         s.carte.tampon = contact.fin;
         s.carte.saisie.QsoCommence = false; // what fails from here on does not lose it
+        Annoncer(p.ecran, "Contact " + std::to_string(s.cahier.nbFiches) + " enregistré" +
+                              std::string{kDeuxPoints} + contact.zones[Boite::Indicatif]);
+        RegarderSauvegardes(p);
     }
     return true;
 }
@@ -94,8 +100,11 @@ void ChoisirOption(Plateau& p, bool tempsReel) {
 }
 
 void SurEntree(Plateau& p, Boite boite) {
-    AppliquerReponse(
-        p, ValiderBoite(p.session.carte, p.session.station, boite, p.systeme.Maintenant()));
+    const Session& s = p.session;
+    AppliquerReponse(p, ValiderBoite(s.carte, s.station, boite, p.systeme.Maintenant()));
+    const std::string& indicatif = s.carte.zones[Boite::Indicatif];
+    if (boite == Boite::Indicatif && s.carte.saisie.EnSaisie && !indicatif.empty())
+        p.ecran.dejaContacte = DireDejaContacte(ChercherStation(s.cahier, indicatif));
 }
 
 void SurPression(Plateau& p, Boite boite) {

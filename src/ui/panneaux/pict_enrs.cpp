@@ -1,5 +1,6 @@
 #include "ui/panneaux/pict_enrs.h"
 
+#include "ui/bureau/texte_qt.h"
 #include "ui/widgets/presence.h"
 #include "ui/widgets/teintes.h"
 #include "ui_pict_enrs.h"
@@ -18,6 +19,7 @@ void PictEnrs::Montrer(const VueBoutons& boutons) {
     TeinterFond(*ui_->BtEnrSuivant, boutons.suivantArme ? Teinte::Vert : Teinte::Peche);
     Activer(*ui_->BtEnrSuivant, boutons.suivantArme);
     Activer(*ui_->BtEnrAnnuler, boutons.annuler);
+    ui_->BtEnrTerminer->setToolTip(Q(boutons.bulleTerminer));
 }
 
 void PictEnrs::CederAltA(bool cede) {

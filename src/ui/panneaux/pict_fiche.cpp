@@ -42,6 +42,16 @@ void MontrerMesure(QLabel& label, const QString& nom, const QString& texte) {
     label.setAccessibleName(nom + texte);
 }
 
+void MontrerInfoJointe(QLabel& label, const InfoJointe* jointe) {
+    label.setVisible(jointe != nullptr);
+    if (jointe == nullptr)
+        return;
+    label.setText(QStringLiteral("+ ") + Q(jointe->texte));
+    const QString dit = Q("Enregistrer joindrait " + DireInfoJointe(*jointe).texte);
+    label.setToolTip(dit);
+    label.setAccessibleName(dit);
+}
+
 QLabel* FaireLabel(const char* nom, QWidget* parent) {
     auto* label = new QLabel(parent);
     label->setObjectName(QString::fromLatin1(nom));
@@ -81,7 +91,6 @@ void PictFiche::FaireEntete() {
     noFicheLab_->setText(QStringLiteral("  Fiche N° 0  "));
     noFicheLab_->setFont(PoliceAjustee(font(), kTitre));
     labNonEnregistre_ = FaireLabel("LabNonEnregistre", this);
-    labNonEnregistre_->setText(QStringLiteral("Nouveau contact, pas encore enregistré"));
     labNonEnregistre_->setStyleSheet(
         QStringLiteral("background:%1; color:%2; border-radius:4px; padding:1px 8px;")
             .arg(kAmbre.name(), kEncreSurAmbre.name()));
@@ -101,7 +110,7 @@ void PictFiche::FaireEntete() {
 
 TxtField* PictFiche::FaireBoite(const DescriptionBoite& boite) {
     auto* champ = new TxtField(boite, this);
-    champ->setAccessibleName(Q(kNomsBoites[Rang(boite.boite)]));
+    champ->setAccessibleName(Q(boite.nom));
     champ->setMinimumWidth(LargeurDeBoite(*champ, boite.longueur));
     boites_[Rang(boite.boite)] = champ;
     return champ;
@@ -125,7 +134,10 @@ QWidget* PictFiche::FaireCellule(Boite premiere) {
     pile->setSpacing(1);
     const DescriptionBoite& tete = Decrire(premiere);
     QLabel* legende = FaireLegende(tete, cellule);
-    pile->addWidget(legende);
+    if (premiere == Boite::Remarque || premiere == Boite::Manager)
+        pile->addLayout(AvecInfoJointe(*legende, premiere));
+    else
+        pile->addWidget(legende);
     auto* ligne = new QHBoxLayout;
     ligne->setSpacing(4);
     std::size_t i = Rang(premiere);
@@ -142,6 +154,26 @@ QWidget* PictFiche::FaireCellule(Boite premiere) {
     }
     pile->addLayout(ligne);
     return cellule;
+}
+
+// Beside the caption of either half of INFO, what an earlier contact left there for it.
+QHBoxLayout* PictFiche::AvecInfoJointe(QLabel& legende, Boite boite) {
+    const bool manager = boite == Boite::Manager;
+    QLabel*& jointe = infosJointes_[manager];
+    jointe = FaireLabel(manager ? "LabInfoJointe_17" : "LabInfoJointe_13", legende.parentWidget());
+    jointe->setFont(legende.font());
+    jointe->setStyleSheet(
+        QStringLiteral("background:%1; color:%2; border-radius:4px; padding:0px 4px;")
+            .arg(kAmbre.name(), kEncreSurAmbre.name()));
+    jointe->hide();
+    auto* ligne = new QHBoxLayout;
+    ligne->setSpacing(2);
+    // The caption yields, so that no box moves when the mark comes.
+    legende.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    jointe->setMinimumWidth(1);
+    ligne->addWidget(&legende, 1);
+    ligne->addWidget(jointe);
+    return ligne;
 }
 
 QWidget* PictFiche::FaireResultats() {
@@ -212,7 +244,13 @@ void PictFiche::Montrer(const VueCarte& vue) {
     MontrerMesure(*labAzim_, kAzimutLu, Q(vue.azimut));
     MontrerCap(vue);
     labDept_->setText(Q(vue.departement));
-    labNonEnregistre_->setVisible(vue.nonEnregistre);
+    if (const QString bandeau = Q(vue.bandeau); !bandeau.isEmpty())
+        labNonEnregistre_->setText(bandeau);
+    labNonEnregistre_->setVisible(!vue.bandeau.empty());
+    for (const Boite boite : {Boite::Remarque, Boite::Manager})
+        MontrerInfoJointe(*infosJointes_[boite == Boite::Manager],
+                          vue.infoJointe && vue.infoJointe->boite == boite ? &*vue.infoJointe
+                                                                           : nullptr);
     Presenter(*btActiveRech_, vue.activeRech);
     Activer(*this, vue.active);
 }

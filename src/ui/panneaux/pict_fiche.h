@@ -8,6 +8,7 @@
 
 #include <array>
 
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 
@@ -32,6 +33,7 @@ class PictFiche : public QFrame {
   private:
     [[nodiscard]] QWidget* FaireCellule(Boite premiere);
     [[nodiscard]] QWidget* FaireResultats();
+    [[nodiscard]] QHBoxLayout* AvecInfoJointe(QLabel& legende, Boite boite);
     void FaireEntete();
     void MontrerCap(const VueCarte& vue);
     [[nodiscard]] QLabel* FaireLegende(const DescriptionBoite& tete, QWidget* cellule);
@@ -41,6 +43,7 @@ class PictFiche : public QFrame {
     std::array<TxtField*, kNbBoites> boites_{};
     QLabel* noFicheLab_ = nullptr;
     QLabel* labNonEnregistre_ = nullptr;
+    std::array<QLabel*, 2> infosJointes_{}; ///< of box 13, of box 17
     QLabel* labDept_ = nullptr;
     QLabel* labDist_ = nullptr;
     QLabel* labAzim_ = nullptr;

@@ -102,7 +102,7 @@ std::string Dire(const VueFenetre& vue, const Foyer& foyer) {
     std::string dit;
     for (const auto& [vrai, mot] :
          {std::pair{vue.boutons.saisie, "PictEnrs "},
-          {vue.carte.nonEnregistre, "bandeau "},
+          {!vue.carte.bandeau.empty(), "bandeau "},
           {vue.carte.activeRech, "BtActiveRech "},
           {vue.recherche.montre, "PictRech "},
           {vue.contacts.montree, "PictContacts "},

@@ -1,0 +1,324 @@
+// The line of advice as it is read in the real window, against what Enter then does: to the focus,
+// to what is on show, to the file.
+#include "ui/banc.h"
+#include "ui/widgets/lab_conseil.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QAction>
+#include <QApplication>
+#include <QEnterEvent>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <chrono>
+#include <random>
+#include <regex>
+#include <set>
+
+namespace orvalis::operateur::conseil {
+
+// What Enter is said to do, without "Entrée : ", no-break spaces as plain ones; empty for nothing.
+std::string Entree(const Banc& banc) {
+    QString texte = Q(banc.Texte("LabConseil")).section(QStringLiteral(" | "), 0, 0);
+    texte.replace(QChar::Nbsp, u' ');
+    const QString debut = QStringLiteral("Entrée : ");
+    return texte.startsWith(debut) ? S(texte.mid(debut.size())) : "";
+}
+
+// What the control that has the focus is called in a sentence.
+std::string NomDuFoyer() {
+    const QWidget* foyer = QApplication::focusWidget();
+    if (foyer == nullptr)
+        return "";
+    if (foyer->objectName() == QStringLiteral("ListeLog"))
+        return "la liste";
+    const auto* bouton = qobject_cast<const QAbstractButton*>(foyer);
+    return bouton == nullptr ? S(foyer->accessibleName()) : S(bouton->text().remove(u'&'));
+}
+
+bool Dit(const std::string& phrase, const char* modele, std::smatch& trouve) {
+    return std::regex_search(phrase, trouve, std::regex(modele));
+}
+
+// Reads the sentence, presses Enter, and holds what became of focus, boxes, question and file
+// against it. Returns the verb.
+std::string Confronter(Banc& banc) {
+    const std::string phrase = Entree(banc), avant = banc.Texte("foyer"),
+                      fichier = banc.OctetsCahier();
+    const bool boite = avant.starts_with("TxtField_");
+    const bool saisie = banc.Etat("PictEnrs") != "caché";
+    const std::string montre = boite ? banc.Texte(avant) : "";
+    const bool question = banc.Etat("FraMsgFiche") != "caché";
+    const std::string numero = banc.Texte("NoFicheLab");
+    SCOPED_TRACE(avant + " (" + montre + ") : " + phrase);
+    std::string pendant; // the second of ERREUR
+    banc.systeme.pendantPause = [&] { pendant = banc.Texte(avant); };
+    banc.Touche(Qt::Key_Return);
+    const bool erreur = !banc.systeme.pendantPause;
+    banc.systeme.pendantPause = nullptr;
+
+    std::smatch t;
+    EXPECT_EQ(erreur, Dit(phrase, "^affiche ERREUR", t));
+    EXPECT_TRUE(!erreur || pendant == "ERREUR") << pendant;
+    // Where it goes on.
+    const bool fin =
+        Dit(phrase, "^(enregistre|abandonne|n'enregistre|supprime|rend|garde la|place)", t);
+    if (Dit(phrase, ", puis ([^(]*[^( ])( \\(|$)", t)) {
+        EXPECT_EQ(NomDuFoyer(), t[1]);
+    } else if (!fin) {
+        EXPECT_EQ(banc.Texte("foyer"), avant);
+    }
+    // What is asked, and what is in the file.
+    const bool repond = avant.starts_with("FraCmd");
+    EXPECT_EQ(banc.Etat("FraMsgFiche") != "caché",
+              Dit(phrase, "^demande s'il faut", t) || (question && !repond));
+    const bool ecrit = Dit(phrase, "^(enregistre(?! la fiche, inch)|supprime)", t);
+    EXPECT_EQ(banc.OctetsCahier() != fichier, ecrit);
+    if (Dit(phrase, "^enregistre le contact ([0-9]+)", t)) {
+        const auto n = static_cast<std::size_t>(std::stoi(t[1]));
+        const std::string apres = banc.OctetsCahier();
+        EXPECT_EQ(numero, " Charger fiche N° " + t[1].str());
+        EXPECT_EQ(apres.size(), (n + 1) * kTailleFiche);
+        EXPECT_EQ(apres.substr(n * kTailleFiche, 1), "\\");
+        std::smatch joint;
+        const bool jointe = Dit(phrase, "avec (le manager|la remarque) « (.*) » d'un", joint);
+        if (jointe) {
+            EXPECT_EQ(apres.substr((n - 1) * kTailleFiche + (joint[1] == "le manager" ? 128 : 113),
+                                   joint[2].str().size()),
+                      joint[2]);
+        }
+    }
+    if (!boite)
+        return phrase.substr(0, phrase.find(' '));
+    // The slot, which a box shows once it is left.
+    const std::string ici = banc.Texte("foyer");
+    const std::string apres = banc.Texte(avant);
+    if (ici == avant)
+        banc.Controle<QWidget>(saisie ? "BtEnrTerminer" : "ListeLog")->setFocus();
+    const std::string zone = banc.Texte(avant);
+    if (Dit(phrase, "^(garde|prend) « (.*?) »", t)) {
+        EXPECT_EQ(zone, t[2]);
+        EXPECT_EQ(S(Q(montre).trimmed()) == zone, t[1] == "garde");
+    } else if (Dit(phrase, "^(laisse|vide) |ERREUR et vide", t)) {
+        EXPECT_EQ(zone, "");
+        EXPECT_TRUE(t[1] != "laisse" || Q(montre).trimmed().isEmpty());
+    } else if (Dit(phrase, "^remet « (.*?) »", t)) {
+        EXPECT_EQ(apres, t[1]);
+        EXPECT_NE(montre, apres);
+    } else if (Dit(phrase, "^efface « (.*?) »", t)) {
+        EXPECT_EQ(montre, t[1]);
+        EXPECT_EQ(apres, "");
+    } else if (phrase.starts_with("reste ici") || phrase.starts_with("ne change")) {
+        EXPECT_EQ(apres, montre);
+    }
+    if (ici == avant)
+        banc.Controle<QWidget>(avant)->setFocus();
+    return phrase.substr(0, phrase.find(' '));
+}
+
+// What is typed: all that the boxes take, of every length that a rule tells apart.
+constexpr std::array kTextes = {"",         "f6abc",     "\\",     "7",    "14.210", "ssb",
+                                "57+",      "jean paul", "tours",  "95",   "99",     "971",
+                                "jn04s",    "jn18du",    "jn99zz", "beam", "oui",    "01/05/26",
+                                "31/02/26", "09:05",     "29:61",  " x"};
+
+TEST(Conseil, DitCeQueFaitEntreeDansLaSaisieEtLaCorrection) {
+    Banc banc(Contacts(3) + Fin());
+    std::mt19937 de(12); // the same walk each time
+    const auto tirer = [&de](std::size_t n) { return de() % n; };
+    std::set<std::string> vus; // mode and box, mode and verb
+    for (int pas = 0; pas < 1500 && !testing::Test::HasFailure(); ++pas) {
+        const bool saisie = banc.Etat("PictEnrs") != "caché";
+        const bool question = banc.Etat("FraMsgFiche") != "caché";
+        const std::string boite = "TxtField_" + std::to_string(1 + tirer(17));
+        const std::string bouton = banc.Etat("BtEnrSuivant") == "actif" && tirer(2) != 0
+                                       ? "foyer BtEnrSuivant"
+                                       : "foyer BtEnrTerminer";
+        switch (tirer(saisie ? 10 : 6)) {
+        case 0:
+            banc.Faire(saisie                      ? (tirer(2) ? "touche Alt+D" : "touche Alt+E")
+                       : question || tirer(3) != 0 ? "foyer ListeLog"
+                                                   : "clic BtNewQSO");
+            break;
+        case 1: // a click on the other two does more than that
+            if (boite != "TxtField_14" && boite != "TxtField_16")
+                banc.Cliquer(boite);
+            break;
+        case 2:
+            banc.Controle<QWidget>(boite)->setFocus();
+            break;
+        case 3:
+            if (question || (saisie && (banc.Etat("BtEnrSuivant") == "actif" || tirer(8) == 0)))
+                banc.Faire(saisie ? bouton : tirer(2) ? "foyer FraCmdOui" : "foyer FraCmdNon");
+            break;
+        default:
+            if (tirer(2) && banc.Texte("foyer").starts_with("TxtField_"))
+                banc.Faire("touche Ctrl+A");
+        }
+        const std::string foyer = banc.Texte("foyer");
+        if (foyer.starts_with("TxtField_"))
+            banc.Taper(kTextes[tirer(kTextes.size())]);
+        const std::string phrase = Entree(banc);
+        if (phrase.empty() && !foyer.starts_with("TxtField_"))
+            continue;
+        const std::string mode = !saisie                              ? "correction "
+                                 : banc.Etat("OptionEnr1") == "coché" ? "réel "
+                                                                      : "différé ";
+        vus.insert({mode + foyer, mode + phrase.substr(0, phrase.find(' '))});
+        Confronter(banc);
+    }
+    for (const std::string mode : {"réel ", "différé ", "correction "})
+        for (int k = 1; k <= 17; ++k)
+            EXPECT_TRUE(vus.contains(mode + "TxtField_" + std::to_string(k))) << mode << k;
+    for (const auto& [mode, verbes] :
+         aides::Textes{{"réel", "garde|prend|vide|laisse|reste|affiche|enregistre|abandonne"},
+                       {"différé", "garde|prend|vide|laisse|reste|affiche|enregistre|abandonne"},
+                       {"correction", "demande|remet|efface|reste|ne|affiche|enregistre|rend"}})
+        for (const std::string& verbe : aides::Couper(verbes, "|"))
+            EXPECT_TRUE(vus.contains(mode + ' ' + verbe)) << mode << ' ' << verbe;
+}
+
+// What the line of advice reads after each of the gestures.
+void Suivre(Banc& banc, const aides::Textes& pas) {
+    for (const auto& [gestes, attendu] : pas) {
+        banc.Faire(gestes);
+        EXPECT_EQ(S(Q(banc.Texte("LabConseil")).replace(QChar::Nbsp, u' ')), attendu) << gestes;
+    }
+}
+
+TEST(Conseil, CeQuiTientPendantUneSaisie) {
+    const std::string vieux = Octets("F1QSO/P|01/02/99|10:00||7.085|CW|||||||||En cours");
+    const std::string jeune =
+        Octets("F1QSO|24/12/25|09:05||145.550|FM|||VERSAILLES|||Danièle||24/12/25");
+    Banc banc(jeune + vieux + Fin());
+    Suivre(
+        banc,
+        {{"clic BtNewQSO", "Entrée : reste ici ; il faut un indicatif"},
+         {"valide f1qso; tape 7.0",
+          "Entrée : garde « 7.0 » (MHz, point décimal), puis Mode | Déjà contacté 2 fois, la "
+          "dernière le 24/12/25 sur 145.550 ; Danièle, Versailles ; QSL envoyée"},
+         {"foyer BtEnrTerminer", "Entrée : abandonne ce contact : indicatif seul | Déjà contacté "
+                                 "2 fois, la dernière le 24/12/25 sur 145.550 ; Danièle, "
+                                 "Versailles ; QSL envoyée"},
+         {"foyer TxtField_5; valide 7.1, cw; entree 2; foyer TxtField_17; valide f5xyz",
+          "Entrée : enregistre le contact 3 | Déjà contacté 2 fois, la dernière le 24/12/25 sur "
+          "145.550 ; Danièle, Versailles ; QSL envoyée"},
+         // The result stands until the first letter.
+         {"entree 1", "Entrée : reste ici ; il faut un indicatif | Contact 3 enregistré : F1QSO"},
+         {"touche Backspace", "Entrée : reste ici ; il faut un indicatif | Contact 3 enregistré : "
+                              "F1QSO"},
+         {"tape f9a", "Entrée : garde « F9A », puis Fréquence"},
+         {"entree 1; foyer TxtField_13", "Entrée : laisse cette case vide, puis Ma QSL | Première "
+                                         "fois"}});
+    const auto bandeau = [&banc] {
+        return S(Q(banc.Texte("LabNonEnregistre")).replace(QChar::Nbsp, u' '));
+    };
+    const auto bulle = [&banc] {
+        return S(banc.Controle<QWidget>("BtEnrTerminer")->toolTip().replace(QChar::Nbsp, u' '));
+    };
+    EXPECT_EQ(bandeau(), "Nouveau contact, pas encore enregistré : Terminer l'abandonne");
+    EXPECT_EQ(bulle(), "Terminer abandonne ce contact : indicatif seul");
+    // The manager of the contact before is joined to a remark, and said so while its box is empty.
+    banc.Suivre("remark : -> caché LabInfoJointe_17 LabInfoJointe_13\n"
+                "one half : valide beam -> LabInfoJointe_17 TxtField_17 = + F5XYZ|\n"
+                "stored : foyer TxtField_8; entree 1; foyer BtEnrSuivant");
+    EXPECT_EQ(bandeau(), "Nouveau contact, pas encore enregistré : Terminer l'enregistre");
+    EXPECT_EQ(bulle(),
+              "Terminer enregistre le contact 4 avec le manager « F5XYZ » d'un contact précédent");
+    EXPECT_EQ(Confronter(banc), "enregistre");
+}
+
+TEST(Conseil, SeLitQuandLaCaseOuLIssueChange) {
+    Banc banc(Contacts(1) + Fin());
+    banc.Suivre("to box 12 : clic BtNewQSO; valide f6a, 7, cw; entree 2");
+    const QSignalSpy dite(banc.Controle<LabConseil>("LabConseil"), &LabConseil::dite);
+    // The first letter changes the outcome, the next ones do not; nor does a refused key.
+    for (const auto& [gestes, attendu] : aides::Table<int>{{"tape j", 1},
+                                                           {"tape ean; touche Backspace", 0},
+                                                           {"touche Ctrl+A; touche Backspace", 1},
+                                                           {"entree 1", 1},
+                                                           {"foyer TxtField_11; tape x", 1}}) {
+        const auto avant = dite.count();
+        banc.Faire(gestes);
+        EXPECT_EQ(dite.count() - avant, attendu) << gestes;
+    }
+    const auto* lu = QAccessible::queryAccessibleInterface(banc.Controle<QWidget>("LabConseil"));
+    EXPECT_EQ(S(lu->text(QAccessible::Name)), banc.Texte("LabConseil"));
+}
+
+TEST(Conseil, CeQuiTientEtCeQuiEstGris) {
+    Banc banc;
+    banc.Installer(Contacts(3) + Fin());
+    std::filesystem::create_directory(banc.Dossier() / "VekSave");
+    const auto sauver = [&banc](const std::string& nom, int n, int jours) {
+        banc.Ecrire("VekSave/" + nom, Contacts(n) + Fin());
+        std::filesystem::last_write_time(banc.Dossier() / "VekSave" / nom,
+                                         std::filesystem::file_time_type::clock::now() -
+                                             std::chrono::hours(24 * jours + 1));
+    };
+    sauver("f5abc-2026.vek", 2, 12);
+    sauver("F5ABC.Vek", 1, 40);
+    sauver("F5ABCD.Vek", 1, 0); // another station's
+    banc.Ecrire("Autre.Vek", Contacts(1) + Octets("G3QSO") + Fin());
+    banc.Ouvrir();
+    const auto designer = [&banc](const char* nom) {
+        if (auto* action = banc.fenetre->findChild<QAction*>(Q(nom)))
+            action->hover();
+        else
+            QApplication::sendEvent(
+                banc.Controle<QWidget>(nom),
+                std::make_unique<QEnterEvent>(QPointF(), QPointF(), QPointF()).get());
+    };
+    const std::string vieille = "Dernière sauvegarde il y a 12 jours ; 1 contact depuis";
+    Suivre(banc, {{"foyer ListeLog", vieille}});
+    designer("MnuChangerLocator");
+    Suivre(banc, {{"", "Changer de Locator : seulement pendant une saisie"}});
+    designer("MnuClasser");
+    Suivre(banc,
+           {{"", "Classer réécrit le cahier, sauvegardez d'abord. " + vieille},
+            {"menu MnuClasser", "Le cahier était déjà en ordre"},
+            {"menu MnuJumeler", "Rien ne défait un jumelage, sauvegardez d'abord. " + vieille}});
+    designer("BtPjumeler");
+    Suivre(banc, {{"fichier Autre.Vek; clic BtPjumeler",
+                   "2 contacts de Autre.Vek ajoutés, dont 1 y était déjà"},
+                  {"clic BtPjAnnuler; menu MnuClasser", "Cahier classé en 6 échanges"},
+                  {"menu MnuDoublons", "1 doublon entre fiches qui se suivent"}});
+    designer("BtFermerLog");
+    Suivre(banc, {{"", "fermez d'abord la liste des contacts (Alt+L)"},
+                  {"clic BtContactsFermer; ligne 1; clic TxtField_9; valide tours; touche Alt+O",
+                   "Fiche 1 corrigée"},
+                  {"ligne 2; clic BtKillFiche", "Entrée : garde la fiche 2"},
+                  {"foyer FraCmdOui", "Entrée : supprime la fiche 2"},
+                  {"entree 1", "Fiche 2 supprimée"}});
+}
+
+TEST(Conseil, LesAutresControles) {
+    Banc banc(Contacts(2) + Fin());
+    Suivre(
+        banc,
+        {{"foyer RechText", "Entrée : ne fait rien ; il faut un indicatif ou une date jj/mm/aa | "
+                            "Aucune sauvegarde de ce cahier dans VekSave"},
+         {"tape f1qso", "Entrée : cherche l'indicatif « F1QSO », puis la liste | Aucune sauvegarde "
+                        "de ce cahier dans VekSave"}});
+    EXPECT_EQ(Confronter(banc), "cherche");
+    Suivre(banc,
+           {{"clic BtContactsFermer; clic BtNewQSO; valide f6abc; menu MnuChangerLocator; touche "
+             "Ctrl+A; tape jn18d",
+             "Entrée : reste ici ; il faut six caractères, comme JN18DU | Première fois"}});
+    for (const char* suite : {"", "touche Ctrl+A; tape jn99zz", "tape jn18du", "", ""}) {
+        banc.Faire(suite);
+        Confronter(banc);
+    }
+    EXPECT_EQ(banc.Texte("TxtField_16"), "JN18DU");
+    banc.Faire("clic BtEnrTerminer; menu MnuGestionFeuilleQSL; clic BtTag_1; foyer FLdText_11");
+    for (int pas = 0; pas < 20 && banc.Etat("PictFeuilleQSL") == "actif"; ++pas) {
+        EXPECT_NE(Entree(banc), "");
+        if (banc.Texte("foyer") == "FLdText_1")
+            banc.Taper("f1qso");
+        Confronter(banc);
+    }
+    Suivre(banc, {{"", "Étiquette 1 préparée : F1QSO"}});
+}
+
+} // namespace orvalis::operateur::conseil
