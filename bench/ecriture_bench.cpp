@@ -32,7 +32,7 @@ void Supprimer(benchmark::State& etat, const CahierEssai& essai) {
         etat,
         [&] {
             essai.Ecrire(essai.Fiches());
-            cahier.nbFiches = essai.NbFiches();
+            CompterFiches(cahier);
         },
         [&] {
             benchmark::DoNotOptimize(
@@ -49,7 +49,7 @@ void Jumeler(benchmark::State& etat, const CahierEssai& essai) {
         etat,
         [&] {
             essai.Ecrire(essai.Fiches());
-            cahier.nbFiches = essai.NbFiches();
+            CompterFiches(cahier);
         },
         [&] { JumelerCahier(cahier, poste, autre.Chemin()); });
 }

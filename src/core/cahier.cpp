@@ -48,7 +48,7 @@ void CompterFiches(Cahier& cahier) {
     } catch (const CahierPerdu&) { // NOLINT(bugprone-empty-catch)
         // The file that is still open keeps every contact; who writes to it says so.
     }
-    cahier.nbFiches = cahier.fichier.Compter();
+    cahier.nbFiches = cahier.fichier.Compter(cahier.indicatifs);
 }
 
 bool EstTelQueCompte(const Cahier& cahier) {
@@ -67,7 +67,7 @@ void VerifierCahier(Cahier& cahier) {
     if (EstTelQueCompte(cahier))
         return;
     OuvrirCahier(cahier, cahier.chemin, cahier.lectureSeule);
-    cahier.nbFiches = cahier.fichier.Compter();
+    cahier.nbFiches = cahier.fichier.Compter(cahier.indicatifs);
 }
 
 bool VerifierFiche(Cahier& cahier, NumeroFiche k, const QsoRecord& montree) {
@@ -84,6 +84,7 @@ bool CorrigerFiche(Cahier& cahier, NumeroFiche k, const QsoRecord& montree,
     if (!VerifierFiche(cahier, k, montree))
         return false;
     cahier.fichier.Ecrire(k, fiche);
+    cahier.indicatifs.at(static_cast<std::size_t>(k - kPremiereFiche)) = IndicatifDe(fiche);
     return true;
 }
 
@@ -101,6 +102,7 @@ void AjouterFiche(Cahier& cahier, const QsoRecord& contact, const QsoRecord& fin
         fichier.Ecrire(k, std::array{contact, fin});
         SynchroniserCahier(cahier);
     });
+    cahier.indicatifs.push_back(IndicatifDe(contact));
     ++cahier.nbFiches;
 }
 
@@ -205,6 +207,7 @@ bool SupprimerFiche(Cahier& cahier, NumeroFiche k, const QsoRecord& montree,
         Reparer([&] { suppression.Revenir(); });
         throw;
     }
+    cahier.indicatifs.erase(cahier.indicatifs.begin() + (k - kPremiereFiche));
     --cahier.nbFiches;
     return true;
 }

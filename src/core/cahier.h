@@ -15,6 +15,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace orvalis {
 
@@ -27,6 +28,9 @@ struct Cahier {
     /// it may only be looked at.
     bool lectureSeule = false;
     std::int32_t nbFiches = 0; ///< N, the number of contacts
+    /// Their callsigns as they were counted or have been changed since, so that who asks for one at
+    /// every contact need not read the whole file.
+    std::vector<OctetsIndicatif> indicatifs;
 
     /// The station's own logbook, not one opened as "another", whatever its name.
     [[nodiscard]] bool EstLeNotre() const { return autre.empty(); }

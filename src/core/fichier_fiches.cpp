@@ -34,17 +34,41 @@ void FichierFiches::Ecrire(NumeroFiche k, std::span<const QsoRecord> fiches) {
     EcrireEntier(fichier_, PositionFiche(k), OctetsFiches(fiches));
 }
 
-std::int32_t FichierFiches::Compter() const {
+namespace {
+
+// Shows `voir` every record before the end-of-log record; returns how many there are.
+template<typename Voir> std::int32_t Parcourir(const FichierFiches& fichier, Voir voir) {
     std::vector<QsoRecord> bloc(kFichesParBloc);
     for (NumeroFiche k = kPremiereFiche;;) {
-        const std::size_t lus = Lire(k, bloc);
-        for (std::size_t i = 0; i < lus; ++i)
+        const std::size_t lus = fichier.Lire(k, bloc);
+        for (std::size_t i = 0; i < lus; ++i) {
             if (EstFinDeLog(bloc[i]))
                 return k - kPremiereFiche + static_cast<std::int32_t>(i);
+            voir(bloc[i]);
+        }
         k += static_cast<std::int32_t>(lus);
         if (lus < bloc.size())
             return k - kPremiereFiche;
     }
+}
+
+} // namespace
+
+OctetsIndicatif IndicatifDe(const QsoRecord& fiche) {
+    OctetsIndicatif octets;
+    const std::string_view champ = OctetsChamp(fiche, Champ::CSGN);
+    std::copy(champ.begin(), champ.end(), octets.begin());
+    return octets;
+}
+
+std::int32_t FichierFiches::Compter() const {
+    return Parcourir(*this, [](const QsoRecord&) {});
+}
+
+std::int32_t FichierFiches::Compter(std::vector<OctetsIndicatif>& indicatifs) const {
+    indicatifs.clear();
+    return Parcourir(*this,
+                     [&](const QsoRecord& fiche) { indicatifs.push_back(IndicatifDe(fiche)); });
 }
 
 LecteurFiches::LecteurFiches(const FichierFiches& fichier) : fichier_(fichier) {}

@@ -8,12 +8,17 @@
 #include "core/projection.h"
 #include "core/qso_record.h"
 
+#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <span>
 #include <vector>
 
 namespace orvalis {
+
+/// The callsign field of a record, as it is in the file.
+using OctetsIndicatif = std::array<char, Description(Champ::CSGN).largeur>;
+[[nodiscard]] OctetsIndicatif IndicatifDe(const QsoRecord& fiche);
 
 /// Record access to one open logbook file. Throws Erreur when the system refuses an
 /// operation.
@@ -37,6 +42,8 @@ class FichierFiches {
     void Ecrire(NumeroFiche k, std::span<const QsoRecord> fiches);
     /// Number of contacts: the records before the end-of-log record, or all of them without one.
     [[nodiscard]] std::int32_t Compter() const;
+    /// The same; `indicatifs` becomes the callsign field of each of them.
+    [[nodiscard]] std::int32_t Compter(std::vector<OctetsIndicatif>& indicatifs) const;
 
   private:
     Fichier fichier_;

@@ -81,11 +81,14 @@ class EstContactAvec {
     explicit EstContactAvec(std::string_view indicatif)
         : cherche_(pliage_.Plier(VersCp1252(Rogner(indicatif)))) {}
     // The lengths first: they settle most records without looking at their letters.
-    bool operator()(const QsoRecord& fiche) const {
-        const std::string_view indicatif = Rogner(OctetsChamp(fiche, Champ::CSGN));
+    bool operator()(std::string_view champ) const {
+        const std::string_view indicatif = Rogner(champ);
         const std::size_t n = cherche_.size();
         return indicatif.size() >= n && (indicatif.size() == n || indicatif[n] == '/') &&
                pliage_.Contient(indicatif, cherche_);
+    }
+    bool operator()(const QsoRecord& fiche) const {
+        return (*this)(OctetsChamp(fiche, Champ::CSGN));
     }
     [[nodiscard]] bool Vide() const { return cherche_.empty(); }
 
@@ -171,11 +174,12 @@ StationContactee ChercherStation(const Cahier& cahier, std::string_view indicati
     const EstContactAvec estContact(indicatif);
     StationContactee station;
     std::int64_t dernier = 0;
-    LecteurFiches lecteur(cahier.fichier);
-    for (NumeroFiche k = kPremiereFiche; k <= cahier.Derniere() && !estContact.Vide(); ++k) {
-        const QsoRecord& fiche = lecteur.Lire(k);
-        if (!estContact(fiche))
+    NumeroFiche k = kAucuneFiche;
+    for (const OctetsIndicatif& octets : cahier.indicatifs) {
+        ++k;
+        if (estContact.Vide() || !estContact(std::string_view{octets.data(), octets.size()}))
             continue;
+        const QsoRecord fiche = FicheDuCahier(cahier, k);
         const std::int64_t moment = Moment(fiche);
         if (station.fois++ == 0 || moment >= dernier) {
             dernier = moment;

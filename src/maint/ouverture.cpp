@@ -3,6 +3,9 @@
 #include "core/texte.h"
 #include "geo/locator.h"
 
+#include <utility>
+#include <vector>
+
 namespace orvalis {
 
 std::string NomAutreCahier(const std::filesystem::path& chemin) {
@@ -19,7 +22,8 @@ BilanOuverture OuvrirAutreCahier(Cahier& cahier, Station& station,
     const std::string nom = NomAutreCahier(chemin);
     // Everything that can fail on reading is read before the current logbook is let go.
     const FichierFiches essai(chemin, ModeFichier::Lecture);
-    const std::int32_t nbFiches = essai.Compter();
+    std::vector<OctetsIndicatif> indicatifs;
+    const std::int32_t nbFiches = essai.Compter(indicatifs);
     const QsoRecord fin = essai.Lire(NumeroFiche{nbFiches} + 1);
     OuvrirCahier(cahier, chemin, true);
 
@@ -28,6 +32,7 @@ BilanOuverture OuvrirAutreCahier(Cahier& cahier, Station& station,
     cahier.autre = nom;
     cahier.lectureSeule = nom != station.indicatif || cahier.fichier.Support().EstProtege();
     cahier.nbFiches = nbFiches;
+    cahier.indicatifs = std::move(indicatifs);
     const BilanOuverture bilan{true, ExaminerCahier(cahier)};
     // Without one, not that of yet another logbook, shown before.
     station.monLocator = bilan.etat.finPresente

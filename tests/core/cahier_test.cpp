@@ -1,5 +1,6 @@
 // Records, logbook files and the operations on contacts, against bytes set by hand.
 #include "aides.h"
+#include "core/recherche.h"
 
 namespace orvalis::aides::fiches {
 
@@ -63,8 +64,13 @@ TEST_F(Fiches, AjoutsEtSuppressionsOctetParOctet) {
                                        "JN18AA"));
         EXPECT_EQ(Octets(), apres);
         EXPECT_EQ(cahier.nbFiches, attendu);
-        EXPECT_EQ(cahier.fichier.Compter(), attendu);
+        std::vector<OctetsIndicatif> relus;
+        EXPECT_EQ(cahier.fichier.Compter(relus), attendu);
+        EXPECT_EQ(cahier.indicatifs, relus);
     }
+    Poser(a + b + f);
+    EXPECT_TRUE(CorrigerFiche(cahier, kPremiereFiche, Enregistrement(a), Enregistrement(c)));
+    EXPECT_EQ(ChercherStation(cahier, "f3ccc").fois, 1);
 }
 
 TEST_F(Fiches, UnCahierNeSOuvrePasDeuxFois) {
