@@ -38,6 +38,11 @@ TEST(Parametres, EcritureSousLeNomQuiEstLa) {
     EXPECT_EQ(Lire(chemin), "\"A\",\"B\",\"JN18AA\"\r\n");
     const std::filesystem::directory_iterator fichiers(dossier / "");
     EXPECT_EQ(std::distance(begin(fichiers), end(fichiers)), 1);
+    const auto lien = dossier / "lien"; // kept with other files of its owner
+    std::filesystem::create_symlink(chemin, lien);
+    EcrireParametres(lien, {"C", "D", "JN18AA"});
+    EXPECT_TRUE(std::filesystem::is_symlink(lien));
+    EXPECT_EQ(Lire(chemin), "\"C\",\"D\",\"JN18AA\"\r\n");
     for (const char* nom : {"PARVEL.CFG", "Parvel.cfg", "parvel.cfg"})
         dossier.Poser(nom, "");
     EXPECT_EQ(TrouverParametres(dossier / ""), chemin);

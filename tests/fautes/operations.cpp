@@ -59,6 +59,8 @@ std::vector<Operation> Operations() {
          vek},
         {"jumelage", c24 + fin, "fichier AUTRE.Vek; menu MnuJumeler", "clic BtPjumeler",
          vek + " " + vek},
+        {"jumelage-sans-fin", c24, "fichier AUTRE.Vek; menu MnuJumeler", "clic BtPjumeler",
+         vek + " " + vek},
         {"copie", Contacts(60) + fin, "fichier Copie.Vek", "menu MnuCopieSurDisque",
          "Orvalis/Copie.Vek Orvalis/Copie.Vek! Orvalis!"},
         {"sauvegarde", Contacts(60) + fin, "fichier VekSave/F5ABC.Vek", "menu MnuSauver",

@@ -106,7 +106,9 @@ TEST(Copie, EchecsDits) {
         const Dossier dossier;
         const Cahier cahier = Ouvrir(dossier.Poser("F5ABC.Vek", gros));
         const auto cible = dossier.Poser("Ancienne.Vek", ancienne);
-        for (const auto& [nom, dit] : Textes{{"Ancienne.Vek", avecAncienne}, {"N.Vek", sans}}) {
+        fs::create_symlink(dossier / "N.Vek", dossier / "Lien.Vek");
+        for (const auto& [nom, dit] :
+             Textes{{"Ancienne.Vek", avecAncienne}, {"N.Vek", sans}, {"Lien.Vek", sans}}) {
             refus = {reserver, ecriture};
             const fs::path chemin = dossier / nom;
             EXPECT_THAT([&] { CopierCahier(cahier, MaStation(), chemin); },

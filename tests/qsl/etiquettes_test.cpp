@@ -206,7 +206,7 @@ TEST(FluxEtiquettes, ContactDUneEtiquetteImprimee) {
      -> quitter imprimer "" dit Ce cahier est ouvert en consultation les
  print elsewhere : F18h E | F18h 1 | autre; imprimer
      -> quitter "" dit Un autre cahier est ouvert avant
- erased, no mark : F18h | F18h | choix 1; supprimer -> F18h | | quitter "N° 1"
+ erased, no mark : F18h | F18h | montrer; choix 1; supprimer -> F18h | | panneau quitter "N° 1"
  erased twins : F18h, F18h | F18h | choix 1; supprimer -> F18h, F18h | | quitter "N° 1"
  erased, dated : F18h J | F18h | choix 1; supprimer
      -> F18h J | | quitter "N° 1" dit N° 1 (F 21/11/26 18) la)");

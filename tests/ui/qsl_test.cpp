@@ -5,6 +5,8 @@
 
 #include <QPrinter>
 
+#include <fcntl.h>
+
 namespace orvalis::operateur::qsl {
 
 const std::string kLibre = aides::Brute({{0, "***"}}, 106);
@@ -203,6 +205,12 @@ TEST(Impression, PagesFeuillesEtReglage) {
         operations,
         testing::IsSupersetOf({"R 6100 14260 11300 16040", // place 16
                                "T 500 420 10g Comic sans MS  F5ABC   Confirming QSO with"}));
+    // The file that is open answers no reads any more.
+    for (const auto& ouvert : std::filesystem::directory_iterator("/proc/self/fd"))
+        if (std::filesystem::read_symlink(ouvert).filename() == "F5ABC.Vek")
+            ::dup2(::open("/dev/null", O_WRONLY), std::stoi(ouvert.path().filename()));
+    banc.Suivre("logbook unreadable : menu MnuImpPage -> averti contient F5ABC.Vek");
+    EXPECT_EQ(banc.systeme.codeDeFin, 1);
 }
 
 } // namespace orvalis::operateur::qsl

@@ -140,7 +140,9 @@ TEST(Saisie, ChangementDeLocatorGardeOuNon) {
         banc.Suivre(R"(
  panel : clic BtNewQSO; valide f6abc; clic TxtField_16 -> foyer = ChangLocText
  too short : valide jn18d -> caché BtChangValid
- whole : valide u -> foyer = BtChangValid)");
+ whole : valide u -> foyer = BtChangValid
+ thought better of : foyer ChangLocText -> ChangLocText = JN04SD; caché BtChangValid
+ whole again : valide jn18du -> foyer = BtChangValid)");
         banc.Suivre("taken : " + gestes + R"(entree 1 -> caché PictChangLocator
  back : -> TxtField_16 foyer = JN18DU|TxtField_16
  shown without Enter : touche Ctrl+A; tape xx; clic TxtField_5; valide 7, CW; entree 12)");
