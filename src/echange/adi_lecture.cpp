@@ -1,0 +1,389 @@
+// ADI by hand: <NAME:LENGTH:TYPE>value, anything between a value and the next tag being a comment.
+// What a file promises is never believed before it is looked at.
+#include "core/texte.h"
+#include "echange/adif_fichiers.h"
+#include "echange/lettres.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <vector>
+
+namespace orvalis {
+namespace {
+
+constexpr std::size_t kFenetre = 128UL * 1024;
+// The most that is kept of a value, and the longest that may be counted in characters. Tags with
+// lengths that lie make the reader look so far ahead again and again.
+constexpr std::size_t kValeurMax = 1000;
+constexpr std::size_t kNomMax = 64;
+constexpr std::size_t kInconnusMax = 200; // of one contact, kept until it is clear what it is
+constexpr std::int64_t kLongueurMax = std::int64_t{1} << 52U;
+
+// A window that moves over the file, forward only.
+class Fenetre {
+  public:
+    explicit Fenetre(const Fichier& fichier)
+        : fichier_(fichier), taille_(fichier.Taille()), octets_(kFenetre) {}
+
+    [[nodiscard]] std::int64_t Position() const {
+        return debut_ + static_cast<std::int64_t>(place_);
+    }
+    [[nodiscard]] std::int64_t Taille() const { return taille_; }
+    [[nodiscard]] std::int64_t Ligne() const { return ligne_; }
+
+    /// What lies ahead, at least `n` bytes of it unless the file ends before (n at most half the
+    /// window); valid until the next call.
+    [[nodiscard]] std::string_view Voir(std::size_t n = 1) {
+        if (lus_ - place_ < n && !fini_)
+            Garnir();
+        return {octets_.data() + place_, lus_ - place_};
+    }
+    /// The byte at a place ahead, wherever that is; a blank beyond the end.
+    [[nodiscard]] char OctetA(std::int64_t position) {
+        const std::int64_t ici = position - debut_;
+        if (ici >= 0 && ici < static_cast<std::int64_t>(lus_))
+            return octets_[static_cast<std::size_t>(ici)];
+        std::array<char, 1> octet = {' '};
+        static_cast<void>(fichier_.Lire(position, octet));
+        return octet[0];
+    }
+    void Avancer(std::int64_t n) {
+        while (n > 0) {
+            const std::string_view vu = Voir();
+            const auto pas = static_cast<std::size_t>(
+                std::min<std::int64_t>(n, static_cast<std::int64_t>(vu.size())));
+            if (pas == 0)
+                return;
+            ligne_ += std::count(vu.begin(), vu.begin() + static_cast<std::ptrdiff_t>(pas), '\n');
+            place_ += pas;
+            n -= static_cast<std::int64_t>(pas);
+        }
+    }
+    /// Up to the next `c`, or to the end of the file; tells whether there is one.
+    bool AvancerJusqua(char c) {
+        for (std::string_view vu = Voir(); !vu.empty(); vu = Voir()) {
+            const std::size_t trouve = vu.find(c);
+            Avancer(static_cast<std::int64_t>(std::min(trouve, vu.size())));
+            if (trouve != vu.npos)
+                return true;
+        }
+        return false;
+    }
+
+  private:
+    void Garnir() {
+        std::memmove(octets_.data(), octets_.data() + place_, lus_ - place_);
+        debut_ += static_cast<std::int64_t>(place_);
+        lus_ -= place_;
+        place_ = 0;
+        const std::size_t n = fichier_.Lire(debut_ + static_cast<std::int64_t>(lus_),
+                                            std::span(octets_).subspan(lus_));
+        fini_ = n == 0;
+        lus_ += n;
+    }
+
+    const Fichier& fichier_;
+    std::int64_t taille_;
+    std::vector<char> octets_;
+    std::int64_t debut_ = 0; ///< place in the file of the first byte kept
+    std::size_t lus_ = 0;    ///< bytes kept
+    std::size_t place_ = 0;  ///< of these, how many are done with
+    std::int64_t ligne_ = 1;
+    bool fini_ = false;
+};
+
+struct Marque {
+    std::string_view nom;
+    std::int64_t longueur = -1; ///< none given
+    std::size_t taille = 0;     ///< bytes of the whole tag; 0 when it is none
+};
+
+bool EstNom(char c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_' ||
+           c == '-' || c == ' ' || c == '.';
+}
+
+// The tag that `texte` begins with.
+Marque LireMarque(std::string_view texte) {
+    Marque marque;
+    std::size_t i = 1;
+    const auto octet = [&] { return i < texte.size() ? texte[i] : '\0'; };
+    while (EstNom(octet()) && i <= kNomMax)
+        ++i;
+    marque.nom = Rogner(texte.substr(1, i - 1));
+    if (octet() == ':') {
+        const std::size_t chiffres = ++i;
+        std::int64_t longueur = 0;
+        for (; octet() >= '0' && octet() <= '9'; ++i)
+            longueur = std::min(kLongueurMax, 10 * longueur + (octet() - '0'));
+        if (i == chiffres || i > 3 * kNomMax)
+            return {};
+        marque.longueur = longueur;
+        if (octet() == ':')
+            for (++i; EstNom(octet()) && i < 4 * kNomMax; ++i)
+                ;
+    }
+    if (octet() != '>' || marque.nom.empty())
+        return {};
+    marque.taille = i + 1;
+    return marque;
+}
+
+constexpr std::size_t kMarqueMax = 4 * kNomMax + 1;
+
+bool EstMarque(std::string_view nom, std::string_view attendu) {
+    return nom.size() == attendu.size() &&
+           std::equal(nom.begin(), nom.end(), attendu.begin(), [](char a, char b) {
+               return a == b || (a >= 'a' && a <= 'z' && a - 'a' + 'A' == b);
+           });
+}
+
+bool EstUnVide(char c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\0';
+}
+
+std::string_view SansVides(std::string_view texte) {
+    while (!texte.empty() && EstUnVide(texte.back()))
+        texte.remove_suffix(1);
+    while (!texte.empty() && EstUnVide(texte.front()))
+        texte.remove_prefix(1);
+    return texte;
+}
+
+// The first thing in `texte` that looks like a tag with a length, or like one of the two marks.
+std::size_t ProchaineMarque(std::string_view texte) {
+    for (std::size_t i = texte.find('<'); i != texte.npos; i = texte.find('<', i + 1)) {
+        const Marque marque = LireMarque(texte.substr(i));
+        if (marque.taille > 0 &&
+            (marque.longueur >= 0 || EstMarque(marque.nom, "EOR") || EstMarque(marque.nom, "EOH")))
+            return i;
+    }
+    return texte.npos;
+}
+
+class LecteurAdi {
+  public:
+    LecteurAdi(const Fichier& fichier, LectureAdi lecture, Receveur* receveur)
+        : fenetre_(fichier), lecture_(lecture), receveur_(receveur) {}
+
+    void Lire();
+    /// Values with other letters than ASCII that ended where a value should.
+    [[nodiscard]] std::int64_t FinsNettes() const { return finsNettes_; }
+
+  private:
+    void Champ(const Marque& marque);
+    void Finir(bool marque);
+    void FinirEntete();
+    void Poser(std::string_view nom, std::string_view valeur);
+    [[nodiscard]] std::int64_t Octets(std::int64_t longueur);
+    [[nodiscard]] std::string Texte(std::string_view octets) const;
+    void Dire(std::string_view nom, std::string_view avant, std::string_view devenu);
+
+    Fenetre fenetre_;
+    LectureAdi lecture_;
+    Receveur* receveur_; ///< none when only the ends of values are looked at
+    ContactAdif contact_;
+    std::vector<std::pair<std::string, std::string>> inconnus_; ///< or fields of the header
+    std::int64_t champs_ = 0;                                   ///< fields since the last end mark
+    std::int64_t finsNettes_ = 0;
+};
+
+std::string LecteurAdi::Texte(std::string_view octets) const {
+    if (EstAscii(octets))
+        return std::string{octets};
+    if (!lecture_.utf8)
+        return DepuisCp1252(octets);
+    // A program that counts bytes may have cut the last character in two.
+    std::string_view entier = octets;
+    for (int i = 0; i < 3 && !entier.empty() && !EstUtf8(entier); ++i)
+        entier.remove_suffix(1);
+    return EstUtf8(entier) ? std::string{entier} : DepuisCp1252(octets);
+}
+
+void LecteurAdi::Dire(std::string_view nom, std::string_view avant, std::string_view devenu) {
+    if (champs_++ == 0)
+        contact_.ligne = fenetre_.Ligne();
+    Signaler(contact_, nom, Texte(avant), devenu);
+}
+
+// The bytes that a length stands for at the place where the value begins.
+std::int64_t LecteurAdi::Octets(std::int64_t longueur) {
+    if (!lecture_.caracteres || longueur > static_cast<std::int64_t>(kValeurMax))
+        return longueur;
+    const std::string_view vu = fenetre_.Voir(4 * kValeurMax + 1);
+    std::size_t octets = 0;
+    for (std::int64_t i = 0; i < longueur; ++i) {
+        if (octets >= vu.size())
+            return static_cast<std::int64_t>(vu.size()) + 1; // beyond the end
+        octets += std::max<std::size_t>(LongueurSequence(vu.substr(octets)), 1);
+    }
+    return static_cast<std::int64_t>(octets);
+}
+
+void LecteurAdi::Champ(const Marque& marque) {
+    const std::string nom(marque.nom);
+    const std::int64_t ligne = fenetre_.Ligne();
+    fenetre_.Avancer(static_cast<std::int64_t>(marque.taille));
+    const std::int64_t longueur = Octets(marque.longueur);
+    const bool dehors = longueur > fenetre_.Taille() - fenetre_.Position();
+    const char suivant = dehors ? 'x' : fenetre_.OctetA(fenetre_.Position() + longueur);
+    const bool nette = suivant == '<' || EstUnVide(suivant);
+    std::string_view vu = fenetre_.Voir(kValeurMax + kMarqueMax);
+    const auto garde = static_cast<std::size_t>(std::min<std::int64_t>(
+        longueur, static_cast<std::int64_t>(std::min(vu.size(), kValeurMax))));
+    std::string valeur(vu.substr(0, garde));
+    if (champs_++ == 0)
+        contact_.ligne = ligne;
+    if (nette) {
+        finsNettes_ += EstAscii(valeur) ? 0 : 1;
+        fenetre_.Avancer(longueur);
+        Poser(nom, SansVides(valeur));
+        return;
+    }
+    // The length is not to be believed: a value ends at the next tag at the latest. What has been
+    // searched is not looked at again.
+    std::int64_t reste = dehors ? fenetre_.Taille() - fenetre_.Position() : longueur;
+    std::size_t coupe = std::string::npos;
+    const std::int64_t debut = fenetre_.Position();
+    while (reste > 0 && coupe == std::string::npos) {
+        vu = fenetre_.Voir(2 * kMarqueMax);
+        if (vu.empty())
+            break; // the file has become shorter meanwhile
+        const auto cherche = static_cast<std::size_t>(
+            std::min<std::int64_t>(reste, static_cast<std::int64_t>(vu.size())));
+        const bool derniere =
+            static_cast<std::int64_t>(vu.size()) >= reste ||
+            fenetre_.Position() + static_cast<std::int64_t>(vu.size()) >= fenetre_.Taille();
+        // A tag that the window cuts is found whole in the next one.
+        const std::size_t sur = derniere ? cherche : std::min(cherche, vu.size() - kMarqueMax);
+        coupe = ProchaineMarque(vu.substr(0, std::min(vu.size(), sur + kMarqueMax)));
+        if (coupe != std::string::npos && coupe >= sur)
+            coupe = std::string::npos;
+        const std::size_t pas = std::min(coupe, sur);
+        fenetre_.Avancer(static_cast<std::int64_t>(pas));
+        reste -= static_cast<std::int64_t>(pas);
+    }
+    const std::int64_t longueurReelle = fenetre_.Position() - debut;
+    valeur.resize(std::min(valeur.size(), static_cast<std::size_t>(longueurReelle)));
+    const std::string_view texte = SansVides(valeur);
+    if (dehors)
+        Dire(nom, std::to_string(marque.longueur),
+             "longueur au-delà de la fin du fichier : lu jusqu'à la marque suivante");
+    else if (longueurReelle < longueur)
+        Dire(nom, std::to_string(marque.longueur),
+             "longueur fausse : lu jusqu'à la marque suivante");
+    else if (!texte.empty())
+        Dire(nom, texte, "le texte continue au-delà de sa longueur : coupé");
+    Poser(nom, texte);
+}
+
+void LecteurAdi::Poser(std::string_view nom, std::string_view valeur) {
+    if (receveur_ == nullptr)
+        return;
+    const std::string texte = Texte(valeur);
+    if (PoserChamp(contact_, nom, texte))
+        return;
+    if (inconnus_.size() < kInconnusMax)
+        inconnus_.emplace_back(nom, texte.substr(0, kNomMax));
+    else
+        receveur_->Inconnu(nom);
+}
+
+void LecteurAdi::Finir(bool marque) {
+    for (const auto& [nom, valeur] : inconnus_)
+        receveur_->Inconnu(nom);
+    if (receveur_ != nullptr && (contact_.connu || (marque && champs_ > 0))) {
+        if (!marque)
+            Signaler(contact_, "EOR", "", "la marque de fin manque au dernier contact");
+        receveur_->Contact(contact_);
+    } else if (receveur_ != nullptr) {
+        for (const Remarque& remarque : contact_.remarques)
+            receveur_->Incident(contact_.ligne, remarque);
+        if (marque)
+            receveur_->Incident(fenetre_.Ligne(), {"EOR", "", "un contact sans aucun champ"});
+    }
+    contact_.Vider();
+    champs_ = 0;
+    inconnus_.clear();
+}
+
+void LecteurAdi::FinirEntete() {
+    if (receveur_ != nullptr)
+        for (const auto& [nom, valeur] : inconnus_)
+            receveur_->Entete(nom, valeur);
+    contact_.Vider();
+    champs_ = 0;
+    inconnus_.clear();
+}
+
+void LecteurAdi::Lire() {
+    while (fenetre_.AvancerJusqua('<')) {
+        const Marque marque = LireMarque(fenetre_.Voir(kMarqueMax).substr(0, kMarqueMax));
+        if (marque.taille == 0) {
+            fenetre_.Avancer(1);
+        } else if (marque.longueur >= 0) {
+            Champ(marque);
+        } else {
+            const bool fin = EstMarque(marque.nom, "EOR");
+            const bool entete = EstMarque(marque.nom, "EOH");
+            if (!fin && !entete && BaliseNommee(marque.nom))
+                Dire(marque.nom, "", "sans longueur : laissé vide");
+            fenetre_.Avancer(static_cast<std::int64_t>(marque.taille));
+            if (fin)
+                Finir(true);
+            else if (entete)
+                FinirEntete();
+        }
+    }
+    Finir(false);
+}
+
+} // namespace
+
+GenreAdif ReconnaitreGenre(const Fichier& fichier) {
+    std::array<char, 512> debut{};
+    std::string_view vu{debut.data(), fichier.Lire(0, debut)};
+    if (vu.starts_with("\xFE\xFF") || vu.starts_with("\xFF\xFE"))
+        return GenreAdif::Adx; // two bytes a character: only XML may
+    if (vu.starts_with("\xEF\xBB\xBF"))
+        vu.remove_prefix(3);
+    vu = SansVides(vu);
+    return vu.starts_with("<?xml") || EstMarque(vu.substr(0, 4), "<ADX") ? GenreAdif::Adx
+                                                                         : GenreAdif::Adi;
+}
+
+LectureAdi ExaminerAdi(const Fichier& fichier) {
+    std::int64_t sequences = 0;
+    std::int64_t autres = 0;
+    Fenetre fenetre(fichier);
+    for (std::string_view vu = fenetre.Voir(4); !vu.empty(); vu = fenetre.Voir(4)) {
+        // Three bytes less than there are: a sequence that the window cuts comes whole the next
+        // time.
+        const std::size_t sur = vu.size() > 4 ? vu.size() - 3 : vu.size();
+        std::size_t i = 0;
+        while (i < sur) {
+            const std::size_t n = LongueurSequence(vu.substr(i));
+            sequences += n > 1 ? 1 : 0;
+            autres += n == 0 ? 1 : 0;
+            i += std::max<std::size_t>(n, 1);
+        }
+        fenetre.Avancer(static_cast<std::int64_t>(i));
+    }
+    LectureAdi lecture;
+    lecture.utf8 = sequences > autres;
+    if (!lecture.utf8)
+        return lecture;
+    LecteurAdi octets(fichier, {true, false}, nullptr);
+    octets.Lire();
+    LecteurAdi caracteres(fichier, {true, true}, nullptr);
+    caracteres.Lire();
+    lecture.caracteres = caracteres.FinsNettes() > octets.FinsNettes();
+    return lecture;
+}
+
+void LireAdi(const Fichier& fichier, LectureAdi lecture, Receveur& receveur) {
+    LecteurAdi(fichier, lecture, &receveur).Lire();
+}
+
+} // namespace orvalis

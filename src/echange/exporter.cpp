@@ -1,0 +1,65 @@
+#include "echange/exporter.h"
+
+#include "echange/fichier_neuf.h"
+#include "echange/refus.h"
+#include "echange/sortie.h"
+
+#include <chrono>
+
+namespace orvalis {
+namespace {
+namespace fs = std::filesystem;
+}
+
+bool MemeFichier(const fs::path& a, const fs::path& b) {
+    if (a.empty() || b.empty())
+        return false;
+    std::error_code erreur;
+    if (fs::equivalent(a, b, erreur))
+        return true;
+    const fs::path la = fs::weakly_canonical(fs::absolute(a, erreur), erreur);
+    const fs::path lb = fs::weakly_canonical(fs::absolute(b, erreur), erreur);
+    return la == lb;
+}
+
+void RefuserUnCahier(const fs::path& cible, const fs::path& cahier) {
+    if (MajusculesAscii(cible.extension().string()) == ".VEK" || MemeFichier(cible, cahier))
+        throw RefusEchange("« " + cible.string() +
+                           " » est un cahier : il n'est pas remplacé par une copie d'une autre "
+                           "forme.");
+}
+
+std::string MaintenantAdif() {
+    const auto maintenant =
+        std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+    const auto minute = std::chrono::floor<std::chrono::minutes>(maintenant);
+    const std::string secondes = std::to_string(100 + (maintenant - minute).count()).substr(1);
+    std::string heure = EcrireHeure(HeureDe(minute));
+    heure.erase(2, 1);
+    return EcrireJourIso(JourDe(minute), "") + " " + heure + secondes;
+}
+
+BilanExport ExporterAdif(const DemandeExport& demande, const Fuseau& fuseau) {
+    RefuserUnCahier(demande.cible, demande.cahier);
+    RefuserUnCahier(demande.cible, demande.cahierStation);
+    const CahierLu cahier = LireCahierEntier(demande.cahier);
+    BilanExport bilan{cahier.fiches.size(), 0, cahier.finPresente, cahier.longueurEntiere};
+    FichierNeuf fichier(demande.cible, Ancien::Remplace);
+    fichier.Ecrire(EnteteAdif(demande.genre, demande.creation));
+    const auto jumeaux = demande.genre == GenreAdif::Adx ? Jumeaux::Oui : Jumeaux::Non;
+    ContactAdif contact;
+    std::string texte;
+    for (const QsoRecord& fiche : cahier.fiches) {
+        ExporterFiche(fiche, fuseau, jumeaux, contact);
+        contact[Balise::STATION_CALLSIGN] = demande.indicatif;
+        bilan.sansDate += contact[Balise::QSO_DATE].empty() ? 1 : 0;
+        texte.clear();
+        AjouterContact(demande.genre, contact, texte);
+        fichier.Ecrire(texte);
+    }
+    fichier.Ecrire(FinAdif(demande.genre));
+    fichier.Terminer();
+    return bilan;
+}
+
+} // namespace orvalis

@@ -1,0 +1,43 @@
+// A logbook into a file of the interchange format.
+#pragma once
+
+#include "echange/adif_fichiers.h"
+#include "echange/heures.h"
+#include "echange/lecture_cahier.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+
+namespace orvalis {
+
+struct DemandeExport {
+    std::filesystem::path cahier; ///< the logbook that is read; its file is never written
+    std::filesystem::path cible;
+    GenreAdif genre = GenreAdif::Adi;
+    std::string indicatif;               ///< of the station; not written when empty
+    std::filesystem::path cahierStation; ///< the Settings' logbook, where there is one
+    std::string creation;                ///< time of the file, see MaintenantAdif
+};
+
+struct BilanExport {
+    std::size_t contacts = 0;
+    std::size_t sansDate = 0; ///< contacts that other programs leave out
+    bool finPresente = true;  ///< see CahierLu
+    bool longueurEntiere = true;
+};
+
+/// Writes all contacts of the logbook; a former file is replaced once the new one is on the disk.
+/// Throws Erreur or RefusEchange, with nothing written.
+[[nodiscard]] BilanExport ExporterAdif(const DemandeExport& demande, const Fuseau& fuseau);
+
+/// Refuses a place that is a logbook: a file .Vek, or the file `cahier` under whatever name. Throws
+/// RefusEchange.
+void RefuserUnCahier(const std::filesystem::path& cible, const std::filesystem::path& cahier);
+/// Whether both name one file, be it there or not.
+[[nodiscard]] bool MemeFichier(const std::filesystem::path& a, const std::filesystem::path& b);
+
+/// The time in UTC as the format has it.
+[[nodiscard]] std::string MaintenantAdif();
+
+} // namespace orvalis

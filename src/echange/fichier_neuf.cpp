@@ -1,0 +1,114 @@
+#include "echange/fichier_neuf.h"
+
+#include "echange/refus.h"
+
+#include <random>
+
+namespace orvalis {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kTampon = 256UL * 1024;
+
+// The file itself, where the place is a link to it: the link stays.
+fs::path Reelle(const fs::path& cible) {
+    std::error_code erreur;
+    fs::path reelle = fs::canonical(cible, erreur);
+    return erreur ? cible : reelle;
+}
+
+// Two programs that write the same file each have their own beside it; the last one stays.
+fs::path NomProvisoire(const fs::path& cible) {
+    std::random_device hasard;
+    return fs::path(cible) += "." + std::to_string(hasard()) + ".tmp";
+}
+
+RefusEchange ExisteDeja(const fs::path& cible) {
+    return RefusEchange("Le fichier « " + cible.string() + " » existe déjà.");
+}
+
+} // namespace
+
+FichierNeuf::FichierNeuf(const fs::path& cible, Ancien ancien)
+    : cible_(ancien == Ancien::Remplace ? Reelle(cible) : cible), ancien_(ancien) {
+    std::error_code erreur;
+    const fs::file_status etat = fs::symlink_status(cible_, erreur);
+    if (fs::exists(etat) && ancien == Ancien::Protege)
+        throw ExisteDeja(cible);
+    if (fs::exists(etat) && !fs::is_regular_file(etat))
+        throw RefusEchange("« " + cible.string() + " » n'est pas un fichier ordinaire.");
+    provisoire_ = NomProvisoire(cible_);
+    try {
+        fichier_ = Fichier(provisoire_, ModeFichier::Creation);
+    } catch (const Erreur& echec) {
+        throw Erreur(echec.Nature(), cible, echec.code());
+    }
+}
+
+FichierNeuf::~FichierNeuf() {
+    if (termine_)
+        return;
+    fichier_.Fermer();
+    std::error_code erreur;
+    fs::remove(provisoire_, erreur);
+}
+
+void FichierNeuf::Ecrire(std::string_view octets) {
+    tampon_ += octets;
+    if (tampon_.size() >= kTampon)
+        Vider();
+}
+
+void FichierNeuf::Recrire(std::int64_t position, std::string_view octets) {
+    Vider();
+    try {
+        fichier_.Ecrire(position, octets);
+    } catch (const Erreur& echec) {
+        throw Erreur(echec.Nature(), cible_, echec.code());
+    }
+}
+
+void FichierNeuf::Vider() {
+    try {
+        fichier_.Ecrire(ecrits_, tampon_);
+    } catch (const Erreur& echec) {
+        throw Erreur(echec.Nature(), cible_, echec.code());
+    }
+    ecrits_ += static_cast<std::int64_t>(tampon_.size());
+    tampon_.clear();
+}
+
+void FichierNeuf::Terminer() {
+    Vider();
+    try {
+        fichier_.Synchroniser();
+    } catch (const Erreur& echec) {
+        throw Erreur(echec.Nature(), cible_, echec.code());
+    }
+    fichier_.Fermer();
+    Renommer();
+    termine_ = true;
+}
+
+void FichierNeuf::Renommer() {
+    std::error_code erreur;
+    if (ancien_ == Ancien::Protege) {
+        // Unlike a renaming, a second name is refused where one stands.
+        fs::create_hard_link(provisoire_, cible_, erreur);
+        if (erreur == std::errc::file_exists)
+            throw ExisteDeja(cible_);
+        if (!erreur) {
+            fs::remove(provisoire_, erreur);
+            return;
+        }
+        // The file system knows one name only.
+        if (fs::exists(fs::symlink_status(cible_, erreur)))
+            throw ExisteDeja(cible_);
+    }
+    fs::rename(provisoire_, cible_, erreur);
+    if (erreur)
+        throw Erreur(NatureErreur::Remplacer, cible_, erreur);
+}
+
+} // namespace orvalis

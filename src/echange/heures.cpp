@@ -1,0 +1,79 @@
+#include "echange/heures.h"
+
+#include "echange/refus.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <ctime>
+#include <filesystem>
+
+namespace orvalis {
+namespace {
+
+constexpr std::array<std::string_view, 3> kDossiersZones = {
+    "/usr/share/zoneinfo", "/usr/lib/zoneinfo", "/usr/share/lib/zoneinfo"};
+
+// The C library takes a name that it does not know for UTC, without a word.
+bool ZoneConnue(std::string_view nom) {
+    if (nom.front() == '/' || nom.find("..") != nom.npos)
+        return false;
+    std::error_code erreur;
+    for (const std::string_view dossier : kDossiersZones)
+        if (std::filesystem::is_regular_file(std::filesystem::path(dossier) / nom, erreur))
+            return true;
+    return false;
+}
+
+std::chrono::seconds Decalage(Moment utc) {
+    const std::time_t t = std::chrono::system_clock::to_time_t(utc);
+    std::tm locale = {};
+    return ::localtime_r(&t, &locale) == nullptr ? std::chrono::seconds{0}
+                                                 : std::chrono::seconds{locale.tm_gmtoff};
+}
+
+Moment Moins(Moment moment, std::chrono::seconds decalage) {
+    return std::chrono::floor<std::chrono::minutes>(moment - decalage);
+}
+
+} // namespace
+
+Fuseau::Fuseau(std::string_view nom) : converti_(true) {
+    if (!nom.empty() && !ZoneConnue(nom))
+        throw RefusEchange("Le fuseau horaire « " + std::string{nom} + " » est inconnu.");
+    nomme_ = !nom.empty();
+    if (!nomme_)
+        return;
+    if (const char* avant = std::getenv("TZ"))
+        avant_ = avant;
+    ::setenv("TZ", std::string{nom}.c_str(), 1);
+    ::tzset();
+}
+
+Fuseau::~Fuseau() {
+    if (!nomme_)
+        return;
+    if (avant_)
+        ::setenv("TZ", avant_->c_str(), 1);
+    else
+        ::unsetenv("TZ");
+    ::tzset();
+}
+
+Moment Fuseau::DepuisUtc(Moment utc) const {
+    return converti_ ? Moins(utc, -Decalage(utc)) : utc;
+}
+
+Moment Fuseau::VersUtc(Moment locale) const {
+    if (!converti_)
+        return locale;
+    // No clock is put forward or back twice within two days.
+    const auto avant = Decalage(locale - std::chrono::days{1});
+    const auto apres = Decalage(locale + std::chrono::days{1});
+    for (const auto decalage : {std::max(avant, apres), std::min(avant, apres)})
+        if (const Moment utc = Moins(locale, decalage); DepuisUtc(utc) == locale)
+            return utc;
+    return Moins(locale, avant);
+}
+
+} // namespace orvalis

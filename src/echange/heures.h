@@ -1,0 +1,51 @@
+// The hours of a logbook are the station's own; other programs keep UTC.
+#pragma once
+
+#include "echange/sens.h"
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace orvalis {
+
+/// A minute of a calendar, whichever the clock it was read on.
+using Moment = std::chrono::sys_time<std::chrono::minutes>;
+
+[[nodiscard]] inline Moment MomentDe(Jour jour, Heure heure) {
+    return std::chrono::sys_days{jour} + heure;
+}
+[[nodiscard]] inline Jour JourDe(Moment moment) {
+    return std::chrono::floor<std::chrono::days>(moment);
+}
+[[nodiscard]] inline Heure HeureDe(Moment moment) {
+    return moment - std::chrono::floor<std::chrono::days>(moment);
+}
+
+/// What the logbook's hours are. The time zones are those of the system's C library, which knows
+/// them by the process's environment: while an object with a zone lives, the environment names it,
+/// so there is one at a time, and no other thread that asks for the time.
+class Fuseau {
+  public:
+    /// UTC: nothing is converted.
+    Fuseau() = default;
+    /// The zone of that name ("Europe/Paris"), the system's own for an empty name. Throws
+    /// RefusEchange when there is none such.
+    explicit Fuseau(std::string_view nom);
+    Fuseau(const Fuseau&) = delete;
+    Fuseau& operator=(const Fuseau&) = delete;
+    ~Fuseau();
+
+    /// Of an hour that comes twice the first (summer time) is meant; an hour that is skipped counts
+    /// as if the clock had not been put forward yet.
+    [[nodiscard]] Moment VersUtc(Moment locale) const;
+    [[nodiscard]] Moment DepuisUtc(Moment utc) const;
+
+  private:
+    bool converti_ = false;
+    bool nomme_ = false;               ///< the environment's zone was set
+    std::optional<std::string> avant_; ///< what it was before
+};
+
+} // namespace orvalis
