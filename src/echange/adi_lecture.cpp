@@ -371,7 +371,7 @@ LectureAdi ExaminerAdi(const Fichier& fichier) {
         fenetre.Avancer(static_cast<std::int64_t>(i));
     }
     LectureAdi lecture;
-    lecture.utf8 = sequences > autres;
+    lecture.utf8 = sequences > 0 && sequences >= autres;
     if (!lecture.utf8)
         return lecture;
     LecteurAdi octets(fichier, {true, false}, nullptr);

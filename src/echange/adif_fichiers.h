@@ -49,8 +49,8 @@ struct LectureAdi {
 /// Which of the two it is, by what stands at its beginning.
 [[nodiscard]] GenreAdif ReconnaitreGenre(const Fichier& fichier);
 
-/// Looks through an ADI file: UTF-8 when it has more characters of several bytes than bytes that
-/// are none of these; lengths in characters when so more values end where a value should.
+/// Looks through an ADI file: UTF-8 when it has at least as many characters of several bytes
+/// as bytes that are none of these; lengths in characters when so more values end where a value should.
 [[nodiscard]] LectureAdi ExaminerAdi(const Fichier& fichier);
 
 /// Reads a file of any size and content in time linear in its size, keeping little of it. Lengths
