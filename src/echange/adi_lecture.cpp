@@ -187,6 +187,7 @@ class LecteurAdi {
     std::vector<std::pair<std::string, std::string>> inconnus_; ///< or fields of the header
     std::int64_t champs_ = 0;                                   ///< fields since the last end mark
     std::int64_t finsNettes_ = 0;
+    bool assez_ = false; ///< the receiver wants no more
 };
 
 std::string LecteurAdi::Texte(std::string_view octets) const {
@@ -296,7 +297,7 @@ void LecteurAdi::Finir(bool marque) {
     if (receveur_ != nullptr && (contact_.connu || (marque && champs_ > 0))) {
         if (!marque)
             Signaler(contact_, "EOR", "", "la marque de fin manque au dernier contact");
-        receveur_->Contact(contact_);
+        assez_ = !receveur_->Contact(contact_);
     } else if (receveur_ != nullptr) {
         for (const Remarque& remarque : contact_.remarques)
             receveur_->Incident(contact_.ligne, remarque);
@@ -318,7 +319,7 @@ void LecteurAdi::FinirEntete() {
 }
 
 void LecteurAdi::Lire() {
-    while (fenetre_.AvancerJusqua('<')) {
+    while (!assez_ && fenetre_.AvancerJusqua('<')) {
         const Marque marque = LireMarque(fenetre_.Voir(kMarqueMax).substr(0, kMarqueMax));
         if (marque.taille == 0) {
             fenetre_.Avancer(1);
@@ -336,7 +337,8 @@ void LecteurAdi::Lire() {
                 FinirEntete();
         }
     }
-    Finir(false);
+    if (!assez_)
+        Finir(false);
 }
 
 } // namespace

@@ -34,8 +34,8 @@ class Receveur {
     virtual void Entete(std::string_view nom, std::string_view valeur) = 0;
     /// A field that the logbook has no place for.
     virtual void Inconnu(std::string_view nom) = 0;
-    /// A contact, with what was odd about its fields as text. It may be emptied.
-    virtual void Contact(ContactAdif& contact) = 0;
+    /// A contact, with what was odd about its fields as text. False when no more is wanted.
+    [[nodiscard]] virtual bool Contact(const ContactAdif& contact) = 0;
     /// Something that belongs to no contact.
     virtual void Incident(std::int64_t ligne, const Remarque& remarque) = 0;
 };
@@ -50,7 +50,8 @@ struct LectureAdi {
 [[nodiscard]] GenreAdif ReconnaitreGenre(const Fichier& fichier);
 
 /// Looks through an ADI file: UTF-8 when it has at least as many characters of several bytes
-/// as bytes that are none of these; lengths in characters when so more values end where a value should.
+/// as bytes that are none of these; lengths in characters when so more values end where a value
+/// should.
 [[nodiscard]] LectureAdi ExaminerAdi(const Fichier& fichier);
 
 /// Reads a file of any size and content in time linear in its size, keeping little of it. Lengths

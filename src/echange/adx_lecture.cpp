@@ -76,6 +76,7 @@ class LecteurAdx {
     bool dansEntete_ = false;
     bool doctype_ = false;
     bool tropProfond_ = false;
+    bool assez_ = false; ///< the receiver wants no more
     std::exception_ptr exception_;
 };
 
@@ -159,9 +160,11 @@ void LecteurAdx::FinirContact(std::string_view pourquoi) {
     dansContact_ = false;
     if (!pourquoi.empty())
         Signaler(contact_, "RECORD", "", pourquoi);
-    if (contact_.connu)
-        receveur_.Contact(contact_);
-    else
+    if (contact_.connu && !receveur_.Contact(contact_)) {
+        assez_ = true;
+        XML_StopParser(xml_.get(), XML_FALSE);
+    }
+    if (!contact_.connu)
         receveur_.Incident(contact_.ligne, {"RECORD", "", "un contact sans aucun champ connu"});
     contact_.Vider();
 }
@@ -184,6 +187,8 @@ void LecteurAdx::Lire() {
         const XML_Status statut = XML_ParseBuffer(xml_.get(), static_cast<int>(n), fini ? 1 : 0);
         if (exception_)
             std::rethrow_exception(exception_);
+        if (assez_)
+            return;
         if (doctype_)
             throw RefusEchange("Le fichier « " + fichier_.Chemin().string() +
                                " » définit ses propres entités : il n'est pas lu.");

@@ -29,14 +29,22 @@ int Chiffre(char c) {
     return place == kHexa.npos ? -1 : static_cast<int>(place);
 }
 
+// Asked of every field of every contact: no text is made for it.
+bool MemeNom(std::string_view majuscules, std::string_view nom) {
+    const auto pareil = [](char a, char b) {
+        return a == b || (b >= 'a' && b <= 'z' && a == b - 'a' + 'A');
+    };
+    return majuscules.size() == nom.size() && pareil(majuscules.back(), nom.back()) &&
+           std::equal(majuscules.begin(), majuscules.end(), nom.begin(), pareil);
+}
+
 template<std::size_t n>
 std::optional<std::size_t> Chercher(const std::array<std::string_view, n>& noms,
                                     std::string_view nom) {
-    const std::string majuscules = MajusculesAscii(nom);
-    const auto trouve = std::find(noms.begin(), noms.end(), majuscules);
-    if (trouve == noms.end())
-        return {};
-    return static_cast<std::size_t>(trouve - noms.begin());
+    for (std::size_t i = 0; i < n; ++i)
+        if (MemeNom(noms[i], nom))
+            return i;
+    return {};
 }
 
 void Poser(ContactAdif& contact, std::string& place, std::string_view nom,
@@ -95,7 +103,7 @@ bool PoserChamp(ContactAdif& contact, std::string_view nom, std::string_view val
         return true;
     }
     if (nom.size() <= kPrefixeOrvalis.size() ||
-        MajusculesAscii(nom.substr(0, kPrefixeOrvalis.size())) != kPrefixeOrvalis)
+        !MemeNom(kPrefixeOrvalis, nom.substr(0, kPrefixeOrvalis.size())))
         return false;
     const auto champ = ChampNomme(nom.substr(kPrefixeOrvalis.size()));
     if (!champ)

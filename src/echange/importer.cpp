@@ -74,7 +74,6 @@ class Importateur : public Receveur {
         if (!fixe_)
             conventions_.monLocator = locator;
     }
-    [[nodiscard]] const std::string& PremierLocator() const { return premier_; }
     [[nodiscard]] const std::string& Locator() const { return conventions_.monLocator; }
     [[nodiscard]] const BilanImport& Bilan() const { return bilan_; }
 
@@ -97,7 +96,7 @@ class Importateur : public Receveur {
         ++bilan_.incidents;
         Dire(ligne, "", remarque);
     }
-    void Contact(ContactAdif& contact) override;
+    [[nodiscard]] bool Contact(const ContactAdif& contact) override;
 
   private:
     void Dire(std::int64_t ligne, std::string_view indicatif, const Remarque& remarque) const {
@@ -110,11 +109,10 @@ class Importateur : public Receveur {
     VoirFiche voirFiche_;
     VoirLigne voirLigne_;
     BilanImport bilan_;
-    std::string premier_;
     DejaVues deja_;
 };
 
-void Importateur::Contact(ContactAdif& contact) {
+bool Importateur::Contact(const ContactAdif& contact) {
     ++bilan_.lus;
     const ContactImporte importe = ImporterContact(contact, conventions_);
     const std::string indicatif = contact[Balise::CALL];
@@ -134,33 +132,51 @@ void Importateur::Contact(ContactAdif& contact) {
     for (const Remarque& remarque : importe.remarques)
         Dire(contact.ligne, indicatif, remarque);
     const std::string_view mien = OctetsChamp(importe.fiche, Champ::MLOC);
-    if (!importe.locatorSuppose && LocatorValide(mien)) {
-        if (premier_.empty())
-            premier_ = mien;
+    if (!importe.locatorSuppose && LocatorValide(mien))
         PartirDe(std::string{mien});
+    return true;
+}
+
+// Only looks for the first locator of the station that a contact tells.
+class ChercheurLocator : public Receveur {
+  public:
+    std::string locator;
+
+    void Entete(std::string_view /*nom*/, std::string_view /*valeur*/) override {}
+    void Inconnu(std::string_view /*nom*/) override {}
+    void Incident(std::int64_t /*ligne*/, const Remarque& /*remarque*/) override {}
+    [[nodiscard]] bool Contact(const ContactAdif& contact) override {
+        const auto lu = MajusculesAscii(Rogner(contact[Balise::MY_GRIDSQUARE]));
+        if (const std::string debut = lu.substr(0, kLargeurLocator); LocatorValide(debut))
+            locator = debut;
+        return locator.empty();
     }
-}
+};
 
-void Lire(const Fichier& fichier, Importateur& importateur) {
+void Lire(const Fichier& fichier, LectureAdi lecture, Receveur& receveur) {
     if (ReconnaitreGenre(fichier) == GenreAdif::Adx)
-        LireAdx(fichier, importateur);
+        LireAdx(fichier, receveur);
     else
-        LireAdi(fichier, ExaminerAdi(fichier), importateur);
+        LireAdi(fichier, lecture, receveur);
 }
 
-// The first reading, which writes nothing; the locator to begin with comes from it.
-BilanImport Etudier(const DemandeImport& demande, const Fichier& fichier, const Fuseau& fuseau,
-                    std::string& locator, const VoirLigne& voir) {
-    Importateur importateur(fuseau, demande.locator, {}, voir);
-    Lire(fichier, importateur);
-    BilanImport bilan = importateur.Bilan();
+// Reads the file for `importateur`; nothing of it counts when this throws.
+void Lire(const DemandeImport& demande, Importateur& importateur) {
+    const Fichier fichier(demande.source, ModeFichier::Lecture);
+    const LectureAdi lecture =
+        ReconnaitreGenre(fichier) == GenreAdif::Adi ? ExaminerAdi(fichier) : LectureAdi{};
+    if (demande.locator.empty()) {
+        ChercheurLocator chercheur;
+        Lire(fichier, lecture, chercheur);
+        importateur.PartirDe(chercheur.locator);
+    }
+    Lire(fichier, lecture, importateur);
+    const BilanImport& bilan = importateur.Bilan();
     if (bilan.lus == 0)
         throw RefusEchange("Il n'y a pas de contact dans « " + demande.source.string() + " ».");
-    locator = demande.locator.empty() ? importateur.PremierLocator() : demande.locator;
-    if (bilan.locatorsSupposes > 0 && locator.empty())
+    if (bilan.locatorsSupposes > 0 && importateur.Locator().empty())
         throw RefusEchange("Les contacts ne disent pas le locator de la station : donnez-le par "
                            "--locator.");
-    return bilan;
 }
 
 void RefuserLaCible(const DemandeImport& demande) {
@@ -198,17 +214,13 @@ fs::path CheminRapport(const fs::path& cahier) {
 
 BilanImport EtudierImport(const DemandeImport& demande, const Fuseau& fuseau,
                           const VoirLigne& voir) {
-    const Fichier fichier(demande.source, ModeFichier::Lecture);
-    std::string locator;
-    return Etudier(demande, fichier, fuseau, locator, voir);
+    Importateur importateur(fuseau, demande.locator, {}, voir);
+    Lire(demande, importateur);
+    return importateur.Bilan();
 }
 
 BilanImport ImporterAdif(const DemandeImport& demande, const Fuseau& fuseau) {
     RefuserLaCible(demande);
-    const Fichier fichier(demande.source, ModeFichier::Lecture);
-    std::string locator;
-    static_cast<void>(Etudier(demande, fichier, fuseau, locator, {}));
-
     const Fichier tenu = TenirAncien(demande);
     const fs::path chemin = CheminRapport(demande.cible);
     Rapport rapport(demande, chemin);
@@ -216,8 +228,7 @@ BilanImport ImporterAdif(const DemandeImport& demande, const Fuseau& fuseau) {
     Importateur importateur(
         fuseau, demande.locator, [&](const QsoRecord& fiche) { cahier.Ecrire(Octets(fiche)); },
         [&](const LigneRapport& ligne) { rapport.Ajouter(ligne); });
-    importateur.PartirDe(locator);
-    Lire(fichier, importateur);
+    Lire(demande, importateur);
     cahier.Ecrire(Octets(FicheFinDeLog(importateur.Locator())));
     BilanImport bilan = importateur.Bilan();
     bilan.rapport = chemin;
