@@ -13,8 +13,7 @@ namespace orvalis {
 namespace {
 
 constexpr std::size_t kFenetre = 128UL * 1024;
-// The most that is kept of a value, and the longest that may be counted in characters. Tags with
-// lengths that lie make the reader look so far ahead again and again.
+// The most that is kept of a value, and the longest that may be counted in characters.
 constexpr std::size_t kValeurMax = 1000;
 constexpr std::size_t kNomMax = 64;
 constexpr std::size_t kInconnusMax = 200; // of one contact, kept until it is clear what it is
@@ -60,6 +59,18 @@ class Fenetre {
             n -= static_cast<std::int64_t>(pas);
         }
     }
+    /// How many bytes the next `n` characters of UTF-8 are, at most kValeurMax of them; more than
+    /// the file has when there are not so many.
+    [[nodiscard]] std::int64_t OctetsDe(std::int64_t n) {
+        static_cast<void>(Voir(4 * kValeurMax + 1));
+        if (!repere_)
+            Reperer();
+        const auto ici = std::lower_bound(caracteres_.begin(), caracteres_.end(), place_);
+        if (caracteres_.end() - ici < n)
+            return taille_ + 1;
+        const auto fin = ici + static_cast<std::ptrdiff_t>(n);
+        return static_cast<std::int64_t>((fin == caracteres_.end() ? lus_ : *fin) - place_);
+    }
     /// Up to the next `c`, or to the end of the file; tells whether there is one.
     bool AvancerJusqua(char c) {
         for (std::string_view vu = Voir(); !vu.empty(); vu = Voir()) {
@@ -72,7 +83,18 @@ class Fenetre {
     }
 
   private:
+    // Where the characters of the window begin, so that lengths that lie do not make the same text
+    // be counted again and again.
+    void Reperer() {
+        caracteres_.clear();
+        for (std::size_t i = place_; i < lus_;) {
+            caracteres_.push_back(i);
+            i += std::max<std::size_t>(LongueurSequence({octets_.data() + i, lus_ - i}), 1);
+        }
+        repere_ = true;
+    }
     void Garnir() {
+        repere_ = false;
         std::memmove(octets_.data(), octets_.data() + place_, lus_ - place_);
         debut_ += static_cast<std::int64_t>(place_);
         lus_ -= place_;
@@ -91,6 +113,8 @@ class Fenetre {
     std::size_t place_ = 0;  ///< of these, how many are done with
     std::int64_t ligne_ = 1;
     bool fini_ = false;
+    std::vector<std::size_t> caracteres_;
+    bool repere_ = false; ///< caracteres_ is of this window
 };
 
 struct Marque {
@@ -212,14 +236,7 @@ void LecteurAdi::Dire(std::string_view nom, std::string_view avant, std::string_
 std::int64_t LecteurAdi::Octets(std::int64_t longueur) {
     if (!lecture_.caracteres || longueur > static_cast<std::int64_t>(kValeurMax))
         return longueur;
-    const std::string_view vu = fenetre_.Voir(4 * kValeurMax + 1);
-    std::size_t octets = 0;
-    for (std::int64_t i = 0; i < longueur; ++i) {
-        if (octets >= vu.size())
-            return static_cast<std::int64_t>(vu.size()) + 1; // beyond the end
-        octets += std::max<std::size_t>(LongueurSequence(vu.substr(octets)), 1);
-    }
-    return static_cast<std::int64_t>(octets);
+    return fenetre_.OctetsDe(longueur);
 }
 
 void LecteurAdi::Champ(const Marque& marque) {

@@ -7,17 +7,21 @@
 #include <array>
 #include <exception>
 #include <expat.h>
+#include <functional>
 #include <memory>
 #include <new>
+#include <unordered_set>
 
 namespace orvalis {
 namespace {
 
 constexpr std::size_t kBloc = 64UL * 1024;
 constexpr std::size_t kValeurMax = 1000;
-// Expat keeps a tag until it is complete, and every open element: neither is left to the file.
+// Expat keeps a tag until it is complete, every open element and every name there is: none of it is
+// left to the file.
 constexpr std::int64_t kMarqueMax = 1024L * 1024;
 constexpr int kProfondeurMax = 32;
+constexpr std::size_t kNomsMax = 20'000;
 
 struct DetruireXml {
     void operator()(XML_Parser xml) const { XML_ParserFree(xml); }
@@ -75,7 +79,8 @@ class LecteurAdx {
     bool dansContact_ = false;
     bool dansEntete_ = false;
     bool doctype_ = false;
-    bool tropProfond_ = false;
+    bool trop_ = false; ///< more elements in each other, or more names, than any contact has
+    std::unordered_set<std::size_t> noms_;
     bool assez_ = false; ///< the receiver wants no more
     std::exception_ptr exception_;
 };
@@ -114,8 +119,11 @@ int LecteurAdx::Codage(void* /*moi*/, const XML_Char* nom, XML_Encoding* codage)
 }
 
 void LecteurAdx::OuvrirElement(std::string_view nom, const XML_Char** attributs) {
-    if (++profondeur_ > kProfondeurMax) {
-        tropProfond_ = true;
+    noms_.insert(std::hash<std::string_view>{}(nom));
+    for (const XML_Char** attribut = attributs; *attribut != nullptr; attribut += 2)
+        noms_.insert(std::hash<std::string_view>{}(*attribut));
+    if (++profondeur_ > kProfondeurMax || noms_.size() > kNomsMax) {
+        trop_ = true;
         XML_StopParser(xml_.get(), XML_FALSE);
     }
     const std::string majuscules = MajusculesAscii(nom);
@@ -192,8 +200,8 @@ void LecteurAdx::Lire() {
         if (doctype_)
             throw RefusEchange("Le fichier « " + fichier_.Chemin().string() +
                                " » définit ses propres entités : il n'est pas lu.");
-        if (tropProfond_)
-            return Arreter("des éléments trop imbriqués");
+        if (trop_)
+            return Arreter("des éléments trop imbriqués ou trop de noms");
         if (statut == XML_STATUS_ERROR)
             return Arreter(XML_ErrorString(XML_GetErrorCode(xml_.get())));
         if (position - static_cast<std::int64_t>(XML_GetCurrentByteIndex(xml_.get())) > kMarqueMax)

@@ -11,9 +11,11 @@ namespace orvalis {
 namespace {
 
 // Records of the file, block by block, up to the end-of-log record; `voir` gets each block that
-// lies before it and may stop the reading.
-template<class Voir> CahierLu Parcourir(const std::filesystem::path& chemin, Voir voir) {
+// lies before it and may stop the reading; `prevoir` is told how many records there can be.
+template<class Prevoir, class Voir>
+CahierLu Parcourir(const std::filesystem::path& chemin, Prevoir prevoir, Voir voir) {
     const FichierFiches fichier(chemin, ModeFichier::Lecture);
+    prevoir(fichier.Support().Taille() / static_cast<std::int64_t>(kTailleFiche) + 1);
     std::vector<QsoRecord> bloc(kFichesParBloc);
     CahierLu lu;
     for (NumeroFiche k = kPremiereFiche;; k += static_cast<std::int32_t>(bloc.size())) {
@@ -30,7 +32,10 @@ template<class Voir> CahierLu Parcourir(const std::filesystem::path& chemin, Voi
 
 CahierLu Charger(const std::filesystem::path& chemin) {
     std::vector<QsoRecord> fiches;
-    CahierLu lu = Parcourir(chemin, [&](std::span<const QsoRecord> bloc) {
+    const auto prevoir = [&](std::int64_t n) {
+        fiches.reserve(std::min(static_cast<std::size_t>(n), kContactsMax));
+    };
+    CahierLu lu = Parcourir(chemin, prevoir, [&](std::span<const QsoRecord> bloc) {
         if (fiches.size() + bloc.size() > kContactsMax)
             throw RefusEchange("« " + chemin.string() + " » a trop de contacts pour un cahier.");
         fiches.insert(fiches.end(), bloc.begin(), bloc.end());
@@ -43,7 +48,8 @@ CahierLu Charger(const std::filesystem::path& chemin) {
 bool EstEncore(const std::filesystem::path& chemin, const CahierLu& lu) {
     std::size_t place = 0;
     bool pareil = true;
-    const CahierLu relu = Parcourir(chemin, [&](std::span<const QsoRecord> bloc) {
+    const auto rien = [](std::int64_t /*n*/) {};
+    const CahierLu relu = Parcourir(chemin, rien, [&](std::span<const QsoRecord> bloc) {
         const std::size_t n = place + bloc.size();
         pareil = n <= lu.fiches.size() &&
                  std::equal(bloc.begin(), bloc.end(),

@@ -27,7 +27,7 @@ struct Patience {
 [[nodiscard]] Patience CinqSecondes();
 
 /// More contacts than this are no logbook (the list shows 32,767): they would not fit into memory.
-inline constexpr std::size_t kContactsMax = 250'000;
+inline constexpr std::size_t kContactsMax = 200'000;
 
 /// Reads the logbook until two readings agree. Throws Erreur when it cannot be read, RefusEchange
 /// when it never comes to rest or has too many contacts.
