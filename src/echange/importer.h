@@ -59,7 +59,7 @@ using VoirLigne = std::function<void(const LigneRapport&)>;
                                         const VoirLigne& voir = {});
 
 /// Makes the logbook, with an end-of-log record, and the report beside it. Throws Erreur or
-/// RefusEchange; what stood there before is then as it was.
+/// RefusEchange; the logbook that stood there before is then as it was.
 [[nodiscard]] BilanImport ImporterAdif(const DemandeImport& demande, const Fuseau& fuseau);
 
 /// Where the report of a logbook stands.

@@ -1,7 +1,7 @@
 // GCC takes a buffer that is about to be filled for one that is read, under the sanitizers only.
 #pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
 
-#include "fautes/fautes.h"
+#include "fautes/injection.h"
 
 #include <cerrno>
 #include <csignal>
@@ -135,6 +135,8 @@ REMPLACER(int, stat, (const char* nom, struct stat* s) noexcept,
           Suivi(nom), kAutre, 0, 0, SYS_newfstatat, AT_FDCWD, nom, s, 0)
 REMPLACER(int, rename, (const char* ancien, const char* nom) noexcept,
           Suivi(nom), kPlace, 0, 0, SYS_rename, ancien, nom)
+REMPLACER(int, link, (const char* ancien, const char* nom) noexcept,
+          Suivi(nom), kPlace, 0, 0, SYS_link, ancien, nom)
 REMPLACER(int, mkdir, (const char* nom, mode_t droits) noexcept,
           Suivi(nom), kPlace, 0, 0, SYS_mkdir, nom, droits)
 REMPLACER(int, memfd_create, (const char* nom, unsigned drapeaux) noexcept,
