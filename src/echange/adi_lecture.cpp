@@ -287,12 +287,12 @@ void LecteurAdi::Champ(const Marque& marque) {
     const std::string_view texte = SansVides(valeur);
     if (dehors)
         Dire(nom, std::to_string(marque.longueur),
-             "longueur au-delà de la fin du fichier : lu jusqu'à la marque suivante");
+             "longueur au-delà de la fin du fichier : lu jusqu'à la marque suivante");
     else if (longueurReelle < longueur)
         Dire(nom, std::to_string(marque.longueur),
-             "longueur fausse : lu jusqu'à la marque suivante");
+             "longueur fausse : lu jusqu'à la marque suivante");
     else if (!texte.empty())
-        Dire(nom, texte, "le texte continue au-delà de sa longueur : coupé");
+        Dire(nom, texte, "le texte continue au-delà de sa longueur : coupé");
     Poser(nom, texte);
 }
 
@@ -313,7 +313,7 @@ void LecteurAdi::Finir(bool marque) {
         receveur_->Inconnu(nom);
     if (receveur_ != nullptr && (contact_.connu || (marque && champs_ > 0))) {
         if (!marque)
-            Signaler(contact_, "EOR", "", "la marque de fin manque au dernier contact");
+            Signaler(contact_, "EOR", "", "la marque de fin manque");
         assez_ = !receveur_->Contact(contact_);
     } else if (receveur_ != nullptr) {
         for (const Remarque& remarque : contact_.remarques)
@@ -327,6 +327,8 @@ void LecteurAdi::Finir(bool marque) {
 }
 
 void LecteurAdi::FinirEntete() {
+    if (!contact_[Balise::CALL].empty()) // the header of a second file behind a contact cut short
+        return Finir(false);
     if (receveur_ != nullptr)
         for (const auto& [nom, valeur] : inconnus_)
             receveur_->Entete(nom, valeur);
@@ -346,7 +348,7 @@ void LecteurAdi::Lire() {
             const bool fin = EstMarque(marque.nom, "EOR");
             const bool entete = EstMarque(marque.nom, "EOH");
             if (!fin && !entete && BaliseNommee(marque.nom))
-                Dire(marque.nom, "", "sans longueur : laissé vide");
+                Dire(marque.nom, "", "sans longueur : laissé vide");
             fenetre_.Avancer(static_cast<std::int64_t>(marque.taille));
             if (fin)
                 Finir(true);

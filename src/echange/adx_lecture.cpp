@@ -198,8 +198,8 @@ void LecteurAdx::Lire() {
         if (assez_)
             return;
         if (doctype_)
-            throw RefusEchange("Le fichier « " + fichier_.Chemin().string() +
-                               " » définit ses propres entités : il n'est pas lu.");
+            throw RefusEchange("Le fichier « " + fichier_.Chemin().string() +
+                               " » définit ses propres entités : il n'est pas lu.");
         if (trop_)
             return Arreter("des éléments trop imbriqués ou trop de noms");
         if (statut == XML_STATUS_ERROR)

@@ -52,7 +52,7 @@ void Poser(ContactAdif& contact, std::string& place, std::string_view nom,
     if (place.empty())
         place = valeur;
     else if (!valeur.empty() && place != valeur)
-        Signaler(contact, nom, valeur, "champ répété : le premier compte");
+        Signaler(contact, nom, valeur, "champ répété : le premier compte");
 }
 
 } // namespace

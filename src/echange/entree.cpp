@@ -33,7 +33,7 @@ Exacts PoserExacts(const ContactAdif& contact, Entree& e) {
         } else {
             e.notes.push_back({d.champ,
                                {std::string{kPrefixeOrvalis} + std::string{NomChamp(d.champ)},
-                                contact.exacts[i], "illisible : les autres champs comptent"}});
+                                contact.exacts[i], "illisible : les autres champs comptent"}});
         }
     }
     return exacts;
@@ -99,7 +99,7 @@ ContactImporte ImporterContact(const ContactAdif& contact, const Conventions& co
     if (!e.raisons.empty())
         resultat.raison = e.raisons.front().remarque;
     else if (!resultat.repris) // such a record would end the logbook there
-        resultat.raison = {"CALL", "\\", "un indicatif « \\ » finirait le cahier"};
+        resultat.raison = {"CALL", "\\", "un indicatif « \\ » finirait le cahier"};
     resultat.remarques = contact.remarques;
     for (Entree::Note& note : e.notes)
         resultat.remarques.push_back(std::move(note.remarque));

@@ -35,7 +35,7 @@ void Indicatif(Entree& e) {
     if (octets.empty())
         e.Refuser(Champ::CSGN, Balise::CALL, "sans indicatif");
     else if (octets.front() == '\\')
-        e.Refuser(Champ::CSGN, Balise::CALL, "un indicatif ne commence pas par « \\ »");
+        e.Refuser(Champ::CSGN, Balise::CALL, "un indicatif ne commence pas par « \\ »");
     else if (octets.size() > Description(Champ::CSGN).largeur)
         e.Refuser(Champ::CSGN, Balise::CALL, "indicatif de plus de 15 caractères");
     else
@@ -52,7 +52,7 @@ void Locators(Entree& e) {
         e.Mettre(Champ::SLOC, locator);
     if (!locator.empty() && (coupe || !EstUnCarre(locator)))
         e.Noter(Champ::SLOC, Balise::GRIDSQUARE,
-                EstUnCarre(locator) ? Devenu(locator) : "n'est pas un locator : laissé vide");
+                EstUnCarre(locator) ? Devenu(locator) : "n'est pas un locator : laissé vide");
 
     // The own locator is what distances are measured from: a square alone will not do.
     std::string mien = MajusculesAscii(e[Balise::MY_GRIDSQUARE]);
@@ -93,7 +93,7 @@ void Entree::Mettre(Champ champ, std::string_view octets, std::size_t decalage) 
 }
 
 std::string Devenu(std::string_view octets) {
-    return octets.empty() ? "laissé vide" : "devient « " + DepuisCp1252(octets) + " »";
+    return octets.empty() ? "laissé vide" : "devient « " + DepuisCp1252(octets) + " »";
 }
 
 void LireChamps(Entree& entree) {

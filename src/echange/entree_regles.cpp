@@ -50,7 +50,7 @@ bool DansLeCahier(Jour jour) {
 std::optional<Heure> HeureDuChamp(Entree& e, Champ champ, Balise balise) {
     const auto heure = LireHeureAdif(e[balise]);
     if (!heure && !e[balise].empty())
-        e.Noter(champ, balise, "heure illisible : laissée vide");
+        e.Noter(champ, balise, "heure illisible : laissée vide");
     return heure;
 }
 
@@ -67,7 +67,7 @@ void LireFin(Entree& e, Jour premier, std::optional<Heure> debut) {
     const bool parle = dernier.has_value() || e[Balise::QSO_DATE_OFF].empty();
     if (!parle || utc < depart || utc >= depart + std::chrono::days{debut ? 1 : 2})
         e.Noter(Champ::HFIN, Balise::QSO_DATE_OFF,
-                "une fin plus d'un jour après le début : seule l'heure de fin est gardée");
+                "une fin plus d'un jour après le début : seule l'heure de fin est gardée");
 }
 
 } // namespace
@@ -126,10 +126,10 @@ void LireFrequenceAdif(Entree& e) {
     if (bande != nullptr)
         texte = bande->nom;
     else if (!e[Balise::BAND].empty())
-        e.Noter(Champ::FREQ, Balise::BAND, "n'est pas une bande : laissé vide");
+        e.Noter(Champ::FREQ, Balise::BAND, "n'est pas une bande : laissé vide");
     e.Mettre(Champ::FREQ, texte);
     if (!valeur.empty() && sens.bande == nullptr)
-        e.Noter(Champ::FREQ, Balise::FREQ, "n'est pas une fréquence : " + Devenu(texte));
+        e.Noter(Champ::FREQ, Balise::FREQ, "n'est pas une fréquence : " + Devenu(texte));
 }
 
 void LireModeAdif(Entree& e) {
@@ -186,7 +186,7 @@ void LireCarte(Entree& e, const Carte& carte) {
     const std::string etat = MajusculesAscii(e[carte.etat]);
     const bool mienne = carte.champ == Champ::MQSL;
     if (etat.empty() && !e[carte.jour].empty())
-        e.Noter(carte.champ, carte.jour, "une date sans état de la carte : laissée de côté");
+        e.Noter(carte.champ, carte.jour, "une date sans état de la carte : laissée de côté");
     if (etat.empty() || etat == "N" || etat == "I")
         return;
     if (e.conventions.electronique || MajusculesAscii(e[carte.voie]) == "E") {
@@ -197,12 +197,12 @@ void LireCarte(Entree& e, const Carte& carte) {
     if (mienne && etat == "Q") {
         e.Mettre(carte.champ, "En cours");
     } else if (!faite) {
-        e.Noter(carte.champ, carte.etat, "sans place dans le cahier : laissé vide");
+        e.Noter(carte.champ, carte.etat, "sans place dans le cahier : laissé vide");
     } else {
         const auto jour = LireJourAdif(e[carte.jour]);
         e.Mettre(carte.champ, jour && DansLeCahier(*jour) ? EcrireJour(*jour) : "OK");
         if (!e[carte.jour].empty() && !(jour && DansLeCahier(*jour)))
-            e.Noter(carte.champ, carte.jour, "date illisible : devient « OK »");
+            e.Noter(carte.champ, carte.jour, "date illisible : devient « OK »");
     }
 }
 

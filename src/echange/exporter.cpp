@@ -4,6 +4,7 @@
 #include "echange/refus.h"
 #include "echange/sortie.h"
 
+#include <algorithm>
 #include <chrono>
 
 namespace orvalis {
@@ -22,11 +23,15 @@ bool MemeFichier(const fs::path& a, const fs::path& b) {
     return la == lb;
 }
 
-void RefuserUnCahier(const fs::path& cible, const fs::path& cahier) {
-    if (MajusculesAscii(cible.extension().string()) == ".VEK" || MemeFichier(cible, cahier))
-        throw RefusEchange("« " + cible.string() +
-                           " » est un cahier : il n'est pas remplacé par une copie d'une autre "
-                           "forme.");
+void RefuserCible(const fs::path& cible, std::span<const fs::path> proteges) {
+    std::error_code erreur;
+    const fs::path reelle = fs::weakly_canonical(cible, erreur);
+    const bool protege = std::any_of(proteges.begin(), proteges.end(),
+                                     [&](const fs::path& p) { return MemeFichier(cible, p); });
+    if (protege || MajusculesAscii(cible.extension().string()) == ".VEK" ||
+        MajusculesAscii(reelle.extension().string()) == ".VEK")
+        throw RefusEchange("« " + cible.string() +
+                           " » est un fichier d'Orvalis : il n'est pas remplacé.");
 }
 
 std::string MaintenantAdif() {
@@ -40,8 +45,8 @@ std::string MaintenantAdif() {
 }
 
 BilanExport ExporterAdif(const DemandeExport& demande, const Fuseau& fuseau) {
-    RefuserUnCahier(demande.cible, demande.cahier);
-    RefuserUnCahier(demande.cible, demande.cahierStation);
+    RefuserCible(demande.cible, demande.proteges);
+    RefuserCible(demande.cible, {&demande.cahier, 1});
     const CahierLu cahier = LireCahierEntier(demande.cahier);
     BilanExport bilan{cahier.fiches.size(), 0, cahier.finPresente, cahier.longueurEntiere};
     FichierNeuf fichier(demande.cible, Ancien::Remplace);

@@ -7,7 +7,9 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <span>
 #include <string>
+#include <vector>
 
 namespace orvalis {
 
@@ -15,9 +17,9 @@ struct DemandeExport {
     std::filesystem::path cahier; ///< the logbook that is read; its file is never written
     std::filesystem::path cible;
     GenreAdif genre = GenreAdif::Adi;
-    std::string indicatif;               ///< of the station; not written when empty
-    std::filesystem::path cahierStation; ///< the Settings' logbook, where there is one
-    std::string creation;                ///< time of the file, see MaintenantAdif
+    std::string indicatif;                       ///< of the station; not written when empty
+    std::vector<std::filesystem::path> proteges; ///< the station's own files, never replaced
+    std::string creation;                        ///< time of the file, see MaintenantAdif
 };
 
 struct BilanExport {
@@ -31,9 +33,10 @@ struct BilanExport {
 /// Throws Erreur or RefusEchange, with nothing written.
 [[nodiscard]] BilanExport ExporterAdif(const DemandeExport& demande, const Fuseau& fuseau);
 
-/// Refuses a place that is a logbook: a file .Vek, or the file `cahier` under whatever name. Throws
-/// RefusEchange.
-void RefuserUnCahier(const std::filesystem::path& cible, const std::filesystem::path& cahier);
+/// Refuses a place for a file of another form: a logbook's, by the end .Vek of its name, or that of
+/// one of the files `proteges` under whatever name. Throws RefusEchange.
+void RefuserCible(const std::filesystem::path& cible,
+                  std::span<const std::filesystem::path> proteges);
 /// Whether both name one file, be it there or not.
 [[nodiscard]] bool MemeFichier(const std::filesystem::path& a, const std::filesystem::path& b);
 

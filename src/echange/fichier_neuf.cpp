@@ -25,7 +25,7 @@ fs::path NomProvisoire(const fs::path& cible) {
 }
 
 RefusEchange ExisteDeja(const fs::path& cible) {
-    return RefusEchange("Le fichier « " + cible.string() + " » existe déjà.");
+    return RefusEchange("Le fichier « " + cible.string() + " » existe déjà.");
 }
 
 } // namespace
@@ -37,7 +37,7 @@ FichierNeuf::FichierNeuf(const fs::path& cible, Ancien ancien)
     if (fs::exists(etat) && ancien == Ancien::Protege)
         throw ExisteDeja(cible);
     if (fs::exists(etat) && !fs::is_regular_file(etat))
-        throw RefusEchange("« " + cible.string() + " » n'est pas un fichier ordinaire.");
+        throw RefusEchange("« " + cible.string() + " » n'est pas un fichier ordinaire.");
     provisoire_ = NomProvisoire(cible_);
     try {
         fichier_ = Fichier(provisoire_, ModeFichier::Creation);

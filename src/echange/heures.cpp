@@ -40,7 +40,7 @@ Moment Moins(Moment moment, std::chrono::seconds decalage) {
 
 Fuseau::Fuseau(std::string_view nom) : converti_(true) {
     if (!nom.empty() && !ZoneConnue(nom))
-        throw RefusEchange("Le fuseau horaire « " + std::string{nom} + " » est inconnu.");
+        throw RefusEchange("Le fuseau horaire « " + std::string{nom} + " » est inconnu.");
     nomme_ = !nom.empty();
     if (!nomme_)
         return;

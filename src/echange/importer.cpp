@@ -126,7 +126,7 @@ bool Importateur::Contact(const ContactAdif& contact) {
     } else {
         ++bilan_.laisses;
         Remarque raison = importe.raison;
-        raison.devenu = "contact laissé de côté : " + raison.devenu;
+        raison.devenu = "contact laissé de côté : " + raison.devenu;
         Dire(contact.ligne, indicatif, raison);
     }
     for (const Remarque& remarque : importe.remarques)
@@ -173,16 +173,17 @@ void Lire(const DemandeImport& demande, Importateur& importateur) {
     Lire(fichier, lecture, importateur);
     const BilanImport& bilan = importateur.Bilan();
     if (bilan.lus == 0)
-        throw RefusEchange("Il n'y a pas de contact dans « " + demande.source.string() + " ».");
+        throw RefusEchange("Il n'y a pas de contact dans « " + demande.source.string() + " ».");
     if (bilan.locatorsSupposes > 0 && importateur.Locator().empty())
-        throw RefusEchange("Les contacts ne disent pas le locator de la station : donnez-le par "
+        throw RefusEchange("Les contacts ne disent pas le locator de la station : donnez-le par "
                            "--locator.");
 }
 
 void RefuserLaCible(const DemandeImport& demande) {
-    const std::string nom = "« " + demande.cible.string() + " »";
-    if (MemeFichier(demande.cible, demande.cahierStation))
-        throw RefusEchange(nom + " est le cahier de la station : l'importation fait un second "
+    const std::string nom = "« " + demande.cible.string() + " »";
+    if (std::any_of(demande.proteges.begin(), demande.proteges.end(),
+                    [&](const fs::path& p) { return MemeFichier(demande.cible, p); }))
+        throw RefusEchange(nom + " est un fichier de la station : l'importation fait un second "
                                  "cahier, à jumeler ensuite.");
     if (MemeFichier(demande.cible, demande.source))
         throw RefusEchange(nom + " est le fichier à lire.");

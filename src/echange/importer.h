@@ -12,6 +12,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace orvalis {
 
@@ -22,7 +23,7 @@ struct DemandeImport {
     /// The station's own locator for contacts that do not tell it: as it was asked for, else that
     /// of the Settings, else the last that a contact told before, else the first that one tells.
     std::string locator;
-    std::filesystem::path cahierStation; ///< the Settings' logbook, never written
+    std::vector<std::filesystem::path> proteges; ///< the station's own files, never replaced
 };
 
 struct BilanImport {

@@ -37,7 +37,7 @@ CahierLu Charger(const std::filesystem::path& chemin) {
     };
     CahierLu lu = Parcourir(chemin, prevoir, [&](std::span<const QsoRecord> bloc) {
         if (fiches.size() + bloc.size() > kContactsMax)
-            throw RefusEchange("« " + chemin.string() + " » a trop de contacts pour un cahier.");
+            throw RefusEchange("« " + chemin.string() + " » a trop de contacts pour un cahier.");
         fiches.insert(fiches.end(), bloc.begin(), bloc.end());
         return true;
     });
@@ -79,8 +79,8 @@ CahierLu LireCahierEntier(const std::filesystem::path& chemin, const Patience& p
         if (EstEncore(chemin, lu))
             return lu;
         if (!patience.encore())
-            throw RefusEchange("Le cahier « " + chemin.string() +
-                               " » est en train d'être réécrit : recommencez plus tard.");
+            throw RefusEchange("Le cahier « " + chemin.string() +
+                               " » est en train d'être réécrit : recommencez plus tard.");
     }
 }
 

@@ -45,8 +45,8 @@ void AjouterCase(std::string& texte, std::string_view valeur, char fin) {
 Rapport::Rapport(const DemandeImport& demande, const std::filesystem::path& chemin)
     : fichier_(chemin, demande.ancien) {
     const std::string titre =
-        "Importation dans un cahier Orvalis\n\nFichier lu : " + demande.source.string() +
-        "\nCahier fait : " + demande.cible.string() + "\n\n";
+        "Importation dans un cahier Orvalis\n\nFichier lu : " + demande.source.string() +
+        "\nCahier fait : " + demande.cible.string() + "\n\n";
     comptes_ = static_cast<std::int64_t>(titre.size());
     fichier_.Ecrire(titre);
     fichier_.Ecrire(Comptes({}));
@@ -66,7 +66,7 @@ void Rapport::Ajouter(const LigneRapport& ligne) {
 
 void Rapport::Terminer(const BilanImport& bilan) {
     if (!bilan.inconnus.empty())
-        fichier_.Ecrire("\nChamps sans place dans le cahier, et leur nombre :\n");
+        fichier_.Ecrire("\nChamps sans place dans le cahier, et leur nombre :\n");
     for (const auto& [nom, nombre] : bilan.inconnus) {
         std::string texte;
         AjouterCase(texte, nom, '\t');

@@ -22,21 +22,23 @@ TEST(FichierAdif, Adi) {
          "SNOM=Jean"},
         {d + "<STATE:2>OK // Oklahoma <NAME:4>Jean // <comment\n<EOR>", "SNOM=Jean"},
         {d + "<NAME:4>Jean <NAME:5>Jules <NAME:4>Jean<EOR>",
-         "SNOM=Jean[NAME: champ répété : le premier compte]"},
-        {d + "<NAME:4>Jean\n", "SNOM=Jean[EOR: la marque de fin manque au dernier contact]"},
-        {d + "<NAME:40>Jean\n<EOR>\n", "SNOM=Jean[NAME: longueur au-delà de la fin du fichier : lu "
+         "SNOM=Jean[NAME: champ répété : le premier compte]"},
+        {d + "<NAME:4>Jean\n", "SNOM=Jean[EOR: la marque de fin manque]"},
+        {d + "<NAME:40>Jean\n<EOR>\n", "SNOM=Jean[NAME: longueur au-delà de la fin du fichier : lu "
                                        "jusqu'à la marque suivante]"},
         {d + "<NAME:99999999999999999999>Jean <EOR>",
-         "SNOM=Jean[NAME: longueur au-delà de la fin du fichier : lu jusqu'à la marque suivante]"},
+         "SNOM=Jean[NAME: longueur au-delà de la fin du fichier : lu jusqu'à la marque suivante]"},
         {d + "<NAME:9>Jean\n<QTH:4>LYON <EOR>",
-         "SQTH=LYON|SNOM=Jean[NAME: longueur fausse : lu jusqu'à la marque suivante]"},
+         "SQTH=LYON|SNOM=Jean[NAME: longueur fausse : lu jusqu'à la marque suivante]"},
         {d + "<NAME:3>Jean <QTH:4>LYON <EOR>",
-         "SQTH=LYON|SNOM=Jea[NAME: le texte continue au-delà de sa longueur : coupé]"},
+         "SQTH=LYON|SNOM=Jea[NAME: le texte continue au-delà de sa longueur : coupé]"},
         {d + "<NAME:9>Jean<EOR> <EOR>", "SNOM=Jean<EOR>"},
         {d + "<NAME><NAME:x>z<NAME:4>Jean <1<2<3> < <EOR>",
-         "SNOM=Jean[NAME: sans longueur : laissé vide]"},
+         "SNOM=Jean[NAME: sans longueur : laissé vide]"},
         {d + "<EOR>\n<EOR>\n", "[EOR: un contact sans aucun champ]"},
         {d + "<NAME:4>Jean<EOR><APP_LoTW_EOF>", "SNOM=Jean"},
+        {d + "<NAME:4>Jean <PROGRAMID:1>X <EOH> <EOR>",
+         "SNOM=Jean[EOR: la marque de fin manque][EOR: un contact sans aucun champ]"},
         // Two accents: bytes, characters, Windows-1252, a character cut in two.
         {d + "<NAME:8>Hélène\n<QTH:4>LYON<EOR>", "SQTH=LYON|SNOM=Hélène"},
         {d + "<NAME:6>Hélène\n<QTH:4>LYON<EOR>", "SQTH=LYON|SNOM=Hélène"},
@@ -77,8 +79,8 @@ TEST(FichierAdif, Adx) {
         {adx("<RECORD><X>1</X></RECORD><RECORD>" + contact + fin),
          lu + "|MLOC=JN18AA[RECORD: un contact sans aucun champ connu]"},
         {adx("<RECORD>" + contact + "<QTH>" + std::string(3000, 'x') + "</QTH>" + fin),
-         lu + "|SQTH=xxxxxxxxxxxxxxxxxxxxxxxxx|MLOC=JN18AA[QTH: devient « "
-              "xxxxxxxxxxxxxxxxxxxxxxxxx »]"},
+         lu + "|SQTH=xxxxxxxxxxxxxxxxxxxxxxxxx|MLOC=JN18AA[QTH: devient « "
+              "xxxxxxxxxxxxxxxxxxxxxxxxx »]"},
         {"<?xml version=\"1.0\" encoding=\"windows-1252\"?>\n<ADX><RECORD>" + contact +
              "<QTH>\x8CUF</QTH></RECORD></ADX>",
          lu + "|SQTH=ŒUF|MLOC=JN18AA"},
@@ -172,6 +174,9 @@ TEST(DbOrvalis, Commandes) {
         {"--adif a.adi --heures Paris", "2", ""},
         {"--adif copie.vek", "2", ""},
         {"--adif dur --cahier S.Vek", "2", ""},
+        {"--adif Orvalis/Parvel.cfg", "2", ""},
+        {"--adif alias.adi", "2", ""},
+        {"--importer f.adi --vers Orvalis/FeuilleQSL.txt", "2", ""},
         {"--adif source --cahier source", "2", ""},
         {"--adx a.adx --cahier abime", "1", "a.adx"},
         {"--importer f.adi", "2", ""},
@@ -206,6 +211,7 @@ TEST(DbOrvalis, Commandes) {
         dossier.Poser("ancien.txt", "x");
         fs::create_hard_link(dossier / "Orvalis/F5ABC.Vek", dossier / "dur");
         fs::create_symlink(dossier / "Orvalis/F5ABC.Vek", dossier / "lien");
+        fs::create_symlink(dossier / "S.Vek", dossier / "alias.adi");
         fs::create_symlink(dossier / "nulle part", dossier / "perdu");
         const auto fichiers = [&] {
             std::map<std::string, std::string> tous;

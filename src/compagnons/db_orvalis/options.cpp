@@ -36,7 +36,7 @@ constexpr std::array<Option, 10> kOptions = {{
     {"--remplacer", "", nullptr, &Options::remplacer, Travail::Entree, false,
      "remplace G.Vek s'il existe"},
     {"--heures", "utc|locales", &Options::heures, nullptr, Travail::Tous, false,
-     "les heures du cahier : utc (d'office), locales, ou un fuseau comme Europe/Paris"},
+     "les heures du cahier : utc (d'office), locales, ou un fuseau comme Europe/Paris"},
     {"--help", "", nullptr, &Options::aide, Travail::Tous, true, "montre ces lignes"},
 }};
 
@@ -44,7 +44,7 @@ const Option& Trouver(std::string_view nom) {
     for (const Option& option : kOptions)
         if (option.nom == nom)
             return option;
-    throw OptionsRefusees("L'option « " + std::string{nom} + " » est inconnue.");
+    throw OptionsRefusees("L'option « " + std::string{nom} + " » est inconnue.");
 }
 
 [[nodiscard]] bool Presente(const Options& options, const Option& option) {
@@ -59,8 +59,8 @@ void Controler(const Options& options) {
         if (!option.fait || !Presente(options, option))
             continue;
         if (faire != nullptr)
-            throw OptionsRefusees("« " + std::string{faire->nom} + " » et « " +
-                                  std::string{option.nom} + " » ne vont pas ensemble.");
+            throw OptionsRefusees("« " + std::string{faire->nom} + " » et « " +
+                                  std::string{option.nom} + " » ne vont pas ensemble.");
         faire = &option;
     }
     if (faire == nullptr)
@@ -68,10 +68,10 @@ void Controler(const Options& options) {
     for (const Option& option : kOptions)
         if (Presente(options, option) && option.travail != Travail::Tous &&
             option.travail != faire->travail)
-            throw OptionsRefusees("« " + std::string{option.nom} + " » ne va pas avec « " +
-                                  std::string{faire->nom} + " ».");
+            throw OptionsRefusees("« " + std::string{option.nom} + " » ne va pas avec « " +
+                                  std::string{faire->nom} + " ».");
     if (options.importer && !options.vers)
-        throw OptionsRefusees("« --importer » demande « --vers ».");
+        throw OptionsRefusees("« --importer » demande « --vers ».");
 }
 
 } // namespace
@@ -84,19 +84,19 @@ Options LireOptions(std::span<const std::string_view> arguments) {
         const Option& option = Trouver(argument.substr(0, egal));
         const std::string nom(option.nom);
         if (Presente(options, option))
-            throw OptionsRefusees("L'option « " + nom + " » est donnée deux fois.");
+            throw OptionsRefusees("L'option « " + nom + " » est donnée deux fois.");
         if (option.marque != nullptr) {
             if (egal != argument.npos)
-                throw OptionsRefusees("L'option « " + nom + " » ne prend pas de valeur.");
+                throw OptionsRefusees("L'option « " + nom + " » ne prend pas de valeur.");
             options.*option.marque = true;
             continue;
         }
         if (egal == argument.npos && ++i == arguments.size())
-            throw OptionsRefusees("L'option « " + nom + " » demande une valeur.");
+            throw OptionsRefusees("L'option « " + nom + " » demande une valeur.");
         const std::string_view valeur =
             egal == argument.npos ? arguments[i] : argument.substr(egal + 1);
         if (valeur.empty() || valeur.starts_with("--"))
-            throw OptionsRefusees("L'option « " + nom + " » demande une valeur.");
+            throw OptionsRefusees("L'option « " + nom + " » demande une valeur.");
         options.*option.place = valeur;
     }
     Controler(options);
@@ -105,10 +105,10 @@ Options LireOptions(std::span<const std::string_view> arguments) {
 
 std::string TexteAide() {
     constexpr std::size_t kLargeur = 24;
-    std::string texte = "Usage :\n"
+    std::string texte = "Usage :\n"
                         "  dbOrvalis [--cahier F.Vek] (--adif F.adi | --adx F.adx)\n"
                         "  dbOrvalis --importer F --vers G.Vek [--locator L] [--remplacer]\n\n"
-                        "Options :\n";
+                        "Options :\n";
     for (const Option& option : kOptions) {
         std::string gauche(option.nom);
         if (!option.valeur.empty())
@@ -116,7 +116,7 @@ std::string TexteAide() {
         gauche.resize(std::max(kLargeur, gauche.size() + 2), ' ');
         texte.append("  ").append(gauche).append(option.aide).append("\n");
     }
-    return texte + "\nCode de retour : 0 fait, 1 fait mais avec quelque chose à dire, 2 refusé.\n";
+    return texte + "\nCode de retour : 0 fait, 1 fait mais avec quelque chose à dire, 2 refusé.\n";
 }
 
 } // namespace orvalis
