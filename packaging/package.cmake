@@ -14,13 +14,16 @@ endif()
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS CHANGELOG.md packaging/changelog
              packaging/org.orvalis.Orvalis.metainfo.xml)
 
-install(TARGETS orvalis RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS orvalis dbOrvalis RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES packaging/orvalis.desktop packaging/orvalis-exemple.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/orvalis.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES packaging/org.orvalis.Orvalis.metainfo.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES packaging/orvalis.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES packaging/orvalis.fr.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/fr/man1 RENAME orvalis.1)
+install(FILES packaging/dbOrvalis.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES packaging/dbOrvalis.fr.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/fr/man1
+        RENAME dbOrvalis.1)
 install(FILES CHANGELOG.md docs/guide.md docs/formats.md packaging/copyright packaging/changelog
         DESTINATION ${CMAKE_INSTALL_DOCDIR})
 # The sample logbook and its launcher, which copies it once for each user.
