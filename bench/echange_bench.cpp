@@ -1,6 +1,8 @@
-// What leading a logbook out to ADIF and back costs, beside reading its bytes.
+// What leading a logbook out to ADIF and back, and into a base, costs, beside reading its bytes.
+#include "echange/base.h"
 #include "echange/exporter.h"
 #include "echange/importer.h"
+#include "echange/sqlite.h"
 #include "mesures.h"
 
 #include <memory>
@@ -33,6 +35,33 @@ void Entree(benchmark::State& etat, const CahierEssai& essai, GenreAdif genre) {
                 .repris);
 }
 
+void Base(benchmark::State& etat, const CahierEssai& essai) {
+    for ([[maybe_unused]] auto _ : etat)
+        benchmark::DoNotOptimize(
+            FaireBase({essai.Chemin(), essai.Dossier() / "f.sqlite", "BENCH", {}, ""}).contacts);
+}
+
+// What SQLite itself costs: the bytes of the records as rows, in one transaction.
+void InsererTout(benchmark::State& etat, const CahierEssai& essai) {
+    for ([[maybe_unused]] auto _ : etat) {
+        const auto chemin = essai.Dossier() / "plancher.sqlite";
+        BaseOuverte base(chemin, chemin);
+        base.Executer("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; BEGIN;"
+                      "DROP TABLE IF EXISTS q; CREATE TABLE q (n INTEGER PRIMARY KEY, o BLOB)");
+        {
+            Requete requete(base, "INSERT INTO q VALUES (?,?)");
+            std::int64_t numero = 0;
+            for (const QsoRecord& fiche : essai.Fiches()) {
+                requete.Lier(1, ++numero);
+                requete.LierOctets(2, {fiche.octets.data(), fiche.octets.size()});
+                requete.Executer();
+            }
+        }
+        base.Executer("COMMIT");
+        base.Fermer();
+    }
+}
+
 [[maybe_unused]] const int kInscrites = Inscrire({
     {"ADI out", [](auto& etat, const auto& essai) { Sortie(etat, essai, GenreAdif::Adi); },
      LireTout},
@@ -45,6 +74,7 @@ void Entree(benchmark::State& etat, const CahierEssai& essai, GenreAdif genre) {
      LireTout},
     {"ADX in", [](auto& etat, const auto& essai) { Entree(etat, essai, GenreAdif::Adx); },
      LireTout},
+    {"Base", Base, InsererTout},
 });
 
 } // namespace

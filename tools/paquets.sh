@@ -4,7 +4,8 @@
 # Building and starting the program. Qt speaks French through its own translations and shows the
 # program's icon through its SVG plug-in; both are loaded at run time, so no link asks for them.
 PAQUETS_PROGRAMME=(g++ cmake ninja-build ccache qt6-base-dev libqt6svg6 qt6-translations-l10n
-                   libxcb-cursor0 fonts-dejavu-core fonts-liberation libexpat1-dev)
+                   libxcb-cursor0 fonts-dejavu-core fonts-liberation libexpat1-dev
+                   libsqlite3-dev)
 # Running it without a screen, and taking its picture.
 PAQUETS_ECRAN=(xvfb x11-utils imagemagick openbox)
 # Tests, checks and the Debian package.

@@ -5,7 +5,6 @@
 #include "echange/sortie.h"
 
 #include <algorithm>
-#include <chrono>
 
 namespace orvalis {
 namespace {
@@ -32,16 +31,6 @@ void RefuserCible(const fs::path& cible, std::span<const fs::path> proteges) {
         MajusculesAscii(reelle.extension().string()) == ".VEK")
         throw RefusEchange("« " + cible.string() +
                            " » est un fichier d'Orvalis : il n'est pas remplacé.");
-}
-
-std::string MaintenantAdif() {
-    const auto maintenant =
-        std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
-    const auto minute = std::chrono::floor<std::chrono::minutes>(maintenant);
-    const std::string secondes = std::to_string(100 + (maintenant - minute).count()).substr(1);
-    std::string heure = EcrireHeure(HeureDe(minute));
-    heure.erase(2, 1);
-    return EcrireJourIso(JourDe(minute), "") + " " + heure + secondes;
 }
 
 BilanExport ExporterAdif(const DemandeExport& demande, const Fuseau& fuseau) {

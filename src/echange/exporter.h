@@ -19,7 +19,7 @@ struct DemandeExport {
     GenreAdif genre = GenreAdif::Adi;
     std::string indicatif;                       ///< of the station; not written when empty
     std::vector<std::filesystem::path> proteges; ///< the station's own files, never replaced
-    std::string creation;                        ///< time of the file, see MaintenantAdif
+    std::string creation;                        ///< time of the file, see EcrireInstantAdif
 };
 
 struct BilanExport {
@@ -39,8 +39,5 @@ void RefuserCible(const std::filesystem::path& cible,
                   std::span<const std::filesystem::path> proteges);
 /// Whether both name one file, be it there or not.
 [[nodiscard]] bool MemeFichier(const std::filesystem::path& a, const std::filesystem::path& b);
-
-/// The time in UTC as the format has it.
-[[nodiscard]] std::string MaintenantAdif();
 
 } // namespace orvalis

@@ -30,7 +30,7 @@ RefusEchange ExisteDeja(const fs::path& cible) {
 
 } // namespace
 
-FichierNeuf::FichierNeuf(const fs::path& cible, Ancien ancien)
+PlaceNeuve::PlaceNeuve(const fs::path& cible, Ancien ancien)
     : cible_(ancien == Ancien::Remplace ? Reelle(cible) : cible), ancien_(ancien) {
     std::error_code erreur;
     const fs::file_status etat = fs::symlink_status(cible_, erreur);
@@ -39,19 +39,42 @@ FichierNeuf::FichierNeuf(const fs::path& cible, Ancien ancien)
     if (fs::exists(etat) && !fs::is_regular_file(etat))
         throw RefusEchange("« " + cible.string() + " » n'est pas un fichier ordinaire.");
     provisoire_ = NomProvisoire(cible_);
-    try {
-        fichier_ = Fichier(provisoire_, ModeFichier::Creation);
-    } catch (const Erreur& echec) {
-        throw Erreur(echec.Nature(), cible, echec.code());
-    }
 }
 
-FichierNeuf::~FichierNeuf() {
-    if (termine_)
-        return;
-    fichier_.Fermer();
+PlaceNeuve::~PlaceNeuve() {
     std::error_code erreur;
-    fs::remove(provisoire_, erreur);
+    if (!prise_)
+        fs::remove(provisoire_, erreur);
+}
+
+void PlaceNeuve::Prendre() {
+    std::error_code erreur;
+    if (ancien_ == Ancien::Protege) {
+        // Unlike a renaming, a second name is refused where one stands.
+        fs::create_hard_link(provisoire_, cible_, erreur);
+        if (!erreur)
+            return; // the own name goes with this object
+        // The file system may know one name only.
+        if (erreur == std::errc::file_exists || fs::exists(fs::symlink_status(cible_, erreur)))
+            throw ExisteDeja(cible_);
+    }
+    fs::rename(provisoire_, cible_, erreur);
+    if (erreur)
+        throw Erreur(NatureErreur::Remplacer, cible_, erreur);
+    prise_ = true;
+}
+
+FichierNeuf::FichierNeuf(const fs::path& cible, Ancien ancien) : place_(cible, ancien) {
+    Essayer([&] { fichier_ = Fichier(place_.Provisoire(), ModeFichier::Creation); });
+}
+
+// What fails is the file that was asked for, not the name it has meanwhile.
+template<class Faire> void FichierNeuf::Essayer(Faire faire) const {
+    try {
+        faire();
+    } catch (const Erreur& echec) {
+        throw Erreur(echec.Nature(), place_.Cible(), echec.code());
+    }
 }
 
 void FichierNeuf::Ecrire(std::string_view octets) {
@@ -62,53 +85,20 @@ void FichierNeuf::Ecrire(std::string_view octets) {
 
 void FichierNeuf::Recrire(std::int64_t position, std::string_view octets) {
     Vider();
-    try {
-        fichier_.Ecrire(position, octets);
-    } catch (const Erreur& echec) {
-        throw Erreur(echec.Nature(), cible_, echec.code());
-    }
+    Essayer([&] { fichier_.Ecrire(position, octets); });
 }
 
 void FichierNeuf::Vider() {
-    try {
-        fichier_.Ecrire(ecrits_, tampon_);
-    } catch (const Erreur& echec) {
-        throw Erreur(echec.Nature(), cible_, echec.code());
-    }
+    Essayer([&] { fichier_.Ecrire(ecrits_, tampon_); });
     ecrits_ += static_cast<std::int64_t>(tampon_.size());
     tampon_.clear();
 }
 
 void FichierNeuf::Terminer() {
     Vider();
-    try {
-        fichier_.Synchroniser();
-    } catch (const Erreur& echec) {
-        throw Erreur(echec.Nature(), cible_, echec.code());
-    }
+    Essayer([&] { fichier_.Synchroniser(); });
     fichier_.Fermer();
-    Renommer();
-    termine_ = true;
-}
-
-void FichierNeuf::Renommer() {
-    std::error_code erreur;
-    if (ancien_ == Ancien::Protege) {
-        // Unlike a renaming, a second name is refused where one stands.
-        fs::create_hard_link(provisoire_, cible_, erreur);
-        if (erreur == std::errc::file_exists)
-            throw ExisteDeja(cible_);
-        if (!erreur) {
-            fs::remove(provisoire_, erreur);
-            return;
-        }
-        // The file system knows one name only.
-        if (fs::exists(fs::symlink_status(cible_, erreur)))
-            throw ExisteDeja(cible_);
-    }
-    fs::rename(provisoire_, cible_, erreur);
-    if (erreur)
-        throw Erreur(NatureErreur::Remplacer, cible_, erreur);
+    place_.Prendre();
 }
 
 } // namespace orvalis

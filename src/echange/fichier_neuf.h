@@ -17,34 +17,50 @@ enum class Ancien : unsigned char {
     Protege   ///< it stays: the new one is refused, even if the other comes up meanwhile
 };
 
+/// A place for a new file, and the name of its own that it has until it is whole.
+class PlaceNeuve {
+  public:
+    /// Throws RefusEchange when the place is taken by a protected file or by something that is no
+    /// file.
+    PlaceNeuve(const std::filesystem::path& cible, Ancien ancien);
+    PlaceNeuve(const PlaceNeuve&) = delete;
+    PlaceNeuve& operator=(const PlaceNeuve&) = delete;
+    /// Unless Prendre was called, the file of the own name goes.
+    ~PlaceNeuve();
+
+    [[nodiscard]] const std::filesystem::path& Cible() const noexcept { return cible_; }
+    [[nodiscard]] const std::filesystem::path& Provisoire() const noexcept { return provisoire_; }
+    /// The file of the own name, closed and on the disk, takes its place. Throws Erreur or
+    /// RefusEchange.
+    void Prendre();
+
+  private:
+    std::filesystem::path cible_;
+    std::filesystem::path provisoire_;
+    Ancien ancien_;
+    bool prise_ = false;
+};
+
 class FichierNeuf {
   public:
-    /// Throws Erreur when nothing can be written there, and RefusEchange when the place is taken by
-    /// a protected file or by something that is no file.
+    /// Throws Erreur when nothing can be written there, and RefusEchange as PlaceNeuve does.
     FichierNeuf(const std::filesystem::path& cible, Ancien ancien);
-    FichierNeuf(const FichierNeuf&) = delete;
-    FichierNeuf& operator=(const FichierNeuf&) = delete;
-    /// Without Terminer nothing is left.
-    ~FichierNeuf();
 
     /// Adds bytes at the end.
     void Ecrire(std::string_view octets);
     /// Writes bytes over others that were added before.
     void Recrire(std::int64_t position, std::string_view octets);
-    /// The file is complete: it is flushed, and takes its name.
+    /// The file is complete: it is flushed, and takes its name. Without this nothing is left.
     void Terminer();
 
   private:
+    template<class Faire> void Essayer(Faire faire) const;
     void Vider();
-    void Renommer();
 
-    std::filesystem::path cible_;
-    std::filesystem::path provisoire_;
-    Ancien ancien_;
-    Fichier fichier_;
+    PlaceNeuve place_;
+    Fichier fichier_; ///< closed before its place goes
     std::int64_t ecrits_ = 0;
     std::string tampon_;
-    bool termine_ = false;
 };
 
 } // namespace orvalis

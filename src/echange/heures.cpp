@@ -38,6 +38,22 @@ Moment Moins(Moment moment, std::chrono::seconds decalage) {
 
 } // namespace
 
+Seconde Maintenant() {
+    return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+}
+
+std::string EcrireInstantIso(Seconde instant) {
+    const auto minute = std::chrono::floor<std::chrono::minutes>(instant);
+    return EcrireJourIso(JourDe(minute)) + " " + EcrireHeure(HeureDe(minute)) + ":" +
+           std::to_string(100 + (instant - minute).count()).substr(1);
+}
+
+std::string EcrireInstantAdif(Seconde instant) {
+    std::string texte = EcrireInstantIso(instant);
+    std::erase_if(texte, [](char c) { return c == '-' || c == ':'; });
+    return texte;
+}
+
 Fuseau::Fuseau(std::string_view nom) : converti_(true) {
     if (!nom.empty() && !ZoneConnue(nom))
         throw RefusEchange("Le fuseau horaire « " + std::string{nom} + " » est inconnu.");

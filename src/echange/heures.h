@@ -23,6 +23,12 @@ using Moment = std::chrono::sys_time<std::chrono::minutes>;
     return moment - std::chrono::floor<std::chrono::days>(moment);
 }
 
+/// A second of UTC, as the time a file is made: "20261121 183125", "2026-11-21 18:31:25".
+using Seconde = std::chrono::sys_seconds;
+[[nodiscard]] Seconde Maintenant();
+[[nodiscard]] std::string EcrireInstantAdif(Seconde instant);
+[[nodiscard]] std::string EcrireInstantIso(Seconde instant);
+
 /// What the logbook's hours are. The time zones are those of the system's C library, which knows
 /// them by the process's environment: while an object with a zone lives, the environment names it,
 /// so there is one at a time, and no other thread that asks for the time.

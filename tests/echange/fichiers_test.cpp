@@ -179,6 +179,11 @@ TEST(DbOrvalis, Commandes) {
         {"--importer f.adi --vers Orvalis/FeuilleQSL.txt", "2", ""},
         {"--adif source --cahier source", "2", ""},
         {"--adx a.adx --cahier abime", "1", "a.adx"},
+        {"--base b.sqlite", "0", "b.sqlite"},
+        {"--base b.sqlite --cahier abime", "1", "b.sqlite"},
+        {"--base ancien.txt", "2", ""},
+        {"--base vide --heures utc", "2", ""},
+        {"--base prise.sqlite", "2", ""},
         {"--importer f.adi", "2", ""},
         {"--importer f.adi --vers G.Vek", "0", "G.Vek G.rapport.txt"},
         {"--importer f.adi --vers G.Vek --locator 18JN", "2", ""},
@@ -209,6 +214,7 @@ TEST(DbOrvalis, Commandes) {
         dossier.Poser("deux.adi", adi + adi);
         dossier.Poser("vide", "");
         dossier.Poser("ancien.txt", "x");
+        dossier.Poser("prise.sqlite-wal", "");
         fs::create_hard_link(dossier / "Orvalis/F5ABC.Vek", dossier / "dur");
         fs::create_symlink(dossier / "Orvalis/F5ABC.Vek", dossier / "lien");
         fs::create_symlink(dossier / "S.Vek", dossier / "alias.adi");

@@ -5,6 +5,7 @@
 #include "core/erreurs.h"
 #include "core/parametres.h"
 #include "core/texte.h"
+#include "echange/base.h"
 #include "echange/exporter.h"
 #include "echange/importer.h"
 #include "echange/refus.h"
@@ -45,7 +46,14 @@ std::unique_ptr<Fuseau> ChoisirFuseau(const Options& options) {
     return std::make_unique<Fuseau>(heures == "locales" ? "" : heures);
 }
 
-Retour Exporter(const Options& options, const Alentours& alentours) {
+// The logbook that is read, and what is known of its station.
+struct Origine {
+    fs::path cahier;
+    std::string indicatif;
+    std::vector<fs::path> proteges;
+};
+
+Origine ChoisirOrigine(const Options& options, const Alentours& alentours) {
     std::optional<Parametrage> parametrage;
     try {
         parametrage = LireParametrage(alentours);
@@ -55,30 +63,55 @@ Retour Exporter(const Options& options, const Alentours& alentours) {
     }
     if (!options.cahier && !parametrage)
         throw RefusEchange("Aucun cahier de la station n'est trouvé : donnez-en un par --cahier.");
-    DemandeExport demande;
-    demande.cahier = options.cahier ? fs::path{*options.cahier} : parametrage->cahier;
-    demande.genre = options.adx ? GenreAdif::Adx : GenreAdif::Adi;
-    demande.cible = options.adx ? *options.adx : *options.adif;
-    demande.creation = MaintenantAdif();
+    Origine origine;
+    origine.cahier = options.cahier ? fs::path{*options.cahier} : parametrage->cahier;
     if (parametrage)
-        demande.proteges = parametrage->fichiers;
+        origine.proteges = parametrage->fichiers;
     if (options.indicatif)
-        demande.indicatif = Majuscules(Rogner(*options.indicatif));
-    else if (parametrage && MemeFichier(demande.cahier, parametrage->cahier))
-        demande.indicatif = Rogner(parametrage->parametres.indicatif);
+        origine.indicatif = Majuscules(Rogner(*options.indicatif));
+    else if (parametrage && MemeFichier(origine.cahier, parametrage->cahier))
+        origine.indicatif = Rogner(parametrage->parametres.indicatif);
+    return origine;
+}
 
+// Tells what was written, and what of the logbook is not as it should be.
+template<class Bilan>
+Retour Conclure(std::ostream& messages, const Bilan& bilan, std::size_t sansDate,
+                const fs::path& cahier, const fs::path& cible) {
+    messages << bilan.contacts << " contacts écrits dans « " << cible.string() << " ».\n";
+    if (sansDate > 0)
+        messages << sansDate
+                 << " contacts n'ont pas de date lisible : d'autres programmes les "
+                    "laisseront de côté.\n";
+    const bool sain = bilan.finPresente && bilan.longueurEntiere;
+    if (!sain)
+        messages << "Le cahier « " << cahier.string()
+                 << " » n'a pas la fin d'un cahier : il est peut-être abîmé.\n";
+    return sansDate > 0 || !sain ? Retour::FaitAvecRemarques : Retour::Fait;
+}
+
+Retour Exporter(const Options& options, const Alentours& alentours) {
+    const Origine origine = ChoisirOrigine(options, alentours);
+    const fs::path cible = options.adx ? *options.adx : *options.adif;
+    const DemandeExport demande{origine.cahier,
+                                cible,
+                                options.adx ? GenreAdif::Adx : GenreAdif::Adi,
+                                origine.indicatif,
+                                origine.proteges,
+                                EcrireInstantAdif(Maintenant())};
     const BilanExport bilan = ExporterAdif(demande, *ChoisirFuseau(options));
-    alentours.messages << bilan.contacts << " contacts écrits dans « " << demande.cible.string()
-                       << " ».\n";
-    if (bilan.sansDate > 0)
-        alentours.messages << bilan.sansDate
-                           << " contacts n'ont pas de date lisible : les autres programmes les "
-                              "laisseront de côté.\n";
-    if (!bilan.finPresente || !bilan.longueurEntiere)
-        alentours.messages << "Le cahier « " << demande.cahier.string()
-                           << " » n'a pas la fin d'un cahier : il est peut-être abîmé.\n";
-    const bool remarques = bilan.sansDate > 0 || !bilan.finPresente || !bilan.longueurEntiere;
-    return remarques ? Retour::FaitAvecRemarques : Retour::Fait;
+    return Conclure(alentours.messages, bilan, bilan.sansDate, origine.cahier, cible);
+}
+
+Retour Baser(const Options& options, const Alentours& alentours) {
+    if (options.heures)
+        throw OptionsRefusees("« --heures » ne va pas avec « --base » : la base garde les heures "
+                              "du cahier.");
+    const Origine origine = ChoisirOrigine(options, alentours);
+    const fs::path cible = *options.base;
+    const BilanBase bilan = FaireBase({origine.cahier, cible, origine.indicatif, origine.proteges,
+                                       EcrireInstantIso(Maintenant())});
+    return Conclure(alentours.messages, bilan, bilan.datesIllisibles, origine.cahier, cible);
 }
 
 Retour Importer(const Options& options, const Alentours& alentours) {
@@ -116,7 +149,9 @@ Retour ExecuterCommande(std::span<const std::string_view> arguments, const Alent
             alentours.sortie << TexteAide();
             return Retour::Fait;
         }
-        return options.importer ? Importer(options, alentours) : Exporter(options, alentours);
+        if (options.importer)
+            return Importer(options, alentours);
+        return options.base ? Baser(options, alentours) : Exporter(options, alentours);
     } catch (const OptionsRefusees& refus) {
         alentours.messages << refus.what() << " « dbOrvalis --help » montre les options.\n";
     } catch (const RefusEchange& refus) {

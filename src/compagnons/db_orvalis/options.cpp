@@ -18,7 +18,9 @@ struct Option {
     std::string_view aide;
 };
 
-constexpr std::array<Option, 10> kOptions = {{
+constexpr std::array<Option, 11> kOptions = {{
+    {"--base", "F.sqlite", &Options::base, nullptr, Travail::Sortie, true,
+     "fait du cahier une base SQLite"},
     {"--adif", "F.adi", &Options::adif, nullptr, Travail::Sortie, true,
      "écrit les contacts dans un fichier ADIF (ADI)"},
     {"--adx", "F.adx", &Options::adx, nullptr, Travail::Sortie, true,
@@ -105,10 +107,11 @@ Options LireOptions(std::span<const std::string_view> arguments) {
 
 std::string TexteAide() {
     constexpr std::size_t kLargeur = 24;
-    std::string texte = "Usage :\n"
-                        "  dbOrvalis [--cahier F.Vek] (--adif F.adi | --adx F.adx)\n"
-                        "  dbOrvalis --importer F --vers G.Vek [--locator L] [--remplacer]\n\n"
-                        "Options :\n";
+    std::string texte =
+        "Usage :\n"
+        "  dbOrvalis [--cahier F.Vek] (--base F.sqlite | --adif F.adi | --adx F.adx)\n"
+        "  dbOrvalis --importer F --vers G.Vek [--locator L] [--remplacer]\n\n"
+        "Options :\n";
     for (const Option& option : kOptions) {
         std::string gauche(option.nom);
         if (!option.valeur.empty())

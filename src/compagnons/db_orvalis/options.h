@@ -15,7 +15,8 @@ struct Options {
     bool aide = false;
     bool remplacer = false;
     std::optional<std::string> cahier;
-    std::optional<std::string> adif; ///< what to make of the logbook
+    std::optional<std::string> base; ///< what to make of the logbook
+    std::optional<std::string> adif;
     std::optional<std::string> adx;
     std::optional<std::string> importer; ///< what to read
     std::optional<std::string> vers;
