@@ -207,7 +207,7 @@ void RemplirQso(BaseOuverte& base, const CahierLu& cahier, BilanBase& bilan) {
     for (const QsoRecord& fiche : cahier.fiches) {
         Ligne ligne{fiche, ComprendreFiche(fiche), {}, {}, {}};
         Mesurer(ligne);
-        bilan.datesIllisibles += ligne.sens.date ? 0 : 1;
+        bilan.sansDate += ligne.sens.date ? 0 : 1;
         int place = 0;
         requete.Lier(++place, static_cast<std::int64_t>(++bilan.contacts));
         for (std::size_t i = 0; i < kNbChamps; ++i) {
@@ -247,7 +247,7 @@ void RemplirSource(BaseOuverte& base, const DemandeBase& demande, const BilanBas
     requete.Lier(3, demande.indicatif);
     requete.Lier(4, demande.creation);
     requete.Lier(5, std::string_view{ORVALIS_VERSION});
-    requete.Lier(6, static_cast<std::int64_t>(bilan.datesIllisibles));
+    requete.Lier(6, static_cast<std::int64_t>(bilan.sansDate));
     requete.Executer();
 }
 

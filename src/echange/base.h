@@ -19,8 +19,8 @@ struct DemandeBase {
 
 struct BilanBase {
     std::size_t contacts = 0;
-    std::size_t datesIllisibles = 0;
-    bool finPresente = true; ///< see CahierLu
+    std::size_t sansDate = 0; ///< contacts whose date cannot be read
+    bool finPresente = true;  ///< see CahierLu
     bool longueurEntiere = true;
 };
 

@@ -1,6 +1,7 @@
 #include "echange/exporter.h"
 
 #include "echange/fichier_neuf.h"
+#include "echange/lettres.h"
 #include "echange/refus.h"
 #include "echange/sortie.h"
 
@@ -41,11 +42,12 @@ BilanExport ExporterAdif(const DemandeExport& demande, const Fuseau& fuseau) {
     FichierNeuf fichier(demande.cible, Ancien::Remplace);
     fichier.Ecrire(EnteteAdif(demande.genre, demande.creation));
     const auto jumeaux = demande.genre == GenreAdif::Adx ? Jumeaux::Oui : Jumeaux::Non;
+    const std::string indicatif = VersAscii(VersCp1252(demande.indicatif));
     ContactAdif contact;
     std::string texte;
     for (const QsoRecord& fiche : cahier.fiches) {
         ExporterFiche(fiche, fuseau, jumeaux, contact);
-        contact[Balise::STATION_CALLSIGN] = demande.indicatif;
+        contact[Balise::STATION_CALLSIGN] = indicatif;
         bilan.sansDate += contact[Balise::QSO_DATE].empty() ? 1 : 0;
         texte.clear();
         AjouterContact(demande.genre, contact, texte);

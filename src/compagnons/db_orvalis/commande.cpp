@@ -74,20 +74,27 @@ Origine ChoisirOrigine(const Options& options, const Alentours& alentours) {
     return origine;
 }
 
-// Tells what was written, and what of the logbook is not as it should be.
+std::string Contacts(std::size_t nombre, std::string_view un, std::string_view plusieurs) {
+    const bool pluriel = nombre > 1;
+    return std::to_string(nombre) + (pluriel ? " contacts " : " contact ") +
+           std::string{pluriel ? plusieurs : un};
+}
+
+// Tells what was written, and what of the logbook is not as it should be; `sansDate` says what
+// comes of contacts without a date.
 template<class Bilan>
-Retour Conclure(std::ostream& messages, const Bilan& bilan, std::size_t sansDate,
-                const fs::path& cahier, const fs::path& cible) {
-    messages << bilan.contacts << " contacts écrits dans « " << cible.string() << " ».\n";
-    if (sansDate > 0)
-        messages << sansDate
-                 << " contacts n'ont pas de date lisible : d'autres programmes les "
-                    "laisseront de côté.\n";
+Retour Conclure(std::ostream& messages, const Bilan& bilan, const fs::path& cahier,
+                const fs::path& cible, std::string_view sansDate) {
+    messages << Contacts(bilan.contacts, "écrit", "écrits") << " dans « " << cible.string()
+             << " ».\n";
+    if (bilan.sansDate > 0)
+        messages << Contacts(bilan.sansDate, "n'a", "n'ont")
+                 << " pas de date lisible : " << sansDate << ".\n";
     const bool sain = bilan.finPresente && bilan.longueurEntiere;
     if (!sain)
         messages << "Le cahier « " << cahier.string()
                  << " » n'a pas la fin d'un cahier : il est peut-être abîmé.\n";
-    return sansDate > 0 || !sain ? Retour::FaitAvecRemarques : Retour::Fait;
+    return bilan.sansDate > 0 || !sain ? Retour::FaitAvecRemarques : Retour::Fait;
 }
 
 Retour Exporter(const Options& options, const Alentours& alentours) {
@@ -100,7 +107,8 @@ Retour Exporter(const Options& options, const Alentours& alentours) {
                                 origine.proteges,
                                 EcrireInstantAdif(Maintenant())};
     const BilanExport bilan = ExporterAdif(demande, *ChoisirFuseau(options));
-    return Conclure(alentours.messages, bilan, bilan.sansDate, origine.cahier, cible);
+    return Conclure(alentours.messages, bilan, origine.cahier, cible,
+                    "les autres programmes les laissent de côté");
 }
 
 Retour Baser(const Options& options, const Alentours& alentours) {
@@ -111,7 +119,8 @@ Retour Baser(const Options& options, const Alentours& alentours) {
     const fs::path cible = *options.base;
     const BilanBase bilan = FaireBase({origine.cahier, cible, origine.indicatif, origine.proteges,
                                        EcrireInstantIso(Maintenant())});
-    return Conclure(alentours.messages, bilan, bilan.datesIllisibles, origine.cahier, cible);
+    return Conclure(alentours.messages, bilan, origine.cahier, cible,
+                    "voyez la vue dates_illisibles");
 }
 
 Retour Importer(const Options& options, const Alentours& alentours) {
@@ -132,11 +141,12 @@ Retour Importer(const Options& options, const Alentours& alentours) {
         demande.proteges = parametrage->fichiers;
 
     const BilanImport bilan = ImporterAdif(demande, *ChoisirFuseau(options));
-    alentours.messages << bilan.repris << " contacts repris dans « " << demande.cible.string()
-                       << " », " << bilan.changes << " changés, " << bilan.laisses
-                       << " laissés de côté, " << bilan.egaux
-                       << " égaux à un autre ; le rapport est « " << bilan.rapport.string()
-                       << " ».\n";
+    const auto nombre = [](std::int64_t n) { return static_cast<std::size_t>(n); };
+    alentours.messages << Contacts(nombre(bilan.repris), "repris", "repris") << " dans « "
+                       << demande.cible.string() << " » ; changés : " << bilan.changes
+                       << ", égaux à un autre : " << bilan.egaux
+                       << ", laissés de côté : " << bilan.laisses << ". Le rapport est « "
+                       << bilan.rapport.string() << " ».\n";
     return bilan.ADire() ? Retour::FaitAvecRemarques : Retour::Fait;
 }
 
