@@ -99,7 +99,7 @@ TEST(FichierAdif, Adx) {
                                    "<ADX></ADX>",
                                    "rien",
                                    std::string(1 << 20, '<'),
-                                   "<ADX>" + Fois(200, "<a>"),
+                                   "<ADX>" + Fois(200, "<a>") + "<RECORD>" + contact + "</RECORD>",
                                    "<ADX a=\"" + std::string(3 << 20, 'x')};
     for (const std::string& refuse : refuses)
         EXPECT_THROW(static_cast<void>(ImporterTexte(refuse)), RefusEchange)
