@@ -2,120 +2,20 @@
 // What a file promises is never believed before it is looked at.
 #include "core/texte.h"
 #include "echange/adif_fichiers.h"
+#include "echange/fenetre.h"
 #include "echange/lettres.h"
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <vector>
 
 namespace orvalis {
 namespace {
 
-constexpr std::size_t kFenetre = 128UL * 1024;
-// The most that is kept of a value, and the longest that may be counted in characters.
-constexpr std::size_t kValeurMax = 1000;
+constexpr std::size_t kValeurMax = 1000; // the most that is kept of a value
 constexpr std::size_t kNomMax = 64;
 constexpr std::size_t kInconnusMax = 200; // of one contact, kept until it is clear what it is
 constexpr std::int64_t kLongueurMax = std::int64_t{1} << 52U;
-
-// A window that moves over the file, forward only.
-class Fenetre {
-  public:
-    explicit Fenetre(const Fichier& fichier)
-        : fichier_(fichier), taille_(fichier.Taille()), octets_(kFenetre) {}
-
-    [[nodiscard]] std::int64_t Position() const {
-        return debut_ + static_cast<std::int64_t>(place_);
-    }
-    [[nodiscard]] std::int64_t Taille() const { return taille_; }
-    [[nodiscard]] std::int64_t Ligne() const { return ligne_; }
-
-    /// What lies ahead, at least `n` bytes of it unless the file ends before (n at most half the
-    /// window); valid until the next call.
-    [[nodiscard]] std::string_view Voir(std::size_t n = 1) {
-        if (lus_ - place_ < n && !fini_)
-            Garnir();
-        return {octets_.data() + place_, lus_ - place_};
-    }
-    /// The byte at a place ahead, wherever that is; a blank beyond the end.
-    [[nodiscard]] char OctetA(std::int64_t position) {
-        const std::int64_t ici = position - debut_;
-        if (ici >= 0 && ici < static_cast<std::int64_t>(lus_))
-            return octets_[static_cast<std::size_t>(ici)];
-        std::array<char, 1> octet = {' '};
-        static_cast<void>(fichier_.Lire(position, octet));
-        return octet[0];
-    }
-    void Avancer(std::int64_t n) {
-        while (n > 0) {
-            const std::string_view vu = Voir();
-            const auto pas = static_cast<std::size_t>(
-                std::min<std::int64_t>(n, static_cast<std::int64_t>(vu.size())));
-            if (pas == 0)
-                return;
-            ligne_ += std::count(vu.begin(), vu.begin() + static_cast<std::ptrdiff_t>(pas), '\n');
-            place_ += pas;
-            n -= static_cast<std::int64_t>(pas);
-        }
-    }
-    /// How many bytes the next `n` characters of UTF-8 are, at most kValeurMax of them; more than
-    /// the file has when there are not so many.
-    [[nodiscard]] std::int64_t OctetsDe(std::int64_t n) {
-        static_cast<void>(Voir(4 * kValeurMax + 1));
-        if (!repere_)
-            Reperer();
-        const auto ici = std::lower_bound(caracteres_.begin(), caracteres_.end(), place_);
-        if (caracteres_.end() - ici < n)
-            return taille_ + 1;
-        const auto fin = ici + static_cast<std::ptrdiff_t>(n);
-        return static_cast<std::int64_t>((fin == caracteres_.end() ? lus_ : *fin) - place_);
-    }
-    /// Up to the next `c`, or to the end of the file; tells whether there is one.
-    bool AvancerJusqua(char c) {
-        for (std::string_view vu = Voir(); !vu.empty(); vu = Voir()) {
-            const std::size_t trouve = vu.find(c);
-            Avancer(static_cast<std::int64_t>(std::min(trouve, vu.size())));
-            if (trouve != vu.npos)
-                return true;
-        }
-        return false;
-    }
-
-  private:
-    // Where the characters of the window begin, so that lengths that lie do not make the same text
-    // be counted again and again.
-    void Reperer() {
-        caracteres_.clear();
-        for (std::size_t i = place_; i < lus_;) {
-            caracteres_.push_back(i);
-            i += std::max<std::size_t>(LongueurSequence({octets_.data() + i, lus_ - i}), 1);
-        }
-        repere_ = true;
-    }
-    void Garnir() {
-        repere_ = false;
-        std::memmove(octets_.data(), octets_.data() + place_, lus_ - place_);
-        debut_ += static_cast<std::int64_t>(place_);
-        lus_ -= place_;
-        place_ = 0;
-        const std::size_t n = fichier_.Lire(debut_ + static_cast<std::int64_t>(lus_),
-                                            std::span(octets_).subspan(lus_));
-        fini_ = n == 0;
-        lus_ += n;
-    }
-
-    const Fichier& fichier_;
-    std::int64_t taille_;
-    std::vector<char> octets_;
-    std::int64_t debut_ = 0; ///< place in the file of the first byte kept
-    std::size_t lus_ = 0;    ///< bytes kept
-    std::size_t place_ = 0;  ///< of these, how many are done with
-    std::int64_t ligne_ = 1;
-    bool fini_ = false;
-    std::vector<std::size_t> caracteres_;
-    bool repere_ = false; ///< caracteres_ is of this window
-};
 
 struct Marque {
     std::string_view nom;
@@ -197,6 +97,7 @@ class LecteurAdi {
 
   private:
     void Champ(const Marque& marque);
+    [[nodiscard]] std::int64_t AllerALaMarque(std::int64_t reste);
     void Finir(bool marque);
     void FinirEntete();
     void Poser(std::string_view nom, std::string_view valeur);
@@ -234,66 +135,64 @@ void LecteurAdi::Dire(std::string_view nom, std::string_view avant, std::string_
 
 // The bytes that a length stands for at the place where the value begins.
 std::int64_t LecteurAdi::Octets(std::int64_t longueur) {
-    if (!lecture_.caracteres || longueur > static_cast<std::int64_t>(kValeurMax))
+    if (!lecture_.caracteres || longueur > Fenetre::kCaracteresMax)
         return longueur;
     return fenetre_.OctetsDe(longueur);
 }
 
 void LecteurAdi::Champ(const Marque& marque) {
     const std::string nom(marque.nom);
-    const std::int64_t ligne = fenetre_.Ligne();
+    if (champs_++ == 0)
+        contact_.ligne = fenetre_.Ligne();
     fenetre_.Avancer(static_cast<std::int64_t>(marque.taille));
     const std::int64_t longueur = Octets(marque.longueur);
-    const bool dehors = longueur > fenetre_.Taille() - fenetre_.Position();
-    const char suivant = dehors ? 'x' : fenetre_.OctetA(fenetre_.Position() + longueur);
-    const bool nette = suivant == '<' || EstUnVide(suivant);
-    std::string_view vu = fenetre_.Voir(kValeurMax + kMarqueMax);
-    const auto garde = static_cast<std::size_t>(std::min<std::int64_t>(
-        longueur, static_cast<std::int64_t>(std::min(vu.size(), kValeurMax))));
-    std::string valeur(vu.substr(0, garde));
-    if (champs_++ == 0)
-        contact_.ligne = ligne;
-    if (nette) {
+    const bool dedans = longueur <= fenetre_.Reste();
+    const char suivant = dedans ? fenetre_.OctetA(fenetre_.Position() + longueur) : 'x';
+    const std::string_view vu = fenetre_.Voir(kValeurMax);
+    std::string valeur(
+        vu.substr(0, std::min<std::size_t>(static_cast<std::size_t>(longueur), kValeurMax)));
+    if (suivant == '<' || EstUnVide(suivant)) {
         finsNettes_ += EstAscii(valeur) ? 0 : 1;
         fenetre_.Avancer(longueur);
         Poser(nom, SansVides(valeur));
         return;
     }
-    // The length is not to be believed: a value ends at the next tag at the latest. What has been
-    // searched is not looked at again.
-    std::int64_t reste = dehors ? fenetre_.Taille() - fenetre_.Position() : longueur;
-    std::size_t coupe = std::string::npos;
+    // The length is not to be believed: a value ends at the next tag at the latest.
+    const std::int64_t reelle = AllerALaMarque(std::min(longueur, fenetre_.Reste()));
+    valeur.resize(std::min(valeur.size(), static_cast<std::size_t>(reelle)));
+    const std::string_view texte = SansVides(valeur);
+    const std::string annoncee = std::to_string(marque.longueur);
+    if (!dedans)
+        Dire(nom, annoncee,
+             "longueur au-delà de la fin du fichier : lu jusqu'à la marque suivante");
+    else if (reelle < longueur)
+        Dire(nom, annoncee, "longueur fausse : lu jusqu'à la marque suivante");
+    else if (!texte.empty())
+        Dire(nom, texte, "le texte continue au-delà de sa longueur : coupé");
+    Poser(nom, texte);
+}
+
+// Goes to the next tag, at most `reste` bytes; returns how many they were. What has been searched
+// is done with, whatever length the next tag claims.
+std::int64_t LecteurAdi::AllerALaMarque(std::int64_t reste) {
     const std::int64_t debut = fenetre_.Position();
-    while (reste > 0 && coupe == std::string::npos) {
-        vu = fenetre_.Voir(2 * kMarqueMax);
+    while (reste > 0) {
+        const std::string_view vu = fenetre_.Voir(2 * kMarqueMax);
         if (vu.empty())
             break; // the file has become shorter meanwhile
         const auto cherche = static_cast<std::size_t>(
             std::min<std::int64_t>(reste, static_cast<std::int64_t>(vu.size())));
-        const bool derniere =
-            static_cast<std::int64_t>(vu.size()) >= reste ||
-            fenetre_.Position() + static_cast<std::int64_t>(vu.size()) >= fenetre_.Taille();
         // A tag that the window cuts is found whole in the next one.
+        const bool derniere =
+            static_cast<std::int64_t>(vu.size()) >= std::min(reste, fenetre_.Reste());
         const std::size_t sur = derniere ? cherche : std::min(cherche, vu.size() - kMarqueMax);
-        coupe = ProchaineMarque(vu.substr(0, std::min(vu.size(), sur + kMarqueMax)));
-        if (coupe != std::string::npos && coupe >= sur)
-            coupe = std::string::npos;
-        const std::size_t pas = std::min(coupe, sur);
-        fenetre_.Avancer(static_cast<std::int64_t>(pas));
-        reste -= static_cast<std::int64_t>(pas);
+        const std::size_t marque = ProchaineMarque(vu.substr(0, sur + kMarqueMax));
+        fenetre_.Avancer(static_cast<std::int64_t>(std::min(marque, sur)));
+        if (marque < sur)
+            break;
+        reste -= static_cast<std::int64_t>(sur);
     }
-    const std::int64_t longueurReelle = fenetre_.Position() - debut;
-    valeur.resize(std::min(valeur.size(), static_cast<std::size_t>(longueurReelle)));
-    const std::string_view texte = SansVides(valeur);
-    if (dehors)
-        Dire(nom, std::to_string(marque.longueur),
-             "longueur au-delà de la fin du fichier : lu jusqu'à la marque suivante");
-    else if (longueurReelle < longueur)
-        Dire(nom, std::to_string(marque.longueur),
-             "longueur fausse : lu jusqu'à la marque suivante");
-    else if (!texte.empty())
-        Dire(nom, texte, "le texte continue au-delà de sa longueur : coupé");
-    Poser(nom, texte);
+    return fenetre_.Position() - debut;
 }
 
 void LecteurAdi::Poser(std::string_view nom, std::string_view valeur) {
