@@ -43,8 +43,7 @@ PlaceNeuve::PlaceNeuve(const fs::path& cible, Ancien ancien)
 
 PlaceNeuve::~PlaceNeuve() {
     std::error_code erreur;
-    if (!prise_)
-        fs::remove(provisoire_, erreur);
+    fs::remove(provisoire_, erreur); // nothing there once it was renamed
 }
 
 void PlaceNeuve::Prendre() {
@@ -52,8 +51,9 @@ void PlaceNeuve::Prendre() {
     if (ancien_ == Ancien::Protege) {
         // Unlike a renaming, a second name is refused where one stands.
         fs::create_hard_link(provisoire_, cible_, erreur);
-        if (!erreur)
-            return; // the own name goes with this object
+        prise_ = !erreur;
+        if (prise_)
+            return SynchroniserNom(cible_); // the own name goes with this object
         // The file system may know one name only.
         if (erreur == std::errc::file_exists || fs::exists(fs::symlink_status(cible_, erreur)))
             throw ExisteDeja(cible_);
@@ -62,6 +62,7 @@ void PlaceNeuve::Prendre() {
     if (erreur)
         throw Erreur(NatureErreur::Remplacer, cible_, erreur);
     prise_ = true;
+    SynchroniserNom(cible_);
 }
 
 FichierNeuf::FichierNeuf(const fs::path& cible, Ancien ancien) : place_(cible, ancien) {

@@ -33,6 +33,8 @@ class PlaceNeuve {
     /// The file of the own name, closed and on the disk, takes its place. Throws Erreur or
     /// RefusEchange.
     void Prendre();
+    /// Whether it has; so too when Prendre threw because that may not outlast a power cut.
+    [[nodiscard]] bool EstPrise() const noexcept { return prise_; }
 
   private:
     std::filesystem::path cible_;
@@ -52,6 +54,8 @@ class FichierNeuf {
     void Recrire(std::int64_t position, std::string_view octets);
     /// The file is complete: it is flushed, and takes its name. Without this nothing is left.
     void Terminer();
+    /// Whether the file has its name, see PlaceNeuve.
+    [[nodiscard]] bool EstEnPlace() const noexcept { return place_.EstPrise(); }
 
   private:
     template<class Faire> void Essayer(Faire faire) const;

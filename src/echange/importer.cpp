@@ -239,7 +239,8 @@ BilanImport ImporterAdif(const DemandeImport& demande, const Fuseau& fuseau) {
     } catch (...) {
         // A report of what did not come to pass would only stand in the way.
         std::error_code erreur;
-        fs::remove(chemin, erreur);
+        if (!cahier.EstEnPlace())
+            fs::remove(chemin, erreur);
         throw;
     }
     return bilan;

@@ -18,7 +18,7 @@ using Fichiers = std::map<std::string, std::string>;
 
 struct Operation {
     const char* nom;
-    std::vector<std::string> cibles; ///< the report comes before the logbook that it is of
+    std::vector<std::string> cibles; ///< a report, which may go, comes before its logbook
     std::function<void(const fs::path&)> agir;
 };
 
@@ -85,20 +85,15 @@ std::string Juger(const Operation& operation, const Plan& plan, const std::strin
         return "died: " + dit;
     if (plan.faute.tue) // what was under way stays under a name of its own
         std::erase_if(trouves, [](const auto& f) { return f.first.ends_with(".tmp"); });
-    if (!plan.faute.tue && trouves != (dit.empty() ? apres : avant)) {
-        // Nothing but the report can be new beside the former logbook, and is no harm.
-        trouves.erase(operation.cibles.front());
-        Fichiers sans = avant;
-        sans.erase(operation.cibles.front());
-        return dit.empty() || operation.cibles.size() == 1 || trouves != sans ? "said: " + dit : "";
-    }
+    if (dit.empty() && trouves != apres)
+        return "said nothing, although it is not done";
     for (const auto& [nom, octets] : trouves) {
         const auto la = [&](const Fichiers& f) { return f.contains(nom) && f.at(nom) == octets; };
         if (!la(avant) && !la(apres))
             return nom + " is neither the former nor the new one";
     }
     for (const auto& [nom, octets] : avant)
-        if (!trouves.contains(nom))
+        if (!trouves.contains(nom) && (operation.cibles.size() == 1 || nom != operation.cibles[0]))
             return nom + " is gone";
     return "";
 }
