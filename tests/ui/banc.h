@@ -46,10 +46,15 @@ class SystemeDEssai : public Systeme {
         return imprimante ? imprimante() : nullptr;
     }
     void ConfigurerImprimante(QWidget* /*parent*/) override { demandes << Q("imprimante"); }
-    /// No other program is there.
+    [[nodiscard]] std::filesystem::path DossierInstalle() const override {
+        return lecteur / "Orvalis/installe";
+    }
+    /// Of the other programs only those start whose file says so.
     [[nodiscard]] std::optional<QString> Lancer(const QString& chemin) override {
         demandes << chemin;
-        return QStringLiteral("refus %1").arg(demandes.size());
+        return aides::Lire(S(chemin)) == "programme"
+                   ? std::nullopt
+                   : std::optional(QStringLiteral("refus %1").arg(demandes.size()));
     }
     void Quitter(int code) override { codeDeFin = code; }
 };

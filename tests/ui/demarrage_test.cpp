@@ -112,10 +112,35 @@ TEST(Demarrage, HorlogeEtFin) {
  clock : -> LabHeure LabDate LabUTC = "18:30:15|Samedi 21 Novembre 2026|heure locale, UTC+1";
      caché PictRech
  an empty logbook makes no database : menu MnuCreateMDB refusé -> demandes =
- companion : clic Horloge -> demandes = ~/Chronel.exe|~/Chronel;
+ companion : clic Horloge ->
+     demandes = ~/Chronel.exe|~/Chronel|~/installe/Chronel;
      averti = "Impossible de démarrer « ~/Chronel.exe » : refus 1."
  end : clic BtFermerLog -> OrvalisLab03 = " Au revoir ")");
     EXPECT_EQ(banc.systeme.codeDeFin, 0);
+}
+
+TEST(Demarrage, CompagnonsDuDossierPuisDeLInstallation) {
+    Banc banc(Contacts(1) + Fin());
+    std::filesystem::create_directory(banc.Dossier() / "installe");
+    for (const auto& [fichier, octets, vu] : std::vector<std::array<std::string, 3>>{
+             {"Chronel", "abîmé", "2:~/Chronel"},
+             {"CHRONEL.EXE", "abîmé", "1:~/CHRONEL.EXE"},
+             {"installe/Chronel", "abîmé", "1:~/CHRONEL.EXE"},
+             {"installe/Chronel", "programme", "~/CHRONEL.EXE|~/Chronel|~/installe/Chronel"},
+             {"Chronel", "programme", "~/CHRONEL.EXE|~/Chronel"},
+             {"CHRONEL.EXE", "programme", "~/CHRONEL.EXE"},
+             {"installe/dbOrvalis", "abîmé", "3:~/installe/dbOrvalis"},
+             {"installe/dbOrvalis", "programme",
+              "~/dbOrvalis.exe|~/dbOrvalis|~/installe/dbOrvalis"},
+             {"dbORVALIS.exe", "programme", "~/dbORVALIS.exe"}}) {
+        banc.Ecrire(fichier, octets);
+        const bool horloge = fichier.find("db") == fichier.npos;
+        const bool refus = vu[1] == ':';
+        banc.Suivre(fichier + " : " + (horloge ? "clic Horloge" : "menu MnuCreateMDB") + " -> " +
+                    (refus ? "averti = \"Impossible de démarrer « " + vu.substr(2) + " » : refus " +
+                                 vu[0] + ".\""
+                           : "demandes = " + vu));
+    }
 }
 
 } // namespace orvalis::operateur::demarrage

@@ -51,6 +51,8 @@ class Systeme {
     [[nodiscard]] virtual std::unique_ptr<Imprimante> PreparerImpression(QWidget* parent) = 0;
     /// Lets the operator choose the printer for every print to come.
     virtual void ConfigurerImprimante(QWidget* parent) = 0;
+    /// The folder that this program was started from, which may hold its companions.
+    [[nodiscard]] virtual std::filesystem::path DossierInstalle() const = 0;
     /// Starts another program without waiting; the reason in French when it does not start.
     [[nodiscard]] virtual std::optional<QString> Lancer(const QString& chemin) = 0;
     /// Ends the program with this status.

@@ -124,6 +124,10 @@ QString SystemeReel::ChoisirFichier(QWidget* parent, const DemandeFichier& deman
     return {};
 }
 
+std::filesystem::path SystemeReel::DossierInstalle() const {
+    return QCoreApplication::applicationDirPath().toStdString();
+}
+
 std::optional<QString> SystemeReel::Lancer(const QString& chemin) {
     if (QProcess::startDetached(chemin, {}))
         return std::nullopt;

@@ -21,6 +21,7 @@ class SystemeReel : public Systeme {
     [[nodiscard]] QString ChoisirFichier(QWidget* parent, const DemandeFichier& demande) override;
     [[nodiscard]] std::unique_ptr<Imprimante> PreparerImpression(QWidget* parent) override;
     void ConfigurerImprimante(QWidget* parent) override;
+    [[nodiscard]] std::filesystem::path DossierInstalle() const override;
     [[nodiscard]] std::optional<QString> Lancer(const QString& chemin) override;
     void Quitter(int code) override;
 

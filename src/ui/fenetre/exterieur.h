@@ -24,6 +24,9 @@ class Exterieur : public Systeme {
     [[nodiscard]] QString ChoisirFichier(QWidget* parent, const DemandeFichier& demande) override;
     [[nodiscard]] std::unique_ptr<Imprimante> PreparerImpression(QWidget* parent) override;
     void ConfigurerImprimante(QWidget* parent) override;
+    [[nodiscard]] std::filesystem::path DossierInstalle() const override {
+        return systeme_.DossierInstalle();
+    }
     [[nodiscard]] std::optional<QString> Lancer(const QString& chemin) override {
         return systeme_.Lancer(chemin);
     }

@@ -10,32 +10,61 @@
 #include "ui/dialogues/dlg2.h"
 #include "ui/dialogues/guide.h"
 
+#include <filesystem>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 namespace orvalis {
 namespace {
 
+// The start of one program, tried.
+struct Essai {
+    std::filesystem::path chemin;
+    bool present = true;
+    std::optional<QString> raison; // why it did not start
+};
+
+Essai Essayer(Systeme& systeme, const std::filesystem::path& dossier, std::string_view nom) {
+    Essai essai{dossier / nom, true, {}};
+    try {
+        essai.chemin = TrouverFichier(dossier, nom);
+        essai.present = Present(essai.chemin);
+        essai.raison = systeme.Lancer(Q(essai.chemin.string()));
+    } catch (const Erreur& echec) { // the folder cannot be listed
+        essai.raison = Q(RaisonFrancaise(echec.code()));
+    }
+    return essai;
+}
+
+// The program folder comes first, for the operators who keep a tool of their own there; the one
+// that was installed with this program stands in for it.
 void LancerCompagnon(Plateau& p, std::string_view nom) {
     const std::filesystem::path dossier = DossierProgramme(p.session.station.lecteur);
-    const auto lancer = [&](std::string_view programme) -> std::optional<QString> {
-        try {
-            return p.systeme.Lancer(Q(TrouverFichier(dossier, programme).string()));
-        } catch (const Erreur& echec) { // the folder cannot be listed
-            return Q(RaisonFrancaise(echec.code()));
-        }
-    };
-    std::optional<QString> raison = lancer(nom);
-#ifndef Q_OS_WIN
-    // The name without its ending is tried beside: what is wrong with the first stays the reason.
-    if (raison && !lancer(nom.substr(0, nom.rfind('.'))))
-        raison.reset();
+    const std::filesystem::path installe = p.systeme.DossierInstalle();
+#ifdef Q_OS_WIN
+    const std::pair<std::filesystem::path, std::string_view> lieux[] = {{dossier, nom},
+                                                                        {installe, nom}};
+#else
+    const std::string_view sansFin = nom.substr(0, nom.rfind('.'));
+    const std::pair<std::filesystem::path, std::string_view> lieux[] = {
+        {dossier, nom}, {dossier, sansFin}, {installe, sansFin}};
 #endif
-    const std::string chemin = CheminProgrammeTexte(p.session.station.lecteur, nom);
-    if (raison)
-        p.systeme.Avertir(&p.fenetre,
-                          QStringLiteral("Impossible de démarrer «\u00a0%1\u00a0»\u00a0: %2.")
-                              .arg(Q(chemin), *raison));
+    // Told is what is wrong with the first that is there; where there is none, the first name.
+    std::optional<Essai> echec;
+    for (const auto& [lieu, programme] : lieux) {
+        Essai essai = Essayer(p.systeme, lieu, programme);
+        if (!essai.raison)
+            return;
+        if (!echec || (!echec->present && essai.present))
+            echec = std::move(essai);
+    }
+    const std::string chemin = echec->present
+                                   ? echec->chemin.string()
+                                   : CheminProgrammeTexte(p.session.station.lecteur, nom);
+    p.systeme.Avertir(&p.fenetre,
+                      QStringLiteral("Impossible de démarrer «\u00a0%1\u00a0»\u00a0: %2.")
+                          .arg(Q(chemin), *echec->raison));
 }
 
 } // namespace

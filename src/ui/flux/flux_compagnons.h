@@ -5,8 +5,8 @@
 
 namespace orvalis {
 
-/// A click on the clock: starts the time-setting tool of the program folder, without waiting; a
-/// failure is told.
+/// A click on the clock: starts the time-setting tool, that of the program folder or else the one
+/// installed beside this program, without waiting; a failure is told.
 void ReglerHorloge(Plateau& p);
 
 /// MnuCreateMDB: starts the database tool likewise.
