@@ -8,10 +8,11 @@ PAQUETS_PROGRAMME=(g++ cmake ninja-build ccache qt6-base-dev libqt6svg6 qt6-tran
                    libsqlite3-dev)
 # Running it without a screen, and taking its picture.
 PAQUETS_ECRAN=(xvfb x11-utils imagemagick openbox)
-# Tests, checks and the Debian package.
+# Tests, checks and the Debian package. What sets the clock is tried against a mock of the service
+# on a bus of its own.
 PAQUETS_CONTROLE=(libgtest-dev libgmock-dev lld clang-format-14 clang-tidy-14 python3
-                  git poppler-utils xdotool desktop-file-utils appstream dpkg-dev file
-                  python3-markdown)
+                  python3-dbusmock dbus-daemon git poppler-utils xdotool desktop-file-utils
+                  appstream dpkg-dev file python3-markdown)
 PAQUETS_MESURES=(libbenchmark-dev libgtest-dev python3)
 PAQUETS_FUZZ=(clang-14 libclang-rt-14-dev lld)
 # The pictures of the guide. The look-alike of the labels' handwriting shows on one of them.
