@@ -14,7 +14,7 @@ endif()
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS CHANGELOG.md packaging/changelog
              packaging/org.orvalis.Orvalis.metainfo.xml)
 
-install(TARGETS orvalis dbOrvalis RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS orvalis dbOrvalis Chronel RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES packaging/orvalis.desktop packaging/orvalis-exemple.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/orvalis.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES packaging/org.orvalis.Orvalis.metainfo.xml
@@ -24,6 +24,9 @@ install(FILES packaging/orvalis.fr.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/fr/man1
 install(FILES packaging/dbOrvalis.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES packaging/dbOrvalis.fr.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/fr/man1
         RENAME dbOrvalis.1)
+install(FILES packaging/Chronel.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES packaging/Chronel.fr.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/fr/man1
+        RENAME Chronel.1)
 install(FILES CHANGELOG.md docs/guide.md docs/formats.md packaging/copyright packaging/changelog
         DESTINATION ${CMAKE_INSTALL_DOCDIR})
 # The sample logbook and its launcher, which copies it once for each user.
@@ -79,5 +82,5 @@ if(SHLIBDEPS)
 endif()
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6, qt6-translations-l10n")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
-    "fonts-liberation, fonts-comic-neue, cups-client, qt6-wayland")
+    "fonts-liberation, fonts-comic-neue, cups-client, qt6-wayland, polkitd")
 include(CPack)

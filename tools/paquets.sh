@@ -16,7 +16,8 @@ PAQUETS_CONTROLE=(libgtest-dev libgmock-dev lld clang-format-14 clang-tidy-14 py
 PAQUETS_MESURES=(libbenchmark-dev libgtest-dev python3)
 PAQUETS_FUZZ=(clang-14 libclang-rt-14-dev lld)
 # The pictures of the guide. The look-alike of the labels' handwriting shows on one of them.
-PAQUETS_CAPTURES=(xdotool pngquant optipng poppler-utils fonts-comic-neue)
+PAQUETS_CAPTURES=(xdotool pngquant optipng poppler-utils fonts-comic-neue
+                  python3-dbusmock dbus-daemon)
 
 # Prints the packages among the arguments that are not installed.
 paquets_absents() {

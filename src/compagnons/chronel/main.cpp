@@ -8,7 +8,8 @@
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Chronel"));
-    QApplication::setDesktopFileName(QStringLiteral("chronel"));
+    // No menu entry of its own: desktops take name and icon from the main program's.
+    QApplication::setDesktopFileName(QStringLiteral("orvalis"));
     QApplication::setApplicationVersion(QStringLiteral(ORVALIS_VERSION));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/orvalis.svg")));
     // The menus of the boxes speak French whatever the system speaks.

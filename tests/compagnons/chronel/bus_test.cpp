@@ -118,7 +118,7 @@ TEST(Service, ReseauPuisMain) {
              {QStringLiteral("org.freedesktop.DBus.Error.InteractiveAuthorizationRequired")});
     essai.Taper(Qt::Key_H, "12:00");
     EXPECT_EQ(essai.Etats(), "---");
-    essai.Attendre("LabMessage", "rien ne peut poser la question");
+    essai.Attendre("LabMessage", "agent d'authentification absent");
     EXPECT_EQ(essai.Foyer() + essai.Texte("TxtHeure"), "TxtHeure12:00");
     essai.Touche(Qt::Key_Return);
     essai.Attendre("LabMessage", "est réglée");

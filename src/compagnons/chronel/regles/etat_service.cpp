@@ -66,6 +66,8 @@ VueChronel VoirChronel(const EtatService& etat) {
     else if (vue.message.empty() && libre && etat.reseau)
         vue.message = "Pour régler l'heure à la main, coupez d'abord la mise à l'heure par le "
                       "réseau.";
+    else if (vue.message.empty() && vue.saisie)
+        vue.message = "Tapez l'heure qu'il va être, et pressez Entrée à cet instant.";
     return vue;
 }
 

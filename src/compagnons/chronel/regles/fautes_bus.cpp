@@ -15,8 +15,8 @@ constexpr std::string_view kNeDemarrePas =
 constexpr std::string_view kSansPermission =
     "La permission n'a pas été donnée\u00A0: rien n'est changé.";
 constexpr std::string_view kSansAgent =
-    "Le système veut demander la permission, mais rien ne peut poser la question sur ce bureau "
-    "(agent d'authentification absent)\u00A0: rien n'est changé.";
+    "Rien sur ce bureau ne peut demander la permission (agent d'authentification absent)\u00A0: "
+    "rien n'est changé.";
 constexpr std::string_view kParLeReseau =
     "Le système tient l'heure par le réseau\u00A0: coupez d'abord la mise à l'heure par le réseau.";
 constexpr std::string_view kSansProgramme =
