@@ -10,6 +10,8 @@
 #include <QDateTime>
 #include <QKeyEvent>
 
+#include <cstdlib>
+
 namespace orvalis {
 namespace {
 
@@ -48,7 +50,6 @@ FenetreChronel::FenetreChronel(Horloge horloge)
     setWindowFlag(Qt::WindowMaximizeButtonHint, false);
     Preparer();
     Brancher();
-    ProposerDate();
     Battre();
     Montrer();
     ui_->ChkReseau->setFocus();
@@ -109,6 +110,8 @@ void FenetreChronel::Battre() {
     ui_->LabDate->setText(Q(DateLongue(locale)));
     ui_->LabHeureUtc->setText(Q(HeureLongue(utc)));
     ui_->LabDateUtc->setText(Q(DateLongue(utc)));
+    if (!ui_->TxtDate->hasFocus())
+        ProposerDate();
     battement_.start(1000 - ici.time().msec());
 }
 
@@ -194,8 +197,10 @@ void FenetreChronel::ReglerALaMain() {
 // What was grey while the answer was waited for takes the focus back, so that it can be tried
 // again.
 void FenetreChronel::RevenirAuFoyer() {
-    if (!etat_.echec)
+    if (!etat_.echec) {
         ui_->TxtHeure->clear();
+        ui_->TxtDate->setModified(false);
+    }
     Battre();
     if (foyer_ != nullptr && foyer_->isEnabled())
         foyer_->setFocus();

@@ -4,12 +4,17 @@
 
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QTimer>
 
 #include <limits>
+#include <utility>
 
 namespace orvalis {
 namespace {
 
+using namespace std::chrono_literals;
+
+constexpr std::chrono::milliseconds kApresReponse = 2s;
 constexpr auto kConnexion = "chronel";
 constexpr auto kService = "org.freedesktop.timedate1";
 constexpr auto kObjet = "/org/freedesktop/timedate1";
@@ -116,7 +121,8 @@ void ServiceHeure::Envoyer(Demande demande, const QDBusMessage& message) {
         Repondre(etat_, attente->isError() ? PhraseDe(attente->error()) : std::string());
         Q_EMIT Change();
         Q_EMIT Repondu();
-        Relire();
+        // What has just been switched still says otherwise for a moment.
+        QTimer::singleShot(etat_.echec ? 0ms : kApresReponse, this, &ServiceHeure::Relire);
     });
     Q_EMIT Change();
 }

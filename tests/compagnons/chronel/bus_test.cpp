@@ -54,8 +54,8 @@ class Essai {
         Touche(Qt::Key_Return);
     }
 
-    FenetreChronel fenetre{
-        [] { return std::chrono::sys_days{2026y / 11 / 21} + 17h + 30min + 15s; }};
+    std::chrono::sys_seconds maintenant = std::chrono::sys_days{2026y / 11 / 21} + 63015s;
+    FenetreChronel fenetre{[this] { return maintenant; }};
 };
 
 // Asks the mock, beside the window.
@@ -121,7 +121,9 @@ TEST(Service, ReseauPuisMain) {
     essai.Attendre("LabMessage", "agent d'authentification absent");
     EXPECT_EQ(essai.Foyer() + essai.Texte("TxtHeure"), "TxtHeure12:00");
     essai.Touche(Qt::Key_Return);
+    essai.maintenant = std::chrono::sys_days{2030y / 1 / 2};
     essai.Attendre("LabMessage", "est réglée");
+    EXPECT_EQ(essai.Texte("TxtDate") + essai.Texte("LabHeure"), "02/01/203001:00:00");
     EXPECT_EQ(essai.Foyer() + essai.Texte("TxtHeure"), "TxtHeure");
     const QDBusReply<qlonglong> ecart = Demander(refuser, "Ecart", {});
     EXPECT_EQ(ecart.value(), std::chrono::microseconds(1893499200s - 1795282215s).count());

@@ -37,9 +37,9 @@ TEST(Chronel, CeQuiSeVoitEtSePeut) {
                      {Etat("PR"), "ICL", "pas encore pu", "coupez d'abord"},
                      {Etat("RS"), "IC", "l'horloge est à l'heure", "coupez d'abord"},
                      {Etat("P"), "IH", "ne tient pas l'heure par le réseau.", "pressez Entrée"},
-                     {Etat("PS"), "IH", "un autre programme", "pressez Entrée"},
+                     {Etat("PS"), "IH", "il y a peu", "pressez Entrée"},
                      {Etat(""), "H", "Aucun programme", "pressez Entrée"},
-                     {Etat("S"), "H", "un autre programme", "pressez Entrée"},
+                     {Etat("S"), "H", "Un autre programme", "pressez Entrée"},
                      {Pendant(Etat("P"), Demande::Regler), "", "ne tient pas", "répondez-y"},
                      {Pendant(faite, Demande::CouperReseau), "C", "", "répondez-y"},
                      {faite, "IC", "", "Fait."}};

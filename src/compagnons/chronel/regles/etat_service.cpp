@@ -11,12 +11,16 @@ std::string DireReseau(const EtatService& etat) {
                    ? "Le système tient l'heure par le réseau\u00A0; l'horloge est à l'heure."
                    : "Le système tient l'heure par le réseau, mais n'a pas encore pu mettre "
                      "l'horloge à l'heure. Le réseau est-il là\u00A0?";
-    if (etat.synchronise)
-        return "Le système ne tient pas l'heure par le réseau, mais un autre programme met "
-               "l'horloge à l'heure\u00A0: un réglage à la main ne durera pas.";
-    return etat.peutReseau ? "Le système ne tient pas l'heure par le réseau."
-                           : "Aucun programme de mise à l'heure par le réseau n'est installé sur "
-                             "cet ordinateur\u00A0: l'heure se règle à la main.";
+    // The mark that the clock has been set outlives by hours what has set it.
+    if (etat.peutReseau)
+        return etat.synchronise
+                   ? "Le système ne tient pas l'heure par le réseau\u00A0; l'horloge a "
+                     "été mise à l'heure il y a peu."
+                   : "Le système ne tient pas l'heure par le réseau.";
+    return etat.synchronise ? "Un autre programme met l'horloge à l'heure\u00A0: un réglage à la "
+                              "main ne durera pas."
+                            : "Aucun programme de mise à l'heure par le réseau n'est installé sur "
+                              "cet ordinateur\u00A0: l'heure se règle à la main.";
 }
 
 std::string DireEtat(const EtatService& etat) {
