@@ -157,10 +157,9 @@ void FenetreChronel::Armer() {
 
 void FenetreChronel::ChangerReseau() {
     foyer_ = focusWidget();
-    // The box shows what is, not what is wished for: it turns once the service has said so.
-    const bool voulu = ui_->ChkReseau->isChecked();
-    ui_->ChkReseau->setChecked(!voulu);
-    service_.MettreReseau(voulu);
+    // The box shows what is, not what is wished for: painted while the answer is waited for, it
+    // turns back, and turns once the service has said so.
+    service_.MettreReseau(ui_->ChkReseau->isChecked());
 }
 
 // Today's date stands there to be kept; the time must be typed, since one that stood there would be

@@ -94,7 +94,7 @@ void Repondre(EtatService& etat, std::string_view faute) {
     etat.echec = !faute.empty();
     etat.message = etat.echec ? faute : DireFait(demande);
     // The service has said yes; that it says the same when asked takes it a moment.
-    if (!etat.echec && demande != Demande::Regler)
+    if (!etat.echec)
         etat.reseau = demande == Demande::MettreReseau;
 }
 
