@@ -15,6 +15,7 @@ namespace orvalis {
 namespace {
 
 using namespace std::chrono_literals;
+using namespace Qt::Literals::StringLiterals;
 
 class Essai {
   public:
@@ -33,17 +34,13 @@ class Essai {
         EXPECT_TRUE(QTest::qWaitFor([&] { return Texte(nom).find(texte) != std::string::npos; }))
             << nom << " = " << Texte(nom) << ", not " << texte;
     }
-    // C it stands on, A it can be used: the switch, then the box of the time.
+    // C the switch stands on, A it can be used; A a time can be typed.
     [[nodiscard]] std::string Etats() const {
-        const auto lettre = [](bool oui, const char* l) { return std::string(oui ? l : "-"); };
-        return lettre(Boite("ChkReseau")->property("checked").toBool(), "C") +
-               lettre(Boite("ChkReseau")->isEnabled(), "A") +
-               lettre(Boite("TxtHeure")->isEnabled(), "A");
+        return std::string(Boite("ChkReseau")->property("checked").toBool() ? "C" : "-") +
+               (Boite("ChkReseau")->isEnabled() ? "A" : "-") +
+               (Boite("TxtHeure")->isEnabled() ? "A" : "-");
     }
-    [[nodiscard]] std::string Foyer() const {
-        const QWidget* foyer = QApplication::focusWidget();
-        return foyer == nullptr ? "" : S(foyer->objectName());
-    }
+    static std::string Foyer() { return S(QApplication::focusWidget()->objectName()); }
     static void Touche(Qt::Key touche, Qt::KeyboardModifiers avec = {}) {
         QTest::keyClick(QApplication::focusWidget(), touche, avec);
     }
@@ -59,13 +56,19 @@ class Essai {
 };
 
 // Asks the mock, beside the window.
-QDBusMessage Demander(const char* interface, const char* methode, const QVariantList& arguments) {
-    auto message = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.timedate1"), QStringLiteral("/org/freedesktop/timedate1"),
-        QString::fromLatin1(interface), QString::fromLatin1(methode));
+QDBusMessage Demander(const QString& methode, const QVariantList& arguments = {}) {
+    QDBusMessage message = MessageDemande(methode, arguments);
+    if (methode != u"SetNTP"_s)
+        message = QDBusMessage::createMethodCall(message.service(), message.path(),
+                                                 u"org.orvalis.Essai"_s, methode);
     message.setArguments(arguments);
-    return QDBusConnection::connectToBus(QDBusConnection::SystemBus, QStringLiteral("essai"))
-        .call(message);
+    message = QDBusConnection::connectToBus(QDBusConnection::SystemBus, u"essai"_s).call(message);
+    EXPECT_EQ(message.type(), QDBusMessage::ReplyMessage);
+    return message;
+}
+
+void Refuser(const QString& faute) {
+    Demander(u"Refuser"_s, {QString(u"org.freedesktop.DBus.Error."_s + faute)});
 }
 
 TEST(SansBus, LHeureSeulement) {
@@ -84,7 +87,7 @@ TEST(SansService, EstDit) {
 }
 
 TEST(Service, ReseauPuisMain) {
-    EXPECT_TRUE(MessageDemande(QStringLiteral("SetNTP"), {}).isInteractiveAuthorizationAllowed());
+    EXPECT_TRUE(MessageDemande({}, {}).isInteractiveAuthorizationAllowed());
     Essai essai;
     essai.Attendre("LabEtat", "l'horloge est à l'heure");
     EXPECT_EQ(essai.Etats(), "CA-");
@@ -98,8 +101,7 @@ TEST(Service, ReseauPuisMain) {
         EXPECT_EQ(essai.Etats(), apres) << message;
         EXPECT_EQ(essai.Foyer(), "ChkReseau");
     };
-    const char* refuser = "org.orvalis.Essai";
-    Demander(refuser, "Refuser", {QStringLiteral("org.freedesktop.DBus.Error.AccessDenied")});
+    Refuser(u"AccessDenied"_s);
     basculer("C--", "permission n'a pas été donnée", "CA-");
     basculer("C--", "est coupée", "-AA");
     basculer("---", "est en marche", "CA-");
@@ -114,8 +116,7 @@ TEST(Service, ReseauPuisMain) {
     essai.Taper(Qt::Key_H, "12h60");
     essai.Attendre("LabMessage", "Tapez l'heure ainsi");
     EXPECT_EQ(essai.Foyer(), "TxtHeure");
-    Demander(refuser, "Refuser",
-             {QStringLiteral("org.freedesktop.DBus.Error.InteractiveAuthorizationRequired")});
+    Refuser(u"InteractiveAuthorizationRequired"_s);
     essai.Taper(Qt::Key_H, "12:00");
     EXPECT_EQ(essai.Etats(), "---");
     essai.Attendre("LabMessage", "agent d'authentification absent");
@@ -125,10 +126,10 @@ TEST(Service, ReseauPuisMain) {
     essai.Attendre("LabMessage", "est réglée");
     EXPECT_EQ(essai.Texte("TxtDate") + essai.Texte("LabHeure"), "02/01/203001:00:00");
     EXPECT_EQ(essai.Foyer() + essai.Texte("TxtHeure"), "TxtHeure");
-    const QDBusReply<qlonglong> ecart = Demander(refuser, "Ecart", {});
+    const QDBusReply<qlonglong> ecart = Demander(u"Ecart"_s);
     EXPECT_EQ(ecart.value(), std::chrono::microseconds(1893499200s - 1795282215s).count());
 
-    Demander("org.freedesktop.timedate1", "SetNTP", {true, true}); // by another program
+    Demander(u"SetNTP"_s, {true, true}); // by another program
     EXPECT_TRUE(QTest::qWaitFor([&] { return essai.Etats() == "CA-"; }));
     essai.Touche(Qt::Key_Escape);
     EXPECT_FALSE(essai.fenetre.isVisible());
@@ -145,6 +146,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     qputenv("TZ", "Europe/Paris");
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
