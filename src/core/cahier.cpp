@@ -20,7 +20,25 @@ FichierFiches OuvrirEnEcriture(const std::filesystem::path& chemin, bool lecture
     }
 }
 
+FichierFiches OuvrirVerrouille(const std::filesystem::path& chemin, bool lectureSeulePermise) {
+    FichierFiches fichier = OuvrirEnEcriture(chemin, lectureSeulePermise);
+    if (!fichier.Support().Verrouiller())
+        throw Erreur(NatureErreur::DejaOuvert, chemin);
+    return fichier;
+}
+
 } // namespace
+
+void ExigerCahier(const Cahier& cahier) {
+    const Fichier& ouvert = cahier.fichier.Support();
+    if (!ouvert.EstOuvert() || ouvert.EstLeMeme(cahier.chemin))
+        return;
+    try {
+        static_cast<void>(OuvrirVerrouille(cahier.chemin, cahier.lectureSeule));
+    } catch (const Erreur& echec) {
+        throw CahierPerdu(echec);
+    }
+}
 
 void OuvrirCahier(Cahier& cahier, const std::filesystem::path& chemin, bool lectureSeulePermise) {
     const Fichier& ouvert = cahier.fichier.Support();
@@ -29,9 +47,7 @@ void OuvrirCahier(Cahier& cahier, const std::filesystem::path& chemin, bool lect
         return;
     }
     try {
-        FichierFiches fichier = OuvrirEnEcriture(chemin, lectureSeulePermise);
-        if (!fichier.Support().Verrouiller())
-            throw Erreur(NatureErreur::DejaOuvert, chemin);
+        FichierFiches fichier = OuvrirVerrouille(chemin, lectureSeulePermise);
         fichier.Support().DevenirLeCahier();
         cahier.fichier = std::move(fichier);
     } catch (const Erreur& echec) {

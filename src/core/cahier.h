@@ -62,6 +62,11 @@ void CompterFiches(Cahier& cahier);
 /// read.
 [[nodiscard]] bool EstTelQueCompte(const Cahier& cahier);
 
+/// Throws CahierPerdu when the path of the logbook no longer names the open file and what is there
+/// cannot be had either: what is open is then the last file that has every contact. Opens, counts
+/// and changes nothing.
+void ExigerCahier(const Cahier& cahier);
+
 /// What everybody asks who is about to write: a logbook that is no longer as it was counted is
 /// opened, locked and counted anew. Throws CahierPerdu when that cannot be; nothing may then be
 /// written.

@@ -84,10 +84,12 @@ std::string Phrase(NatureErreur nature, const std::string& objet, const std::err
     case NatureErreur::Perdu:
         return "Un autre programme a remplacé ou supprimé le cahier" + cite + ", qui ne peut pas " +
                "être rouvert\u00A0: " + RaisonFrancaise(raison) +
-               ".\n\nRien n'y est plus enregistré\u00A0; un contact en cours de saisie reste sur "
+               ".\n\nPlus rien n'y sera enregistré\u00A0; un contact en cours de saisie reste sur "
                "la carte. Les contacts déjà enregistrés sont tous dans le fichier encore "
                "ouvert\u00A0: «\u00A0Sauvegarder\u00A0» et «\u00A0Copier sur CD ou "
-               "disquette\u00A0» le copient en entier, une fois la saisie quittée.";
+               "disquette\u00A0» le copient en entier. Ne quittez pas Orvalis avant.\n\nPendant "
+               "une saisie, notez d'abord le contact en cours, puis quittez-la par "
+               "«\u00A0Annuler\u00A0» et «\u00A0Terminer\u00A0».";
     case NatureErreur::DejaOuvert:
         return "Le cahier" + cite + " est déjà ouvert par un autre programme Orvalis.";
     case NatureErreur::CahierLuiMeme:

@@ -25,6 +25,8 @@ BilanOuverture OuvrirAutreCahier(Cahier& cahier, Station& station,
     std::vector<OctetsIndicatif> indicatifs;
     const std::int32_t nbFiches = essai.Compter(indicatifs);
     const QsoRecord fin = essai.Lire(NumeroFiche{nbFiches} + 1);
+    if (cahier.EstLeNotre())
+        ExigerCahier(cahier); // never lets go the last file that has every contact
     OuvrirCahier(cahier, chemin, true);
 
     if (cahier.EstLeNotre())

@@ -52,10 +52,21 @@ bool Exact(const QsoRecord& fiche, const QslSlotRecord& etiquette) {
     return MemeIndicatif(fiche, etiquette) && MemeMoment(fiche, etiquette);
 }
 
+// The one it numbers, whatever its MQSL, when that has the label's callsign, or its date and time.
+NumeroFiche ContactNumerote(const Cahier& cahier, const QslSlotRecord& etiquette) {
+    const NumeroFiche k = Numero(cahier, etiquette);
+    if (k == kAucuneFiche)
+        return kAucuneFiche;
+    const QsoRecord fiche = FicheDuCahier(cahier, k);
+    const bool meme =
+        MemeIndicatif(fiche, etiquette) || (MomentConnu(etiquette) && MemeMoment(fiche, etiquette));
+    return meme ? k : kAucuneFiche;
+}
+
 // The contacts with a label's callsign, date and time, by their MQSL.
 struct Exacts {
-    std::vector<NumeroFiche> enCours;
-    std::vector<NumeroFiche> vierges;
+    std::vector<ContactTrouve> enCours;
+    std::vector<ContactTrouve> vierges;
     bool autres = false;
 };
 
@@ -72,7 +83,7 @@ struct Recherche {
                 continue;
             const QsoRecord fiche = FicheDuCahier(cahier, k);
             if (estTelle(fiche) && Exact(fiche, etiquettes[i]))
-                Prendre(i, k);
+                Prendre(i, {k, Correspondance::Unique, fiche});
         }
     }
 
@@ -89,9 +100,9 @@ struct Recherche {
                 if (!Exact(fiche, etiquettes[i]))
                     continue;
                 if (EstEnCours(fiche))
-                    exacts[i].enCours.push_back(k);
+                    exacts[i].enCours.push_back({k, Correspondance::Unique, fiche});
                 else if (EstVierge(fiche))
-                    exacts[i].vierges.push_back(k);
+                    exacts[i].vierges.push_back({k, Correspondance::Unique, fiche});
                 else
                     exacts[i].autres = true;
             }
@@ -99,14 +110,14 @@ struct Recherche {
     }
 
     // The only one of the exact ones of a kind, less those that other labels have.
-    void Departager(std::vector<NumeroFiche> Exacts::*genre, Correspondance siPlusieurs) {
+    void Departager(std::vector<ContactTrouve> Exacts::*genre, Correspondance siPlusieurs) {
         for (std::size_t i = 0; i < etiquettes.size(); ++i) {
             if (!SansReponse(i))
                 continue;
-            std::vector<NumeroFiche> libres;
-            for (const NumeroFiche k : exacts[i].*genre)
-                if (!EstPris(k))
-                    libres.push_back(k);
+            std::vector<ContactTrouve> libres;
+            for (const ContactTrouve& exact : exacts[i].*genre)
+                if (!EstPris(exact.fiche))
+                    libres.push_back(exact);
             if (libres.size() == 1)
                 Prendre(i, libres.front());
             else if (!libres.empty())
@@ -127,21 +138,22 @@ struct Recherche {
                 std::any_of(etiquettes.begin(), etiquettes.end(),
                             [&fiche](const QslSlotRecord& e) { return Exact(fiche, e); });
             if (EstEnCours(fiche) && !reclame)
-                Prendre(i, k);
-            else
-                exacts[i].autres = exacts[i].autres || !(EstVierge(fiche) || reclame);
+                Prendre(i, {k, Correspondance::Unique, fiche});
+            else if (!EstVierge(fiche) && !reclame)
+                exacts[i].autres |= MemeMoment(fiche, etiquettes[i]);
         }
     }
 
     // Why what is left has no contact.
     void Motiver() {
         for (std::size_t i = 0; i < etiquettes.size(); ++i)
-            if (SansReponse(i) &&
-                (exacts[i].autres || !exacts[i].enCours.empty() || !exacts[i].vierges.empty()))
+            if (SansReponse(i) && !(exacts[i].enCours.empty() && exacts[i].vierges.empty()))
+                trouves[i].correspondance = Correspondance::DUneAutre;
+            else if (SansReponse(i) && exacts[i].autres)
                 trouves[i].correspondance = Correspondance::DejaMarquee;
     }
 
-    void Prendre(std::size_t i, NumeroFiche k) { trouves[i] = {k, Correspondance::Unique}; }
+    void Prendre(std::size_t i, const ContactTrouve& trouve) { trouves[i] = trouve; }
     [[nodiscard]] bool SansReponse(std::size_t i) const {
         return trouves[i].correspondance == Correspondance::Aucune;
     }
@@ -157,16 +169,6 @@ struct Recherche {
 };
 
 } // namespace
-
-NumeroFiche ContactNumerote(const Cahier& cahier, const QslSlotRecord& etiquette) {
-    const NumeroFiche k = Numero(cahier, etiquette);
-    if (k == kAucuneFiche)
-        return kAucuneFiche;
-    const QsoRecord fiche = FicheDuCahier(cahier, k);
-    const bool meme =
-        MemeIndicatif(fiche, etiquette) || (MomentConnu(etiquette) && MemeMoment(fiche, etiquette));
-    return meme ? k : kAucuneFiche;
-}
 
 std::vector<ContactTrouve> TrouverContacts(const Cahier& cahier,
                                            std::span<const QslSlotRecord> etiquettes) {
@@ -189,6 +191,20 @@ ContactTrouve ContactDeLaPlace(const Cahier& cahier, const FeuilleQSL& feuille, 
     return TrouverContacts(cahier, etiquettes).front();
 }
 
+ContactTrouve ContactDeLaNouvelle(const Cahier& cahier, const FeuilleQSL& feuille, Place place,
+                                  bool telQueCompte) {
+    const QslSlotRecord etiquette = LireEnregistrement(feuille, place);
+    const NumeroFiche k = telQueCompte ? ContactNumerote(cahier, etiquette) : kAucuneFiche;
+    if (k == kAucuneFiche)
+        return ContactDeLaPlace(cahier, feuille, place);
+    const ContactTrouve numerote{k, Correspondance::Unique, FicheDuCahier(cahier, k)};
+    if (Exact(numerote.trouvee, etiquette))
+        return numerote;
+    const ContactTrouve trouve = ContactDeLaPlace(cahier, feuille, place);
+    const bool libre = EstVierge(numerote.trouvee) || EstEnCours(numerote.trouvee);
+    return trouve.correspondance == Correspondance::Aucune && libre ? numerote : trouve;
+}
+
 Place EtiquetteSansMarque(const Cahier& cahier, const FeuilleQSL& feuille, NumeroFiche k) {
     const QsoRecord contact = FicheDuCahier(cahier, k);
     std::vector<Place> places;
@@ -205,7 +221,7 @@ Place EtiquetteSansMarque(const Cahier& cahier, const FeuilleQSL& feuille, Numer
     }
     const std::vector<ContactTrouve> trouves = TrouverContacts(cahier, etiquettes);
     for (std::size_t i = 0; i < places.size(); ++i) {
-        const auto& [fiche, correspondance] = trouves[i];
+        const auto& [fiche, correspondance, trouvee] = trouves[i];
         if (fiche == k || correspondance == Correspondance::Aucune ||
             correspondance == Correspondance::PlusieursVierges)
             return places[i];
@@ -213,11 +229,10 @@ Place EtiquetteSansMarque(const Cahier& cahier, const FeuilleQSL& feuille, Numer
     return kAucunePlace;
 }
 
-bool MarquerContact(Cahier& cahier, NumeroFiche k, std::string_view maQsl) {
-    const QsoRecord trouvee = FicheDuCahier(cahier, k);
-    QsoRecord fiche = trouvee;
+bool MarquerContact(Cahier& cahier, const ContactTrouve& trouve, std::string_view maQsl) {
+    QsoRecord fiche = trouve.trouvee;
     MettreChamp(fiche, Champ::MQSL, maQsl);
-    return CorrigerFiche(cahier, k, trouvee, fiche);
+    return CorrigerFiche(cahier, trouve.fiche, trouve.trouvee, fiche);
 }
 
 } // namespace orvalis

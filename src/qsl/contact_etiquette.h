@@ -22,13 +22,15 @@ enum class Correspondance : unsigned char {
     Unique,           ///< one is: the only one that is ever touched
     Plusieurs,        ///< more than one "En cours" could be
     PlusieursVierges, ///< more than one could be, all with a blank MQSL
-    DejaMarquee       ///< the label's contact has another mark, or is another label's
+    DejaMarquee,      ///< the label's contact has another mark
+    DUneAutre         ///< the label's contact is another label's
 };
 
 /// What was found for a label.
 struct ContactTrouve {
     NumeroFiche fiche; ///< none unless Unique
     Correspondance correspondance = Correspondance::Aucune;
+    QsoRecord trouvee; ///< the contact as it was then
 };
 
 /// The contacts that the labels stand for, one answer for each label. The number on a label goes
@@ -46,9 +48,12 @@ struct ContactTrouve {
 [[nodiscard]] ContactTrouve ContactDeLaPlace(const Cahier& cahier, const FeuilleQSL& feuille,
                                              Place place);
 
-/// The contact that a label just written is for: the one it numbers, whatever its MQSL, when that
-/// has the label's callsign, or its date and time; else none.
-[[nodiscard]] NumeroFiche ContactNumerote(const Cahier& cahier, const QslSlotRecord& etiquette);
+/// The contact that the label just written at `place` is for. While the logbook is what it was when
+/// the label was begun (`telQueCompte`), that is the one it numbers: at once and whatever its MQSL
+/// when callsign, date and time agree; with the callsign, or the date and time, only when no
+/// contact has all three and its MQSL is blank or "En cours". Otherwise as for any other label.
+[[nodiscard]] ContactTrouve ContactDeLaNouvelle(const Cahier& cahier, const FeuilleQSL& feuille,
+                                                Place place, bool telQueCompte);
 
 /// The place of a prepared label that was written for contact `k` while the contact was
 /// never marked (the program was killed in between); none when there is none. Such a label has the
@@ -56,9 +61,10 @@ struct ContactTrouve {
 [[nodiscard]] Place EtiquetteSansMarque(const Cahier& cahier, const FeuilleQSL& feuille,
                                         NumeroFiche k);
 
-/// Sets MQSL of contact `k`, cut to 8 characters; its other bytes stay. The caller flushes
+/// Sets MQSL of a contact found, cut to 8 characters; its other bytes stay. The caller flushes
 /// (SynchroniserCahier), and has the logbook asked for (VerifierCahier) before it looks for the
 /// contact. Returns false, having written nothing, when another program has changed it since.
-[[nodiscard]] bool MarquerContact(Cahier& cahier, NumeroFiche k, std::string_view maQsl);
+[[nodiscard]] bool MarquerContact(Cahier& cahier, const ContactTrouve& trouve,
+                                  std::string_view maQsl);
 
 } // namespace orvalis

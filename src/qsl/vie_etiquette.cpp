@@ -16,6 +16,8 @@ constexpr std::string_view kConsultation = " Consultation seule ! ";
 constexpr std::string_view kMessageConsultation =
     "Ce cahier est ouvert en consultation\u00A0: les étiquettes et les fiches restent inchangées.";
 constexpr std::string_view kRienDeFait = " Rien n'a été écrit ni imprimé.";
+constexpr std::string_view kRienDeMarque =
+    " Aucune fiche n'a été marquée\u00A0: les étiquettes imprimées restent à contrôler.";
 
 // During a review NrTag names the label that may be erased: the search waits for its end.
 void ChercherPlace(FeuilleQSL& feuille) {
@@ -59,11 +61,11 @@ bool Accorder(FeuilleQSL& feuille, ReponseQSL& reponse) {
     return false;
 }
 
-// The same before a place is written, printed or freed, which is then left undone.
-bool PeutToucher(FeuilleQSL& feuille, ReponseQSL& reponse) {
+// The same before a place is written, printed or freed, which is then left undone, as `rien` says.
+bool PeutToucher(FeuilleQSL& feuille, ReponseQSL& reponse, std::string_view rien = kRienDeFait) {
     const bool accordee = Accorder(feuille, reponse);
     if (!accordee)
-        reponse.message += kRienDeFait;
+        reponse.message += rien;
     return accordee;
 }
 
@@ -79,6 +81,7 @@ std::string Rappel(Place place, const QslSlotRecord& etiquette, Correspondance p
     const std::string_view raison =
         pourquoi == Correspondance::DejaMarquee
             ? "la fiche qui lui correspond est déjà marquée, elle n'a pas été modifiée."
+        : pourquoi == Correspondance::DUneAutre ? "sa fiche est déjà celle d'une autre étiquette."
         : plusieurs ? "plusieurs fiches du cahier lui correspondent, aucune n'a été modifiée."
                     : "aucune fiche du cahier ne lui correspond, aucune n'a été modifiée.";
     return LegendeEtiquette(place) + (quoi.empty() ? "" : " (" + quoi + ")") +
@@ -88,8 +91,7 @@ std::string Rappel(Place place, const QslSlotRecord& etiquette, Correspondance p
 // Sets MQSL of the contact of the label at `place`, or tells why there is none.
 void Marquer(Cahier& cahier, const ContactTrouve& trouve, std::string_view maQsl, Place place,
              const QslSlotRecord& etiquette, ReponseQSL& reponse) {
-    if (trouve.correspondance == Correspondance::Unique &&
-        MarquerContact(cahier, trouve.fiche, maQsl)) {
+    if (trouve.correspondance == Correspondance::Unique && MarquerContact(cahier, trouve, maQsl)) {
         reponse.marque = true;
         return;
     }
@@ -169,7 +171,7 @@ ReponseClic PreparerEtiquette(Cahier& cahier, FeuilleQSL& feuille, NumeroFiche k
     static_cast<void>(Accorder(feuille, clic.reponse));
     if (EtiquetteSansMarque(cahier, feuille, k) != kAucunePlace) {
         clic.suite = SuiteClic::Retabli;
-        clic.reponse.marque = MarquerContact(cahier, k, kEnCours);
+        clic.reponse.marque = MarquerContact(cahier, {k, Correspondance::Unique, fiche}, kEnCours);
         SynchroniserCahier(cahier);
         return clic;
     }
@@ -251,7 +253,9 @@ ReponseQSL ValiderEtiquette(Cahier& cahier, FeuilleQSL& feuille) {
         feuille.vue.nrTag = refus;
         return reponse;
     }
-    VerifierCahier(cahier); // before the sheet is written for one of its contacts
+    // Before the sheet is written for one of its contacts.
+    const bool telQueCompte = EstTelQueCompte(cahier);
+    VerifierCahier(cahier);
     if (feuille.voie != VoieQSL::Aucune)
         feuille.boites[kBoiteManager] = feuille.voie == VoieQSL::Direct ? kVoieDirect : kVoieBureau;
     feuille.etiquetteEnCours = place;
@@ -261,11 +265,8 @@ ReponseQSL ValiderEtiquette(Cahier& cahier, FeuilleQSL& feuille) {
     LireEtiquette(feuille, place);
     feuille.etats[EtatFeuille::Rang(place)] = EtatEtiquette::Preparee;
     feuille.indicatifs[EtatFeuille::Rang(place)] = feuille.boites[kBoiteIndicatif];
-    const NumeroFiche numerotee = ContactNumerote(cahier, feuille.tampon);
-    const ContactTrouve trouve = numerotee == kAucuneFiche
-                                     ? ContactDeLaPlace(cahier, feuille, place)
-                                     : ContactTrouve{numerotee, Correspondance::Unique};
-    Marquer(cahier, trouve, kEnCours, place, feuille.tampon, reponse);
+    Marquer(cahier, ContactDeLaNouvelle(cahier, feuille, place, telQueCompte), kEnCours, place,
+            feuille.tampon, reponse);
     SynchroniserCahier(cahier);
     ControlerImpression(feuille);
     QuitterFeuille(feuille);
@@ -364,7 +365,7 @@ ReponseQSL ToutEstParfait(Cahier& cahier, FeuilleQSL& feuille, std::string_view 
         reponse.message = kMessageConsultation;
         return reponse;
     }
-    if (!PeutToucher(feuille, reponse))
+    if (!PeutToucher(feuille, reponse, kRienDeMarque))
         return reponse;
     VerifierCahier(cahier);
     const std::vector<Place> places = EtiquettesAImprimer(feuille);

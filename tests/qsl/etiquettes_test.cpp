@@ -189,6 +189,12 @@ TEST(FluxEtiquettes, PlacerUneEtiquette) {
      -> F18h E | F18h | quitter imprimer "N° 1"
  by hand, dated : F18h J | | tag 1; boite 1 F; boite 2 21/11/26; boite 3 18; valider
      -> F18h J | F18h | quitter imprimer "N° 1" dit N° 1 (F 21/11/26 18) la
+ another callsign : F18h | | fiche 1; boite 1 P; valider
+     -> F18h E | P18h 1 | quitter imprimer "N° 1"
+ of a twin : F18h, F09h | | fiche 1; boite 3 09; valider
+     -> F18h, F09h E | F09h 1 | quitter imprimer "N° 1"
+ numbered, dated : F18h J | | tag 1; boite 1 F; boite 2 21/11/26; boite 3 09; boite 11 1; valider
+     -> F18h J | F09h 1 | quitter imprimer "N° 1" dit N° 1 (F 21/11/26 09) aucune
  elsewhere : F18h | | fiche 1; autre; valider -> panneau quitter " Consultation seule ! "
  dated : F18h J | | fiche 1 -> quitter ""
  another logbook : F18h | | autre; fiche 1 -> quitter "")");
@@ -222,13 +228,16 @@ TEST(FluxEtiquettes, ContactDUneEtiquetteImprimee) {
  other mark : A17h E, F18h X | F18h 2 -> A17h E, F18h X | | quitter "" dit N° 1 (F 21/11/26 18) la
  other hour : A17h E, F16h E | F18h 1
      -> A17h E, F16h E | | quitter "" dit N° 1 (F 21/11/26 18) aucune
- corrected and dated : F16h X | F18h 1 -> F16h X | | quitter "" dit N° 1 (F 21/11/26 18) la
+ corrected and dated : F16h X | F18h 1 -> F16h X | | quitter "" dit N° 1 (F 21/11/26 18) aucune
+ renamed and dated : P18h X | F18h 1 -> P18h X | | quitter "" dit N° 1 (F 21/11/26 18) la
  corrected, no mark : F16h | F18h 1 -> F16h | | quitter "" dit N° 1 (F 21/11/26 18) aucune
  twins : A17h E, F18h E, F18h E | F18h 1 -> A17h E, F18h E, F18h E | | quitter ""
      dit N° 1 (F 21/11/26 18) plusieurs
  two labels : A17h E, F18h E | F18h 2, F18h 1
-     -> A17h E, F18h J | | quitter "" dit N° 2 (F 21/11/26 18) la
- two stale labels : F18h E | F18h 8, F18h 9 -> F18h J | | quitter "" dit N° 2 (F 21/11/26 18) la
+     -> A17h E, F18h J | | quitter "" dit N° 2 (F 21/11/26 18) sa
+ two of one number : A17h E, F18h E | F18h 2, F18h 2
+     -> A17h E, F18h J | | quitter "" dit N° 2 (F 21/11/26 18) sa
+ two stale labels : F18h E | F18h 8, F18h 9 -> F18h J | | quitter "" dit N° 2 (F 21/11/26 18) sa
  twins, another hour : F18h E, F18h E | F18h 8, F09h 1
      -> F18h E, F18h E | | quitter "" dit N° 1 (F 21/11/26 18) plusieurs
      dit N° 2 (F 21/11/26 09) aucune
@@ -256,8 +265,6 @@ TEST(FluxEtiquettes, UneFeuilleChangeeDehorsEstMontreeEtDite) {
  erased : F18h E | F18h 1 | choix 1; dehors 2 Z01h; supprimer
      -> F18h E | F18h 1, Z01h | quitter imprimer "N° 3"
  printed : F18h E | F18h 1 | dehors 2 Z01h; imprimer
-     -> F18h E | F18h 1, Z01h | quitter imprimer "N° 3"
- perfect : F18h E | F18h 1 | imprimer; dehors 2 Z01h; parfait
      -> F18h E | F18h 1, Z01h | quitter imprimer "N° 3")",
             " dit La feuille d'étiquettes a été changée par un autre programme la");
     Essayer("", R"(
@@ -265,13 +272,19 @@ TEST(FluxEtiquettes, UneFeuilleChangeeDehorsEstMontreeEtDite) {
      -> F18h E | Z01h, F18h 1 | quitter imprimer "N° 2"
  another label : F18h E | F18h 1, A17h | imprimer; dehors 1 F16h; parfait
      -> F18h E | F16h, A17h | quitter imprimer "N° 3"
-     dit La feuille d'étiquettes a été changée par un autre programme la F.
+     dit La feuille d'étiquettes a été changée par un autre programme la F. les
  removed : F18h E | F18h 1, Z01h | imprimer; dehors; parfait
-     -> F18h E | | quitter "N° 1" dit La feuille d'étiquettes avait disparu en F,
+     -> F18h E | | quitter "N° 1" dit La feuille d'étiquettes avait disparu en F, les
  removed, all free : F18h | | fiche 1; dehors; valider
      -> panneau quitter "N° 1" dit La feuille d'étiquettes avait disparu en
  removed, placed : F18h | Z01h | fiche 1; dehors; valider; valider
      -> F18h E | F18h 1 | quitter imprimer "N° 1")");
+    ServiceQSL service(Fiches("F18h E"), Feuille(Etiquettes("F18h 1")));
+    service.Faire("imprimer; dehors 2 Z01h");
+    EXPECT_THAT(ToutEstParfait(service.cahier, service.feuille, "J").message,
+                testing::EndsWith("telle qu'elle est. Aucune fiche n'a été marquée\u00A0: les "
+                                  "étiquettes imprimées restent à contrôler."));
+    EXPECT_EQ(Lire(service.cahier.chemin), Fiches("F18h E") + Fin());
 }
 
 // The program was killed after the label was written, before its contact was marked.
@@ -290,6 +303,16 @@ TEST(FluxEtiquettes, UnContactSansMarqueRecoitSaSeuleMarque) {
     const ReponseClic clic = PreparerEtiquette(service.cahier, service.feuille, kPremiereFiche);
     EXPECT_EQ(clic.suite, SuiteClic::Retabli);
     EXPECT_TRUE(clic.reponse.marque);
+}
+
+TEST(FluxEtiquettes, UnContactChangeDepuisLaRechercheResteTelQuel) {
+    ServiceQSL service(Fiches("F18h E"), "");
+    QslSlotRecord cherchee;
+    Etiquettes("F18h 1").copy(cherchee.octets.data(), cherchee.octets.size());
+    const ContactTrouve trouve = TrouverContacts(service.cahier, {&cherchee, 1}).front();
+    service.dossier.Poser("F5ABC.Vek", Fiches("P18h E") + Fin());
+    EXPECT_FALSE(MarquerContact(service.cahier, trouve, "J"));
+    EXPECT_EQ(Lire(service.cahier.chemin), Fiches("P18h E") + Fin());
 }
 
 TEST(FluxEtiquettes, LaFeuilleSeRemplit) {

@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <QDialog>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QTemporaryDir>
 
@@ -37,7 +38,10 @@ class SystemeDEssai : public Systeme {
     void Informer(QWidget* /*parent*/, const QString& titre, const QString& texte) override {
         demandes << titre << texte;
     }
-    void Avertir(QWidget* /*parent*/, const QString& texte) override { avertissements << texte; }
+    void Avertir(QWidget* /*parent*/, const QString& texte) override {
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr) << "under the hourglass " << S(texte);
+        avertissements << texte;
+    }
     [[nodiscard]] QString ChoisirFichier(QWidget* /*parent*/, const DemandeFichier& d) override {
         demandes << Q(d.enregistrer ? "enregistrer" : "ouvrir") << d.dossier << d.nomPropose;
         return fichierChoisi;

@@ -145,9 +145,11 @@ ContactFini FinirContact(const Carte& carte, const Station& station, FinDeSaisie
 std::string ContactANoter(const Carte& carte) {
     if (!carte.saisie.EnSaisie || !carte.saisie.QsoCommence)
         return {};
+    // As it would be stored: remark and manager are those that were last confirmed together.
+    const Zones zones = ZonesDeFiche(FicheDesZones(carte.zones));
     std::string texte = "\n\nLe contact en cours n'est pas enregistré. Notez-le\u00A0:";
     for (const DescriptionBoite& d : kBoites)
-        if (const std::string& zone = carte.zones[d.boite]; !Rogner(zone).empty())
+        if (const std::string& zone = zones[d.boite]; !Rogner(zone).empty())
             texte += "\n" + std::string{d.nom} + "\u00A0: " + zone;
     return texte;
 }

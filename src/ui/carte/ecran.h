@@ -182,6 +182,9 @@ struct Ecran {
     int temoinDemarrage = kDemarrageAFaire;
     bool gel = false;   ///< keyboard and mouse act on nothing but quitting
     bool arret = false; ///< the program is ending: no flow goes on
+    /// The operator knows since he wished to quit that the logbook is lost: once more, and he
+    /// quits.
+    bool perteDite = false;
     ListeDuCahier liste;
     PanneauRecherche recherche;
     bool activeRech = false; ///< "Voir contacts réalisés" is on show

@@ -5,6 +5,7 @@
 #include "ui/carte/saisie.h"
 #include "ui/fenetre/cadre.h"
 #include "ui/fenetre/designateur.h"
+#include "ui/flux/conduite.h"
 #include "ui/flux/flux_demarrage.h"
 #include "ui/flux/flux_fichiers.h"
 #include "ui/panneaux/fra_msg_fiche.h"
@@ -271,7 +272,8 @@ void Orvalis::Executer(const Action& flux, QuandGele quand) {
             Peindre();
     } catch (const CahierPerdu& perdu) {
         // Nothing was written, and the file that is still open is the last that has every contact.
-        exterieur_.Avertir(this, Q(perdu.what()));
+        exterieur_.Avertir(this, Q(perdu.what() + ContactANoter(session_.carte)));
+        RetrouverFoyer(p_);
         if (profondeur_ == 1)
             Peindre();
     } catch (const std::exception& echec) {
@@ -332,8 +334,14 @@ void Orvalis::LancerDemarrage() {
 }
 
 void Orvalis::closeEvent(QCloseEvent* evenement) {
-    evenement->accept();
-    Executer([this] { QuitterProgramme(p_, 0); }, QuandGele::Oui);
+    bool reste = false;
+    const auto fermer = [&] {
+        reste = true;
+        FermerCahierEtQuitter(p_);
+        reste = false;
+    };
+    Executer(fermer, QuandGele::Oui);
+    evenement->setAccepted(!reste || ecran_.arret);
 }
 
 // Enter on a button, or its mnemonic, presses it at once: the usual animation would let the next

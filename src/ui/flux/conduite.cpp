@@ -28,6 +28,16 @@ void LacherFoyer(Plateau& p) {
     LacherFoyer(p.session.carte, p.ecran);
 }
 
+void RetrouverFoyer(Plateau& p) {
+    const EtatSaisie& saisie = p.session.carte.saisie;
+    if (p.ecran.foyer.ici != Foyer{})
+        return;
+    if (saisie.EnSaisie)
+        DonnerFoyer(p, p.ecran.suivantArme ? Foyer{Cible::Suivant} : SurBoite(saisie.DerniereZone));
+    else
+        DonnerFoyer(p, {p.ecran.question ? Cible::Non : Cible::Liste});
+}
+
 Gel::Gel(Ecran& ecran) : ecran_(ecran), avant_(std::exchange(ecran.gel, true)) {}
 
 Gel::~Gel() {

@@ -15,6 +15,9 @@ void DonnerFoyer(Plateau& p, const Foyer& cible);
 /// Takes the focus away: the box that has it shows its slot again.
 void LacherFoyer(Plateau& p);
 
+/// Where the operator goes on after a flow that has let the focus go and was broken off.
+void RetrouverFoyer(Plateau& p);
+
 /// While one lives, keyboard and mouse act on nothing but quitting.
 class Gel {
   public:

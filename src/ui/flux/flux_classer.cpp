@@ -3,6 +3,7 @@
 #include "maint/tri.h"
 #include "ui/bureau/sablier.h"
 #include "ui/bureau/systeme.h"
+#include "ui/bureau/texte_qt.h"
 #include "ui/carte/conseil.h"
 #include "ui/carte/foyer.h"
 #include "ui/flux/conduite.h"
@@ -31,13 +32,16 @@ bool Regarder(Plateau& p) {
     return !p.ecran.arret;
 }
 
-void Trier(Plateau& p) {
+// Returns false when another program has stopped it.
+bool Trier(Plateau& p) {
+    const Sablier sablier;
+    const Gel gel(p.ecran);
     PanneauClasser& classer = p.ecran.classer;
     Tri tri(p.session.cahier);
     while (!tri.Etat().termine) {
         Montrer(classer, tri.Etat().passe, tri.Etat());
         if (!Regarder(p))
-            return;
+            return true;
         QElapsedTimer depuis;
         depuis.start();
         // Each pass shows its word, however short it is.
@@ -45,20 +49,26 @@ void Trier(Plateau& p) {
         while (!tri.Etat().termine && tri.Etat().passe == passe && depuis.elapsed() < kRythmeMs)
             tri.Avancer(kPasParRegard);
     }
-    if (tri.Etat().interrompu) {
-        VerifierCahier(p.session.cahier); // says more where there is no logbook left
-        p.systeme.Avertir(&p.fenetre,
-                          QStringLiteral("Un autre programme a modifié le cahier\u00A0: le "
-                                         "classement est arrêté. Vérifiez le cahier, "
-                                         "puis classez-le de nouveau."));
-        return;
-    }
+    if (tri.Etat().interrompu)
+        return false;
     Montrer(classer, kNbPasses, tri.Etat());
     if (!Regarder(p))
-        return;
+        return true;
     const std::int64_t echanges = tri.Etat().echanges;
     Annoncer(p.ecran, echanges == 0 ? "Le cahier était déjà en ordre"
                                     : "Cahier classé en " + Compte(echanges, "échange"));
+    return true;
+}
+
+void DireArrete(Plateau& p) {
+    std::string message = "Un autre programme a modifié le cahier\u00A0: le classement est arrêté. "
+                          "Vérifiez le cahier, puis classez-le de nouveau.";
+    try {
+        ExigerCahier(p.session.cahier);
+    } catch (const CahierPerdu& perdu) { // no logbook is left to be sorted again
+        message = std::string("Le classement est arrêté. ") + perdu.what();
+    }
+    p.systeme.Avertir(&p.fenetre, Q(message));
 }
 
 } // namespace
@@ -81,12 +91,9 @@ void Classer(Plateau& p) {
     e.recherche.montre = false;
     e.jumelage.montre = false;
     e.classer = {true, " QRX ,Je classe !", std::to_string(p.session.cahier.nbFiches), {}, {}};
-    {
-        const Sablier sablier;
-        const Gel gel(e);
-        // Storage that cannot be mapped cannot be sorted; nothing else is the matter with it.
-        static_cast<void>(Essayer(p, [&] { Trier(p); }));
-    }
+    bool entier = true;
+    // Storage that cannot be mapped cannot be sorted; nothing else is the matter with it.
+    static_cast<void>(Essayer(p, [&] { entier = Trier(p); }));
     if (e.arret)
         return;
     RelireCahier(p);
@@ -97,6 +104,8 @@ void Classer(Plateau& p) {
     // sort.
     e.activeRech = false;
     DonnerFoyer(p, {Cible::Liste});
+    if (!entier)
+        DireArrete(p);
 }
 
 } // namespace orvalis

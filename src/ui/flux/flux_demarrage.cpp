@@ -14,6 +14,8 @@
 #include "ui/flux/flux_navigation.h"
 #include "ui/flux/flux_qsl.h"
 
+#include <utility>
+
 namespace orvalis {
 namespace fs = std::filesystem;
 namespace {
@@ -28,6 +30,8 @@ std::string Titre(const Station& station) {
 Demarrage ChargerParametres(Plateau& p) {
     Station& station = p.session.station;
     Cahier& cahier = p.session.cahier;
+    if (cahier.EstLeNotre())
+        ExigerCahier(cahier);
     station.lecteur = p.systeme.Lecteur();
     const fs::path dossier = DossierProgramme(station.lecteur);
     const fs::path chemin = TrouverParametres(dossier);
@@ -87,6 +91,13 @@ void AfficherHeure(Plateau& p) {
 
 void QuitterOrvalis(Plateau& p) {
     p.fermer();
+}
+
+void FermerCahierEtQuitter(Plateau& p) {
+    // Another logbook than our own may be on a stick that was pulled.
+    if (p.session.cahier.EstLeNotre() && !std::exchange(p.ecran.perteDite, true))
+        ExigerCahier(p.session.cahier);
+    QuitterProgramme(p, 0);
 }
 
 void QuitterProgramme(Plateau& p, int code) {

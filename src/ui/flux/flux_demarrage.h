@@ -13,7 +13,8 @@ void Demarrer(Plateau& p);
 
 /// Reads the Settings file, opens the logbook it names and shows it (Pret). Without program folder
 /// or Settings file the creation dialog runs first: Recommencer once it has written them, Arreter
-/// when the operator gave up. Throws Erreur.
+/// when the operator gave up. Throws
+/// Erreur; CahierPerdu, having let go nothing, when the own logbook was open and is lost.
 [[nodiscard]] Demarrage ChargerParametres(Plateau& p);
 
 /// Fills the window from the open logbook.
@@ -24,6 +25,10 @@ void AfficherHeure(Plateau& p);
 
 /// MnuQuitter and BtFermerLog.
 void QuitterOrvalis(Plateau& p);
+
+/// Ends the program; when the own logbook is lost, CahierPerdu is thrown the first time and the
+/// program goes on.
+void FermerCahierEtQuitter(Plateau& p);
 
 /// Closes every file, says goodbye and ends the program at once, without a question.
 void QuitterProgramme(Plateau& p, int code);

@@ -22,6 +22,23 @@ QString NomDuFichier(const Session& session) {
     return Q(session.cahier.chemin.filename().string());
 }
 
+// Backup and copy take what is there now; where that is not to be had, the operator is told and
+// the file that is still open is copied. A correction that waits for an answer goes on waiting.
+void VerifierAvantCopie(Plateau& p) {
+    if (EstTelQueCompte(p.session.cahier))
+        return;
+    try {
+        VerifierCahier(p.session.cahier);
+    } catch (const CahierPerdu& perdu) {
+        p.systeme.Avertir(&p.fenetre, Q(perdu.what()));
+        return;
+    }
+    if (p.session.carte.saisie.NbModifs != 0 || p.ecran.question)
+        RelirePage(p);
+    else
+        RelireCahier(p);
+}
+
 // Returns whether there is a copy; `fait` says so, its place and contacts behind it.
 bool CopierVers(Plateau& p, const DemandeFichier& demande, std::string_view fait) {
     const Cahier& cahier = p.session.cahier;

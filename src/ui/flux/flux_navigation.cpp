@@ -123,15 +123,11 @@ void DireFicheChangee(Plateau& p) {
             .arg(k.Valeur()));
 }
 
-void VerifierAvantCopie(Plateau& p) {
-    const bool change = !EstTelQueCompte(p.session.cahier);
-    try {
-        VerifierCahier(p.session.cahier);
-    } catch (const CahierPerdu& perdu) {
-        p.systeme.Avertir(&p.fenetre, Q(perdu.what()));
-    }
-    if (change)
-        RelireCahier(p);
+void RelirePage(Plateau& p) {
+    const int ligne = p.ecran.liste.choisie;
+    MontrerPage(p, std::min(p.session.page.numero, NbPages(p.session.cahier)));
+    if (ligne <= DerniereLigne(p))
+        p.ecran.liste.choisie = ligne;
 }
 
 void ChoisirFiche(Plateau& p, NumeroFiche k) {

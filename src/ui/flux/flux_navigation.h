@@ -21,9 +21,9 @@ void RelireCahier(Plateau& p, std::int32_t page = std::numeric_limits<std::int32
 /// shows the card anew and tells the operator.
 void DireFicheChangee(Plateau& p);
 
-/// Backup and copy take what is there now; where that is not to be had, the operator is told and
-/// the file that is still open is copied.
-void VerifierAvantCopie(Plateau& p);
+/// The page on show, or the last one when there are fewer, read again; the line that was selected
+/// stays selected, and the card as it is.
+void RelirePage(Plateau& p);
 
 /// Line (from 0) of record `k` in the list; -1 when the page on show does not hold it.
 [[nodiscard]] int LigneDeFiche(const Plateau& p, NumeroFiche k);

@@ -19,12 +19,22 @@
 namespace orvalis {
 namespace {
 
-// The page on show and the card, read again; the line that was selected stays selected.
+// Whether what was done began by counting anew a logbook that another program had changed.
+bool Recompte(const Plateau& p) {
+    return p.ecran.liste.nbFiches != p.session.cahier.nbFiches;
+}
+
+// The page on show and the card, read again; the contact that was chosen stays chosen while there
+// is one of its number on the page.
 void Rafraichir(Plateau& p) {
-    const int ligne = p.ecran.liste.choisie;
-    MontrerPage(p, p.session.page.numero);
-    p.ecran.liste.choisie = ligne;
-    AfficherFiche(p);
+    if (!Recompte(p)) {
+        RelirePage(p);
+        return AfficherFiche(p);
+    }
+    const NumeroFiche k = p.session.carte.ficheCourante;
+    RelireCahier(p, p.session.page.numero);
+    if (LigneDeFiche(p, k) >= 0)
+        ChoisirRangee(p, k);
 }
 
 // Runs what may open or close the panel: list and focus follow it.
@@ -46,7 +56,9 @@ ReponseQSL Repondre(Plateau& p, const std::function<ReponseQSL()>& action) {
     ReponseQSL reponse;
     AgirSurLaFeuille(p, [&] {
         reponse = action();
-        if (reponse.marque)
+        if (Recompte(p))
+            Rafraichir(p);
+        else if (reponse.marque)
             AfficherFiche(p);
     });
     if (!reponse.message.empty())
