@@ -129,7 +129,7 @@ namespace {
 void Reparer(const std::function<void()>& reparer) {
     try {
         reparer();
-    } catch (const Erreur&) { // NOLINT(bugprone-empty-catch)
+    } catch (...) { // NOLINT(bugprone-empty-catch)
     }
 }
 
@@ -142,7 +142,7 @@ void AllongerCahier(Cahier& cahier, const std::function<void()>& ecrire) {
     const std::int64_t taille = fichier.Support().Taille();
     try {
         ecrire();
-    } catch (const Erreur&) {
+    } catch (...) { // memory may run out too
         Reparer([&] {
             if (PositionFiche(k) < taille)
                 fichier.Ecrire(k, fin);
@@ -219,7 +219,7 @@ bool SupprimerFiche(Cahier& cahier, NumeroFiche k, const QsoRecord& montree,
         suppression.Descendre();
         cahier.fichier.Ecrire(derniere, FicheFinDeLog(monLocator));
         SynchroniserCahier(cahier);
-    } catch (const Erreur&) {
+    } catch (...) { // memory may run out too
         Reparer([&] { suppression.Revenir(); });
         throw;
     }

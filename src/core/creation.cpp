@@ -35,12 +35,14 @@ bool CreerCahier(const fs::path& lecteur, const Parametres& parametres) {
     return true;
 }
 
-std::int32_t ContactsDejaLa(const fs::path& lecteur, std::string_view nomFichier) {
+CahierDejaLa ContactsDejaLa(const fs::path& lecteur, std::string_view nomFichier) {
     try {
         const fs::path chemin = TrouverFichier(DossierProgramme(lecteur), nomFichier);
-        return Present(chemin) ? FichierFiches(chemin, ModeFichier::Lecture).Compter() : 0;
+        if (!Present(chemin))
+            return {};
+        return {chemin.filename().string(), FichierFiches(chemin, ModeFichier::Lecture).Compter()};
     } catch (const std::exception&) {
-        return 0; // the creation itself will say what is wrong with it
+        return {}; // the creation itself will say what is wrong with it
     }
 }
 

@@ -16,9 +16,15 @@ namespace orvalis {
 /// may then be there, empty.
 [[nodiscard]] bool CreerCahier(const std::filesystem::path& lecteur, const Parametres& parametres);
 
-/// Contacts in a logbook that a creation under the name `nomFichier` would put out of sight; 0
-/// where there is no such file or none that can be counted.
-[[nodiscard]] std::int32_t ContactsDejaLa(const std::filesystem::path& lecteur,
+/// A logbook whose contacts a creation would put out of sight, under its own name, which may be
+/// another in upper and lower case than that of the creation.
+struct CahierDejaLa {
+    std::string nom;
+    std::int32_t contacts = 0;
+};
+/// What a creation under the name `nomFichier` would meet; without contacts where there is no such
+/// file or none that can be counted.
+[[nodiscard]] CahierDejaLa ContactsDejaLa(const std::filesystem::path& lecteur,
                                           std::string_view nomFichier);
 
 /// Whether the length of a callsign passes there.

@@ -33,8 +33,8 @@ int Drapeaux(ModeFichier mode) {
 bool ALaPlace(int descripteur, const struct stat& etat, std::int64_t fin) {
     constexpr std::int64_t kBloc = 512; // of st_blocks, whatever the file system
     struct statvfs disque = {};
-    if (::fstatvfs(descripteur, &disque) != 0)
-        return true;
+    if (::fstatvfs(descripteur, &disque) != 0 || disque.f_blocks == 0)
+        return true; // it does not say
     const auto libres = static_cast<double>(disque.f_bavail) * static_cast<double>(disque.f_frsize);
     return static_cast<double>(fin - etat.st_blocks * kBloc) <= libres;
 }

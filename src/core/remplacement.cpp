@@ -5,11 +5,22 @@
 namespace orvalis {
 namespace fs = std::filesystem;
 
+namespace {
+
+// What a link stands for in the end, whether it is there yet or not.
+fs::path Suivre(fs::path chemin) {
+    constexpr int kLiens = 40; // as far as the system follows them
+    std::error_code erreur;
+    for (int i = 0; i < kLiens && fs::is_symlink(chemin, erreur); ++i)
+        chemin = chemin.parent_path() / fs::read_symlink(chemin, erreur);
+    return chemin;
+}
+
+} // namespace
+
 void RemplacerFichier(const fs::path& chemin, std::string_view octets) {
     std::error_code erreur;
-    fs::path reel = fs::canonical(chemin, erreur);
-    if (erreur)
-        reel = chemin; // not there yet
+    const fs::path reel = Suivre(chemin);
     const fs::path provisoire = fs::path(reel) += ".tmp";
     fs::remove(provisoire, erreur);
     try {

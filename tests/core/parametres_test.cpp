@@ -3,6 +3,7 @@
 #include "core/creation.h"
 #include "core/dossier.h"
 #include "core/parametres.h"
+#include "core/remplacement.h"
 #include "ui/carte/locator_station.h"
 
 namespace orvalis::aides::parametres {
@@ -108,6 +109,15 @@ TEST(LocatorStation, LesAutresReglagesRestentCeuxDuFichier) {
     Carte carte;
     ChangerLocatorStation(station, carte, " JN05BB ", true);
     EXPECT_EQ(Lire(chemin), "\"A\",\"B.Vek\",\"JN05BB\"\r\n");
+    std::filesystem::remove(chemin);
+    const auto cible = lecteur.Poser("Ailleurs.cfg", "");
+    std::filesystem::create_symlink("../Ailleurs.cfg", chemin);
+    for (const std::string octets : {"ancien", "nouveau"}) { // the second, its target missing
+        RemplacerFichier(chemin, octets);
+        EXPECT_TRUE(std::filesystem::is_symlink(chemin));
+        EXPECT_EQ(Lire(cible), octets);
+        std::filesystem::remove(cible);
+    }
     std::filesystem::remove(chemin);
     EXPECT_THROW(ChangerLocatorStation(station, carte, "AA00AA", true), Erreur);
     EXPECT_EQ(station.monLocator, "JN05BB");

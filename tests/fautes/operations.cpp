@@ -71,6 +71,8 @@ std::vector<Operation> Operations() {
          1},
         {"etiquettes-imprimees", c25, etiquettes + "BtPrintQSL", "clic BtCtrl_Parfait",
          vek + " " + feuille, 3},
+        {"etiquette-retablie", c25, "ligne 1; clic TxtField_14; touche Delete, Return, Alt+O",
+         "clic TxtField_14", vek, 1},
         {"demarrage", Contacts(2) + fin, "", "",
          "Orvalis/FeuilleQSL.txt.tmp Orvalis/FeuilleQSL.txt.tmp! Orvalis/FeuilleQSL.txt> Orvalis!"},
         {"creation", "", "", kCreer, parametres + " " + vek + " Orvalis! .!"}};

@@ -11,8 +11,11 @@
 #include <unistd.h>
 
 // What the system refuses: reserving room, every write from the one of that number on, opening for
-// writing in a folder "protege"; the file system counts no free blocks while it reserves nothing.
-static struct { int reserver, ecriture; } refus;
+// writing in a folder "protege"; and what blocks the file system says it has, and has free.
+static struct {
+    int reserver, ecriture;
+    unsigned blocs, libres;
+} refus;
 
 extern "C" int fallocate(int, int, off_t, off_t) {
     errno = refus.reserver;
@@ -20,6 +23,9 @@ extern "C" int fallocate(int, int, off_t, off_t) {
 }
 extern "C" int fstatvfs(int, struct statvfs* disque) noexcept {
     *disque = {};
+    disque->f_blocks = refus.blocs;
+    disque->f_bavail = refus.libres;
+    disque->f_frsize = 1 << 20;
     return 0;
 }
 extern "C" ssize_t pwrite(int f, const void* octets, std::size_t n, off_t position) {
@@ -109,7 +115,7 @@ TEST(Copie, EchecsDits) {
         fs::create_symlink(dossier / "N.Vek", dossier / "Lien.Vek");
         for (const auto& [nom, dit] :
              Textes{{"Ancienne.Vek", avecAncienne}, {"N.Vek", sans}, {"Lien.Vek", sans}}) {
-            refus = {reserver, ecriture};
+            refus = {reserver, ecriture, 1, 0};
             const fs::path chemin = dossier / nom;
             EXPECT_THAT([&] { CopierCahier(cahier, MaStation(), chemin); },
                         ThrowsMessage<Erreur>(HasSubstr(dit)));
@@ -117,6 +123,12 @@ TEST(Copie, EchecsDits) {
         refus = {};
         EXPECT_EQ(Lire(cible) == ancienne, avecAncienne == entier);
         EXPECT_FALSE(fs::exists(dossier / "N.Vek"));
+        for (const unsigned blocs : {0U, 1U}) { // one that does not say, one that has room
+            refus = {EOPNOTSUPP, 0, blocs, blocs};
+            EXPECT_NO_THROW(CopierCahier(cahier, MaStation(), dossier / "N.Vek"));
+            EXPECT_EQ(Lire(dossier / "N.Vek"), gros);
+        }
+        refus = {};
     }
 }
 
@@ -196,6 +208,12 @@ TEST(Echecs, UnDisquePleinRendLeCahierTelQuIlEtait) {
         for (const std::size_t place : {0, 1, 107, 165, 200}) {
             const DisquePlein plein(avant.size() + place);
             EXPECT_THROW(JumelerCahier(cahier, MaStation(), source), Erreur);
+            EXPECT_EQ(Lire(cahier.chemin), avant) << place;
+            const auto interrompre = [&] {
+                cahier.fichier.Ecrire(cahier.Prochaine(), Enregistrement(a));
+                throw std::bad_alloc();
+            };
+            EXPECT_THROW(AllongerCahier(cahier, interrompre), std::exception);
             EXPECT_EQ(Lire(cahier.chemin), avant) << place;
             if (place > 164)
                 continue;

@@ -3,6 +3,13 @@
 
 #include <set>
 
+static int synchronisations = 0;
+
+extern "C" int fdatasync(int f) {
+    ++synchronisations;
+    return static_cast<int>(::syscall(SYS_fdatasync, f));
+}
+
 namespace orvalis::aides::tri {
 
 constexpr std::int64_t kToutDroit = 1'000'000'000;
@@ -109,7 +116,9 @@ TEST(Tri, UnCahierChangeParUnAutreProgrammeNEstPlusTouche) {
         cahier.tri.Avancer(10);
         EXPECT_FALSE(cahier.tri.Etat().interrompu);
         static_cast<void>(cahier.dossier.Poser("J.Vek", change));
+        synchronisations = 0;
         cahier.tri.Avancer(10);
+        EXPECT_EQ(synchronisations, 1) << "what was sorted until then is flushed";
         EXPECT_TRUE(cahier.tri.Etat().interrompu && cahier.tri.Etat().termine);
         EXPECT_EQ(cahier.Octets(), change);
     }

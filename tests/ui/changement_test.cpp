@@ -156,7 +156,9 @@ TEST(Changement, UnClassementSArrete) {
 
 TEST(Changement, UnDisquePleinFaitNoterLeContact) {
     Banc banc(Contacts(3) + kFin);
-    banc.Suivre("typed : " + kSaisie + " ->");
+    // The manager is that of the contact before: what is stored holds it, and no box shows it.
+    banc.Suivre("typed : " + kSaisie + "; clic BtEnrSuivant; valide f6new, , , , 57, jean, lyon, " +
+                "69, jn25ab, rien -> TxtField_17 =");
     {
         const aides::DisquePlein plein(banc.OctetsCahier().size() + 107);
         banc.Suivre(R"(told : clic BtEnrSuivant -> averti = "Impossible d'écrire dans le fichier
@@ -167,7 +169,7 @@ TEST(Changement, UnDisquePleinFaitNoterLeContact) {
      RIEN\nMon locator : JN04SD\nQSL manager : F5XYZ")");
     }
     EXPECT_EQ(banc.systeme.codeDeFin, 1);
-    EXPECT_EQ(banc.OctetsCahier(), Contacts(3) + kFin);
+    EXPECT_EQ(banc.OctetsCahier(), Contacts(3) + kNouveau + kFin);
 }
 
 } // namespace orvalis::operateur::changement

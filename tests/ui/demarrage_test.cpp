@@ -44,7 +44,7 @@ TEST(Demarrage, PremierLancementCreeLeCahierPuisLOuvre) {
 }
 
 TEST(Demarrage, CahierDejaLaSansParametres) {
-    const std::string perdus = "Dlg1Fra3Lab3 contient \"F5ABC.Vek contient déjà ";
+    const std::string perdus = "Dlg1Fra3Lab3 contient \"Le fichier f5abc.VEK contient déjà ";
     for (const auto& [octets, avis] : aides::Textes{
              {Contacts(40) + Fin(), perdus + "40 contacts : le premier sera remplacé et les "
                                              "autres ne se verront plus.\""},
@@ -53,10 +53,11 @@ TEST(Demarrage, CahierDejaLaSansParametres) {
         Banc banc;
         banc.Installer(octets);
         std::filesystem::remove(banc.Dossier() / "Parvel.cfg");
-        const Cahier autreProgramme = aides::Ouvrir(banc.Dossier() / "F5ABC.Vek");
+        std::filesystem::rename(banc.Dossier() / "F5ABC.Vek", banc.Dossier() / "f5abc.VEK");
+        const Cahier autreProgramme = aides::Ouvrir(banc.Dossier() / "f5abc.VEK");
         DansLaCreation(banc, "told : valide f5abc, jn04sd -> " + avis);
         banc.Ouvrir();
-        EXPECT_EQ(banc.OctetsCahier(), octets);
+        EXPECT_EQ(banc.Lire("f5abc.VEK"), octets);
     }
 }
 

@@ -7,9 +7,6 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include <csignal>
-#include <sys/resource.h>
-
 namespace orvalis::aides::imprimante_qt {
 
 using namespace testing;
@@ -96,12 +93,19 @@ TEST_F(ImprimanteQtTest, DisquePleinPuisLibere) {
         imprimante.TerminerDocument();
     };
     imprimer("premier");
-    std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit plein{2000, RLIM_INFINITY};
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &plein), 0);
-    EXPECT_THROW(imprimer("second"), Erreur);
-    const rlimit libre{RLIM_INFINITY, RLIM_INFINITY};
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &libre), 0);
+    {
+        const DisquePlein plein(2000);
+        EXPECT_THAT([&] { imprimer("second"); },
+                    ThrowsMessage<Erreur>(AllOf(HasSubstr("/orvalis*.pdf"), HasSubstr("plein"))));
+    }
+    EXPECT_THAT(Relire(), Porte("premier", 1440, 2880));
+    {
+        const SansPrivileges sans;
+        QFile::setPermissions(dossier.path(), QFile::ReadOwner | QFile::ExeOwner);
+        EXPECT_THROW(imprimer("second"), Erreur) << "only written into the file as it is";
+        QFile::setPermissions(dossier.path(),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
     EXPECT_THAT(Relire(), Porte("premier", 1440, 2880));
     imprimer("second");
     EXPECT_THAT(Relire(), Porte("second", 1440, 2880));

@@ -239,4 +239,12 @@ TEST(Recherche, DoublonsEffacesUnParUn) {
      touche Alt+O -> caché PictContacts; actif BtNewQSO)");
 }
 
+TEST(Saisie, QuitterPendantLaSecondeDErreur) {
+    Banc banc(Fin());
+    banc.Suivre("entry : clic BtNewQSO; valide f6new");
+    banc.systeme.pendantPause = [&banc] { banc.Menu("MnuQuitter"); };
+    banc.Suivre("refused : foyer TxtField_10; valide zz99zz -> TxtField_10 = ERREUR");
+    EXPECT_EQ(banc.systeme.codeDeFin, 0);
+}
+
 } // namespace orvalis::operateur::saisie

@@ -16,6 +16,7 @@
 #include <QVariant>
 
 #include <array>
+#include <cerrno>
 #include <memory>
 
 namespace orvalis {
@@ -66,8 +67,7 @@ std::unique_ptr<QPrinter> SortieNeuve(const QPrinter& choisie) {
 bool Livrer(const QString& document, const QString& cible) {
     const QFileInfo la(cible);
     QFile source(document);
-    QSaveFile fichier(cible);
-    fichier.setDirectWriteFallback(true); // a folder that takes no new file
+    QSaveFile fichier(cible); // which a folder that takes no new file refuses
     if ((la.exists() && !la.isFile()) || !source.open(QIODevice::ReadOnly) ||
         !fichier.open(QIODevice::WriteOnly))
         return false;
@@ -82,6 +82,13 @@ bool PdfComplet(const QString& chemin) {
     if (!fichier.open(QIODevice::ReadOnly) || fichier.size() < kQueue)
         return false;
     return fichier.seek(fichier.size() - kQueue) && fichier.readAll().contains("%%EOF");
+}
+
+// The folder where a document is made before it is delivered does not take it.
+Erreur SansProvisoire(int raison) {
+    return {NatureErreur::Creer,
+            QDir::tempPath().toStdString() + "/orvalis*.pdf",
+            {raison, std::generic_category()}};
 }
 
 } // namespace
@@ -125,7 +132,9 @@ void ImprimanteQt::TerminerDocument() {
     const std::unique_ptr<QPrinter> sortie = SortieNeuve(imprimante_);
     QTemporaryFile document(QDir::tempPath() + QStringLiteral("/orvalisXXXXXX.pdf"));
     const bool pdf = EstPdf(imprimante_);
-    if (pdf && document.open())
+    if (pdf && !document.open())
+        throw SansProvisoire(errno);
+    if (pdf)
         sortie->setOutputFileName(document.fileName());
     QPainter peintre;
     if (!sortie->isValid() || !peintre.begin(sortie.get()))
@@ -136,9 +145,10 @@ void ImprimanteQt::TerminerDocument() {
     dessin.Peindre(peintre);
     const bool envoye = peintre.end();
     const QPrinter::PrinterState etat = sortie->printerState();
+    if (pdf && !PdfComplet(document.fileName()))
+        throw SansProvisoire(ENOSPC);
     if (!envoye || etat == QPrinter::Error || etat == QPrinter::Aborted ||
-        (pdf && (!PdfComplet(document.fileName()) ||
-                 !Livrer(document.fileName(), imprimante_.outputFileName()))))
+        (pdf && !Livrer(document.fileName(), imprimante_.outputFileName())))
         throw Refus(imprimante_);
 }
 

@@ -29,13 +29,14 @@ namespace orvalis {
 namespace {
 
 // What a creation does to a logbook that is there; nothing for one without contacts.
-std::string AvisContactsPerdus(std::int32_t nombre, const std::string& nomFichier) {
+std::string AvisContactsPerdus(const CahierDejaLa& cahier) {
+    const std::int32_t nombre = cahier.contacts;
     if (nombre == 0)
         return {};
     const std::string suite =
         nombre == 1 ? " contact\u00a0: il sera remplacé."
                     : " contacts\u00a0: le premier sera remplacé et les autres ne se verront plus.";
-    return "Le fichier " + nomFichier + " contient déjà " + std::to_string(nombre) + suite +
+    return "Le fichier " + cahier.nom + " contient déjà " + std::to_string(nombre) + suite +
            "\nPour les garder, choisissez «\u00a0Tout arrêter\u00a0!!\u00a0» et renommez ce "
            "fichier. "
            "Puis relancez Orvalis, créez le cahier, et ajoutez-y le fichier renommé par "
@@ -150,8 +151,7 @@ void Dlg1::AccepterLocator() {
     acceptee_ = creation;
     ui_->Dlg1Fra3Lab2->setText(
         Q(CheminProgrammeTexte(lecteur_, creation.nomFichier) + " va être créé "));
-    const std::string avis =
-        AvisContactsPerdus(ContactsDejaLa(lecteur_, creation.nomFichier), creation.nomFichier);
+    const std::string avis = AvisContactsPerdus(ContactsDejaLa(lecteur_, creation.nomFichier));
     ui_->Dlg1Fra3Lab3->setText(Q(avis));
     ui_->Dlg1Fra3Lab3->setVisible(!avis.empty());
     ui_->Dlg1Fra3->show();

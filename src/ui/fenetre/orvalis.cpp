@@ -318,14 +318,15 @@ void Orvalis::LancerDemarrage() {
     if (ecran_.temoinDemarrage != kDemarrageAFaire || demarrageEnCours_ || ecran_.arret)
         return;
     demarrageEnCours_ = true;
-    Executer([this] {
-        Demarrer(p_);
+    bool creation = false;
+    Executer([&] {
+        creation = Demarrer(p_);
         if (ecran_.temoinDemarrage == 0)
             timer1_->start(kDureeTic);
     });
     // Two windows that close one behind the other, as those of the creation do, can leave the
     // keyboard with none.
-    if (!ecran_.arret)
+    if (creation && !ecran_.arret)
         activateWindow();
     // The clock runs while the operator reads it.
     if (ecran_.temoinDemarrage == 0)

@@ -70,19 +70,24 @@ void InitialiserFenetre(Plateau& p) {
         ChargerFeuille(p);
 }
 
-void Demarrer(Plateau& p) {
+bool Demarrer(Plateau& p) {
+    bool creation = false;
     for (auto suite = Demarrage::Recommencer; suite == Demarrage::Recommencer;) {
         {
             const Gel gel(p.ecran);
             p.systeme.Pause(1);
         }
         if (p.ecran.arret)
-            return;
+            return creation;
         suite = ChargerParametres(p);
-        if (suite == Demarrage::Arreter)
-            return QuitterProgramme(p, 0);
+        creation |= suite != Demarrage::Pret;
+        if (suite == Demarrage::Arreter) {
+            QuitterProgramme(p, 0);
+            return creation;
+        }
     }
     p.ecran.temoinDemarrage = 0;
+    return creation;
 }
 
 void AfficherHeure(Plateau& p) {

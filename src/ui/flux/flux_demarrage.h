@@ -8,8 +8,9 @@ namespace orvalis {
 enum class Demarrage { Pret, Recommencer, Arreter };
 
 /// The first activation of the window: pauses one second and loads the settings, again after the
-/// creation of a logbook. Throws what ChargerParametres throws.
-void Demarrer(Plateau& p);
+/// creation of a logbook. Returns whether the creation dialog was on show. Throws what
+/// ChargerParametres throws.
+bool Demarrer(Plateau& p);
 
 /// Reads the Settings file, opens the logbook it names and shows it (Pret). Without program folder
 /// or Settings file the creation dialog runs first: Recommencer once it has written them, Arreter

@@ -67,7 +67,8 @@ void MontrerPage(Plateau& p, std::int32_t page) {
     liste.page = page;
     liste.nbPages = NbPages(cahier);
     liste.nbFiches = cahier.nbFiches;
-    // The contacts that cannot be listed lie behind the last page.
+    // Kept on purpose, for the operators: on the last page the bar stands at N, also where that is
+    // beyond what can be listed: those contacts lie behind the last page.
     liste.defilement = page == liste.nbPages ? cahier.nbFiches : page * kFichesParPage;
     liste.nom = NomMontre(p.session);
     liste.dossier = DossierMontre(p.session);
