@@ -97,7 +97,8 @@ void AllongerCahier(Cahier& cahier, const std::function<void()>& ecrire);
 /// Deletes record `k`, provided that it still is `montree`: every later record moves down one place
 /// and an end-of-log record with `monLocator` takes the place of the last. Killed at any instant,
 /// the file holds every other contact exactly once, with the deleted one or a blank record
-/// somewhere until the end; when it throws, the contact is put in the place of that blank. The file
+/// somewhere until the end; a power cut meanwhile may lose contacts and double others, as in a
+/// sort. When it throws, the contact is put in the place of that blank. The file
 /// keeps its length and has reached the disk on return; N shrinks by one. Returns false, having
 /// written nothing, when another program has changed the logbook and the deletion no longer fits.
 [[nodiscard]] bool SupprimerFiche(Cahier& cahier, NumeroFiche k, const QsoRecord& montree,

@@ -20,8 +20,8 @@ enum class NatureErreur {
     Synchroniser,
     Verrouiller,
     Remplacer,
-    Projeter,             ///< mapping a file into memory, which the sort cannot do without
-    Perdu,                ///< another file has taken the place of the open logbook (CahierPerdu)
+    Projeter, ///< mapping a file into memory, which the sort cannot do without
+    Perdu,    ///< another file has taken the place of the open logbook (CahierPerdu)
     LireDossier,
     CreerDossier,
     DejaOuvert,           ///< another copy of the program has the logbook open
