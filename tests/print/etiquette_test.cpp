@@ -51,6 +51,13 @@ TEST(Etiquette, ApercuEtCeQuiYEstDouteux) {
                           {"F6A,,BEAM 3", "|BEAM 3 indicatif manager"},
                           {"F6A,F5ABC F5AB,73", "F5ABC F5AB|73 manager"},
                           {"F6A,F5AB,59ANTENNE 12", "F5AB|59ANTENNE 12 manager"},
+                          {"F6A,F5AB,5W", "F5AB|5W manager"},
+                          {"F6A,F5AB,100W", "F5AB|100W manager"},
+                          {"F6A,F5AB,73s", "F5AB|73s manager"},
+                          {"F6A,F5AB,JN18DU", "F5AB|JN18DU manager"},
+                          {"F6A,F5AB,2E0ABC", "F5AB|2E0ABC"},
+                          {"F6A,F5AB,9A1A", "F5AB|9A1A"},
+                          {"F6A,F5AB,3D2AG", "F5AB|3D2AG"},
                           // A label takes fifteen characters of what its boxes show.
                           {"F6A,de la part de F5AB,BEAM 3 EL      DL9ABC",
                            "de la part de F|BEAM 3 EL indicatif manager"},

@@ -1,6 +1,7 @@
 #include "ui/carte/apercu_etiquette.h"
 
 #include "core/texte.h"
+#include "geo/locator.h"
 
 #include <algorithm>
 
@@ -26,13 +27,15 @@ bool Porte(std::string_view texte, std::string_view indicatif) {
     return false;
 }
 
-// One word of letters, digits and strokes in which a letter follows a digit.
+// One word of letters, digits and strokes with a letter, a digit and a letter in this order; so
+// has a locator, but 73S, 100W and 2M are remarks.
 bool EstUnIndicatif(std::string_view texte) {
     const std::string ici = Majuscules(texte);
-    const auto chiffre = std::find_if(ici.begin(), ici.end(), EstChiffre);
+    const auto lettre = std::find_if(ici.begin(), ici.end(), EstLettre);
+    const auto chiffre = std::find_if(lettre, ici.end(), EstChiffre);
     return std::all_of(ici.begin(), ici.end(),
                        [](char c) { return EstChiffre(c) || EstLettre(c) || c == '/'; }) &&
-           std::any_of(chiffre, ici.end(), EstLettre);
+           std::any_of(chiffre, ici.end(), EstLettre) && !LocatorValide(ici);
 }
 
 std::optional<QslSlotRecord> EtiquetteMontree(const EtatFeuille& feuille) {
