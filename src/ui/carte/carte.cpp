@@ -4,6 +4,8 @@
 #include "core/texte.h"
 #include "geo/locator.h"
 
+#include <algorithm>
+
 namespace orvalis {
 
 std::optional<Rvb> FondDe(Couleur couleur) {
@@ -78,6 +80,17 @@ std::optional<int> CapMontre(const Carte& carte) {
     // The texts that say that there is none are blank or "...".
     const bool chiffre = carte.azimut.find_first_of("0123456789") != std::string::npos;
     return chiffre ? CapVrai(carte.memoireDistance) : std::nullopt;
+}
+
+bool AzimutTrompeur(const Carte& carte) {
+    const std::optional<int> cap = CapMontre(carte);
+    if (!cap)
+        return false;
+    // One counts by the East, the other by the West; both are cut to whole degrees.
+    constexpr int kTour = 360;
+    const std::string azimut = carte.azimut.substr(carte.azimut.find_first_of("0123456789"));
+    const int reste = (*cap + std::stoi(azimut)) % kTour;
+    return std::min(reste, kTour - reste) > 1;
 }
 
 void ViderCarte(Carte& carte) {

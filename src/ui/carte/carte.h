@@ -118,6 +118,8 @@ void MontrerLabels(Carte& carte, NumeroFiche k);
 
 /// The true direction of the correspondent, when an azimuth is on show.
 [[nodiscard]] std::optional<int> CapMontre(const Carte& carte);
+/// Whether the azimuth points elsewhere than that: the correspondent is across the 180th meridian.
+[[nodiscard]] bool AzimutTrompeur(const Carte& carte);
 
 /// A card without contact: slots, boxes and labels empty, no record current.
 void ViderCarte(Carte& carte);

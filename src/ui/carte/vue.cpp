@@ -16,6 +16,7 @@ VueCarte VoirCarte(const Session& session, const Ecran& ecran) {
             .distance = carte.distance,
             .azimut = carte.azimut,
             .cap = CapMontre(carte),
+            .azimutTrompeur = AzimutTrompeur(carte),
             .departement = carte.departement,
             .activeRech = ecran.activeRech,
             .bandeau = Bandeau(session, ecran),

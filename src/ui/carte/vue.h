@@ -21,7 +21,8 @@ struct VueCarte {
     std::string numero;
     std::string distance;
     std::string azimut;
-    std::optional<int> cap; ///< true direction of the correspondent, clockwise from the North
+    std::optional<int> cap;      ///< true direction of the correspondent, clockwise from the North
+    bool azimutTrompeur = false; ///< it points elsewhere
     std::string departement;
     bool activeRech = false;              ///< BtActiveRech is on show
     std::string bandeau;                  ///< of a contact that is not stored yet; empty for none

@@ -2,6 +2,7 @@
 
 #include "ui/bureau/texte_qt.h"
 #include "ui/carte/boites.h"
+#include "ui/carte/place_voisine.h"
 #include "ui/widgets/filtre_edition.h"
 #include "ui/widgets/police.h"
 #include "ui/widgets/presence.h"
@@ -167,9 +168,7 @@ void PictFeuilleQSL::FaireApercu() {
     avis_->setObjectName(QStringLiteral("LabApercu"));
     avis_->setTextFormat(Qt::PlainText);
     avis_->setWordWrap(true);
-    avis_->setStyleSheet(
-        QStringLiteral("background:%1; color:%2; border-radius:4px; padding:1px 8px;")
-            .arg(kAmbre.name(), kEncreSurAmbre.name()));
+    avis_->setStyleSheet(StyleAmbre());
     auto* pile = new QVBoxLayout(apercu_);
     pile->setContentsMargins(0, 0, 0, 0);
     pile->setSpacing(4);
@@ -265,28 +264,23 @@ bool PictFeuilleQSL::eventFilter(QObject* objet, QEvent* evenement) {
 // The arrows go from place to place as these lie on the sheet, and stop at its edges. In a place
 // whose large button is grey they come to the other one.
 bool PictFeuilleQSL::AllerALaPlace(const QObject* depuis, int touche) {
-    struct Pas {
-        int touche, rangee, colonne;
-    };
-    constexpr std::array<Pas, 4> kPas = {
-        {{Qt::Key_Up, -1, 0}, {Qt::Key_Down, 1, 0}, {Qt::Key_Left, 0, -1}, {Qt::Key_Right, 0, 1}}};
+    constexpr std::array<std::pair<int, PasDePlace>, 4> kPas = {{{Qt::Key_Up, {-1, 0}},
+                                                                 {Qt::Key_Down, {1, 0}},
+                                                                 {Qt::Key_Left, {0, -1}},
+                                                                 {Qt::Key_Right, {0, 1}}}};
     const auto pas = std::find_if(kPas.begin(), kPas.end(),
-                                  [touche](const Pas& p) { return p.touche == touche; });
+                                  [touche](const auto& p) { return p.first == touche; });
     const auto ici =
         std::find_if(places_.begin(), places_.end(), [depuis](const ControlesPlace& c) {
             return depuis == c.tag || depuis == c.choix;
         });
     if (pas == kPas.end() || ici == places_.end())
         return false;
-    constexpr int kNbColonnes = 2;
-    const auto rang = static_cast<int>(ici - places_.begin());
-    const int rangee = rang / kNbColonnes + pas->rangee;
-    const int colonne = rang % kNbColonnes + pas->colonne;
-    if (rangee >= 0 && rangee < kNbEtiquettes / kNbColonnes && colonne >= 0 &&
-        colonne < kNbColonnes) {
-        const auto la = static_cast<std::size_t>(rangee * kNbColonnes + colonne);
-        const bool large = depuis == ici->tag && places_[la].tag->isEnabled();
-        (large ? places_[la].tag : places_[la].choix)->setFocus();
+    const Place place{static_cast<int>(ici - places_.begin()) + 1};
+    if (const auto voisine = PlaceVoisine(place, pas->second)) {
+        const ControlesPlace& la = places_[EtatFeuille::Rang(*voisine)];
+        const bool large = depuis == ici->tag && la.tag->isEnabled();
+        (large ? la.tag : la.choix)->setFocus();
     }
     return true;
 }

@@ -91,9 +91,7 @@ void PictFiche::FaireEntete() {
     noFicheLab_->setText(QStringLiteral("  Fiche N° 0  "));
     noFicheLab_->setFont(PoliceAjustee(font(), kTitre));
     labNonEnregistre_ = FaireLabel("LabNonEnregistre", this);
-    labNonEnregistre_->setStyleSheet(
-        QStringLiteral("background:%1; color:%2; border-radius:4px; padding:1px 8px;")
-            .arg(kAmbre.name(), kEncreSurAmbre.name()));
+    labNonEnregistre_->setStyleSheet(StyleAmbre());
     labNonEnregistre_->hide();
     btActiveRech_ = new QPushButton(QStringLiteral("Voir contacts réalisés"), this);
     btActiveRech_->setObjectName(QStringLiteral("BtActiveRech"));
@@ -162,9 +160,7 @@ QHBoxLayout* PictFiche::AvecInfoJointe(QLabel& legende, Boite boite) {
     QLabel*& jointe = infosJointes_[manager];
     jointe = FaireLabel(manager ? "LabInfoJointe_17" : "LabInfoJointe_13", legende.parentWidget());
     jointe->setFont(legende.font());
-    jointe->setStyleSheet(
-        QStringLiteral("background:%1; color:%2; border-radius:4px; padding:0px 4px;")
-            .arg(kAmbre.name(), kEncreSurAmbre.name()));
+    jointe->setStyleSheet(StyleAmbre("0px 4px"));
     jointe->hide();
     auto* ligne = new QHBoxLayout;
     ligne->setSpacing(2);
@@ -217,11 +213,13 @@ void PictFiche::Ranger(int largeur) {
 }
 
 void PictFiche::MontrerCap(const VueCarte& vue) {
-    const QString lu = vue.cap ? QStringLiteral("Azimut %1, compté vers l'ouest : la station est "
-                                                "au cap %2°, compté vers l'est")
-                                     .arg(Q(vue.azimut).trimmed())
-                                     .arg(*vue.cap, 3, 10, QLatin1Char('0'))
-                               : QString();
+    QString lu = vue.cap ? QStringLiteral("Azimut %1, compté vers l'ouest : la station est "
+                                          "au cap %2°, compté vers l'est")
+                               .arg(Q(vue.azimut).trimmed())
+                               .arg(*vue.cap, 3, 10, QLatin1Char('0'))
+                         : QString();
+    if (vue.azimutTrompeur)
+        lu += QStringLiteral(" (l'azimut ne vaut pas au-delà du 180e méridien)");
     if (boussole_->accessibleName() == lu)
         return;
     boussole_->Montrer(vue.cap);

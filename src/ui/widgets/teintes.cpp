@@ -42,6 +42,11 @@ class Repeintre : public QObject {
 
 } // namespace
 
+QString StyleAmbre(const char* marges) {
+    return QStringLiteral("background:%1; color:%2; border-radius:4px; padding:%3;")
+        .arg(kAmbre.name(), kEncreSurAmbre.name(), QLatin1String(marges));
+}
+
 void TeinterFond(QAbstractButton& bouton, Teinte teinte) {
     QPalette palette;
     if (teinte != Teinte::Aucune) {
