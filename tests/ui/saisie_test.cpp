@@ -234,6 +234,9 @@ TEST(Recherche, DoublonsEffacesUnParUn) {
     banc.Suivre(
         "on from what is in sight : foyer ContactsListe; touche Down -> NoFicheLab = \" Fiche N° " +
         std::to_string(2 * ici + 1) + " \"");
+    banc.Suivre("next one : clic BtKillFiche; touche Alt+O; foyer ContactsListe; touche PgDown "
+                "-> NoFicheLab = \" Fiche N° " +
+                std::to_string(2 * ici + 2) + " \"");
     banc.Suivre(R"(
  another list goes : clic BtContactsFermer; foyer RechText; valide f11qso; clic BtKillFiche;
      touche Alt+O -> caché PictContacts; actif BtNewQSO)");

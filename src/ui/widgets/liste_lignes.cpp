@@ -70,12 +70,12 @@ void ListeLignes::keyPressEvent(QKeyEvent* evenement) {
     switch (evenement->key()) {
     case Qt::Key_Up:
     case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
         // From no line they go to what is in sight, not to the head of a list that was scrolled.
         if (const QModelIndex enVue = indexAt({0, 0}); currentRow() < 0 && enVue.isValid())
             return setCurrentRow(enVue.row());
         [[fallthrough]];
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
     case Qt::Key_Home:
     case Qt::Key_End:
         return QListWidget::keyPressEvent(evenement);

@@ -58,7 +58,8 @@ void TxtField::AppliquerCouleur() {
 // is never taken for a text that Enter would keep.
 void TxtField::paintEvent(QPaintEvent* evenement) {
     QLineEdit::paintEvent(evenement);
-    if (!hasFocus() || isReadOnly() || boite_.exemple.empty() || !displayText().isEmpty())
+    if (!hasFocus() || isReadOnly() || boite_.exemple.empty() || !displayText().isEmpty() ||
+        compose_)
         return;
     constexpr int kRetrait = 6; // behind the caret, and as much at the other end
     const QString exemple = Q(boite_.exemple);
@@ -70,7 +71,9 @@ void TxtField::paintEvent(QPaintEvent* evenement) {
         penchee = PoliceAjustee(penchee, static_cast<qreal>(place.width()) / large);
     QPainter peintre(this);
     peintre.setFont(penchee);
-    peintre.setPen(Discrete(palette().color(QPalette::Text)));
+    // Made pale, the red of some boxes could not be read.
+    const bool sombre = EstSombre(palette().color(QPalette::Base));
+    peintre.setPen(Discrete(sombre ? Qt::white : Qt::black));
     const auto cote = boite_.centre ? Qt::AlignHCenter : Qt::AlignLeft;
     peintre.drawText(place, static_cast<int>(cote | Qt::AlignVCenter), exemple);
 }
@@ -90,6 +93,11 @@ void TxtField::keyPressEvent(QKeyEvent* evenement) {
     default:
         QLineEdit::keyPressEvent(evenement);
     }
+}
+
+void TxtField::inputMethodEvent(QInputMethodEvent* evenement) {
+    compose_ = !evenement->preeditString().isEmpty();
+    QLineEdit::inputMethodEvent(evenement);
 }
 
 void TxtField::mousePressEvent(QMouseEvent* evenement) {

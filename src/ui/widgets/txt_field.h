@@ -32,6 +32,7 @@ class TxtField : public QLineEdit {
   protected:
     void paintEvent(QPaintEvent* evenement) override;
     void keyPressEvent(QKeyEvent* evenement) override;
+    void inputMethodEvent(QInputMethodEvent* evenement) override;
     void mousePressEvent(QMouseEvent* evenement) override;
     void mouseMoveEvent(QMouseEvent* evenement) override;
     void mouseReleaseEvent(QMouseEvent* evenement) override;
@@ -42,6 +43,7 @@ class TxtField : public QLineEdit {
     const DescriptionBoite& boite_;
     FiltreEdition* filtre_;
     bool pressionRecue_ = false;
+    bool compose_ = false; ///< a dead key waits, painted but in no text yet
     Couleur couleur_;
     bool erreur_ = false;
 };
