@@ -1,4 +1,5 @@
 """Turns the guide into a page for a browser: guide_html.py guide.md guide.html"""
+import re
 import sys
 
 import markdown
@@ -16,7 +17,8 @@ code, pre { font-family: monospace; background: #8882; padding: 0 .2rem; }
 
 with open(sys.argv[1], encoding="utf-8") as source:
     texte = markdown.markdown(
-        source.read(),
+        # The other documents are no pages: beside this one lies their plain text.
+        re.sub(r"\[([^]]+\.md)\]\(\1\)", r"\1", source.read()),
         extensions=["tables", "toc", "sane_lists", "fenced_code"],
         extension_configs={"toc": {"slugify": slugify_unicode}},
         output_format="html",

@@ -13,12 +13,11 @@ std::string_view ChapitreDuGuide(const Session& session, const Ecran& ecran,
     };
     const EtatSaisie& saisie = session.carte.saisie;
     const Cible foyer = ecran.foyer.ici.cible;
-    const std::array<Sujet, 13> sujets = {{
+    const std::array<Sujet, 12> sujets = {{
         {feuille.controle, "imprimer-et-contrôler"},
         {feuille.panneau && (feuille.laisser || foyer == Cible::ChoixEtiquette),
          "tenir-la-feuille"},
         {feuille.panneau, "préparer-une-étiquette"},
-        {ecran.classer.montre, "classer"},
         {ecran.question && saisie.NbModifs == 0, "supprimer"},
         {ecran.locator.montre, "changer-de-locator-en-portable"},
         {saisie.EnSaisie, "entrer-des-contacts"},

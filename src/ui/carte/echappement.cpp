@@ -15,7 +15,7 @@ struct Sortie {
 // Kept on purpose, for the operators: Escape never drops a contact under entry and never ends the
 // program, and what a print came to is said, not escaped from.
 std::string_view CommandeDEchap(const Ecran& ecran, const VueFeuille& feuille) {
-    if (ecran.gel || ecran.classer.montre || feuille.controle)
+    if (ecran.gel || feuille.controle)
         return {};
     const std::array<Sortie, 6> sorties = {{
         {ecran.question.has_value(), "FraCmdNon"},

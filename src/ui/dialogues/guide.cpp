@@ -72,7 +72,7 @@ void Guide::Disposer() {
     auto* sommaire = FaireBouton("BtGuideSommaire", QStringLiteral("&Sommaire"),
                                  QStringLiteral("Aller au début du guide"), *rangee);
     rangee->addStretch(1);
-    auto* legende = new QLabel(QStringLiteral("&Chercher :"));
+    auto* legende = new QLabel(QStringLiteral("&Chercher\u00A0:"));
     rangee->addWidget(legende);
     legende->setBuddy(recherche_);
     recherche_->setObjectName(QStringLiteral("GuideRech"));

@@ -187,7 +187,7 @@ TEST(Vue, CeQueVautEchap) {
                                                  {"contacts; nouveau; locator", "BtChangAnnul"},
                                                  {"contacts; locator; efface", "FraCmdNon"},
                                                  {"feuille; controle", ""},
-                                                 {"contacts; tri", ""},
+                                                 {"contacts; tri; gel", ""},
                                                  {"efface; gel", ""}}) {
         Scene scene;
         for (const std::string& geste : Couper(gestes, ";"))
