@@ -25,6 +25,7 @@ Cadre::Cadre(QWidget& gauche, Droite droite, QWidget* parent)
     setWidgetResizable(true);
     setFocusPolicy(Qt::NoFocus);
     setWidget(centre);
+    centre->installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this,
             [this](const QWidget* /*avant*/, const QWidget* ici) {
                 if (ici != nullptr && isAncestorOf(ici))
@@ -48,6 +49,13 @@ void Cadre::changeEvent(QEvent* evenement) {
         Arranger();
 }
 
+// What is in it may come to need more width, or less.
+bool Cadre::eventFilter(QObject* objet, QEvent* evenement) {
+    if (objet == widget() && evenement->type() == QEvent::LayoutRequest)
+        Arranger();
+    return QScrollArea::eventFilter(objet, evenement);
+}
+
 // The scroll bar is reckoned with whether it shows or not: else its coming could make it go.
 void Cadre::Arranger() {
     const QMargins bords = ligne_->contentsMargins();
@@ -57,7 +65,7 @@ void Cadre::Arranger() {
     // A card in many short rows is worse to read than a list below it.
     const bool cote = reste >= droite_.largeurPleine() * 55 / 100;
     ligne_->setDirection(cote ? QBoxLayout::LeftToRight : QBoxLayout::BottomToTop);
-    droite_.ranger(cote ? reste : place, cote);
+    droite_.ranger(cote ? reste : place);
 }
 
 void Cadre::VoirLeFoyer() {

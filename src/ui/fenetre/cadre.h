@@ -15,8 +15,8 @@ class Cadre : public QScrollArea {
     /// What the right column is told of the width it gets, and answers about itself.
     struct Droite {
         QWidget& widget;
-        std::function<int()> largeurPleine;                 ///< it needs no more than this
-        std::function<void(int largeur, bool cote)> ranger; ///< beside the left one, or alone
+        std::function<int()> largeurPleine;      ///< it needs no more than this
+        std::function<void(int largeur)> ranger; ///< breaks its rows
     };
     Cadre(QWidget& gauche, Droite droite, QWidget* parent);
 
@@ -26,6 +26,7 @@ class Cadre : public QScrollArea {
   protected:
     void resizeEvent(QResizeEvent* evenement) override;
     void changeEvent(QEvent* evenement) override;
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
 
   private:
     void Arranger();

@@ -23,6 +23,7 @@
 #include "ui/panneaux/pict_rech.h"
 #include "ui/widgets/gestes.h"
 #include "ui/widgets/lab_conseil.h"
+#include "ui/widgets/police.h"
 #include "ui/widgets/rangees.h"
 #include "ui/widgets/vue_page.h"
 
@@ -167,11 +168,10 @@ void Orvalis::Disposer() {
     panneaux_.feuilleQSL.Accueillir(panneaux_.ctrlImpression);
     cadre_ = new Cadre(*ColonneGauche(),
                        {panneaux_.droite, [this] { return panneaux_.fiche.LargeurPleine(); },
-                        [this](int largeur, bool cote) {
+                        [this](int largeur) {
                             panneaux_.fiche.Ranger(largeur);
                             rangeeBoutons_->Ranger(largeur);
                             panneaux_.feuilleQSL.Ranger(largeur);
-                            panneaux_.page.Deployer(!cote);
                         }},
                        this);
     // The line of advice is in view whatever is scrolled out of it.
@@ -216,8 +216,8 @@ QWidget* Orvalis::ColonneGauche() {
 }
 
 // The card, the buttons under it, beside them the question about the card, then the sheet; whatever
-// else asks or answers something lies over the right of the sheet, under the card, and moves
-// nothing.
+// else asks or answers something lies over the right of the sheet, under the card. Nothing of it
+// moves anything.
 QWidget* Orvalis::ColonneDroite() {
     auto* colonne = new QWidget;
     auto* pile = SansMarges<QVBoxLayout>(colonne);
@@ -231,10 +231,10 @@ QWidget* Orvalis::ColonneDroite() {
     tour->setMinimumWidth(
         std::max(LargeurMinimale(panneaux_.menu), LargeurMinimale(panneaux_.enrs)));
     rangeeBoutons_ = SansMarges<Rangees>(boutons);
+    GarderPlace(panneaux_.msgFiche);
     rangeeBoutons_->Ajouter({tour, &panneaux_.msgFiche, &panneaux_.rech}, 6, 2);
-    constexpr int kEcarts = 12;
-    boutons->setMinimumHeight(std::max(panneaux_.menu.sizeHint().height() + kEcarts,
-                                       panneaux_.msgFiche.sizeHint().height()));
+    constexpr int kEcart = 3;
+    rangeeBoutons_->setContentsMargins(0, kEcart, 0, kEcart);
     pile->addWidget(boutons);
     auto* feuille = new QWidget(colonne);
     feuille->setObjectName(QStringLiteral("PictPage"));

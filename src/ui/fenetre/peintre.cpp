@@ -62,6 +62,15 @@ constexpr std::array<NomDeCible, 21> kNoms = {{
     {Cible::Revoir, "BtCtrl_Revoir", 0},
 }};
 
+// A stack asks all its pages for their least size: those out of sight would make the window scroll.
+void TournerVers(QStackedWidget& pile, QWidget& page) {
+    for (int i = 0; i < pile.count(); ++i) {
+        const auto place = pile.widget(i) == &page ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+        pile.widget(i)->setSizePolicy(place, place);
+    }
+    pile.setCurrentWidget(&page);
+}
+
 } // namespace
 
 Peintre::Peintre(QMainWindow& fenetre, const Panneaux& panneaux, QLabel& adieu,
@@ -179,10 +188,9 @@ void Peintre::PeindreFeuille(const VueFenetre& vue) {
     }
     Presenter(p_.ctrlImpression, vue.feuille.vue.controle);
     QWidget& colonne = montree ? static_cast<QWidget&>(p_.feuilleQSL) : *p_.droite.widget(0);
-    if (p_.droite.currentWidget() != &colonne) {
+    if (p_.droite.currentWidget() != &colonne)
         OterLeFoyer(p_.droite);
-        p_.droite.setCurrentWidget(&colonne);
-    }
+    TournerVers(p_.droite, colonne);
 }
 
 void Peintre::PeindreCommandes(const VueFenetre& vue) {

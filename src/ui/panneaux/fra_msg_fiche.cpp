@@ -13,13 +13,22 @@ namespace {
 
 constexpr int kBord = 5; // pixels between the border and what is in it
 
+int LargeurDeTexte(const QLabel& label, const char* texte) {
+    return label.fontMetrics().horizontalAdvance(QLatin1String(texte));
+}
+
 } // namespace
 
 FraMsgFiche::FraMsgFiche(QWidget* parent)
     : QGroupBox(parent), ui_(std::make_unique<Ui::FraMsgFiche>()) {
     ui_->setupUi(this);
     ui_->FraLabTouches->setFont(PoliceAjustee(font(), kPetite));
-    ui_->FraLabTouches->setMinimumWidth(1); // where the window is narrow, it is cut, no callsign
+    // Room for nearly all of what it will say, so that its coming moves nothing.
+    ui_->FraLab01->setMinimumWidth(LargeurDeTexte(*ui_->FraLab01, "32767"));
+    ui_->FraLab02->setMinimumWidth(LargeurDeTexte(*ui_->FraLab02, "HB9ABC/P"));
+    constexpr std::size_t kEtroit = 5;
+    for (QWidget* bouton : {ui_->FraCmdOui, ui_->FraCmdNon})
+        bouton->setMinimumWidth(LargeurDeBoite(*bouton, kEtroit));
     Encadrer();
     TeinterFond(*ui_->FraCmdOui, Teinte::VertClair);
     TeinterFond(*ui_->FraCmdNon, Teinte::RougeClair);

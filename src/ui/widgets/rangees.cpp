@@ -48,11 +48,11 @@ void Rangees::Poser(const Rangee& rangee, std::size_t premier, std::size_t fin) 
     ligne->setSpacing(rangee.espace);
     addLayout(ligne);
     for (std::size_t i = premier; i < fin; ++i) {
-        if (i == rangee.repousse && i > premier)
+        if (i == std::max(rangee.repousse, premier))
             ligne->addStretch(1);
         ligne->addWidget(rangee.widgets[i]);
     }
-    if (fin <= rangee.repousse || premier >= rangee.repousse)
+    if (fin <= rangee.repousse)
         ligne->addStretch(1);
 }
 

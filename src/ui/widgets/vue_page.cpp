@@ -66,7 +66,8 @@ VuePage::Mesures VuePage::Mesurer(qreal points) const {
     return m;
 }
 
-// The largest type that shows the whole sheet; below the smallest legible one, it scrolls.
+// The largest type that shows the whole sheet; below the smallest legible one, it scrolls
+// sideways, and what holds it scrolls up and down.
 void VuePage::Ajuster() {
     const QSize place = maximumViewportSize();
     qreal points = kPointsMin;
@@ -77,6 +78,10 @@ void VuePage::Ajuster() {
         points = essai;
     }
     mesures_ = Mesurer(points);
+    const Mesures moindres = Mesurer(kPointsMin);
+    const bool deborde = moindres.largeur > place.width();
+    setMinimumHeight(moindres.hauteur + 2 * frameWidth() +
+                     (deborde ? horizontalScrollBar()->sizeHint().height() : 0));
     constexpr int kNbColonnes = static_cast<int>(kColonnesPage.size());
     mesures_.appoint = std::max(0, place.width() - 2 - mesures_.largeur) / kNbColonnes;
     mesures_.largeur += mesures_.appoint * kNbColonnes;
@@ -94,11 +99,6 @@ void VuePage::Ajuster() {
 QSize VuePage::sizeHint() const {
     const Mesures m = Mesurer(kPointsMax);
     return QSize(m.largeur, m.hauteur) + 2 * QSize(frameWidth(), frameWidth());
-}
-
-void VuePage::Deployer(bool entiere) {
-    const int barre = horizontalScrollBar()->sizeHint().height();
-    setMinimumHeight(entiere ? Mesurer(kPointsMin).hauteur + 2 * frameWidth() + barre : 0);
 }
 
 const std::vector<RangeePage>& VuePage::Rangees() const {
@@ -243,10 +243,7 @@ QRect VuePage::RectDeRangee(int rang) const {
 }
 
 void VuePage::wheelEvent(QWheelEvent* evenement) {
-    if (verticalScrollBar()->maximum() > 0)
-        QAbstractScrollArea::wheelEvent(evenement);
-    else
-        Q_EMIT roulee(evenement);
+    Q_EMIT roulee(evenement);
 }
 
 void VuePage::mousePressEvent(QMouseEvent* evenement) {

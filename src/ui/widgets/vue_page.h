@@ -22,8 +22,6 @@ class VuePage : public QAbstractScrollArea {
     void Inviter(const QString& texte);
     /// Marks the row of the record on the card, or none.
     void Marquer(NumeroFiche numero);
-    /// Whether the sheet asks for the height of all its rows, because what holds it scrolls.
-    void Deployer(bool entiere);
     [[nodiscard]] QSize sizeHint() const override;
     /// Where row `rang` (from 0) lies in the viewport.
     [[nodiscard]] QRect RectDeRangee(int rang) const;
@@ -32,7 +30,7 @@ class VuePage : public QAbstractScrollArea {
 
   Q_SIGNALS:
     void rangeeChoisie(orvalis::NumeroFiche numero);
-    void roulee(QWheelEvent* evenement); ///< the wheel, over a sheet that is whole on show
+    void roulee(QWheelEvent* evenement); ///< the wheel, over the sheet
 
   protected:
     void paintEvent(QPaintEvent* evenement) override;
