@@ -75,7 +75,7 @@ TEST(Accessibilite, NomsEtClavierDansChaqueEtat) {
 TEST(Accessibilite, LaBoiteQuiALeFoyerSeVoit) {
     const QFont avant = QApplication::font();
     for (const int points : {8, 16})
-        for (const QSize taille : {QSize(1280, 680), QSize(683, 384)}) {
+        for (const QSize taille : {QSize(1280, 680), QSize(1280, 480), QSize(683, 384)}) {
             QFont police = avant;
             police.setPointSize(points);
             QApplication::setFont(police);
