@@ -1,5 +1,7 @@
-// What leading a logbook out to ADIF and back, and into a base, costs, beside reading its bytes.
+// What leading a logbook out to ADIF and back, into a base and into numbers, costs, beside reading
+// its bytes.
 #include "echange/base.h"
+#include "echange/bilan.h"
 #include "echange/exporter.h"
 #include "echange/importer.h"
 #include "echange/sqlite.h"
@@ -41,6 +43,11 @@ void Base(benchmark::State& etat, const CahierEssai& essai) {
             FaireBase({essai.Chemin(), essai.Dossier() / "f.sqlite", "BENCH", {}, ""}).contacts);
 }
 
+void Bilan(benchmark::State& etat, const CahierEssai& essai) {
+    for ([[maybe_unused]] auto _ : etat)
+        benchmark::DoNotOptimize(FaireBilan(LireCahierEntier(essai.Chemin()).fiches).stations);
+}
+
 // What SQLite itself costs: the bytes of the records as rows, in one transaction.
 void InsererTout(benchmark::State& etat, const CahierEssai& essai) {
     for ([[maybe_unused]] auto _ : etat) {
@@ -75,6 +82,7 @@ void InsererTout(benchmark::State& etat, const CahierEssai& essai) {
     {"ADX in", [](auto& etat, const auto& essai) { Entree(etat, essai, GenreAdif::Adx); },
      LireTout},
     {"Base", Base, InsererTout},
+    {"Bilan", Bilan, LireTout},
 });
 
 } // namespace

@@ -4,15 +4,14 @@
 #include "echange/exporter.h"
 #include "echange/fichier_neuf.h"
 #include "echange/lecture_cahier.h"
+#include "echange/mesure.h"
 #include "echange/refus.h"
 #include "echange/sens.h"
 #include "echange/sqlite.h"
-#include "geo/distance.h"
 #include "geo/locator.h"
 
 #include <array>
 #include <cmath>
-#include <cstdlib>
 #include <numbers>
 #include <optional>
 #include <variant>
@@ -26,8 +25,7 @@ namespace fs = std::filesystem;
 struct Ligne {
     const QsoRecord& fiche;
     SensFiche sens;
-    std::string distance; ///< as the card shows them
-    std::string azimut;
+    MesureContact mesure;
     std::optional<double> relevement; ///< the true one, degrees from North
 };
 
@@ -46,19 +44,12 @@ double Relevement(std::string_view ici, std::string_view la) {
     return degres < 0 ? degres + 360 : degres;
 }
 
-void Mesurer(Ligne& ligne) {
-    const std::string_view ici = OctetsChamp(ligne.fiche, Champ::MLOC);
-    const std::string_view la = OctetsChamp(ligne.fiche, Champ::SLOC);
-    if (ici == la) {
-        ligne.distance = "0 Km";
-        ligne.azimut = "...";
-    } else if (LocatorValide(ici) && LocatorValide(la)) {
-        MemoireDistance memoire;
-        const TextesDistance textes = DistanceAzimut(memoire, ici, la);
-        ligne.distance = Rogner(textes.distance);
-        ligne.azimut = Rogner(textes.azimut);
-        ligne.relevement = Relevement(ici, la);
-    }
+std::optional<double> RelevementDe(const QsoRecord& fiche) {
+    const std::string_view ici = OctetsChamp(fiche, Champ::MLOC);
+    const std::string_view la = OctetsChamp(fiche, Champ::SLOC);
+    if (ici == la || !LocatorValide(ici) || !LocatorValide(la))
+        return {};
+    return Relevement(ici, la);
 }
 
 constexpr std::string_view NomEtat(EtatQsl etat) {
@@ -112,12 +103,9 @@ constexpr std::array<Colonne, 22> kColonnes = {{
     {"carre", "TEXT", [](const Ligne& l) { return TexteOuRien(l.sens.carre); }},
     {"remarque", "TEXT", [](const Ligne& l) { return Valeur{l.sens.remarque}; }},
     {"manager", "TEXT", [](const Ligne& l) { return Valeur{l.sens.manager}; }},
-    {"distance", "TEXT", [](const Ligne& l) { return Valeur{l.distance}; }},
-    {"azimut", "TEXT", [](const Ligne& l) { return Valeur{l.azimut}; }},
-    {"km", "REAL",
-     [](const Ligne& l) {
-         return l.distance.empty() ? Valeur{} : Valeur{std::strtod(l.distance.c_str(), nullptr)};
-     }},
+    {"distance", "TEXT", [](const Ligne& l) { return Valeur{l.mesure.distance}; }},
+    {"azimut", "TEXT", [](const Ligne& l) { return Valeur{l.mesure.azimut}; }},
+    {"km", "REAL", [](const Ligne& l) { return l.mesure.km ? Valeur{*l.mesure.km} : Valeur{}; }},
     {"relevement", "REAL",
      [](const Ligne& l) { return l.relevement ? Valeur{*l.relevement} : Valeur{}; }},
     {"ma_qsl", "TEXT",
@@ -205,8 +193,8 @@ void RemplirQso(BaseOuverte& base, const CahierLu& cahier, BilanBase& bilan) {
     std::array<std::string, kNbChamps> textes;
     std::array<Valeur, kColonnes.size()> valeurs;
     for (const QsoRecord& fiche : cahier.fiches) {
-        Ligne ligne{fiche, ComprendreFiche(fiche), {}, {}, {}};
-        Mesurer(ligne);
+        const Ligne ligne{fiche, ComprendreFiche(fiche), MesurerContact(fiche),
+                          RelevementDe(fiche)};
         bilan.sansDate += ligne.sens.date ? 0 : 1;
         int place = 0;
         requete.Lier(++place, static_cast<std::int64_t>(++bilan.contacts));

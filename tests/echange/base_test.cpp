@@ -1,7 +1,9 @@
-// The base, asked in SQL.
+// The base, asked in SQL; and the numbers of a logbook beside what SQL says of them.
 #include "echange/aides_echange.h"
 #include "echange/base.h"
+#include "echange/bilan.h"
 
+#include <random>
 #include <sqlite3.h>
 
 namespace orvalis::aides {
@@ -75,6 +77,117 @@ TEST(Base, CeQueLesFichesVeulentDire) {
     };
     for (const auto& [sql, attendu] : questions)
         EXPECT_EQ(Demander(base, sql), attendu) << sql;
+    sqlite3_close(base);
+}
+
+// Rows and cells as Demander writes them.
+template<class Suite, class Ecrire> std::string Rangees(const Suite& suite, Ecrire ecrire) {
+    std::string texte;
+    for (const auto& element : suite)
+        texte += (texte.empty() ? "" : " & ") + ecrire(element);
+    return texte;
+}
+template<class... T> std::string Cases(const T&... cases) {
+    std::ostringstream flux;
+    ((flux << '|' << cases), ...);
+    return flux.str().substr(1);
+}
+
+TEST(Bilan, ChaqueNombreCommeEnSql) {
+    const std::vector<std::pair<Champ, std::vector<std::string>>> tirages = {
+        {Champ::CSGN,
+         {"F1AAA", "F1BBB", "F1CCC", "F1AAA/P", "DL1DDD", "EA2EEE", "VK3FFF", "W1GGG", "ZL2HHH",
+          "JA1III", "PY5JJJ", "5R8KKK", "I4LLL", "F0É", ""}},
+        {Champ::DQSO, {"09/01/60", "31/12/59", "28/02/25", "29/02/25", "29/02/24", "??", ""}},
+        {Champ::FREQ, {"7.085", "14250", "20m", "144.3", "10489.6", "1", "40M", "rien", ""}},
+        {Champ::MODE, {"USB", "LSB", "SSB", "CW", "FT4", "FT8", "PSK31", "OLIVI", "PHONE", ""}},
+        {Champ::SLOC,
+         {"JN18AA", "JN05AA", "QF22LB", "RE78JS", "PM95RQ", "FN42AA", "GG54KN", "JN05", "ZZ99ZZ",
+          ""}},
+        {Champ::DEPT, {"75", "1", "001", "20", "2a", "2B", "971", "974", "96", "975", "0", ""}},
+        {Champ::MQSL, {"En cours", "08/03/25", "OK", "non", "?", "", "", ""}},
+        {Champ::SQSL, {"08/03/25", "OK", "non", "?", "", "", "", ""}},
+        {Champ::MLOC, {"JN18AA", "JN18AA", "IN88XX", "ZZ", ""}}};
+    std::mt19937 hasard(13); // NOLINT(cert-msc51-cpp): the same records each time
+    std::vector<QsoRecord> fiches(3000);
+    std::string octets;
+    for (QsoRecord& fiche : fiches) {
+        for (const auto& [champ, valeurs] : tirages)
+            MettreChamp(fiche, champ, valeurs[hasard() % valeurs.size()]);
+        octets.append(fiche.octets.begin(), fiche.octets.end());
+    }
+    const Dossier dossier;
+    const auto cible = dossier / "S.sqlite";
+    static_cast<void>(FaireBase({dossier.Poser("S.Vek", octets + Fin()), cible, "", {}, ""}));
+    sqlite3* base = nullptr;
+    ASSERT_EQ(sqlite3_open(cible.c_str(), &base), SQLITE_OK);
+
+    const BilanCahier b = FaireBilan(fiches);
+    const auto compte = [](const ComptePar& c) { return Cases(c.nom, c.contacts); };
+    std::string bandes = "&";
+    for (const Bande& bande : Bandes())
+        bandes.append(bande.nom).append("&");
+    const std::string rangBande = // the bands in the order of their waves
+        "instr('" + bandes + "', '&' || bande || '&')";
+    const std::string usuel =
+        "CASE WHEN mode_adif = 'SSB' OR sous_mode IS NULL THEN mode_adif ELSE sous_mode END";
+    const auto etats = [](const CartesParEtat& e) { return Cases(e[0], e[1], e[2], e[3], e[4]); };
+    const auto sqlEtats = [](const std::string& colonne) {
+        std::string sql = "SELECT 0";
+        for (const char* etat : {"", "non", "en cours", "faite", "illisible"})
+            sql += ", sum(" + colonne + " = '" + etat + "')";
+        return sql.replace(7, 3, "") + " FROM qso";
+    };
+    const auto etatDepartement = [](EtatDepartement etat) {
+        return etat == EtatDepartement::Jamais     ? "jamais"
+               : etat == EtatDepartement::Contacte ? "contacté"
+                                                   : "confirmé";
+    };
+    const Textes questions = {
+        {"SELECT count(*), count(DISTINCT nullif(csgn, '')), min(date), max(date) FROM qso",
+         Cases(b.contacts, b.stations, EcrireJourIso(*b.premier), EcrireJourIso(*b.dernier))},
+        {"SELECT numero FROM dates_illisibles",
+         Rangees(b.datesIllisibles, [](auto n) { return std::to_string(n); })},
+        {"SELECT annee, contacts FROM par_annee WHERE annee IS NOT NULL",
+         Rangees(b.annees, [](const auto& a) { return Cases(a.annee, a.contacts); })},
+        {"WITH RECURSIVE m(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM m WHERE n < 12) "
+         "SELECT (SELECT count(*) FROM qso WHERE 0 + substr(date, 6, 2) = n) FROM m",
+         Rangees(b.mois, [](auto n) { return std::to_string(n); })},
+        {"SELECT bande, contacts FROM par_bande WHERE bande IS NOT NULL ORDER BY " + rangBande,
+         Rangees(b.bandes, compte)},
+        {"SELECT " + usuel +
+             " AS nom, count(*) AS n FROM qso WHERE mode_adif IS NOT NULL "
+             "GROUP BY 1 ORDER BY n DESC, nom",
+         Rangees(b.modes, compte)},
+        {"SELECT sum(bande IS NULL), sum(mode_adif IS NULL) FROM qso",
+         Cases(b.sansBande, b.sansMode)},
+        {"SELECT * FROM par_departement ORDER BY 0 + code",
+         Rangees(b.departements,
+                 [&](const BilanDepartement& d) {
+                     return Cases(d.code, d.nom, d.contacts, etatDepartement(d.etat));
+                 })},
+        {"SELECT sum(etat <> 'jamais'), sum(etat = 'confirmé') FROM par_departement",
+         Cases(b.departementsContactes, b.departementsConfirmes)},
+        {"SELECT carre, contacts, confirmes > 0 FROM par_carre",
+         Rangees(b.carres,
+                 [](const BilanCarre& c) { return Cases(c.carre, c.contacts, c.confirme); })},
+        {"SELECT sum(confirmes > 0) FROM par_carre", Cases(b.carresConfirmes)},
+        {"SELECT numero, csgn, carre, date, distance FROM (SELECT *, row_number() OVER "
+         "(PARTITION BY csgn ORDER BY km DESC, numero) AS rang FROM qso WHERE km > 0 AND csgn <> "
+         "'')"
+         " WHERE rang = 1 ORDER BY km DESC, numero LIMIT 10",
+         Rangees(b.lointains,
+                 [](const Lointain& l) {
+                     return Cases(l.numero, l.indicatif, l.carre.empty() ? "-" : l.carre,
+                                  l.date ? EcrireJourIso(*l.date) : "-", l.distance);
+                 })},
+        {sqlEtats("ma_qsl"), etats(b.maCarte)},
+        {sqlEtats("sa_qsl"), etats(b.saCarte)},
+        {"SELECT count(*) FROM qsl_a_envoyer WHERE sa_qsl = 'faite'", Cases(b.aRepondre)},
+    };
+    for (const auto& [sql, attendu] : questions)
+        EXPECT_EQ(Demander(base, sql), attendu) << sql;
+    EXPECT_EQ(b.lointains.size(), kNbLointains);
     sqlite3_close(base);
 }
 
