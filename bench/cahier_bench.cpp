@@ -74,6 +74,7 @@ class ImprimanteNulle : public Imprimante {
     void ChoisirPolice(std::string_view /*famille*/) override {}
     void ChoisirTaille(int /*points*/) override {}
     void ChoisirGras(bool /*gras*/) override {}
+    void ChoisirEncre(Encre /*encre*/) override {}
     void Placer(int /*x*/, int /*y*/) override {}
     void Ecrire(std::string_view utf8, Suite /*suite*/) override {
         benchmark::DoNotOptimize(utf8.data());
@@ -83,6 +84,8 @@ class ImprimanteNulle : public Imprimante {
     }
     void TracerLigne(int /*x1*/, int /*y1*/, int /*x2*/, int /*y2*/) override {}
     void TracerRectangle(int /*x1*/, int /*y1*/, int /*x2*/, int /*y2*/) override {}
+    void RemplirRectangle(int /*x1*/, int /*y1*/, int /*x2*/, int /*y2*/) override {}
+    void TournerPage() override {}
     void TerminerDocument() override {}
 };
 

@@ -1,10 +1,13 @@
-// The few operations that the printed pages and labels need of a printer.
+// The few operations that the printed pages, labels and charts need of a printer.
 //
 // Coordinates are whole twips (1/1440 inch) from the top-left corner of the printable area, x to
 // the right and y downwards. Font sizes are in points, of 20 twips. A text is placed by its
-// top-left corner and never wrapped. Lines and rectangles are thin and black, texts are black.
+// top-left corner and never wrapped. Lines and rectangles are thin and black; texts are black until
+// another ink is chosen, as are filled rectangles.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -16,6 +19,25 @@ enum class Orientation { Portrait };
 
 /// Where the text that follows goes: below, at the left edge, or on the same line.
 enum class Suite { NouvelleLigne, MemeLigne };
+
+/// What texts and filled rectangles are drawn with. On a printer without colours each is told from
+/// the others by its darkness.
+enum class Encre { Noir, Gris, Trait, Pale, Forte, Blanc };
+
+struct CouleurEncre {
+    unsigned char rouge, vert, bleu;
+};
+[[nodiscard]] constexpr CouleurEncre CouleurDe(Encre encre) {
+    constexpr std::array<CouleurEncre, 6> kCouleurs = {{
+        {0, 0, 0},
+        {0x55, 0x5F, 0x69},
+        {0xCD, 0xD3, 0xD9},
+        {0xBF, 0xD6, 0xEC},
+        {0x1F, 0x4E, 0x79},
+        {0xFF, 0xFF, 0xFF},
+    }};
+    return kCouleurs[static_cast<std::size_t>(encre)];
+}
 
 /// A document begins with the first drawing and is sent by TerminerDocument(). A document that
 /// is not ended is not printed.
@@ -30,6 +52,7 @@ class Imprimante {
     virtual void ChoisirPolice(std::string_view famille) = 0;
     virtual void ChoisirTaille(int points) = 0;
     virtual void ChoisirGras(bool gras) = 0;
+    virtual void ChoisirEncre(Encre encre) = 0;
 
     /// Sets the current position.
     virtual void Placer(int x, int y) = 0;
@@ -47,6 +70,12 @@ class Imprimante {
     virtual void TracerLigne(int x1, int y1, int x2, int y2) = 0;
     /// An unfilled rectangle between two opposite corners.
     virtual void TracerRectangle(int x1, int y1, int x2, int y2) = 0;
+
+    /// A rectangle of the chosen ink, without a frame.
+    virtual void RemplirRectangle(int x1, int y1, int x2, int y2) = 0;
+
+    /// What follows is on another sheet.
+    virtual void TournerPage() = 0;
 
     /// The printer or file that the document goes to, for the operator (UTF-8); may be empty.
     [[nodiscard]] virtual std::string Nom() const { return {}; }

@@ -1,5 +1,6 @@
 // Tries every fault at every call of the system while a logbook goes out and comes in: the former
 // file or the new one stands there afterwards, and nothing else has changed.
+#include "compagnons/db_orvalis/bilan_html.h"
 #include "echange/aides_echange.h"
 #include "echange/exporter.h"
 #include "echange/refus.h"
@@ -36,6 +37,15 @@ const std::vector<Operation> kOperations = {
      {"ancien.adi"},
      [](auto& ici) { Exporter(ici, "ancien.adi", GenreAdif::Adi); }},
     {"ADX, new", {"neuf.adx"}, [](auto& ici) { Exporter(ici, "neuf.adx", GenreAdif::Adx); }},
+    {"summary, replaced",
+     {"ancien.html"},
+     [](auto& ici) {
+         static_cast<void>(EcrireBilan({ici / kCahier,
+                                        ici / "ancien.html",
+                                        "F5ABC",
+                                        {},
+                                        Jour{std::chrono::year{2026} / 9 / 30}}));
+     }},
     {"import, new",
      {"G.rapport.txt", "G.Vek"},
      [](auto& ici) { Importer(ici, "G.Vek", Ancien::Protege); }},
@@ -111,6 +121,7 @@ int main() {
     Fichiers avant = {
         {"S.Vek", orvalis::aides::Contact("F1AAA", "09/01/25") + orvalis::aides::Fin()},
         {"ancien.adi", "former"},
+        {"ancien.html", "former"},
         {"A.Vek", orvalis::aides::Fin()},
         {"A.rapport.txt", "former"}};
     const std::string contact =

@@ -12,8 +12,9 @@
 namespace orvalis {
 
 /// "P A4 portrait"; "T x y size[g] text", g for bold, or "+ size text" when it goes on the line;
-/// "L x1 y1 x2 y2"; "R x1 y1 x2 y2"; "FIN". A family other than `famille` is named after the size.
-/// Every character is ten times its points wide, twelve times in "Courrier".
+/// "L x1 y1 x2 y2"; "R x1 y1 x2 y2"; "E ink"; "B x1 y1 x2 y2", filled; "PAGE"; "FIN". A family
+/// other than `famille` is named after the size. Every character is ten times its points wide,
+/// twelve times in "Courrier".
 struct Enregistreur : Imprimante {
     std::string famille;
     int x0 = 0, y0 = 0; ///< origin of the coordinates written down
@@ -30,6 +31,9 @@ struct Enregistreur : Imprimante {
     void ChoisirPolice(std::string_view nom) override { police_ = nom; }
     void ChoisirTaille(int points) override { taille_ = points; }
     void ChoisirGras(bool gras) override { gras_ = gras; }
+    void ChoisirEncre(Encre encre) override {
+        operations.push_back("E " + std::to_string(static_cast<int>(encre)));
+    }
     void Placer(int x, int y) override { x_ = x, y_ = y, suite_ = false; }
     void Ecrire(std::string_view utf8, Suite suite) override {
         const std::string place =
@@ -43,6 +47,8 @@ struct Enregistreur : Imprimante {
     }
     void TracerLigne(int x1, int y1, int x2, int y2) override { Tracer('L', x1, y1, x2, y2); }
     void TracerRectangle(int x1, int y1, int x2, int y2) override { Tracer('R', x1, y1, x2, y2); }
+    void RemplirRectangle(int x1, int y1, int x2, int y2) override { Tracer('B', x1, y1, x2, y2); }
+    void TournerPage() override { operations.emplace_back("PAGE"); }
     void TerminerDocument() override {
         operations.emplace_back("FIN");
         if (copie != nullptr)

@@ -4,6 +4,7 @@
 #include "ui/bureau/imprimante_qt.h"
 
 #include <QFile>
+#include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -66,6 +67,32 @@ TEST_F(ImprimanteQtTest, PageDuCahier) {
     const Mot& avant = mots[mots.size() - 2];
     EXPECT_THAT(mots, Porte("3", avant.x + avant.largeur + 44, 14100)) << "on the same line";
     EXPECT_NEAR(imprimante.LargeurTexte("n°"), avant.largeur, 2);
+}
+
+// The ink of what is filled and written; black again for lines, and what stands on the next sheet.
+TEST_F(ImprimanteQtTest, EncresEtPages) {
+    ImprimanteQt imprimante(pdf);
+    imprimante.ChoisirPapier(Papier::A4, Orientation::Portrait);
+    imprimante.ChoisirEncre(Encre::Forte);
+    imprimante.RemplirRectangle(3000, 3000, 1000, 1000);
+    imprimante.EcrireEn(1000, 4000, "encre");
+    imprimante.TracerLigne(1000, 6000, 3000, 6000);
+    imprimante.TournerPage();
+    imprimante.ChoisirEncre(Encre::Pale);
+    imprimante.RemplirRectangle(1000, 1000, 3000, 3000);
+    imprimante.TerminerDocument();
+    const auto point = [this](int page, int x, int y) {
+        QProcess lecteur; // a dot for ten twips
+        lecteur.start(u"pdftoppm"_s, {u"-r"_s, u"144"_s, u"-f"_s, QString::number(page), u"-png"_s,
+                                      u"-singlefile"_s, chemin, chemin});
+        EXPECT_TRUE(lecteur.waitForFinished() && lecteur.exitCode() == 0) << page;
+        return QImage(chemin + u".png"_s).pixelColor(x / 10 + 20, y / 10 + 20);
+    };
+    EXPECT_EQ(point(1, 2000, 2000), QColor(0x1F, 0x4E, 0x79));
+    EXPECT_EQ(point(1, 3200, 2000), QColor(Qt::white));
+    EXPECT_EQ(point(1, 2000, 6000).hsvSaturation(), 0);
+    EXPECT_LT(point(1, 2000, 6000).lightness(), 230);
+    EXPECT_EQ(point(2, 2000, 2000), QColor(0xBF, 0xD6, 0xEC));
 }
 
 TEST_F(ImprimanteQtTest, SortiesImpossibles) {

@@ -1,5 +1,6 @@
 #include "compagnons/db_orvalis/commande.h"
 
+#include "compagnons/db_orvalis/bilan_html.h"
 #include "compagnons/db_orvalis/options.h"
 #include "core/dossier.h"
 #include "core/erreurs.h"
@@ -84,9 +85,9 @@ std::string Contacts(std::size_t nombre, std::string_view un, std::string_view p
 // comes of contacts without a date.
 template<class Bilan>
 Retour Conclure(std::ostream& messages, const Bilan& bilan, const fs::path& cahier,
-                const fs::path& cible, std::string_view sansDate) {
-    messages << Contacts(bilan.contacts, "écrit", "écrits") << " dans « " << cible.string()
-             << " ».\n";
+                const fs::path& cible, std::string_view sansDate, std::string_view un = "écrit",
+                std::string_view plusieurs = "écrits") {
+    messages << Contacts(bilan.contacts, un, plusieurs) << " dans « " << cible.string() << " ».\n";
     if (bilan.sansDate > 0)
         messages << Contacts(bilan.sansDate, "n'a", "n'ont")
                  << " pas de date lisible : " << sansDate << ".\n";
@@ -111,6 +112,12 @@ Retour Exporter(const Options& options, const Alentours& alentours) {
                     "les autres programmes les laissent de côté");
 }
 
+void RefuserHeures(const Options& options, std::string_view option, std::string_view sujet) {
+    if (options.heures)
+        throw OptionsRefusees("« --heures » ne va pas avec « " + std::string{option} +
+                              " » : " + std::string{sujet} + " garde les heures du cahier.");
+}
+
 Retour Baser(const Options& options, const Alentours& alentours) {
     if (options.heures)
         throw OptionsRefusees("« --heures » ne va pas avec « --base » : la base garde les heures "
@@ -121,6 +128,16 @@ Retour Baser(const Options& options, const Alentours& alentours) {
                                        EcrireInstantIso(Maintenant())});
     return Conclure(alentours.messages, bilan, origine.cahier, cible,
                     "voyez la vue dates_illisibles");
+}
+
+Retour FaireLeBilan(const Options& options, const Alentours& alentours) {
+    RefuserHeures(options, "--bilan", "le bilan");
+    const Origine origine = ChoisirOrigine(options, alentours);
+    const fs::path cible = *options.bilan;
+    const BilanExport bilan =
+        EcrireBilan({origine.cahier, cible, origine.indicatif, origine.proteges, Aujourdhui()});
+    return Conclure(alentours.messages, bilan, origine.cahier, cible,
+                    "leurs numéros sont à la fin du bilan", "compté", "comptés");
 }
 
 Retour Importer(const Options& options, const Alentours& alentours) {
@@ -161,6 +178,8 @@ Retour ExecuterCommande(std::span<const std::string_view> arguments, const Alent
         }
         if (options.importer)
             return Importer(options, alentours);
+        if (options.bilan)
+            return FaireLeBilan(options, alentours);
         return options.base ? Baser(options, alentours) : Exporter(options, alentours);
     } catch (const OptionsRefusees& refus) {
         alentours.messages << refus.what() << " « dbOrvalis --help » montre les options.\n";

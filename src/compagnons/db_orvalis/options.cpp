@@ -18,13 +18,15 @@ struct Option {
     std::string_view aide;
 };
 
-constexpr std::array<Option, 11> kOptions = {{
+constexpr std::array<Option, 12> kOptions = {{
     {"--base", "F.sqlite", &Options::base, nullptr, Travail::Sortie, true,
      "fait du cahier une base SQLite"},
     {"--adif", "F.adi", &Options::adif, nullptr, Travail::Sortie, true,
      "écrit les contacts dans un fichier ADIF (ADI)"},
     {"--adx", "F.adx", &Options::adx, nullptr, Travail::Sortie, true,
      "écrit les contacts dans un fichier ADIF (ADX)"},
+    {"--bilan", "F.html", &Options::bilan, nullptr, Travail::Sortie, true,
+     "fait du cahier une page de chiffres et de graphiques"},
     {"--cahier", "F.Vek", &Options::cahier, nullptr, Travail::Sortie, false,
      "le cahier à lire, au lieu de celui de la station"},
     {"--indicatif", "I", &Options::indicatif, nullptr, Travail::Sortie, false,
@@ -109,7 +111,8 @@ std::string TexteAide() {
     constexpr std::size_t kLargeur = 24;
     std::string texte =
         "Usage :\n"
-        "  dbOrvalis [--cahier F.Vek] (--base F.sqlite | --adif F.adi | --adx F.adx)\n"
+        "  dbOrvalis [--cahier F.Vek] (--base F.sqlite | --adif F.adi | --adx F.adx |\n"
+        "            --bilan F.html)\n"
         "  dbOrvalis --importer F --vers G.Vek [--locator L] [--remplacer]\n\n"
         "Options :\n";
     for (const Option& option : kOptions) {

@@ -18,6 +18,7 @@ struct Options {
     std::optional<std::string> base; ///< what to make of the logbook
     std::optional<std::string> adif;
     std::optional<std::string> adx;
+    std::optional<std::string> bilan;
     std::optional<std::string> importer; ///< what to read
     std::optional<std::string> vers;
     std::optional<std::string> locator;

@@ -31,6 +31,11 @@ QString Texte(std::string_view utf8) {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
+QColor Teindre(Encre encre) {
+    const CouleurEncre couleur = CouleurDe(encre);
+    return {couleur.rouge, couleur.vert, couleur.bleu};
+}
+
 } // namespace
 
 void DessinQt::ChoisirPolice(std::string_view famille) {
@@ -51,6 +56,10 @@ void DessinQt::ChoisirGras(bool gras) {
     police_.setBold(gras);
 }
 
+void DessinQt::ChoisirEncre(Encre encre) {
+    encre_ = encre;
+}
+
 void DessinQt::Placer(int x, int y) {
     position_ = QPointF(x, y);
 }
@@ -59,9 +68,12 @@ void DessinQt::Ecrire(std::string_view utf8, Suite suite) {
     const QFontMetricsF mesures = Mesures(police_);
     const QString texte = Texte(utf8);
     const QPointF ligneDeBase = position_ + QPointF(0, mesures.ascent());
-    dessin_.emplace_back([police = police_, ligneDeBase, texte](QPainter& peintre) {
+    Ajouter([police = police_, encre = encre_, ligneDeBase, texte](QPainter& peintre) {
+        const QPen trait = peintre.pen();
         peintre.setFont(police);
+        peintre.setPen(Teindre(encre));
         peintre.drawText(ligneDeBase, texte);
+        peintre.setPen(trait);
     });
     textes_ << texte;
     if (suite == Suite::MemeLigne)
@@ -75,23 +87,32 @@ int DessinQt::LargeurTexte(std::string_view utf8) const {
 }
 
 void DessinQt::TracerLigne(int x1, int y1, int x2, int y2) {
-    dessin_.emplace_back([=](QPainter& peintre) { peintre.drawLine(x1, y1, x2, y2); });
+    Ajouter([=](QPainter& peintre) { peintre.drawLine(x1, y1, x2, y2); });
 }
 
 void DessinQt::TracerRectangle(int x1, int y1, int x2, int y2) {
     const QRect cadre(std::min(x1, x2), std::min(y1, y2), std::abs(x2 - x1), std::abs(y2 - y1));
-    dessin_.emplace_back([=](QPainter& peintre) { peintre.drawRect(cadre); });
+    Ajouter([=](QPainter& peintre) { peintre.drawRect(cadre); });
 }
 
-void DessinQt::Peindre(QPainter& peintre, qreal epaisseur) const {
+void DessinQt::RemplirRectangle(int x1, int y1, int x2, int y2) {
+    const QRect surface(std::min(x1, x2), std::min(y1, y2), std::abs(x2 - x1), std::abs(y2 - y1));
+    Ajouter([=, encre = encre_](QPainter& peintre) { peintre.fillRect(surface, Teindre(encre)); });
+}
+
+void DessinQt::TournerPage() {
+    feuilles_.emplace_back();
+}
+
+void DessinQt::PeindreFeuille(QPainter& peintre, std::size_t feuille, qreal epaisseur) const {
     peintre.setPen({Qt::black, epaisseur, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin});
-    for (const Trace& trace : dessin_)
+    for (const Trace& trace : feuilles_[feuille])
         trace(peintre);
 }
 
 DessinQt DessinQt::Prendre() {
     DessinQt pris;
-    pris.dessin_.swap(dessin_);
+    pris.feuilles_.swap(feuilles_);
     pris.textes_.swap(textes_);
     return pris;
 }

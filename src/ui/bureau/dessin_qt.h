@@ -25,14 +25,25 @@ class DessinQt : public Imprimante {
     void ChoisirPolice(std::string_view famille) override;
     void ChoisirTaille(int points) override;
     void ChoisirGras(bool gras) override;
+    void ChoisirEncre(Encre encre) override;
     void Placer(int x, int y) override;
     void Ecrire(std::string_view utf8, Suite suite) override;
     [[nodiscard]] int LargeurTexte(std::string_view utf8) const override;
     void TracerLigne(int x1, int y1, int x2, int y2) override;
     void TracerRectangle(int x1, int y1, int x2, int y2) override;
+    void RemplirRectangle(int x1, int y1, int x2, int y2) override;
+    void TournerPage() override;
 
-    /// Draws all that was gathered, one unit of `peintre` a twip, lines `epaisseur` twips wide.
-    void Peindre(QPainter& peintre, qreal epaisseur = kEpaisseurTrait) const;
+    /// Sheets that were begun, one at least.
+    [[nodiscard]] std::size_t NbFeuilles() const { return feuilles_.size(); }
+    /// Draws what was gathered for a sheet, from 0, one unit of `peintre` a twip, lines `epaisseur`
+    /// twips wide.
+    void PeindreFeuille(QPainter& peintre, std::size_t feuille,
+                        qreal epaisseur = kEpaisseurTrait) const;
+    /// The same of the first sheet, which most drawings are.
+    void Peindre(QPainter& peintre, qreal epaisseur = kEpaisseurTrait) const {
+        PeindreFeuille(peintre, 0, epaisseur);
+    }
     /// The texts, in the order in which they were written.
     [[nodiscard]] const QStringList& Textes() const { return textes_; }
 
@@ -48,9 +59,12 @@ class DessinQt : public Imprimante {
   private:
     using Trace = std::function<void(QPainter&)>;
 
-    std::vector<Trace> dessin_;
+    void Ajouter(Trace trace) { feuilles_.back().push_back(std::move(trace)); }
+
+    std::vector<std::vector<Trace>> feuilles_{1};
     QStringList textes_;
     QFont police_;
+    Encre encre_ = Encre::Noir;
     QPointF position_;
 };
 

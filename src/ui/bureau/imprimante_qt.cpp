@@ -142,8 +142,13 @@ void ImprimanteQt::TerminerDocument() {
     // A printer that refuses the resolution is scaled to twips.
     peintre.scale(static_cast<double>(sortie->logicalDpiX()) / kTwipsParPouce,
                   static_cast<double>(sortie->logicalDpiY()) / kTwipsParPouce);
-    dessin.Peindre(peintre);
-    const bool envoye = peintre.end();
+    bool tournee = true;
+    for (std::size_t feuille = 0; feuille < dessin.NbFeuilles() && tournee; ++feuille) {
+        tournee = feuille == 0 || sortie->newPage();
+        if (tournee)
+            dessin.PeindreFeuille(peintre, feuille);
+    }
+    const bool envoye = peintre.end() && tournee;
     const QPrinter::PrinterState etat = sortie->printerState();
     if (pdf && !PdfComplet(document.fileName()))
         throw SansProvisoire(ENOSPC);
