@@ -169,11 +169,12 @@ void DessinerCarres(Imprimante& imprimante, const Cadre& cadre, const BilanCahie
     const std::size_t n = bilan.carres.size();
     EcrireTexte(
         imprimante, cadre.x, cadre.y,
-        n == 0 ? "Aucun contact n'a de carré."
-               : EcrireNombre(n) + std::string{Accorder(n, " carré, dont ", " carrés, dont ")} +
-                     EcrireNombre(bilan.carresConfirmes) +
-                     std::string{Accorder(bilan.carresConfirmes,
-                                          " confirmé ; par champ :", " confirmés ; par champ :")},
+        n == 0
+            ? "Aucun contact n'a de carré."
+            : EcrireNombre(n) + std::string{Accorder(n, " carré, dont ", " carrés, dont ")} +
+                  EcrireNombre(bilan.carresConfirmes) +
+                  std::string{Accorder(bilan.carresConfirmes, " confirmé\u00A0; par champ\u00A0:",
+                                       " confirmés\u00A0; par champ\u00A0:")},
         kGris);
     const Cadre barres{cadre.x, cadre.y + kHauteurBarre, cadre.largeur,
                        cadre.hauteur - kHauteurBarre};
@@ -188,15 +189,15 @@ void DessinerDates(Imprimante& imprimante, const Cadre& cadre, const BilanCahier
     }
     EcrireTexte(imprimante, cadre.x, cadre.y,
                 EcrireNombre(n) + std::string{Accorder(n, " contact n'a", " contacts n'ont")} +
-                    " pas de date lisible :",
+                    " pas de date lisible\u00A0:",
                 kGris);
     const std::size_t lignes = NbBarres(cadre) - 1;
     std::size_t i = 0;
     for (std::size_t ligne = 1; ligne <= lignes && i < n; ++ligne) {
         std::string texte;
         for (; i < n; ++i) {
-            std::string suite =
-                texte + (texte.empty() ? "n° " : ", ") + std::to_string(bilan.datesIllisibles[i]);
+            std::string suite = texte + (texte.empty() ? "n°\u00A0" : ", ") +
+                                std::to_string(bilan.datesIllisibles[i]);
             const bool derniere = ligne == lignes && i + 1 < n;
             if (Largeur(imprimante, suite + (derniere ? ", …" : "")) > cadre.largeur)
                 break;

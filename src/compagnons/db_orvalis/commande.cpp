@@ -2,9 +2,9 @@
 
 #include "compagnons/db_orvalis/bilan_html.h"
 #include "compagnons/db_orvalis/options.h"
-#include "core/dossier.h"
+#include "compagnons/db_orvalis/phrases.h"
+#include "compagnons/db_orvalis/station_lue.h"
 #include "core/erreurs.h"
-#include "core/parametres.h"
 #include "core/texte.h"
 #include "echange/base.h"
 #include "echange/exporter.h"
@@ -22,24 +22,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Parametrage {
-    Parametres parametres;
-    fs::path cahier;                ///< the station's logbook
-    std::vector<fs::path> fichiers; ///< all files of the station
-};
-
-// The Settings, where there are any.
-std::optional<Parametrage> LireParametrage(const Alentours& alentours) {
-    const fs::path dossier = DossierProgramme(CalculerLecteur(alentours.courant, alentours.maison));
-    const fs::path chemin = TrouverFichier(dossier, kNomParametres);
-    if (!Present(chemin))
-        return {};
-    Parametrage parametrage{LireParametres(chemin), {}, {}};
-    parametrage.cahier = TrouverFichier(dossier, parametrage.parametres.nomFichier);
-    parametrage.fichiers = {parametrage.cahier, chemin, TrouverFichier(dossier, kNomFeuilleQSL)};
-    return parametrage;
-}
-
 std::unique_ptr<Fuseau> ChoisirFuseau(const Options& options) {
     const std::string heures = options.heures.value_or("utc");
     if (MajusculesAscii(heures) == "UTC")
@@ -55,47 +37,27 @@ struct Origine {
 };
 
 Origine ChoisirOrigine(const Options& options, const Alentours& alentours) {
-    std::optional<Parametrage> parametrage;
+    std::optional<StationLue> station;
     try {
-        parametrage = LireParametrage(alentours);
+        station = LireStation(alentours.courant, alentours.maison);
     } catch (const Erreur&) {
         if (!options.cahier)
             throw; // with a logbook of its own no Settings are needed, not even sound ones
     }
-    if (!options.cahier && !parametrage)
-        throw RefusEchange("Aucun cahier de la station n'est trouvé : donnez-en un par --cahier.");
+    if (!options.cahier && !station)
+        throw RefusEchange(
+            "Aucun cahier de la station n'est trouvé\u00A0: donnez-en un par --cahier.");
     Origine origine;
-    origine.cahier = options.cahier ? fs::path{*options.cahier} : parametrage->cahier;
-    if (parametrage)
-        origine.proteges = parametrage->fichiers;
-    if (options.indicatif)
-        origine.indicatif = Majuscules(Rogner(*options.indicatif));
-    else if (parametrage && MemeFichier(origine.cahier, parametrage->cahier))
-        origine.indicatif = Rogner(parametrage->parametres.indicatif);
+    origine.cahier = options.cahier ? fs::path{*options.cahier} : station->cahier;
+    origine.proteges = FichiersDe(station);
+    origine.indicatif = options.indicatif ? Majuscules(Rogner(*options.indicatif))
+                                          : IndicatifDe(station, origine.cahier);
     return origine;
 }
 
-std::string Contacts(std::size_t nombre, std::string_view un, std::string_view plusieurs) {
-    const bool pluriel = nombre > 1;
-    return std::to_string(nombre) + (pluriel ? " contacts " : " contact ") +
-           std::string{pluriel ? plusieurs : un};
-}
-
-// Tells what was written, and what of the logbook is not as it should be; `sansDate` says what
-// comes of contacts without a date.
-template<class Bilan>
-Retour Conclure(std::ostream& messages, const Bilan& bilan, const fs::path& cahier,
-                const fs::path& cible, std::string_view sansDate, std::string_view un = "écrit",
-                std::string_view plusieurs = "écrits") {
-    messages << Contacts(bilan.contacts, un, plusieurs) << " dans « " << cible.string() << " ».\n";
-    if (bilan.sansDate > 0)
-        messages << Contacts(bilan.sansDate, "n'a", "n'ont")
-                 << " pas de date lisible : " << sansDate << ".\n";
-    const bool sain = bilan.finPresente && bilan.longueurEntiere;
-    if (!sain)
-        messages << "Le cahier « " << cahier.string()
-                 << " » n'a pas la fin d'un cahier : il est peut-être abîmé.\n";
-    return bilan.sansDate > 0 || !sain ? Retour::FaitAvecRemarques : Retour::Fait;
+Retour Conclure(const Alentours& alentours, const Constat& constat) {
+    alentours.messages << constat.texte;
+    return constat.remarques ? Retour::FaitAvecRemarques : Retour::Fait;
 }
 
 Retour Exporter(const Options& options, const Alentours& alentours) {
@@ -108,26 +70,25 @@ Retour Exporter(const Options& options, const Alentours& alentours) {
                                 origine.proteges,
                                 EcrireInstantAdif(Maintenant())};
     const BilanExport bilan = ExporterAdif(demande, *ChoisirFuseau(options));
-    return Conclure(alentours.messages, bilan, origine.cahier, cible,
-                    "les autres programmes les laissent de côté");
+    return Conclure(alentours, DireSortie(bilan, origine.cahier, cible, kSansDateAdif));
 }
 
 void RefuserHeures(const Options& options, std::string_view option, std::string_view sujet) {
     if (options.heures)
-        throw OptionsRefusees("« --heures » ne va pas avec « " + std::string{option} +
-                              " » : " + std::string{sujet} + " garde les heures du cahier.");
+        throw OptionsRefusees("«\u00A0--heures\u00A0» ne va pas avec «\u00A0" +
+                              std::string{option} + "\u00A0»\u00A0: " + std::string{sujet} +
+                              " garde les heures du cahier.");
 }
 
 Retour Baser(const Options& options, const Alentours& alentours) {
-    if (options.heures)
-        throw OptionsRefusees("« --heures » ne va pas avec « --base » : la base garde les heures "
-                              "du cahier.");
+    RefuserHeures(options, "--base", "la base");
     const Origine origine = ChoisirOrigine(options, alentours);
     const fs::path cible = *options.base;
     const BilanBase bilan = FaireBase({origine.cahier, cible, origine.indicatif, origine.proteges,
                                        EcrireInstantIso(Maintenant())});
-    return Conclure(alentours.messages, bilan, origine.cahier, cible,
-                    "voyez la vue dates_illisibles");
+    return Conclure(alentours, DireSortie({bilan.contacts, bilan.sansDate, bilan.finPresente,
+                                           bilan.longueurEntiere},
+                                          origine.cahier, cible, kSansDateBase));
 }
 
 Retour FaireLeBilan(const Options& options, const Alentours& alentours) {
@@ -136,35 +97,23 @@ Retour FaireLeBilan(const Options& options, const Alentours& alentours) {
     const fs::path cible = *options.bilan;
     const BilanExport bilan =
         EcrireBilan({origine.cahier, cible, origine.indicatif, origine.proteges, Aujourdhui()});
-    return Conclure(alentours.messages, bilan, origine.cahier, cible,
-                    "leurs numéros sont à la fin du bilan", "compté", "comptés");
+    return Conclure(alentours,
+                    DireSortie(bilan, origine.cahier, cible, kSansDateBilan, "compté", "comptés"));
 }
 
 Retour Importer(const Options& options, const Alentours& alentours) {
-    const auto parametrage = LireParametrage(alentours);
+    const auto station = LireStation(alentours.courant, alentours.maison);
     DemandeImport demande;
     demande.source = *options.importer;
     demande.cible = *options.vers;
     demande.ancien = options.remplacer ? Ancien::Remplace : Ancien::Protege;
-    if (options.locator) {
-        demande.locator = Majuscules(Rogner(*options.locator));
-        if (!LocatorValide(demande.locator))
-            throw RefusEchange("« " + *options.locator +
-                               " » n'est pas un locator de six caractères.");
-    } else if (parametrage && LocatorValide(parametrage->parametres.monLocator)) {
-        demande.locator = parametrage->parametres.monLocator;
-    }
-    if (parametrage)
-        demande.proteges = parametrage->fichiers;
-
-    const BilanImport bilan = ImporterAdif(demande, *ChoisirFuseau(options));
-    const auto nombre = [](std::int64_t n) { return static_cast<std::size_t>(n); };
-    alentours.messages << Contacts(nombre(bilan.repris), "repris", "repris") << " dans « "
-                       << demande.cible.string() << " » ; changés : " << bilan.changes
-                       << ", égaux à un autre : " << bilan.egaux
-                       << ", laissés de côté : " << bilan.laisses << ". Le rapport est « "
-                       << bilan.rapport.string() << " ».\n";
-    return bilan.ADire() ? Retour::FaitAvecRemarques : Retour::Fait;
+    demande.locator = options.locator ? Majuscules(Rogner(*options.locator)) : LocatorDe(station);
+    if (options.locator && !LocatorValide(demande.locator))
+        throw RefusEchange("«\u00A0" + *options.locator +
+                           "\u00A0» n'est pas un locator de six caractères.");
+    demande.proteges = FichiersDe(station);
+    return Conclure(alentours,
+                    DireImport(ImporterAdif(demande, *ChoisirFuseau(options)), demande.cible));
 }
 
 } // namespace
