@@ -1,0 +1,94 @@
+#include "compagnons/db_orvalis/fenetre/dlg_apercu.h"
+
+#include "ui/bureau/texte_qt.h"
+#include "ui/widgets/police.h"
+
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <array>
+#include <utility>
+
+namespace orvalis {
+namespace {
+
+QString EnLigne(const LigneRapport& ligne) {
+    QString texte = QStringLiteral("ligne %1").arg(ligne.ligne);
+    for (const std::string_view mot : {ligne.indicatif, ligne.champ})
+        if (!mot.empty())
+            texte += QStringLiteral("  ") + Q(mot);
+    if (!ligne.avant.empty())
+        texte += QStringLiteral("  «\u00A0%1\u00A0»").arg(Q(ligne.avant));
+    return texte + QStringLiteral("\u00A0: ") + Q(ligne.devenu);
+}
+
+} // namespace
+
+EtudeImport Etudier(const DemandeImport& demande, const Fuseau& fuseau) {
+    EtudeImport etude;
+    etude.bilan = EtudierImport(demande, fuseau, [&etude](const LigneRapport& ligne) {
+        if (etude.lignes.size() < kLignesApercu)
+            etude.lignes << EnLigne(ligne);
+    });
+    return etude;
+}
+
+DlgApercu::DlgApercu(QWidget* parent, const QString& source, const EtudeImport& etude)
+    : QDialog(parent) {
+    setWindowTitle(QStringLiteral("Avant d'importer"));
+    const BilanImport& bilan = etude.bilan;
+    auto* titre = new QLabel(source, this);
+    titre->setTextFormat(Qt::PlainText);
+    titre->setFont(PoliceAjustee(font(), kTitre));
+    const std::array<std::pair<const char*, std::int64_t>, 7> comptes = {{
+        {"Contacts dans le fichier", bilan.lus},
+        {"Repris dans le nouveau cahier", bilan.repris},
+        {"dont coupés ou changés", bilan.changes},
+        {"dont égaux à un autre", bilan.egaux},
+        {"dont sans locator de la station", bilan.locatorsSupposes},
+        {"Laissés de côté", bilan.laisses},
+        {"Lignes hors de tout contact", bilan.incidents},
+    }};
+    auto* table = new QFormLayout;
+    for (const auto& [nom, nombre] : comptes) {
+        auto* valeur = new QLabel(QString::number(nombre), this);
+        valeur->setAlignment(Qt::AlignRight);
+        table->addRow(Q(nom), valeur);
+    }
+    table->setFormAlignment(Qt::AlignLeft);
+    auto* pourquoi =
+        new QLabel(etude.lignes.isEmpty()
+                       ? QStringLiteral("Chaque contact entre tel quel.")
+                       : QStringLiteral("&Ce qui change ou reste dehors, et pourquoi\u00A0:"),
+                   this);
+    auto* lignes = new QPlainTextEdit(etude.lignes.join(QLatin1Char('\n')), this);
+    lignes->setObjectName(QStringLiteral("TxtPourquoi"));
+    lignes->setReadOnly(true);
+    lignes->setTabChangesFocus(true);
+    lignes->setTextInteractionFlags(Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
+    lignes->setLineWrapMode(QPlainTextEdit::NoWrap);
+    lignes->setVisible(!etude.lignes.isEmpty());
+    pourquoi->setBuddy(lignes);
+    auto* boutons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    QPushButton* importer = boutons->button(QDialogButtonBox::Ok);
+    importer->setText(QStringLiteral("&Importer…"));
+    importer->setToolTip(QStringLiteral("Choisir le nouveau cahier, puis l'écrire"));
+    importer->setEnabled(bilan.repris > 0);
+    boutons->button(QDialogButtonBox::Cancel)->setText(QStringLiteral("&Annuler"));
+    connect(boutons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(boutons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* colonne = new QVBoxLayout(this);
+    colonne->addWidget(titre);
+    colonne->addLayout(table);
+    colonne->addWidget(pourquoi);
+    colonne->addWidget(lignes, 1);
+    colonne->addWidget(boutons);
+    resize(fontMetrics().averageCharWidth() * 90, sizeHint().height());
+    (importer->isEnabled() ? importer : boutons->button(QDialogButtonBox::Cancel))->setFocus();
+}
+
+} // namespace orvalis
