@@ -33,6 +33,8 @@ EtudeImport Etudier(const DemandeImport& demande, const Fuseau& fuseau) {
     etude.bilan = EtudierImport(demande, fuseau, [&etude](const LigneRapport& ligne) {
         if (etude.lignes.size() < kLignesApercu)
             etude.lignes << EnLigne(ligne);
+        else if (etude.lignes.size() == kLignesApercu)
+            etude.lignes << QStringLiteral("… Le rapport de l'import dira aussi les suivantes.");
     });
     return etude;
 }
@@ -47,9 +49,9 @@ DlgApercu::DlgApercu(QWidget* parent, const QString& source, const EtudeImport& 
     const std::array<std::pair<const char*, std::int64_t>, 7> comptes = {{
         {"Contacts dans le fichier", bilan.lus},
         {"Repris dans le nouveau cahier", bilan.repris},
-        {"dont coupés ou changés", bilan.changes},
-        {"dont égaux à un autre", bilan.egaux},
-        {"dont sans locator de la station", bilan.locatorsSupposes},
+        {"    dont coupés ou changés", bilan.changes},
+        {"    dont égaux à un autre", bilan.egaux},
+        {"    dont sans locator de la station", bilan.locatorsSupposes},
         {"Laissés de côté", bilan.laisses},
         {"Lignes hors de tout contact", bilan.incidents},
     }};
@@ -59,6 +61,7 @@ DlgApercu::DlgApercu(QWidget* parent, const QString& source, const EtudeImport& 
         valeur->setAlignment(Qt::AlignRight);
         table->addRow(Q(nom), valeur);
     }
+    table->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     table->setFormAlignment(Qt::AlignLeft);
     auto* pourquoi =
         new QLabel(etude.lignes.isEmpty()

@@ -14,7 +14,7 @@ inline constexpr qsizetype kLignesApercu = 2000;
 /// A study without writing.
 struct EtudeImport {
     BilanImport bilan;
-    QStringList lignes; ///< up to kLignesApercu
+    QStringList lignes; ///< up to kLignesApercu, and one that says so when there are more
 };
 [[nodiscard]] EtudeImport Etudier(const DemandeImport& demande, const Fuseau& fuseau);
 

@@ -148,7 +148,8 @@ void FenetreDbOrvalis::Composer() {
     revenir_ = Bouton(this, "BtStation", "Celui de la &station", "Revenir au cahier de la station");
     importer_ = Bouton(this, "BtImporter", "&Importer un fichier ADIF…",
                        "Faire un second cahier d'un fichier ADI ou ADX");
-    auto* bilan = Bouton(this, "BtBilan", "Bi&lan", "Le cahier en chiffres et en graphiques");
+    auto* bilan =
+        Bouton(this, "BtBilan", "Bi&lan à l'écran", "Le cahier en chiffres et en graphiques");
     auto* fermer = Bouton(this, "BtFermer", "&Fermer", "Quitter dbOrvalis");
     for (std::size_t i = 0; i < kSorties.size(); ++i) {
         surCahier_.push_back(
