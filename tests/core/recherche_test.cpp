@@ -82,6 +82,13 @@ TEST_F(Recherche, Doublons) {
     Poser(contact("VP2/F1AAA/MM") + contact("VP2/F1AAA/MM"));
     EXPECT_EQ(ChercherDoublons(cahier).lignes.at(0),
               "1      VP2/F1AAA/Le 12/05/02 à 18:30          ");
+    // Of two contacts that began together, the one further down is the last; two of the added ones
+    // that are alike were not there before.
+    const std::string b = contact("F1AAA", "18:46");
+    Poser(a + b + a + b + contact("F1AAA", "18:47") + contact("F1AAA", "18:47"));
+    EXPECT_EQ(CompterDejaLa(cahier, kPremiereFiche + 2), 2);
+    Poser(a + b);
+    EXPECT_EQ(ChercherStation(cahier, "f1aaa").derniere, Enregistrement(b));
 }
 
 } // namespace orvalis::aides::recherche

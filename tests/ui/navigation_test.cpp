@@ -111,11 +111,13 @@ TEST(Navigation, CarteListeEtFeuilleMontrentLesOctets) {
     Banc banc(
         Octets("F6ABCDEFGHIJ/P|12/05/02|18:30||||||Besançon|JO62QM|2A|Éloïse|ANTENNE YAGI 3 F5XYZ",
                "JN04SD") +
-        Octets("KL7ABC|12/05/02|18:30||||||Nome|AP84HM", "RF80AA") + Octets("F5XYZ") + Fin());
+        Octets("KL7ABC|12/05/02|18:30||||||Nome|AP84HM", "RF80AA") + Octets("G3QSO", "JN04SD") +
+        Octets("F5XYZ") + Fin());
     banc.Suivre(R"(
  both locators empty : -> LabDist LabAzim = "0 Km      |... "; caché LabUTC
  list : rangee 1 -> ListeLog =
-     "1      : F6ABCDEFGH:12/05/02:18:30      |2      : KL7ABC    :12/05/02:18:30      |3      : F5XYZ     :        :           "
+     "1      : F6ABCDEFGH:12/05/02:18:30      |2      : KL7ABC    :12/05/02:18:30      |3      :
+     G3QSO     :        :           |4      : F5XYZ     :        :           "
  card : -> NoFicheLab TxtField_1 TxtField_13 TxtField_17 LabDept LabDist LabAzim =
      " Fiche N° 1 |F6ABCDEFGHIJ/P|ANTENNE YAGI 3|F5XYZ|Aisne|1275.5 Km |321°"
  sheet : -> PageText1 contient "Besançon             Éloïse")");
@@ -125,8 +127,11 @@ TEST(Navigation, CarteListeEtFeuilleMontrentLesOctets) {
     banc.Suivre("across the 180th meridian : ligne 2 ->");
     EXPECT_TRUE(banc.Controle<QWidget>("LabAzim")->toolTip().endsWith(
         Q("(l'azimut ne vaut pas au-delà du 180e méridien)")));
-    banc.Suivre("no locator : ligne 3 ->");
-    EXPECT_EQ(S(banc.Controle<QWidget>("BoussoleAzim")->accessibleName()), "");
+    for (const char* pas : {"his is missing : ligne 3 -> LabDist LabAzim = \"          |    \"",
+                            "both are : ligne 4 ->"}) {
+        banc.Suivre(pas);
+        EXPECT_EQ(S(banc.Controle<QWidget>("BoussoleAzim")->accessibleName()), "");
+    }
 }
 
 } // namespace orvalis::operateur::navigation
