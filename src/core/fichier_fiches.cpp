@@ -66,15 +66,19 @@ std::int32_t FichierFiches::Compter() const {
 }
 
 std::int32_t FichierFiches::Compter(std::vector<OctetsIndicatif>& indicatifs) const {
-    indicatifs.clear();
-    return Parcourir(*this, [&](std::span<const QsoRecord> fiches) {
-        const std::size_t avant = indicatifs.size();
-        indicatifs.resize(avant + fiches.size());
-        auto* ici = indicatifs.data() + avant;
+    // Where reading fails, those counted before stay with the number they go with.
+    std::vector<OctetsIndicatif> lus;
+    lus.reserve(indicatifs.size());
+    const std::int32_t nombre = Parcourir(*this, [&](std::span<const QsoRecord> fiches) {
+        const std::size_t avant = lus.size();
+        lus.resize(avant + fiches.size());
+        auto* ici = lus.data() + avant;
         for (const QsoRecord& fiche :
              fiches) // straight into its place: a detour costs as much again
             std::memcpy(ici++, OctetsChamp(fiche, Champ::CSGN).data(), sizeof *ici);
     });
+    indicatifs.swap(lus);
+    return nombre;
 }
 
 LecteurFiches::LecteurFiches(const FichierFiches& fichier) : fichier_(fichier) {}

@@ -42,7 +42,7 @@ class FichierFiches {
     void Ecrire(NumeroFiche k, std::span<const QsoRecord> fiches);
     /// Number of contacts: the records before the end-of-log record, or all of them without one.
     [[nodiscard]] std::int32_t Compter() const;
-    /// The same; `indicatifs` becomes the callsign field of each of them.
+    /// The same; `indicatifs` becomes the callsign field of each of them, unless this throws.
     [[nodiscard]] std::int32_t Compter(std::vector<OctetsIndicatif>& indicatifs) const;
 
   private:

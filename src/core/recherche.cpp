@@ -18,6 +18,9 @@ constexpr std::size_t kLargeurDate = Description(Champ::DQSO).largeur;
 // Callsign, date, times and frequency lie together at the head of a record.
 constexpr std::size_t kOctetsDoublon = Description(Champ::MODE).decalage;
 
+// Up to so many found records are read each by itself, more of them block by block.
+constexpr std::size_t kFichesUneAUne = 16;
+
 constexpr std::string_view kSeparateurs = "/.: ";
 
 std::array<char, 256> TableMajuscules() {
@@ -172,14 +175,21 @@ ResultatRecherche ChercherDoublons(const Cahier& cahier) {
 
 StationContactee ChercherStation(const Cahier& cahier, std::string_view indicatif) {
     const EstContactAvec estContact(indicatif);
+    std::vector<NumeroFiche> trouvees;
+    NumeroFiche ici = kAucuneFiche;
+    for (const OctetsIndicatif& octets : cahier.indicatifs) {
+        ++ici;
+        if (!estContact.Vide() && estContact(std::string_view{octets.data(), octets.size()}))
+            trouvees.push_back(ici);
+    }
     StationContactee station;
     std::int64_t dernier = 0;
-    NumeroFiche k = kAucuneFiche;
-    for (const OctetsIndicatif& octets : cahier.indicatifs) {
-        ++k;
-        if (estContact.Vide() || !estContact(std::string_view{octets.data(), octets.size()}))
+    LecteurFiches lecteur(cahier.fichier); // worth its block where many are found
+    for (const NumeroFiche k : trouvees) {
+        const QsoRecord fiche =
+            trouvees.size() > kFichesUneAUne ? lecteur.Lire(k) : FicheDuCahier(cahier, k);
+        if (!estContact(fiche)) // another program has written there since it was counted
             continue;
-        const QsoRecord fiche = FicheDuCahier(cahier, k);
         const std::int64_t moment = Moment(fiche);
         if (station.fois++ == 0 || moment >= dernier) {
             dernier = moment;

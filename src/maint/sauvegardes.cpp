@@ -31,11 +31,11 @@ std::optional<Sauvegarde> DerniereSauvegarde(const fs::path& lecteur, std::strin
     std::optional<Sauvegarde> derniere;
     std::error_code raison;
     for (const fs::directory_entry& entree : fs::directory_iterator(dossier, raison)) {
+        if (!EstUneSauvegardeDe(entree.path().filename(), cahier))
+            continue;              // before asking the system about it
         std::error_code illisible; // gone meanwhile, or not ours to see
         const auto date = entree.last_write_time(illisible);
-        if (!illisible && entree.is_regular_file(illisible) &&
-            EstUneSauvegardeDe(entree.path().filename(), cahier) &&
-            (!derniere || date > derniere->date))
+        if (!illisible && entree.is_regular_file(illisible) && (!derniere || date > derniere->date))
             derniere = Sauvegarde{entree.path(), date, 0};
     }
     if (!derniere)

@@ -71,6 +71,11 @@ TEST_F(Fiches, AjoutsEtSuppressionsOctetParOctet) {
     Poser(a + b + f);
     EXPECT_TRUE(CorrigerFiche(cahier, kPremiereFiche, Enregistrement(a), Enregistrement(c)));
     EXPECT_EQ(ChercherStation(cahier, "f3ccc").fois, 1);
+    cahier.fichier.Ecrire(kPremiereFiche, Enregistrement(a)); // by another program
+    EXPECT_EQ(ChercherStation(cahier, "f3ccc").fois, 0);
+    auto gardes = cahier.indicatifs;
+    EXPECT_THROW(static_cast<void>(FichierFiches{}.Compter(gardes)), Erreur);
+    EXPECT_EQ(gardes, cahier.indicatifs);
 }
 
 TEST_F(Fiches, UnCahierNeSOuvrePasDeuxFois) {

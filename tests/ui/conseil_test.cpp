@@ -12,9 +12,11 @@
 #include <QTest>
 
 #include <chrono>
+#include <fcntl.h>
 #include <random>
 #include <regex>
 #include <set>
+#include <unistd.h>
 
 namespace orvalis::operateur::conseil {
 
@@ -101,7 +103,7 @@ std::string Confronter(Banc& banc) {
         EXPECT_EQ(zone, t[2]);
         EXPECT_EQ(S(Q(montre).trimmed()) == zone, t[1] == "garde");
     } else if (Dit(phrase, "^(laisse|vide) |ERREUR et vide", t)) {
-        EXPECT_EQ(zone, "");
+        EXPECT_EQ(erreur && !saisie ? apres : zone, "");
         EXPECT_TRUE(t[1] != "laisse" || Q(montre).trimmed().isEmpty());
     } else if (Dit(phrase, "^remet « (.*?) »", t)) {
         EXPECT_EQ(apres, t[1]);
@@ -187,6 +189,15 @@ void Suivre(Banc& banc, const aides::Textes& pas) {
     }
 }
 
+// The disk of the logbook is pulled: its open file can no longer be read.
+void Arracher(const Banc& banc) {
+    for (const auto& lien : std::filesystem::directory_iterator("/proc/self/fd")) {
+        std::error_code absent;
+        if (std::filesystem::read_symlink(lien, absent) == banc.Dossier() / "F5ABC.Vek")
+            ::dup2(::open("/dev/null", O_WRONLY | O_CLOEXEC), std::stoi(lien.path().filename()));
+    }
+}
+
 TEST(Conseil, CeQuiTientPendantUneSaisie) {
     const std::string vieux = Octets("F1QSO/P|01/02/99|10:00||7.085|CW|||||||||En cours");
     const std::string jeune =
@@ -198,19 +209,31 @@ TEST(Conseil, CeQuiTientPendantUneSaisie) {
          {"valide f1qso; tape 7.0",
           "Entrée : garde « 7.0 » (MHz, point décimal), puis Mode | Déjà contacté 2 fois, la "
           "dernière le 24/12/25 sur 145.550 ; Danièle, Versailles ; QSL envoyée"},
+         {"foyer TxtField_16",
+          "Entrée : reste ici ; F2 ou un clic change de locator | Déjà contacté 2 fois, la "
+          "dernière le 24/12/25 sur 145.550 ; Danièle, Versailles ; QSL envoyée"},
          {"foyer BtEnrTerminer", "Entrée : abandonne ce contact : indicatif seul | Déjà contacté "
                                  "2 fois, la dernière le 24/12/25 sur 145.550 ; Danièle, "
                                  "Versailles ; QSL envoyée"},
-         {"foyer TxtField_5; valide 7.1, cw; entree 2; foyer TxtField_17; valide f5xyz",
+         {"foyer TxtField_5; valide 7.1, cw; foyer TxtField_17",
+          "Entrée : reste ici ; Suivant attend le RST reçu | Déjà contacté 2 fois, la "
+          "dernière le 24/12/25 sur 145.550 ; Danièle, Versailles ; QSL envoyée"},
+         {"foyer TxtField_7; entree 2; foyer TxtField_17; valide f5xyz",
           "Entrée : enregistre le contact 3 | Déjà contacté 2 fois, la dernière le 24/12/25 sur "
           "145.550 ; Danièle, Versailles ; QSL envoyée"},
          // The result stands until the first letter.
          {"entree 1", "Entrée : reste ici ; il faut un indicatif | Contact 3 enregistré : F1QSO"},
          {"touche Backspace", "Entrée : reste ici ; il faut un indicatif | Contact 3 enregistré : "
                               "F1QSO"},
-         {"tape f9a", "Entrée : garde « F9A », puis Fréquence"},
-         {"entree 1; foyer TxtField_13", "Entrée : laisse cette case vide, puis Ma QSL | Première "
-                                         "fois"}});
+         {"tape f9a", "Entrée : garde « F9A », date « 21/11/26 », heure de début « 18:30 », puis "
+                      "Fréquence"},
+         {"entree 1; menu MnuDoublons; foyer TxtField_7",
+          "Entrée : garde « 59 » (chiffres, point et +), puis RST reçu | Aucun doublon entre "
+          "fiches "
+          "qui se suivent"},
+         {"clic BtContactsFermer; foyer TxtField_13",
+          "Entrée : laisse cette case vide, puis Ma QSL | Première "
+          "fois"}});
     const auto bandeau = [&banc] {
         return S(Q(banc.Texte("LabNonEnregistre")).replace(QChar::Nbsp, u' '));
     };
@@ -226,7 +249,16 @@ TEST(Conseil, CeQuiTientPendantUneSaisie) {
     EXPECT_EQ(bandeau(), "Nouveau contact, pas encore enregistré : Terminer l'enregistre");
     EXPECT_EQ(bulle(),
               "Terminer enregistre le contact 4 avec le manager « F5XYZ » d'un contact précédent");
+    banc.Faire("foyer TxtField_9; tape tours");
+    EXPECT_EQ(bulle(), "Terminer enregistre le contact 4 avec le manager « F5XYZ » d'un contact "
+                       "précédent, sans « TOURS » (pas validé)");
+    banc.Faire("foyer BtEnrSuivant");
     EXPECT_EQ(Confronter(banc), "enregistre");
+    Arracher(banc);
+    Suivre(banc, {{"valide f1qso", "Entrée : garde « 7.1 » (MHz, point décimal), puis Mode"}});
+    banc.Faire("valide 7, cw; entree 2; foyer TxtField_1; touche Ctrl+A, Backspace; entree 1");
+    EXPECT_EQ(bandeau(), "Nouveau contact, pas encore enregistré : il faut un indicatif");
+    EXPECT_FALSE(banc.systeme.codeDeFin.has_value());
 }
 
 TEST(Conseil, SeLitQuandLaCaseOuLIssueChange) {
@@ -279,11 +311,15 @@ TEST(Conseil, CeQuiTientEtCeQuiEstGris) {
            {{"", "Classer réécrit le cahier, sauvegardez d'abord. " + vieille},
             {"menu MnuClasser", "Le cahier était déjà en ordre"},
             {"menu MnuJumeler", "Rien ne défait un jumelage, sauvegardez d'abord. " + vieille}});
+    banc.Faire("fichier VekSave/F5ABC-neuf.Vek; clic BtPjSauvegarder");
     designer("BtPjumeler");
-    Suivre(banc, {{"fichier Autre.Vek; clic BtPjumeler",
-                   "2 contacts de Autre.Vek ajoutés, dont 1 y était déjà"},
-                  {"clic BtPjAnnuler; menu MnuClasser", "Cahier classé en 6 échanges"},
-                  {"menu MnuDoublons", "1 doublon entre fiches qui se suivent"}});
+    Suivre(banc,
+           {{"", "Rien ne défait un jumelage. Dernière sauvegarde il y a moins de 24 heures ; "
+                 "aucun contact depuis"},
+            {"fichier Autre.Vek; clic BtPjumeler",
+             "2 contacts de Autre.Vek ajoutés, dont 1 y était déjà"},
+            {"clic BtPjAnnuler; menu MnuClasser", "Cahier classé en 6 échanges"},
+            {"menu MnuDoublons", "1 doublon entre fiches qui se suivent"}});
     designer("BtFermerLog");
     Suivre(banc, {{"", "fermez d'abord la liste des contacts (Alt+L)"},
                   {"clic BtContactsFermer; ligne 1; clic TxtField_9; valide tours; touche Alt+O",
@@ -291,6 +327,16 @@ TEST(Conseil, CeQuiTientEtCeQuiEstGris) {
                   {"ligne 2; clic BtKillFiche", "Entrée : garde la fiche 2"},
                   {"foyer FraCmdOui", "Entrée : supprime la fiche 2"},
                   {"entree 1", "Fiche 2 supprimée"}});
+    banc.Faire("ligne 1; clic TxtField_9; valide lyon; menu MnuDoublons; clic RechText");
+    designer("BtNewQSO");
+    Suivre(banc, {{"", "Entrée : ne fait rien ; il faut un indicatif ou une date jj/mm/aa | "
+                       "répondez d'abord Oui ou Non"}});
+    banc.Faire("clic FraCmdNon; clic BtNewQSO");
+    designer("MnuCreateMDB");
+    Suivre(banc, {{"", "Entrée : reste ici ; il faut un indicatif | Réaliser  fichier.mdb : "
+                       "terminez d'abord la saisie"}});
+    EXPECT_EQ(DireDejaContacte({1, aides::Enregistrement(Octets("F1QSO||||7.085"))}),
+              "Déjà contacté une fois sur 7.085");
 }
 
 TEST(Conseil, LesAutresControles) {
@@ -302,6 +348,10 @@ TEST(Conseil, LesAutresControles) {
          {"tape f1qso", "Entrée : cherche l'indicatif « F1QSO », puis la liste | Aucune sauvegarde "
                         "de ce cahier dans VekSave"}});
     EXPECT_EQ(Confronter(banc), "cherche");
+    banc.Faire("clic BtContactsFermer; menu MnuJumeler; foyer RechText; tape f1qso");
+    EXPECT_EQ(Entree(banc), "cherche l'indicatif « F1QSO », puis Sauvegarder");
+    EXPECT_EQ(Confronter(banc), "cherche");
+    banc.Faire("clic BtPjAnnuler");
     Suivre(banc,
            {{"clic BtContactsFermer; clic BtNewQSO; valide f6abc; menu MnuChangerLocator; touche "
              "Ctrl+A; tape jn18d",
@@ -314,6 +364,9 @@ TEST(Conseil, LesAutresControles) {
     banc.Faire("clic BtEnrTerminer; menu MnuGestionFeuilleQSL; clic BtTag_1; foyer FLdText_11");
     for (int pas = 0; pas < 20 && banc.Etat("PictFeuilleQSL") == "actif"; ++pas) {
         EXPECT_NE(Entree(banc), "");
+        if (banc.Texte("foyer") == "BtValidQSL") {
+            EXPECT_EQ(Entree(banc), "place l'étiquette de « F1QSO » en place 1");
+        }
         if (banc.Texte("foyer") == "FLdText_1")
             banc.Taper("f1qso");
         Confronter(banc);

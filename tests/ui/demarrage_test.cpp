@@ -28,7 +28,8 @@ TEST(Demarrage, PremierLancementCreeLeCahierPuisLOuvre) {
  Escape ends nothing : touche Esc -> Dlg1Fra2Text1 =
  no callsign : foyer Dlg1Fra2Text2; valide jn99zz -> Dlg1Fra2Text2 = JN99ZZ; foyer = Dlg1Fra2Text1
  no such locator : valide f5abc, jn99zz -> Dlg1Fra2Text2 = ERREUR; rouge Dlg1Fra2Text2
- the callsign as it stands : foyer Dlg1Fra2Text1; tape /p; foyer Dlg1Fra2Text2; touche Ctrl+A
+ the callsign as it stands : foyer Dlg1Fra2Text1; tape /p -> Dlg1Conseil contient , vide le locator, puis Locator
+ the locator again : foyer Dlg1Fra2Text2; touche Ctrl+A
  advice : tape jn04sd -> Dlg1Conseil contient « JN04SD », puis Valider
  announced : entree 1 -> Dlg1Conseil contient crée le cahier F5ABCP.Vek; Dlg1Fra3Lab2 = "~/F5ABCP.Vek va être créé "; caché Dlg1Fra3Lab3
  a key too many : foyer Dlg1Fra2Text2; tape x -> actif Dlg1Fra3

@@ -98,7 +98,7 @@ inline constexpr std::array<DescriptionBoite, kNbBoites> kBoites = {{
     {Boite::Ville, "Frm01Lab09", "_ QTH ______________________________", 25, false,
      Touches::Majuscules, "ex. BLOIS", "QTH", "", "", ""},
     {Boite::SonLocator, "Frm01Lab10", "_ Son Locator _", 6, true, Touches::Majuscules, "ex. JN18DU",
-     "Son locator", "", "un locator comme JN18DU", ""},
+     "Son locator", "", "un locator comme JN18DU", "JN18DU"},
     {Boite::Departement, "Frm01Lab11", "_ Département ____________", 3, true, Touches::Chiffres,
      "ex. 41", "Département", "", "0 à 95 ou 971 à 974", ""},
     {Boite::Prenom, "Frm01Lab12", "_ Prénom  ___________________________", 15, false,
@@ -110,7 +110,7 @@ inline constexpr std::array<DescriptionBoite, kNbBoites> kBoites = {{
     {Boite::SaQsl, "Frm01Lab15", "_ Sa QSL __", 8, true, Touches::Libres, "jj/mm/aa", "Sa QSL", "",
      "", ""},
     {Boite::MonLocator, "Frm01Lab16", " _Mon Locator__", 6, true, Touches::Majuscules, "ex. JN18DU",
-     "Mon locator", "", "un locator comme JN18DU", ""},
+     "Mon locator", "", "un locator comme JN18DU", "JN18DU"},
     {Boite::Manager, "lblLabels_17", "_ QSL Manager ______", 15, false, Touches::Majuscules,
      "ex. F6XYZ", "QSL manager", "", "", ""},
 }};

@@ -28,16 +28,24 @@ std::string DireSauvegarde(const Session& session, const Ecran& ecran) {
            (depuis <= 0 ? "aucun contact" : Compte(depuis, "contact")) + " depuis";
 }
 
-// A command that nothing undoes, and the advice to save first.
+// A command that nothing undoes.
 struct AvantDAgir {
     std::string_view nom;
-    std::string_view conseil;
+    std::string_view danger;
 };
 constexpr std::array<AvantDAgir, 3> kAvantDAgir = {{
-    {"MnuClasser", "Classer réécrit le cahier, sauvegardez d'abord"},
-    {"MnuJumeler", "Rien ne défait un jumelage, sauvegardez d'abord"},
-    {"BtPjumeler", "Rien ne défait un jumelage, sauvegardez d'abord"},
+    {"MnuClasser", "Classer réécrit le cahier"},
+    {"MnuJumeler", "Rien ne défait un jumelage"},
+    {"BtPjumeler", "Rien ne défait un jumelage"},
 }};
+
+// The danger, the advice to save first unless that was just done, and how old the last backup is.
+std::string DireDanger(const AvantDAgir& avant, const Session& session, const Ecran& ecran) {
+    const bool sauve = ecran.jumelage.montre && ecran.jumelage.sauvegardeFaite;
+    const std::string sauvegarde = DireSauvegarde(session, ecran);
+    return std::string{avant.danger} + (sauve ? "" : ", sauvegardez d'abord") +
+           (sauvegarde.empty() ? "" : ". " + sauvegarde);
+}
 
 // A button that waits for something that is no condition of its command.
 struct Attente {
@@ -54,7 +62,10 @@ std::string DireDesignee(const Session& session, const Ecran& ecran, const EtatF
     const std::string nom = d.legende.empty() ? "" : d.legende + std::string{kDeuxPoints};
     const unsigned remplies = ConditionsRemplies(session, ecran, feuille);
     const bool question = ecran.question && !ecran.menuActif;
-    const std::string_view fermez = "fermez d'abord la liste des contacts (Alt+L)";
+    // What a list greyed may stay grey while another waits in its place.
+    const std::string_view fermez = ecran.contacts.montree
+                                        ? "fermez d'abord la liste des contacts (Alt+L)"
+                                        : "répondez d'abord Oui ou Non";
     const std::array<Attente, 9> attentes = {{
         {"BtNewQSO", question, "répondez d'abord Oui ou Non"},
         {"BtKillFiche", question, "répondez d'abord Oui ou Non"},
@@ -72,10 +83,8 @@ std::string DireDesignee(const Session& session, const Ecran& ecran, const EtatF
         if (attente.nom == d.nom && attente.attend)
             return nom + std::string{attente.mots};
     for (const AvantDAgir& avant : kAvantDAgir)
-        if (avant.nom == d.nom) {
-            const std::string sauvegarde = DireSauvegarde(session, ecran);
-            return std::string{avant.conseil} + (sauvegarde.empty() ? "" : ". " + sauvegarde);
-        }
+        if (avant.nom == d.nom)
+            return DireDanger(avant, session, ecran);
     return {};
 }
 
@@ -88,7 +97,7 @@ std::string DireEtat(const Session& session, const Ecran& ecran, const EtatFeuil
     if (carte.saisie.EnSaisie)
         return carte.zones[Boite::Indicatif].empty() ? "" : ecran.dejaContacte;
     if (ecran.jumelage.montre)
-        return std::string{kAvantDAgir.back().conseil} + ". " + DireSauvegarde(session, ecran);
+        return DireDanger(kAvantDAgir.back(), session, ecran);
     if (carte.EnEdition() || ecran.question || feuille.vue.panneau || ecran.classer.montre)
         return {};
     return DireSauvegarde(session, ecran);
@@ -125,6 +134,8 @@ std::string Bandeau(const Session& session, const Ecran& ecran) {
     std::string bandeau{kPasEnregistre};
     if (verdict == Verdict::Enregistrer)
         bandeau.append(kDeuxPoints).append("Terminer l'enregistre");
+    else if (verdict == Verdict::IndicatifManquant)
+        bandeau.append(kDeuxPoints).append("il faut un indicatif");
     else if (verdict == Verdict::RienAEcrire && saisie.QsoCommence)
         bandeau.append(kDeuxPoints).append("Terminer l'abandonne");
     return bandeau;
@@ -151,12 +162,13 @@ std::string DireDejaContacte(const StationContactee& station) {
     if (station.fois == 0)
         return "Première fois";
     const auto champ = [&station](Champ c) { return TexteRogne(station.derniere, c); };
-    std::string dit = station.fois == 1
-                          ? "Déjà contacté une fois, le "
-                          : "Déjà contacté " + Nombre(station.fois) + " fois, la dernière le ";
-    dit += champ(Champ::DQSO);
+    std::string dit = station.fois == 1 ? "Déjà contacté une fois"
+                                        : "Déjà contacté " + Nombre(station.fois) + " fois";
+    if (const std::string date = champ(Champ::DQSO); !date.empty())
+        dit += (station.fois == 1 ? ", le " : ", la dernière le ") + date;
     if (const std::string frequence = champ(Champ::FREQ); !frequence.empty())
-        dit += " sur " + frequence;
+        dit += (station.fois == 1 || !champ(Champ::DQSO).empty() ? " sur " : ", la dernière sur ") +
+               frequence;
     const std::string nom = champ(Champ::SNOM);
     const std::string ville = NomPropre(champ(Champ::SQTH));
     if (!nom.empty() || !ville.empty())

@@ -6,6 +6,7 @@
 #include "ui/carte/foyer.h"
 #include "ui/carte/modification.h"
 #include "ui/carte/saisie.h"
+#include "ui/carte/vue.h"
 
 #include <utility>
 
@@ -27,6 +28,10 @@ std::string_view Nom(const Foyer& foyer) {
         return "la liste";
     case Cible::Suivant:
         return "Suivant";
+    case Cible::Sauvegarder:
+        return "Sauvegarder";
+    case Cible::Jumeler:
+        return "Jumeler";
     case Cible::VoieBureau:
         return "Via bureau";
     case Cible::VoieDirecte:
@@ -48,10 +53,12 @@ struct Essai {
     Ecran ecran = avant;
     Carte carte = carteAvant;
     std::optional<Boite> enErreur = std::nullopt;
+    std::optional<Foyer> voeu = std::nullopt; ///< where the rule would have the focus
     bool question = false;
 
     void Suivre(Reponse reponse) {
         enErreur = reponse.effets.enErreur;
+        voeu = reponse.effets.foyer;
         question = reponse.effets.poserQuestion;
         Appliquer(carte, ecran, station, std::move(reponse));
     }
@@ -59,11 +66,35 @@ struct Essai {
     [[nodiscard]] bool Reste() const { return ecran.foyer.ici == avant.foyer.ici; }
 };
 
+// Enter would lead to a button that is not armed.
+void DireAttente(Phrase& p, const Essai& e) {
+    if (e.Reste() && e.voeu == Foyer{Cible::Suivant})
+        p.Dire(kPointVirgule).Dire("Suivant attend le RST reçu");
+}
+
 void DirePuis(Phrase& p, const Essai& e) {
-    if (e.Reste())
+    if (e.Reste()) {
         p.Dire(" et reste ici");
-    else
+        DireAttente(p, e);
+    } else {
         p.Dire(", puis ").Dire(Nom(e.ecran.foyer.ici));
+    }
+}
+
+std::string Minuscule(std::string_view mots) {
+    std::string sortie{mots};
+    if (!sortie.empty() && sortie.front() >= 'A' && sortie.front() <= 'Z')
+        sortie.front() = static_cast<char>(sortie.front() - 'A' + 'a');
+    return sortie;
+}
+
+// What the rule puts into other slots than that of its box: the clock, in real time.
+void DireAutresZones(Phrase& p, const Essai& e, Boite boite) {
+    for (const DescriptionBoite& d : kBoites) {
+        const std::string& zone = e.carte.zones[d.boite];
+        if (d.boite != boite && zone != e.carteAvant.zones[d.boite])
+            p.Dire(", ").Dire(Minuscule(d.nom)).Dire(" ").Citer(zone);
+    }
 }
 
 // What Enter would do with a text of the form that the box wants; with it the rule itself tells
@@ -108,6 +139,7 @@ void DireSaisie(Phrase& p, const Essai& e, Boite boite) {
     const std::string_view montre = Rogner(e.carteAvant.Texte(boite));
     if (e.Reste() && zone == ancienne && e.carte.Texte(boite) == e.carteAvant.Texte(boite)) {
         p.Dire("reste ici");
+        DireAttente(p, e);
         DireBesoin(p, e, boite);
         return DirePrend(p, boite);
     }
@@ -116,6 +148,7 @@ void DireSaisie(Phrase& p, const Essai& e, Boite boite) {
     else
         p.Dire(zone == montre ? "garde " : "prend ").Citer(zone);
     DirePrend(p, boite); // here, lest it seem to be said of the next box
+    DireAutresZones(p, e, boite);
     DirePuis(p, e);
     // A text that the rule takes as it is and stays: there is more of it to come.
     if (e.Reste() && (zone.empty() || zone == montre))
@@ -176,7 +209,9 @@ void DireBoite(Phrase& p, Essai e, Boite boite) {
     e.Suivre(ValiderBoite(e.carteAvant, e.station, boite, e.Maintenant()));
     const bool saisie = e.carteAvant.saisie.EnSaisie;
     if (e.enErreur) {
-        p.Dire("affiche ERREUR ").Dire(saisie ? "et vide cette case" : "et ne change rien");
+        p.Dire("affiche ERREUR et vide cette case");
+        if (!saisie)
+            p.Dire(", la fiche ne change pas");
         DireBesoin(p, e, boite);
     } else if (saisie) {
         DireSaisie(p, e, boite);
@@ -201,7 +236,7 @@ bool PlusQueLIndicatif(const Carte& carte) {
 void DireAbandon(Phrase& p, const Carte& carte) {
     const bool plus = PlusQueLIndicatif(carte);
     if (!carte.saisie.QsoCommence && !plus) {
-        p.Dire("n'enregistre rien").Dire(kPointVirgule).Dire("la fiche est vierge");
+        p.Dire("n'enregistre rien").Dire(kPointVirgule).Dire("aucun indicatif validé");
         return;
     }
     p.Dire("abandonne ce contact").Dire(kDeuxPoints);
@@ -210,13 +245,27 @@ void DireAbandon(Phrase& p, const Carte& carte) {
                                      : "indicatif seul");
 }
 
-void DireFin(Phrase& p, const Essai& e, FinDeSaisie fin) {
-    const ContactFini contact =
-        FinirContact(e.carteAvant, e.station, fin, e.avant.suivantArme, e.Maintenant());
-    switch (contact.verdict) {
+// The text of the box in hand, which a press on Terminer does not take.
+void DireNonValide(Phrase& p, const Carte& carte, const Foyer& ici, bool enregistre) {
+    const std::optional<Boite> boite = BoiteDuFoyer(ici);
+    if (!boite)
+        return;
+    const std::string_view texte = Rogner(carte.Texte(*boite));
+    if (texte.empty() || texte == carte.zones[*boite])
+        return;
+    p.Dire(enregistre ? ", sans " : ", ").Citer(texte);
+    p.Dire(enregistre ? " (pas validé)" : " n'est pas validé");
+}
+
+void DireFin(Phrase& p, const Session& session, const Ecran& ecran, FinDeSaisie fin) {
+    const Carte& carte = session.carte;
+    const Verdict verdict = FinirContact(carte, session.station, fin, ecran.suivantArme,
+                                         ecran.heure.value_or(Instant{}))
+                                .verdict;
+    switch (verdict) {
     case Verdict::Enregistrer:
-        p.Dire("enregistre le contact " + std::to_string(e.session.cahier.Prochaine().Valeur()));
-        if (const auto jointe = ChercherInfoJointe(e.carteAvant)) {
+        p.Dire("enregistre le contact " + std::to_string(session.cahier.Prochaine().Valeur()));
+        if (const auto jointe = ChercherInfoJointe(carte)) {
             const Phrase avec = DireInfoJointe(*jointe);
             p.texte += " avec " + avec.texte;
             p.cle += " avec " + avec.cle;
@@ -228,18 +277,19 @@ void DireFin(Phrase& p, const Essai& e, FinDeSaisie fin) {
             .Dire("il faut un indicatif");
         break;
     case Verdict::RienAEcrire:
-        DireAbandon(p, e.carteAvant);
+        DireAbandon(p, carte);
         break;
     }
+    DireNonValide(p, carte, ecran.foyer.ici, verdict == Verdict::Enregistrer);
 }
 
-void DireReponse(Phrase& p, const Essai& e, bool oui) {
-    const std::string fiche = "la fiche " + std::to_string(e.carteAvant.ficheCourante.Valeur());
-    if (DemandeEffacement(e.carteAvant)) {
+void DireReponse(Phrase& p, const Carte& carte, bool oui) {
+    const std::string fiche = "la fiche " + std::to_string(carte.ficheCourante.Valeur());
+    if (DemandeEffacement(carte)) {
         p.Dire(oui ? "supprime " : "garde ").Dire(fiche);
     } else if (oui) {
         p.Dire("enregistre");
-        DireChangements(p, e.carteAvant);
+        DireChangements(p, carte);
     } else {
         p.Dire("rend " + fiche + " telle qu'elle était");
     }
@@ -254,6 +304,9 @@ void DireRecherche(Phrase& p, Essai e) {
         return;
     }
     CederAuxContacts(e.carte, e.ecran, e.station);
+    // Where a panel waits in place of the list, as at the end of the flow. The label sheet, which
+    // hides the box that has the focus, is not on show.
+    static_cast<void>(AccorderFoyer(e.carte, e.ecran, e.station, VueFenetre{}));
     p.Dire(EstDateOuHeure(texte) ? "cherche les contacts du " : "cherche l'indicatif ")
         .Citer(texte);
     DirePuis(p, e);
@@ -300,62 +353,66 @@ void DireEtiquette(Phrase& p, Essai e, EtatFeuille feuille) {
     }
     if (!visible && feuille.vue.valider)
         p.Dire(p.texte.empty() ? "montre Valider" : ", montre Valider");
-    else if (p.texte.empty())
-        p.Dire(e.Reste() ? "ne fait rien" : "passe à la suite");
+    else if (p.texte.empty() && e.Reste()) {
+        p.Dire("ne fait rien");
+        return;
+    } else if (p.texte.empty())
+        p.Dire("passe à la suite");
     DirePuis(p, e);
 }
 
-void DireValider(Phrase& p, const Essai& e, EtatFeuille feuille) {
+void DireValider(Phrase& p, const Cahier& cahier, EtatFeuille feuille) {
     const std::string indicatif{Rogner(feuille.boites[kBoiteIndicatif])};
-    const auto [place, refus] = ProjeterEtiquette(e.session.cahier, feuille);
+    const auto [place, refus] = ProjeterEtiquette(cahier, feuille);
     if (place == kAucunePlace)
         p.Dire("ne place rien").Dire(kDeuxPoints).Dire(Rogner(refus));
     else
         p.Dire("place l'étiquette de ")
             .Citer(indicatif)
-            .Dire(" en " + std::to_string(place.Valeur()));
+            .Dire(" en place " + std::to_string(place.Valeur()));
 }
 
 } // namespace
 
 Phrase DireEntree(const Session& session, const Ecran& ecran, const EtatFeuille& feuille) {
     Phrase p;
-    const Essai e{session, ecran};
+    // Only where a rule runs is the state copied: this is asked at every paint.
+    const auto essai = [&] { return Essai{session, ecran}; };
     switch (ecran.foyer.ici.cible) {
     case Cible::Boite:
-        DireBoite(p, e, static_cast<Boite>(ecran.foyer.ici.numero));
+        DireBoite(p, essai(), static_cast<Boite>(ecran.foyer.ici.numero));
         break;
     case Cible::Suivant:
-        DireFin(p, e, FinDeSaisie::Suivant);
+        DireFin(p, session, ecran, FinDeSaisie::Suivant);
         break;
     case Cible::Terminer:
-        DireFin(p, e, FinDeSaisie::Terminer);
+        DireFin(p, session, ecran, FinDeSaisie::Terminer);
         break;
     case Cible::Oui:
-        DireReponse(p, e, true);
+        DireReponse(p, session.carte, true);
         break;
     case Cible::Non:
-        DireReponse(p, e, false);
+        DireReponse(p, session.carte, false);
         break;
     case Cible::Recherche:
-        DireRecherche(p, e);
+        DireRecherche(p, essai());
         break;
     case Cible::TexteLocator:
-        DireLocator(p, e);
+        DireLocator(p, essai());
         break;
     case Cible::ValiderLocator:
-        DireFinLocator(p, e, true);
+        DireFinLocator(p, essai(), true);
         break;
     case Cible::AnnulerLocator:
-        DireFinLocator(p, e, false);
+        DireFinLocator(p, essai(), false);
         break;
     case Cible::BoiteEtiquette:
     case Cible::VoieBureau:
     case Cible::VoieDirecte:
-        DireEtiquette(p, e, feuille);
+        DireEtiquette(p, essai(), feuille);
         break;
     case Cible::ValiderEtiquette:
-        DireValider(p, e, feuille);
+        DireValider(p, session.cahier, feuille);
         break;
     default:
         break;
@@ -365,7 +422,7 @@ Phrase DireEntree(const Session& session, const Ecran& ecran, const EtatFeuille&
 
 Phrase DireTerminer(const Session& session, const Ecran& ecran) {
     Phrase p;
-    DireFin(p, Essai{session, ecran}, FinDeSaisie::Terminer);
+    DireFin(p, session, ecran, FinDeSaisie::Terminer);
     return p;
 }
 

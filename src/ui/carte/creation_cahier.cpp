@@ -20,6 +20,7 @@ bool PrendreIndicatif(Creation& creation) {
 void DireAcceptation(Phrase& p, Creation creation) {
     const bool indicatif = creation.foyer == CibleCreation::Indicatif;
     const std::string texte = indicatif ? creation.texteIndicatif : creation.texteLocator;
+    const bool videLocator = indicatif && !creation.texteLocator.empty();
     (indicatif ? AccepterIndicatif : AccepterLocator)(creation);
     if (creation.erreur)
         p.Dire("affiche ERREUR").Dire(kPointVirgule).Dire("il faut un locator comme JN18DU");
@@ -30,6 +31,7 @@ void DireAcceptation(Phrase& p, Creation creation) {
     else
         p.Dire("accepte ")
             .Citer(texte)
+            .Dire(videLocator ? ", vide le locator" : "")
             .Dire(creation.foyer == CibleCreation::Locator ? ", puis Locator de la station"
                                                            : ", puis Valider");
 }

@@ -153,7 +153,7 @@ struct PanneauJumelage {
 };
 
 /// What the last command did, for the line of advice. It stands until something else that is seen
-/// of the logbook, the card or a panel changes (OublierAnnonce, conseil.h).
+/// of the logbook, the card or a panel changes (OublierAnnonce, vue.h).
 struct Annonce {
     std::string texte;
     unsigned rang = 0; ///< grows with each, so that the same text twice is two

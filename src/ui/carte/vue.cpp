@@ -11,6 +11,7 @@ namespace {
 VueCarte VoirCarte(const Session& session, const Ecran& ecran) {
     const Carte& carte = session.carte;
     return {.boites = carte.boites,
+            .zones = carte.zones,
             .enErreur = BoiteDuFoyer(ecran.enErreur.value_or(Foyer{})),
             .numero = carte.numero,
             .distance = carte.distance,
@@ -100,12 +101,13 @@ VueFenetre VoirFenetre(const Session& session, const Ecran& ecran, const EtatFeu
 }
 
 bool OublierAnnonce(Ecran& ecran, const VueFenetre& avant, const VueFenetre& apres) {
-    const auto memeTexte = [](const BoiteMontree& a, const BoiteMontree& b) {
-        return a.texte == b.texte;
+    const auto sansBulle = [](VueBoutons boutons) { // which tells of the box in hand
+        boutons.bulleTerminer.clear();
+        return boutons;
     };
     const VueCarte &a = avant.carte, &b = apres.carte;
-    const bool meme = std::equal(a.boites.begin(), a.boites.end(), b.boites.begin(), memeTexte) &&
-                      a.numero == b.numero && avant.boutons == apres.boutons &&
+    const bool meme = a.zones == b.zones && a.numero == b.numero &&
+                      sansBulle(avant.boutons) == sansBulle(apres.boutons) &&
                       avant.liste == apres.liste && avant.recherche == apres.recherche &&
                       avant.contacts == apres.contacts && avant.question == apres.question &&
                       avant.locator == apres.locator && avant.jumelage == apres.jumelage &&
@@ -142,17 +144,16 @@ bool Joignable(const VueFenetre& vue, const Carte& carte, const Ecran& ecran, co
     }
 }
 
-bool AccorderFoyer(Session& session, Ecran& ecran, const VueFenetre& vue, bool perdu) {
-    const auto joignable = [&](const Foyer& foyer) {
-        return Joignable(vue, session.carte, ecran, foyer);
-    };
+bool AccorderFoyer(Carte& carte, Ecran& ecran, const Station& station, const VueFenetre& vue,
+                   bool perdu) {
+    const auto joignable = [&](const Foyer& foyer) { return Joignable(vue, carte, ecran, foyer); };
     if (!perdu && joignable(ecran.foyer.voeu.value_or(ecran.foyer.ici)))
         return false;
     const auto repli = std::find_if(kReplis.begin(), kReplis.end(), joignable);
     if (repli == kReplis.end())
-        LacherFoyer(session.carte, ecran);
+        LacherFoyer(carte, ecran);
     else
-        DeplacerFoyer(session.carte, ecran, session.station, *repli);
+        DeplacerFoyer(carte, ecran, station, *repli);
     return true;
 }
 

@@ -17,6 +17,7 @@ namespace orvalis {
 /// PictFiche.
 struct VueCarte {
     std::array<BoiteMontree, kNbBoites> boites;
+    Zones zones; ///< behind the boxes, whatever the one in hand offers or is typed in it
     std::optional<Boite> enErreur; ///< the box that reads "ERREUR"
     std::string numero;
     std::string distance;
@@ -87,7 +88,7 @@ struct VueFenetre {
 /// or waits on top of the rest, else the list, the contacts list, the new-contact button; nowhere
 /// only when none of them can take it. Returns whether the state has changed, so that the view must
 /// be taken again. For the end of a flow.
-[[nodiscard]] bool AccorderFoyer(Session& session, Ecran& ecran, const VueFenetre& vue,
-                                 bool perdu = false);
+[[nodiscard]] bool AccorderFoyer(Carte& carte, Ecran& ecran, const Station& station,
+                                 const VueFenetre& vue, bool perdu = false);
 
 } // namespace orvalis

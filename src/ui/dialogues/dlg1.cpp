@@ -85,7 +85,10 @@ Dlg1::Dlg1(std::filesystem::path lecteur, Systeme& systeme, QWidget* parent)
     Conseiller();
 }
 
-Dlg1::~Dlg1() = default;
+// Its boxes lose the focus while they are destroyed, when there is nothing left to advise.
+Dlg1::~Dlg1() {
+    disconnect(qApp, nullptr, this, nullptr);
+}
 
 bool Dlg1::eventFilter(QObject* objet, QEvent* evenement) {
     if (!EstEntree(*evenement))

@@ -292,14 +292,15 @@ void Orvalis::Sortir(const Action& action) {
 
 void Orvalis::Peindre() {
     VueFenetre vue = VoirFenetre(session_, ecran_, feuille_);
-    if (AccorderFoyer(session_, ecran_, vue))
+    if (AccorderFoyer(session_.carte, ecran_, session_.station, vue))
         vue = VoirFenetre(session_, ecran_, feuille_);
     if (const auto& derniere = peintre_->Derniere();
         derniere && OublierAnnonce(ecran_, *derniere, vue))
         vue = VoirFenetre(session_, ecran_, feuille_);
     peintre_->Peindre(vue, ecran_.foyer);
     // What had the focus may have gone without being known to the rules.
-    if (peintre_->FoyerPerdu(ecran_.foyer) && AccorderFoyer(session_, ecran_, vue, true))
+    if (peintre_->FoyerPerdu(ecran_.foyer) &&
+        AccorderFoyer(session_.carte, ecran_, session_.station, vue, true))
         peintre_->Peindre(VoirFenetre(session_, ecran_, feuille_), ecran_.foyer);
 }
 

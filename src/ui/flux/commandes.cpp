@@ -31,7 +31,7 @@ constexpr std::array kCommandes = std::to_array<Commande>({
      OuvrirJumelage},
     {"MnuQuitter", "  Fermer Fichier  et  Quitter", kToujours, QuitterOrvalis, true},
     {"MnuLister", "      Liste        "},
-    {"MnuCreateMDB", "    Réaliser  fichier.mdb", kMenu | kHorsEdition | kAuMoinsUn,
+    {"MnuCreateMDB", "    Réaliser  fichier.mdb", kMenu | kHorsSaisie | kHorsEdition | kAuMoinsUn,
      CreerBaseDeDonnees},
     {"MnuCopieSurDisque", "Copier sur CD ou disquette", kMenu | kHorsSaisie | kAuMoinsUn,
      CopierSurDisque},

@@ -12,7 +12,26 @@
 #include "ui/flux/flux_modification.h"
 #include "ui/flux/flux_navigation.h"
 
+#include <exception>
+#include <string>
+
 namespace orvalis {
+namespace {
+
+// How many of the contacts from `premiere` on were there before. Nothing where they cannot be
+// read: the pairing has succeeded all the same.
+std::string DireDejaLa(const Cahier& cahier, NumeroFiche premiere) {
+    try {
+        const std::int32_t deja = CompterDejaLa(cahier, premiere);
+        if (deja == 0)
+            return ", aucun n'y était déjà";
+        return ", dont " + Nombre(deja) + " y étai" + (deja < 2 ? "t" : "ent") + " déjà";
+    } catch (const std::exception&) {
+        return {};
+    }
+}
+
+} // namespace
 
 void OuvrirJumelage(Plateau& p) {
     LacherFoyer(p);
@@ -35,12 +54,9 @@ void Jumeler(Plateau& p) {
         const std::filesystem::path chemin(S(source));
         const NumeroFiche premiere = s.cahier.Prochaine();
         const std::int32_t nombre = JumelerCahier(s.cahier, s.station, chemin);
-        const std::int32_t deja = CompterDejaLa(s.cahier, premiere);
         Annoncer(p.ecran, Compte(nombre, "contact") + " de " + chemin.filename().string() +
                               (nombre < 2 ? " ajouté" : " ajoutés") +
-                              (deja == 0 ? ", aucun n'y était déjà"
-                                         : ", dont " + Nombre(deja) + " y étai" +
-                                               (deja < 2 ? "t" : "ent") + " déjà"));
+                              DireDejaLa(s.cahier, premiere));
     }));
     if (!p.ecran.arret)
         RelireCahier(p);

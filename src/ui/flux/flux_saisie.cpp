@@ -10,6 +10,7 @@
 #include "ui/flux/flux_modification.h"
 #include "ui/flux/flux_navigation.h"
 
+#include <exception>
 #include <utility>
 
 namespace orvalis {
@@ -103,8 +104,14 @@ void SurEntree(Plateau& p, Boite boite) {
     const Session& s = p.session;
     AppliquerReponse(p, ValiderBoite(s.carte, s.station, boite, p.systeme.Maintenant()));
     const std::string& indicatif = s.carte.zones[Boite::Indicatif];
-    if (boite == Boite::Indicatif && s.carte.saisie.EnSaisie && !indicatif.empty())
+    if (boite != Boite::Indicatif || !s.carte.saisie.EnSaisie || indicatif.empty())
+        return;
+    p.ecran.dejaContacte.clear();
+    try {
         p.ecran.dejaContacte = DireDejaContacte(ChercherStation(s.cahier, indicatif));
+    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
+        // A mere advice: who stores the contact says that the logbook is gone, entry goes on.
+    }
 }
 
 void SurPression(Plateau& p, Boite boite) {
@@ -113,6 +120,7 @@ void SurPression(Plateau& p, Boite boite) {
 }
 
 void SurChangement(Plateau& p, Boite boite, std::string_view texte) {
+    p.ecran.annonce.texte.clear(); // typing is no move of the focus
     SaisirTexte(p.session.carte, boite, texte);
 }
 

@@ -169,7 +169,7 @@ TEST(Vue, CeQuOnVoitDansChaqueEtat) {
         for (const std::string& geste : Couper(gestes, ";"))
             scene.Faire(geste);
         VueFenetre vue = VoirFenetre(scene.session, scene.ecran, scene.feuille);
-        if (AccorderFoyer(scene.session, scene.ecran, vue))
+        if (AccorderFoyer(scene.session.carte, scene.ecran, scene.session.station, vue))
             vue = VoirFenetre(scene.session, scene.ecran, scene.feuille);
         EXPECT_EQ(Dire(vue, scene.ecran.foyer.ici), vu);
     }
