@@ -105,13 +105,23 @@ TEST(Accessibilite, RienNeBougeNiNeDefile) {
         banc.fenetre->resize(taille);
         const auto* cadre =
             banc.fenetre->centralWidget()->findChild<QScrollArea*>({}, Qt::FindDirectChildrenOnly);
-        const auto places = [&] {
-            QTest::qWait(1);
+        const auto mesurer = [&] {
             std::vector<int> ici = {cadre->verticalScrollBar()->maximum()};
             for (const char* nom : {"PageText1", "RechText"}) {
                 const auto* widget = banc.Controle<QWidget>(nom);
                 const QPoint coin = widget->mapTo(cadre->widget(), QPoint());
                 ici.insert(ici.end(), {coin.x(), coin.y(), widget->width(), widget->height()});
+            }
+            return ici;
+        };
+        // A layout that asks its neighbours for room settles over several turns of events.
+        const auto places = [&] {
+            std::vector<int> ici = mesurer();
+            for (int calmes = 0, tours = 0; calmes < 5 && tours < 500; ++tours) {
+                QTest::qWait(1);
+                std::vector<int> lu = mesurer();
+                calmes = lu == ici ? calmes + 1 : 0;
+                ici = std::move(lu);
             }
             return ici;
         };

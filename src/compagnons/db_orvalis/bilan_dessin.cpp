@@ -91,6 +91,7 @@ std::vector<Valeur> Barres(const std::vector<ComptePar>& comptes, std::size_t sa
         rangs.resize(place - 1);
         std::sort(rangs.begin(), rangs.end());
     }
+    valeurs.reserve(rangs.size() + 2); // with the others and those without a name
     for (const std::size_t i : rangs)
         valeurs.push_back({std::string{comptes[i].nom}, comptes[i].contacts});
     if (autres > 0)
@@ -161,6 +162,7 @@ void DessinerCarres(Imprimante& imprimante, const Cadre& cadre, const BilanCahie
     for (const BilanCarre& carre : bilan.carres)
         ++champs[std::string_view{carre.carre}.substr(0, 2)];
     std::vector<ComptePar> comptes;
+    comptes.reserve(champs.size());
     for (const auto& [champ, nombre] : champs)
         comptes.push_back({champ, nombre});
     std::stable_sort(comptes.begin(), comptes.end(), [](const ComptePar& a, const ComptePar& b) {

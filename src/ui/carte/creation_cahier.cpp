@@ -17,14 +17,15 @@ bool PrendreIndicatif(Creation& creation) {
     return true;
 }
 
-void DireAcceptation(Phrase& p, Creation creation) {
+void DireAcceptation(Phrase& p, const Creation& creation) {
+    Creation apres = creation;
     const bool indicatif = creation.foyer == CibleCreation::Indicatif;
     const std::string texte = indicatif ? creation.texteIndicatif : creation.texteLocator;
     const bool videLocator = indicatif && !creation.texteLocator.empty();
-    (indicatif ? AccepterIndicatif : AccepterLocator)(creation);
-    if (creation.erreur)
+    (indicatif ? AccepterIndicatif : AccepterLocator)(apres);
+    if (apres.erreur)
         p.Dire("affiche ERREUR").Dire(kPointVirgule).Dire("il faut un locator comme JN18DU");
-    else if (creation.foyer == CibleCreation::Indicatif)
+    else if (apres.foyer == CibleCreation::Indicatif)
         p.Dire(indicatif ? "reste ici" : "revient à l'indicatif")
             .Dire(kPointVirgule)
             .Dire("il faut un indicatif");
@@ -32,8 +33,8 @@ void DireAcceptation(Phrase& p, Creation creation) {
         p.Dire("accepte ")
             .Citer(texte)
             .Dire(videLocator ? ", vide le locator" : "")
-            .Dire(creation.foyer == CibleCreation::Locator ? ", puis Locator de la station"
-                                                           : ", puis Valider");
+            .Dire(apres.foyer == CibleCreation::Locator ? ", puis Locator de la station"
+                                                        : ", puis Valider");
 }
 
 } // namespace
