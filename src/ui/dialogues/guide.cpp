@@ -184,7 +184,8 @@ void Guide::AjusterImages() {
             if (qRound(image.width()) == large)
                 break;
             image.setWidth(large);
-            image.setHeight(large * taille.height() / std::max(1, taille.width()));
+            const int haut = large * taille.height() / std::max(1, taille.width());
+            image.setHeight(haut);
             QTextCursor ici(&document);
             ici.setPosition(it.fragment().position());
             ici.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
