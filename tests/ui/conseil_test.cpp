@@ -8,13 +8,13 @@
 #include <QAction>
 #include <QApplication>
 #include <QEnterEvent>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <chrono>
 #include <fcntl.h>
 #include <random>
-#include <regex>
 #include <set>
 #include <unistd.h>
 
@@ -39,8 +39,15 @@ std::string NomDuFoyer() {
     return bouton == nullptr ? S(foyer->accessibleName()) : S(bouton->text().remove(u'&'));
 }
 
-bool Dit(const std::string& phrase, const char* modele, std::smatch& trouve) {
-    return std::regex_search(phrase, trouve, std::regex(modele));
+// Whether the sentence says so; what the groups of the pattern found goes to `trouve`, after the
+// whole.
+bool Dit(const std::string& phrase, const char* modele, std::vector<std::string>& trouve) {
+    const QRegularExpression regle(Q(modele));
+    const QRegularExpressionMatch ici = regle.match(Q(phrase));
+    trouve.clear();
+    for (int i = 0; i <= regle.captureCount(); ++i)
+        trouve.push_back(S(ici.captured(i)));
+    return ici.hasMatch();
 }
 
 // Reads the sentence, presses Enter, and holds what became of focus, boxes, question and file
@@ -60,7 +67,7 @@ std::string Confronter(Banc& banc) {
     const bool erreur = !banc.systeme.pendantPause;
     banc.systeme.pendantPause = nullptr;
 
-    std::smatch t;
+    std::vector<std::string> t;
     EXPECT_EQ(erreur, Dit(phrase, "^affiche ERREUR", t));
     EXPECT_TRUE(!erreur || pendant == "ERREUR") << pendant;
     // Where it goes on.
@@ -80,14 +87,14 @@ std::string Confronter(Banc& banc) {
     if (Dit(phrase, "^enregistre le contact ([0-9]+)", t)) {
         const auto n = static_cast<std::size_t>(std::stoi(t[1]));
         const std::string apres = banc.OctetsCahier();
-        EXPECT_EQ(numero, " Charger fiche N° " + t[1].str());
+        EXPECT_EQ(numero, " Charger fiche N° " + t[1]);
         EXPECT_EQ(apres.size(), (n + 1) * kTailleFiche);
         EXPECT_EQ(apres.substr(n * kTailleFiche, 1), "\\");
-        std::smatch joint;
+        std::vector<std::string> joint;
         const bool jointe = Dit(phrase, "avec (le manager|la remarque) « (.*) » d'un", joint);
         if (jointe) {
             EXPECT_EQ(apres.substr((n - 1) * kTailleFiche + (joint[1] == "le manager" ? 128 : 113),
-                                   joint[2].str().size()),
+                                   joint[2].size()),
                       joint[2]);
         }
     }
