@@ -117,6 +117,15 @@ VuePlace VoirPlace(const EtatFeuille& feuille, Place place) {
     return {"Retirer", libre, false, true};
 }
 
+Place PlaceALEtude(const EtatFeuille& feuille) {
+    if (feuille.vue.supprimer)
+        return feuille.etiquetteEnCours;
+    for (Place place = kPremierePlace; place <= kDernierePlace; ++place)
+        if (feuille.Etat(place) == EtatEtiquette::Libre)
+            return place;
+    return kAucunePlace;
+}
+
 bool OuvrirFeuilleQSL(FeuilleQSL& feuille) {
     const bool manque = Manque(feuille.chemin);
     if (manque)

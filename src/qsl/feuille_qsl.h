@@ -61,6 +61,12 @@ struct VueFeuille {
     friend bool operator==(const VueFeuille&, const VueFeuille&) = default;
 };
 
+/// What the boxes of the label editor are called, by their numbers (from 1). In a review the
+/// captions of mode and report change places (vie_etiquette.h).
+inline constexpr std::array<std::string_view, kNbBoitesEtiquette + 1> kNomsBoitesEtiquette = {
+    "",          "Indicatif", "Date",     "UTC",         "Fréquence", "Mode",
+    "RST donné", "En-tête",   "Remarque", "QSL manager", "Contact",   "Fiche N°"};
+
 /// The records of all places.
 using Planche = std::array<QslSlotRecord, kNbEtiquettes>;
 
@@ -99,6 +105,9 @@ struct VuePlace {
     bool tagActif = true;     ///< BtTag is enabled
 };
 [[nodiscard]] VuePlace VoirPlace(const EtatFeuille& feuille, Place place);
+
+/// The place that the editor is about: the one under review, else the next free one.
+[[nodiscard]] Place PlaceALEtude(const EtatFeuille& feuille);
 
 /// "Etiquette N° " and the number.
 [[nodiscard]] std::string LegendeEtiquette(Place place);

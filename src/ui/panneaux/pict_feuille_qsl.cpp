@@ -28,7 +28,6 @@ constexpr std::size_t Largeur(ChampEtiquette champ) {
 // An entry box of the editor: a label's field, as wide as the field on the sheet.
 struct DescriptionBoiteEditeur {
     std::size_t boite;
-    const char* legende;
     std::size_t longueur;
     Touches touches;
     std::size_t rangee; // row of the editor, from 1
@@ -38,25 +37,25 @@ struct DescriptionBoiteEditeur {
 constexpr std::size_t kRangeeContact = 1; // whose label it is, captions beside the boxes
 
 constexpr std::array<DescriptionBoiteEditeur, kNbBoitesEtiquette> kBoitesEditeur = {{
-    {kBoiteIndicatif, "Indicatif", Largeur(ChampEtiquette::Indicatif), Touches::Majuscules, 2,
+    {kBoiteIndicatif, Largeur(ChampEtiquette::Indicatif), Touches::Majuscules, 2,
      "Indicatif du correspondant"},
-    {kBoiteDate, "Date", Largeur(ChampEtiquette::Date), Touches::Libres, 2, "Date du contact"},
-    {kBoiteHeure, "UTC", Largeur(ChampEtiquette::Heure), Touches::Libres, 2, "Heure du contact"},
-    {kBoiteFrequence, "Fréquence", Largeur(ChampEtiquette::Frequence), Touches::Libres, 3,
+    {kBoiteDate, Largeur(ChampEtiquette::Date), Touches::Libres, 2, "Date du contact"},
+    {kBoiteHeure, Largeur(ChampEtiquette::Heure), Touches::Libres, 2, "Heure du contact"},
+    {kBoiteFrequence, Largeur(ChampEtiquette::Frequence), Touches::Libres, 3,
      "Fréquence du contact"},
-    {kBoiteMode, "Mode", Largeur(ChampEtiquette::Mode), Touches::Majuscules, 3, "Mode du contact"},
-    {kBoiteReport, "RST donné", Largeur(ChampEtiquette::Report), Touches::Libres, 3,
+    {kBoiteMode, Largeur(ChampEtiquette::Mode), Touches::Majuscules, 3, "Mode du contact"},
+    {kBoiteReport, Largeur(ChampEtiquette::Report), Touches::Libres, 3,
      "Report donné au correspondant"},
-    {kBoiteLigne1, "En-tête", Largeur(ChampEtiquette::Ligne1), Touches::Libres, 4,
+    {kBoiteLigne1, Largeur(ChampEtiquette::Ligne1), Touches::Libres, 4,
      "Imprimé avant « Confirming QSO with » : votre indicatif, par exemple"},
-    {kBoiteLigne2, "Remarque", Largeur(ChampEtiquette::Ligne2), Touches::Libres, 4,
+    {kBoiteLigne2, Largeur(ChampEtiquette::Ligne2), Touches::Libres, 4,
      "Imprimée après « Via QSL Manager » ; l'étiquette en garde 15 caractères"},
-    {kBoiteManager, "QSL manager", Largeur(ChampEtiquette::Voie), Touches::Majuscules, 5,
+    {kBoiteManager, Largeur(ChampEtiquette::Voie), Touches::Majuscules, 5,
      "Indicatif du manager, quand la carte ne part ni par le bureau ni en direct"},
-    {kBoiteRappel, "Contact", Largeur(ChampEtiquette::Indicatif), Touches::Majuscules,
-     kRangeeContact, "Station à qui la carte est destinée"},
-    {kBoiteNumeroFiche, "Fiche N°", Largeur(ChampEtiquette::Fiche), Touches::Chiffres,
-     kRangeeContact, "Numéro du contact dans le cahier"},
+    {kBoiteRappel, Largeur(ChampEtiquette::Indicatif), Touches::Majuscules, kRangeeContact,
+     "Station à qui la carte est destinée"},
+    {kBoiteNumeroFiche, Largeur(ChampEtiquette::Fiche), Touches::Chiffres, kRangeeContact,
+     "Numéro du contact dans le cahier"},
 }};
 
 constexpr bool DansLOrdre() {
@@ -88,16 +87,6 @@ QString BulleChoix(EtatEtiquette etat) {
         break;
     }
     return QStringLiteral("Cette étiquette manque sur la feuille : ne pas l'utiliser");
-}
-
-// The place that the editor is about: the one under review, else the next free one.
-Place PlaceALEtude(const EtatFeuille& feuille) {
-    if (feuille.vue.supprimer)
-        return feuille.etiquetteEnCours;
-    for (Place place = kPremierePlace; place <= kDernierePlace; ++place)
-        if (feuille.Etat(place) == EtatEtiquette::Libre)
-            return place;
-    return kAucunePlace;
 }
 
 } // namespace
@@ -192,12 +181,12 @@ void PictFeuilleQSL::FaireBoites() {
 void PictFeuilleQSL::FaireBoite(std::size_t rang, QHBoxLayout& rangee) {
     const DescriptionBoiteEditeur& d = kBoitesEditeur[rang];
     BoiteEditeur& boite = boites_[rang];
-    boite.legende = new QLabel(QString::fromUtf8(d.legende), ui_->PictTag);
+    boite.legende = new QLabel(Q(kNomsBoitesEtiquette[d.boite]), ui_->PictTag);
     boite.legende->setFont(PoliceAjustee(boite.legende->font(), kPetite));
     boite.texte = new QLineEdit(ui_->PictTag);
     boite.filtre = new FiltreEdition(*boite.texte, d.touches, d.longueur);
     boite.texte->setObjectName(Nom("FLdText_", static_cast<int>(d.boite)));
-    boite.texte->setAccessibleName(QString::fromUtf8(d.legende));
+    boite.texte->setAccessibleName(Q(kNomsBoitesEtiquette[d.boite]));
     boite.texte->setToolTip(QString::fromUtf8(d.bulle));
     boite.legende->setBuddy(boite.texte);
     boite.texte->setMinimumWidth(LargeurDeBoite(*boite.texte, d.longueur));
@@ -332,11 +321,10 @@ void PictFeuilleQSL::MontrerBoites(const EtatFeuille& feuille) {
     }
     // A label that was read has report and mode in each other's box; the captions follow them.
     const bool echanges = feuille.vue.supprimer;
-    const auto legende = [](std::size_t boite) {
-        return QString::fromUtf8(kBoitesEditeur[boite - 1].legende);
-    };
-    Boite(kBoiteMode).legende->setText(legende(echanges ? kBoiteReport : kBoiteMode));
-    Boite(kBoiteReport).legende->setText(legende(echanges ? kBoiteMode : kBoiteReport));
+    Boite(kBoiteMode)
+        .legende->setText(Q(kNomsBoitesEtiquette[echanges ? kBoiteReport : kBoiteMode]));
+    Boite(kBoiteReport)
+        .legende->setText(Q(kNomsBoitesEtiquette[echanges ? kBoiteMode : kBoiteReport]));
     Activer(*ui_->OptVia, feuille.fraiche);
     Activer(*btIndicatif_, feuille.fraiche);
     ui_->LabAide->setVisible(feuille.boites[kBoiteIndicatif].empty() && !feuille.vue.controle);

@@ -1,12 +1,10 @@
 #include "compagnons/db_orvalis/commande.h"
 #include "compagnons/db_orvalis/fenetre/fenetre_db_orvalis.h"
+#include "ui/bureau/application.h"
 #include "ui/bureau/systeme_reel.h"
 
-#include <QApplication>
 #include <QFileDialog>
 #include <QIcon>
-#include <QLibraryInfo>
-#include <QTranslator>
 
 #include <cstdlib>
 #include <iostream>
@@ -32,15 +30,8 @@ QString DemanderChemin(QWidget* parent, const DemandeChemin& demande) {
 
 int MontrerFenetre(int argc, char** argv, const Lieu& lieu) {
     const QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("dbOrvalis"));
-    // No menu entry of its own: desktops take name and icon from the main program's.
-    QApplication::setDesktopFileName(QStringLiteral("orvalis"));
-    QApplication::setApplicationVersion(QStringLiteral(ORVALIS_VERSION));
-    // Standard buttons and dialogs speak French whatever the system speaks.
     QTranslator francais;
-    if (francais.load(QStringLiteral("qtbase_fr"),
-                      QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&francais);
+    PreparerApplication(QStringLiteral("dbOrvalis"), francais);
     SystemeReel systeme;
     FenetreDbOrvalis fenetre(
         lieu,
