@@ -9,6 +9,7 @@
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace orvalis::operateur {
@@ -85,6 +86,30 @@ template<typename T, typename Vrai> T Passer(const std::string& fichier, Appel a
 }
 
 } // namespace
+
+std::string LancerArme(const std::string& lecteur, const Plan& plan, Bilan& bilan,
+                       const std::function<std::string()>& agir) {
+    constexpr unsigned kSecondes = 20;
+    bilan = {};
+    const pid_t enfant = ::fork();
+    if (enfant == 0) {
+        ::alarm(kSecondes);
+        Armer(lecteur, plan, bilan);
+        agir().copy(bilan.message.data(), bilan.message.size() - 1);
+        ::_exit(0);
+    }
+    int statut = -1;
+    ::waitpid(enfant, &statut, 0);
+    if (WIFSIGNALED(statut) && WTERMSIG(statut) == SIGKILL)
+        return "killed";
+    return statut == 0 ? bilan.message.data() : "crashed";
+}
+
+Bilan& NouveauBilan() {
+    void* memoire =
+        ::mmap(nullptr, sizeof(Bilan), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    return *new (memoire) Bilan; // NOLINT(cppcoreguidelines-owning-memory): the mapping's
+}
 
 void Armer(const std::string& lecteur, const Plan& plan, Bilan& bilan) {
     etat = {lecteur, plan, false, &bilan};

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -49,6 +50,13 @@ struct Bilan {
 /// From here on the calls of the C library on files under `lecteur` (and on the workshop of
 /// core/projection.h) are noted in `bilan`, and the plan holds. There is no way back.
 void Armer(const std::string& lecteur, const Plan& plan, Bilan& bilan);
+
+/// Runs `agir` armed, in a child of this process, and returns what it returned, "killed" or
+/// "crashed"; a run that hangs counts as a crash. `bilan` comes from NouveauBilan.
+[[nodiscard]] std::string LancerArme(const std::string& lecteur, const Plan& plan, Bilan& bilan,
+                                     const std::function<std::string()>& agir);
+/// One that the children of this process can write; it lives as long as the process.
+[[nodiscard]] Bilan& NouveauBilan();
 
 /// Files written, files and folders flushed ("!") and files renamed (">"), in order; what is done
 /// to a file several times in a row is told once.

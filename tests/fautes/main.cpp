@@ -11,8 +11,6 @@
 
 #include <cerrno>
 #include <iostream>
-#include <sys/mman.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace orvalis::operateur {
@@ -46,19 +44,8 @@ std::string Essayer(const Operation& operation, Banc& banc, const Fichiers& avan
             fs::remove_all(entree.path());
     for (const auto& [nom, octets] : avant)
         banc.Ecrire(nom, octets);
-    bilan = {};
-    const pid_t enfant = ::fork();
-    if (enfant == 0) {
-        ::alarm(20); // a run that hangs counts as a crash
-        Armer(banc.systeme.lecteur.string(), plan, bilan);
-        Agir(operation, banc).copy(bilan.message.data(), bilan.message.size() - 1);
-        ::_exit(0);
-    }
-    int statut = -1;
-    ::waitpid(enfant, &statut, 0);
-    if (WIFSIGNALED(statut) && WTERMSIG(statut) == SIGKILL)
-        return "killed";
-    return statut == 0 ? bilan.message.data() : "crashed";
+    return LancerArme(banc.systeme.lecteur.string(), plan, bilan,
+                      [&] { return Agir(operation, banc); });
 }
 
 // What is wrong after a fault; empty when nothing is.
@@ -158,9 +145,7 @@ int main(int argc, char** argv) {
     const std::vector<std::string> mots(argv + 1, argv + argc);
     const std::string ordre = mots.size() == 3 ? mots[0] : "";
     const std::string nom = mots.empty() ? "" : mots[ordre.empty() ? 0 : 1];
-    void* memoire =
-        ::mmap(nullptr, sizeof(Bilan), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
-    auto* bilan = new (memoire) Bilan;
+    Bilan& bilan = NouveauBilan();
     int essais = 0, degats = 0;
     for (const Operation& operation : Operations()) {
         if (!nom.empty() && nom != operation.nom)
@@ -170,7 +155,7 @@ int main(int argc, char** argv) {
             std::cout << message << std::endl;
             ::_exit(message.empty() ? 0 : 1);
         }
-        Parcourir(operation, *bilan, essais, degats);
+        Parcourir(operation, bilan, essais, degats);
     }
     std::cout << essais << " faults tried, " << degats << " damaged\n";
     const bool fait = essais != 0 && !testing::UnitTest::GetInstance()->Failed();

@@ -1,8 +1,11 @@
 // Plays the same gestures on two programs: orvalis_gestes <trace> [gestures] [seed]
-// [--menus-ouverts] drives the real window, without a screen, through gestures drawn from the seed,
-// and writes what is seen after each; orvalis_gestes --comparer <trace> <trace> tells where two
-// such traces part. tools/jumeaux/comparer does both for two trees. The window is known by the
-// names of its controls alone, so that the same source drives any tree that kept them.
+// [--menus-ouverts] [--comptes] drives the real window, without a screen, through gestures drawn
+// from the seed, and writes what is seen after each; orvalis_gestes --comparer <trace> <trace>
+// tells where two such traces part. tools/jumeaux/comparer does both for two trees. With --comptes
+// every contact is accounted for after each gesture, while another program now and then puts other
+// files in place of the logbook and the label sheet. The window is known by the names of its
+// controls alone, so that the same source drives any tree that kept them.
+#include "compte.h"
 #include "regard.h"
 #include "tirages.h"
 
@@ -46,6 +49,7 @@ struct Options {
     int gestes = 20000;
     std::uint64_t graine = 1;
     bool menusOuverts = false;
+    bool comptes = false;
 };
 
 class Joueur : public QObject {
@@ -69,6 +73,11 @@ class Joueur : public QObject {
                 NouveauDossier();
                 mots = "(dossier) ";
             }
+            constexpr int kRarement = 40;
+            if (options_.comptes && a.Un(kRarement)) {
+                mots += compte_.Deranger(systeme_.Dossier(), a) + " ; ";
+                compte_.Prendre(systeme_.Dossier());
+            }
             mots += Faire(a);
             Reposer();
             // A dialog that closed leaves the window inactive here, where an operator would not.
@@ -82,7 +91,7 @@ class Joueur : public QObject {
             Finir(mots);
         }
         fenetre_.reset();
-        return trace_.Fermer() ? 0 : 1;
+        return trace_.Fermer() && fautes_ == 0 ? 0 : 1;
     }
     void Dire() const {
         for (const auto& [quoi, nombre] : comptes_)
@@ -190,6 +199,8 @@ class Joueur : public QObject {
         Etat etat = regard_->Voir(*fenetre_, systeme_);
         trace_.Ecrire(geste_, 0, mots, etat);
         Compter(etat, mots);
+        if (options_.comptes)
+            Verifier(etat, mots);
         avant_ = std::move(etat);
         etiquettesAvant_ = regard_->Etiquettes();
     }
@@ -250,6 +261,22 @@ class Joueur : public QObject {
         un("planches contrôlées et libérées", etiquettes < 0 && avait("PictCtrlImpression"));
         un("planches imprimées", venu("PictCtrlImpression"));
         un("planches à revoir", parti("PictCtrlImpression") && etiquettes == 0);
+    }
+    void Verifier(const Etat& etat, const std::string& mots) {
+        const auto passe = [&](const char* nom) {
+            return Lire(avant_, nom, "visible") == "1" || Lire(etat, nom, "visible") == "1";
+        };
+        const bool pause = Lire(etat, "(systeme)", "appels").find("pause") != std::string::npos;
+        const bool neuf = mots.find("(dossier)") != std::string::npos;
+        const Permis permis = {passe("FraMsgFiche") || pause,
+                               passe("PictFeuilleQSL") || passe("PictCtrlImpression"),
+                               passe("PJumelage")};
+        const std::string faute = compte_.Verifier(systeme_.Dossier(), permis);
+        if (faute.empty() || neuf)
+            return;
+        ++fautes_;
+        std::cout << "geste " << geste_ << " (" << mots << ") : " << faute
+                  << "dit : " << Lire(etat, "(systeme)", "appels") << std::endl;
     }
     [[nodiscard]] bool CahierChange(const Etat& etat) const {
         return std::any_of(etat.begin(), etat.end(), [this](const Valeur& v) {
@@ -663,6 +690,9 @@ class Joueur : public QObject {
         Touche(Qt::Key_Escape);
         if (dialogue.isVisible())
             dialogue.reject();
+        // The events handled meanwhile made the dialog's loop forget that it is over; with the
+        // clocks stopped nothing else would wake it.
+        QTimer::singleShot(0, qApp, [] {});
     }
 
     Options options_;
@@ -673,6 +703,8 @@ class Joueur : public QObject {
     std::unique_ptr<orvalis::Orvalis> fenetre_;
     std::vector<QTimer*> horloges_;
     Etat avant_;
+    Compte compte_;
+    int fautes_ = 0; // gestures after which a contact was missing
     int etiquettesAvant_ = 0;
     int geste_ = 0;
     int milieu_ = 0; // blocks written in the middle of this gesture
@@ -685,12 +717,15 @@ int Lancer(const std::vector<std::string>& arguments) {
     for (const std::string& argument : arguments)
         if (argument == "--menus-ouverts")
             options.menusOuverts = true;
+        else if (argument == "--comptes")
+            options.comptes = true;
         else
             libres.push_back(argument);
     if (libres.size() == 3 && libres[0] == "--comparer")
         return Comparaison(libres[1], libres[2]).Faire() ? 0 : 1;
     if (libres.empty() || libres.size() > 3) {
-        std::cerr << "usage: orvalis_gestes <trace> [gestures] [seed] [--menus-ouverts]\n"
+        std::cerr << "usage: orvalis_gestes <trace> [gestures] [seed] [--menus-ouverts] "
+                     "[--comptes]\n"
                      "       orvalis_gestes --comparer <trace> <trace>\n";
         return 2;
     }

@@ -187,6 +187,7 @@ class ImprimanteQuiNote : public orvalis::Imprimante {
     void ChoisirPolice(std::string_view famille) override { Faire({}, famille); }
     void ChoisirTaille(int points) override { Faire({points}, "taille"); }
     void ChoisirGras(bool gras) override { Faire({gras ? 1 : 0}, "gras"); }
+    void ChoisirEncre(orvalis::Encre encre) override { Faire({static_cast<int>(encre)}, "encre"); }
     void Placer(int x, int y) override { Faire({x, y}, "place"); }
     void Ecrire(std::string_view utf8, orvalis::Suite suite) override {
         Faire({static_cast<int>(suite)}, utf8);
@@ -198,6 +199,10 @@ class ImprimanteQuiNote : public orvalis::Imprimante {
     void TracerRectangle(int x1, int y1, int x2, int y2) override {
         Faire({x1, y1, x2, y2}, "cadre");
     }
+    void RemplirRectangle(int x1, int y1, int x2, int y2) override {
+        Faire({x1, y1, x2, y2}, "plein");
+    }
+    void TournerPage() override { Faire({}, "page"); }
     void TerminerDocument() override {
         if (panne_ < 0)
             Echouer();
@@ -289,6 +294,7 @@ class SystemeJumeau : public orvalis::Systeme {
                                                    [this](const std::string& t) { Noter(t); });
     }
     void ConfigurerImprimante(QWidget* /*parent*/) { Noter("configurer l'imprimante"); }
+    [[nodiscard]] std::filesystem::path DossierInstalle() const { return lecteur / "installe"; }
     [[nodiscard]] std::optional<QString> Lancer(const QString& chemin) {
         Noter("lancer : " + chemin.toStdString());
         return alea.Un(2) ? std::optional<QString>(QStringLiteral("absent")) : std::nullopt;
