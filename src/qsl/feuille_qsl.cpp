@@ -50,8 +50,8 @@ std::string_view TexteVoie(const EtatFeuille& feuille) {
     return feuille.boites[kBoiteManager];
 }
 
-std::span<char> Octets(Planche& planche) {
-    return {planche.front().octets.data(), sizeof planche};
+std::span<char> Octets(EtiquettesDeFeuille& etiquettes) {
+    return {etiquettes.front().octets.data(), sizeof etiquettes};
 }
 
 // An empty file is what a creation that was cut has left.
@@ -61,31 +61,31 @@ bool Manque(const std::filesystem::path& chemin) {
 }
 
 void CreerFeuille(const std::filesystem::path& chemin) {
-    Planche planche;
-    for (QslSlotRecord& etiquette : planche)
+    EtiquettesDeFeuille etiquettes;
+    for (QslSlotRecord& etiquette : etiquettes)
         MettreChamp(etiquette, ChampEtiquette::Indicatif, kMarqueLibre);
-    const std::span<const char> octets = Octets(planche);
+    const std::span<const char> octets = Octets(etiquettes);
     RemplacerFichier(chemin, {octets.data(), octets.size()});
 }
 
-Planche LirePlanche(const Fichier& fichier) {
-    Planche planche;
-    static_cast<void>(fichier.Lire(0, Octets(planche))); // short: the rest stays blank
-    return planche;
+EtiquettesDeFeuille LireEtiquettes(const Fichier& fichier) {
+    EtiquettesDeFeuille etiquettes;
+    static_cast<void>(fichier.Lire(0, Octets(etiquettes))); // short: the rest stays blank
+    return etiquettes;
 }
 
-void MontrerPlanche(FeuilleQSL& feuille, const Planche& planche) {
-    feuille.connue = planche;
-    for (std::size_t i = 0; i < planche.size(); ++i) {
-        const bool libre = EstLibre(planche[i]);
+void MontrerEtiquettes(FeuilleQSL& feuille, const EtiquettesDeFeuille& etiquettes) {
+    feuille.connue = etiquettes;
+    for (std::size_t i = 0; i < etiquettes.size(); ++i) {
+        const bool libre = EstLibre(etiquettes[i]);
         feuille.etats[i] = libre ? EtatEtiquette::Libre : EtatEtiquette::Preparee;
         feuille.indicatifs[i] =
-            libre ? std::string{} : TexteRogne(planche[i], ChampEtiquette::Indicatif);
+            libre ? std::string{} : TexteRogne(etiquettes[i], ChampEtiquette::Indicatif);
     }
 }
 
 // The callsigns of the labels of `avant` that are on no place of `apres`: " N'y sont plus..."
-std::string Disparues(const Planche& avant, const Planche& apres) {
+std::string Disparues(const EtiquettesDeFeuille& avant, const EtiquettesDeFeuille& apres) {
     std::string liste;
     for (const QslSlotRecord& etiquette : avant) {
         const std::string indicatif = TexteRogne(etiquette, ChampEtiquette::Indicatif);
@@ -142,17 +142,17 @@ void ChargerFeuilleQSL(FeuilleQSL& feuille, const std::filesystem::path& dossier
     feuille.etiquetteEnCours = kAucunePlace;
     if (OuvrirFeuilleQSL(feuille))
         feuille.boites[kBoiteIndicatif] = kMarqueLibre;
-    MontrerPlanche(feuille, LirePlanche(feuille.fichier));
+    MontrerEtiquettes(feuille, LireEtiquettes(feuille.fichier));
 }
 
 std::string SuivreFeuille(FeuilleQSL& feuille) {
     feuille.chemin = TrouverFichier(feuille.chemin.parent_path(), kNomFeuilleQSL);
     const bool neuve = OuvrirFeuilleQSL(feuille);
-    const Planche planche = LirePlanche(feuille.fichier);
-    if (planche == feuille.connue && !neuve)
+    const EtiquettesDeFeuille etiquettes = LireEtiquettes(feuille.fichier);
+    if (etiquettes == feuille.connue && !neuve)
         return {};
-    const std::string disparues = Disparues(feuille.connue, planche);
-    MontrerPlanche(feuille, planche);
+    const std::string disparues = Disparues(feuille.connue, etiquettes);
+    MontrerEtiquettes(feuille, etiquettes);
     feuille.vue.restaurer = false;
     return "La feuille d'étiquettes «\u00A0" + feuille.chemin.string() +
            (neuve ? "\u00A0» avait disparu\u00A0: en voici une neuve."

@@ -68,7 +68,7 @@ inline constexpr std::array<std::string_view, kNbBoitesEtiquette + 1> kNomsBoite
     "RST donné", "En-tête",   "Remarque", "QSL manager", "Contact",   "Fiche N°"};
 
 /// The records of all places.
-using Planche = std::array<QslSlotRecord, kNbEtiquettes>;
+using EtiquettesDeFeuille = std::array<QslSlotRecord, kNbEtiquettes>;
 
 /// What the sheet and the label editor show.
 struct EtatFeuille {
@@ -80,7 +80,8 @@ struct EtatFeuille {
     Place etiquetteEnCours;     ///< place under edit; none while there is no label
     std::string ligneMemorisee; ///< first text line of the last label validated in this run
     QslSlotRecord tampon;       ///< label last read or written
-    Planche connue; ///< what the screen stands for: as the file was loaded or written last
+    EtiquettesDeFeuille
+        connue; ///< what the screen stands for: as the file was loaded or written last
     VueFeuille vue;
 
     [[nodiscard]] EtatEtiquette Etat(Place place) const { return etats[Rang(place)]; }

@@ -81,9 +81,9 @@ struct Carte {
     [[nodiscard]] bool PrendDuTexte() const { return saisie.EnSaisie || saisie.EnModification; }
     /// A contact under entry, or changes that wait for their answer: what a contacts list greys
     /// stays grey. A box merely pressed is no reason.
-    [[nodiscard]] bool EnAttente() const { return saisie.EnSaisie || saisie.NbModifs != 0; }
+    [[nodiscard]] bool RetientLesBoutons() const { return saisie.EnSaisie || saisie.NbModifs != 0; }
     /// A contact is under entry, or a stored card is under modification.
-    [[nodiscard]] bool EnEdition() const { return PrendDuTexte() || EnAttente(); }
+    [[nodiscard]] bool EnEdition() const { return PrendDuTexte() || RetientLesBoutons(); }
 };
 
 /// Shows a text in a box. A text that changes what the box shows is also TexteSaisi: Enter takes

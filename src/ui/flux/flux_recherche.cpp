@@ -80,7 +80,7 @@ void CliquerRecherche(Plateau& p) {
     // The list takes the button with it, and gives it back whichever way it goes.
     p.ecran.activeRech |= p.ecran.contacts.montree && IndicatifSurLaCarte(p);
     CacherContacts(p);
-    if (!p.session.carte.EnAttente())
+    if (!p.session.carte.RetientLesBoutons())
         RendreBoutons(p.ecran);
 }
 
@@ -89,7 +89,7 @@ void FermerContacts(Plateau& p) {
     p.ecran.recherche.montre = true; // Kept on purpose, for the operators: during entry too.
     p.ecran.activeRech |= IndicatifSurLaCarte(p);
     Carte& carte = p.session.carte;
-    if (!carte.EnAttente()) {
+    if (!carte.RetientLesBoutons()) {
         RendreBoutons(p.ecran);
         p.ecran.recherche.texte.clear();
         RendreListe(p);
