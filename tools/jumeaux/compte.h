@@ -31,14 +31,14 @@ class Compte {
         for (const auto& [nom, avant] : vus_)
             if (const auto apres = ici.find(nom); apres == ici.end())
                 faute += nom + " a disparu ; ";
-            else if (nom == kCahier || apres->second != ici[kCahier]) // else a backup or a copy
+            else if (nom == kCahier || !EstLeCahier(apres->second, ici)) // else a backup or a copy
                 faute += Juger(nom, avant, apres->second, permis);
-        vus_ = std::move(ici);
+        Retenir(std::move(ici));
         return faute;
     }
 
     /// What is there now is what is to be kept.
-    void Prendre(const std::filesystem::path& dossier) { vus_ = Regarder(dossier); }
+    void Prendre(const std::filesystem::path& dossier) { Retenir(Regarder(dossier)); }
 
     /// Does to the own logbook or the label sheet what another program might; returns its words.
     [[nodiscard]] std::string Deranger(const std::filesystem::path& dossier, Alea& alea) {
@@ -86,6 +86,17 @@ class Compte {
             }
         return ici;
     }
+    void Retenir(std::map<std::string, Contacts> ici) {
+        vus_ = std::move(ici);
+        if (vus_.contains(kCahier))
+            cahiers_.insert(vus_[kCahier]);
+    }
+    // Deleted, the logbook goes on in the file that the program has open: one of those seen.
+    [[nodiscard]] bool EstLeCahier(const Contacts& contacts,
+                                   const std::map<std::string, Contacts>& ici) const {
+        const auto cahier = ici.find(kCahier);
+        return cahier == ici.end() ? cahiers_.contains(contacts) : cahier->second == contacts;
+    }
     [[nodiscard]] static std::string Juger(const std::string& nom, const Contacts& avant,
                                            const Contacts& apres, const Permis& permis) {
         std::vector<std::string> perdus, gagnes;
@@ -118,6 +129,7 @@ class Compte {
     }
 
     std::map<std::string, Contacts> vus_;
+    std::set<Contacts> cahiers_; // the own logbook, at any time
 };
 
 } // namespace jumeaux
