@@ -19,6 +19,16 @@ if(ORVALIS_SANITIZE)
     target_link_options(orvalis_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
+# What Debian asks of its packages; a preset of its own, since sanitizers and fuzzers have theirs.
+if(ORVALIS_HARDENING)
+    include(CheckPIESupported)
+    check_pie_supported()
+    set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+    target_compile_options(orvalis_flags INTERFACE -fstack-protector-strong -fstack-clash-protection
+                           -Wformat -Werror=format-security -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+    target_link_options(orvalis_flags INTERFACE -Wl,-z,relro -Wl,-z,now)
+endif()
+
 find_program(CCACHE ccache)
 if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})

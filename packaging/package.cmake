@@ -19,14 +19,11 @@ install(FILES packaging/orvalis.desktop packaging/orvalis-exemple.desktop DESTIN
 install(FILES packaging/orvalis.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES packaging/org.orvalis.Orvalis.metainfo.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
-install(FILES packaging/orvalis.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-install(FILES packaging/orvalis.fr.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/fr/man1 RENAME orvalis.1)
-install(FILES packaging/dbOrvalis.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-install(FILES packaging/dbOrvalis.fr.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/fr/man1
-        RENAME dbOrvalis.1)
-install(FILES packaging/Chronel.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-install(FILES packaging/Chronel.fr.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/fr/man1
-        RENAME Chronel.1)
+foreach(programme orvalis dbOrvalis Chronel orvalis-exemple)
+    install(FILES packaging/${programme}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+    install(FILES packaging/${programme}.fr.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/fr/man1
+            RENAME ${programme}.1)
+endforeach()
 install(FILES CHANGELOG.md docs/guide.md docs/formats.md packaging/copyright packaging/changelog
         DESTINATION ${CMAKE_INSTALL_DOCDIR})
 # The sample logbook and its launcher, which copies it once for each user.
