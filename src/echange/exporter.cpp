@@ -1,5 +1,6 @@
 #include "echange/exporter.h"
 
+#include "core/texte.h"
 #include "echange/fichier_neuf.h"
 #include "echange/lettres.h"
 #include "echange/refus.h"
@@ -10,25 +11,36 @@
 namespace orvalis {
 namespace {
 namespace fs = std::filesystem;
+
+fs::path Reel(const fs::path& chemin) {
+    std::error_code erreur;
+    return fs::weakly_canonical(fs::absolute(chemin, erreur), erreur);
 }
+
+std::string NomSansCasse(const fs::path& chemin) {
+    return Majuscules(chemin.filename().string());
+}
+} // namespace
 
 bool MemeFichier(const fs::path& a, const fs::path& b) {
     if (a.empty() || b.empty())
         return false;
     std::error_code erreur;
-    if (fs::equivalent(a, b, erreur))
-        return true;
-    const fs::path la = fs::weakly_canonical(fs::absolute(a, erreur), erreur);
-    const fs::path lb = fs::weakly_canonical(fs::absolute(b, erreur), erreur);
-    return la == lb;
+    return fs::equivalent(a, b, erreur) || Reel(a) == Reel(b);
+}
+
+bool PrendUnePlace(const fs::path& cible, std::span<const fs::path> proteges) {
+    const fs::path reelle = Reel(cible);
+    return std::any_of(proteges.begin(), proteges.end(), [&](const fs::path& p) {
+        return MemeFichier(cible, p) || (NomSansCasse(reelle) == NomSansCasse(p) &&
+                                         MemeFichier(reelle.parent_path(), Reel(p).parent_path()));
+    });
 }
 
 void RefuserCible(const fs::path& cible, std::span<const fs::path> proteges) {
     std::error_code erreur;
     const fs::path reelle = fs::weakly_canonical(cible, erreur);
-    const bool protege = std::any_of(proteges.begin(), proteges.end(),
-                                     [&](const fs::path& p) { return MemeFichier(cible, p); });
-    if (protege || MajusculesAscii(cible.extension().string()) == ".VEK" ||
+    if (PrendUnePlace(cible, proteges) || MajusculesAscii(cible.extension().string()) == ".VEK" ||
         MajusculesAscii(reelle.extension().string()) == ".VEK")
         throw RefusEchange("« " + cible.string() +
                            " » est un fichier d'Orvalis : il n'est pas remplacé.");

@@ -39,5 +39,9 @@ void RefuserCible(const std::filesystem::path& cible,
                   std::span<const std::filesystem::path> proteges);
 /// Whether both name one file, be it there or not.
 [[nodiscard]] bool MemeFichier(const std::filesystem::path& a, const std::filesystem::path& b);
+/// Whether writing `cible` would replace one of these files, or make one that the station would
+/// take for it: names in the program folder are looked up without regard to case.
+[[nodiscard]] bool PrendUnePlace(const std::filesystem::path& cible,
+                                 std::span<const std::filesystem::path> proteges);
 
 } // namespace orvalis

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
+#include <fstream>
 
 namespace orvalis {
 namespace {
@@ -14,15 +15,20 @@ namespace {
 constexpr std::array<std::string_view, 3> kDossiersZones = {
     "/usr/share/zoneinfo", "/usr/lib/zoneinfo", "/usr/share/lib/zoneinfo"};
 
+bool EstUneZone(const std::filesystem::path& fichier) {
+    constexpr std::string_view kDebut = "TZif"; // tables and lists stand there as well
+    std::array<char, kDebut.size()> debut{};
+    std::ifstream(fichier, std::ios::binary).read(debut.data(), debut.size());
+    return std::string_view{debut.data(), debut.size()} == kDebut;
+}
+
 // The C library takes a name that it does not know for UTC, without a word.
 bool ZoneConnue(std::string_view nom) {
     if (nom.front() == '/' || nom.find("..") != nom.npos)
         return false;
-    std::error_code erreur;
-    for (const std::string_view dossier : kDossiersZones)
-        if (std::filesystem::is_regular_file(std::filesystem::path(dossier) / nom, erreur))
-            return true;
-    return false;
+    return std::any_of(kDossiersZones.begin(), kDossiersZones.end(), [nom](std::string_view d) {
+        return EstUneZone(std::filesystem::path(d) / nom);
+    });
 }
 
 std::chrono::seconds Decalage(Moment utc) {

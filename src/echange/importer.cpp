@@ -181,12 +181,18 @@ void Lire(const DemandeImport& demande, Importateur& importateur) {
 
 void RefuserLaCible(const DemandeImport& demande) {
     const std::string nom = "« " + demande.cible.string() + " »";
-    if (std::any_of(demande.proteges.begin(), demande.proteges.end(),
-                    [&](const fs::path& p) { return MemeFichier(demande.cible, p); }))
-        throw RefusEchange(nom + " est un fichier de la station : l'importation fait un second "
-                                 "cahier, à jumeler ensuite.");
-    if (MemeFichier(demande.cible, demande.source))
-        throw RefusEchange(nom + " est le fichier à lire.");
+    const fs::path rapport = CheminRapport(demande.cible);
+    for (const fs::path& place : {demande.cible, rapport}) {
+        const std::string sonNom = "« " + place.string() + " »";
+        if (PrendUnePlace(place, demande.proteges))
+            throw RefusEchange(sonNom + " est un fichier de la station : l'importation fait un "
+                                        "second cahier, à jumeler ensuite.");
+        if (MemeFichier(place, demande.source))
+            throw RefusEchange(sonNom + " est le fichier à lire.");
+    }
+    if (MemeFichier(rapport, demande.cible))
+        throw RefusEchange("« " + rapport.string() +
+                           " », la place du rapport, est le cahier à faire.");
     std::error_code erreur;
     if (fs::exists(fs::symlink_status(demande.cible, erreur)) && demande.ancien == Ancien::Protege)
         throw RefusEchange("Le fichier " + nom + " existe déjà.");

@@ -3,7 +3,7 @@
 #include "geo/distance.h"
 #include "geo/locator.h"
 
-#include <cstdlib>
+#include <charconv>
 
 namespace orvalis {
 
@@ -18,7 +18,10 @@ MesureContact MesurerContact(const QsoRecord& fiche) {
     const TextesDistance textes = DistanceAzimut(memoire, ici, la);
     MesureContact mesure{
         std::string{Rogner(textes.distance)}, std::string{Rogner(textes.azimut)}, {}};
-    mesure.km = std::strtod(mesure.distance.c_str(), nullptr);
+    // Not by the C library, which reads a comma where the desktop's language has one.
+    double km = 0;
+    std::from_chars(mesure.distance.data(), mesure.distance.data() + mesure.distance.size(), km);
+    mesure.km = km;
     return mesure;
 }
 

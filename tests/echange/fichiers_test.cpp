@@ -172,9 +172,12 @@ TEST(DbOrvalis, Commandes) {
         {"--adif a.adi --cahier rien.Vek", "2", ""},
         {"--adif a.adi --cahier S.Vek --heures Europe/Paris", "0", "a.adi"},
         {"--adif a.adi --heures Paris", "2", ""},
+        {"--adif a.adi --heures zone.tab", "2", ""},
+        {"--adif a.adi --heures LOCALES", "0", "a.adi"},
         {"--adif copie.vek", "2", ""},
         {"--adif dur --cahier S.Vek", "2", ""},
         {"--adif Orvalis/Parvel.cfg", "2", ""},
+        {"--adif Orvalis/ParVel.cfg", "2", ""},
         {"--adif alias.adi", "2", ""},
         {"--importer f.adi --vers Orvalis/FeuilleQSL.txt", "2", ""},
         {"--adif source --cahier source", "2", ""},
@@ -199,6 +202,9 @@ TEST(DbOrvalis, Commandes) {
         {"--importer f.adi --vers perdu --remplacer", "2", ""},
         {"--importer f.adi --vers perdu", "2", ""},
         {"--importer f.adi --vers Orvalis/F5ABC.Vek --remplacer", "2", ""},
+        {"--importer f.adi --vers Orvalis/f5abc.vek", "2", ""},
+        {"--importer f.adi --vers mene.Vek --remplacer", "2", ""},
+        {"--importer lu.rapport.txt --vers lu.Vek --remplacer", "2", ""},
         {"--importer f.adi --vers dur --remplacer", "2", ""},
         {"--importer f.adi --vers lien --remplacer", "2", ""},
         {"--importer f.adi --vers f.adi --remplacer", "2", ""},
@@ -216,12 +222,14 @@ TEST(DbOrvalis, Commandes) {
         dossier.Poser("abime", Contact("F2BBB", "?") + "F3");
         dossier.Poser("source", Fin());
         dossier.Poser("f.adi", adi);
+        dossier.Poser("lu.rapport.txt", adi);
         dossier.Poser("deux.adi", adi + adi);
         dossier.Poser("vide", "");
         dossier.Poser("ancien.txt", "x");
         dossier.Poser("prise.sqlite-wal", "");
         fs::create_hard_link(dossier / "Orvalis/F5ABC.Vek", dossier / "dur");
         fs::create_symlink(dossier / "Orvalis/F5ABC.Vek", dossier / "lien");
+        fs::create_symlink(dossier / "Orvalis/F5ABC.Vek", dossier / "mene.rapport.txt");
         fs::create_symlink(dossier / "S.Vek", dossier / "alias.adi");
         fs::create_symlink(dossier / "nulle part", dossier / "perdu");
         const auto fichiers = [&] {

@@ -24,9 +24,10 @@ namespace fs = std::filesystem;
 
 std::unique_ptr<Fuseau> ChoisirFuseau(const Options& options) {
     const std::string heures = options.heures.value_or("utc");
-    if (MajusculesAscii(heures) == "UTC")
+    const std::string mot = MajusculesAscii(heures);
+    if (mot == "UTC")
         return std::make_unique<Fuseau>();
-    return std::make_unique<Fuseau>(heures == "locales" ? "" : heures);
+    return std::make_unique<Fuseau>(mot == "LOCALES" ? "" : heures);
 }
 
 // The logbook that is read, and what is known of its station.
