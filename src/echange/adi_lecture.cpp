@@ -12,7 +12,6 @@
 namespace orvalis {
 namespace {
 
-constexpr std::size_t kValeurMax = 1000; // the most that is kept of a value
 constexpr std::size_t kNomMax = 64;
 constexpr std::size_t kInconnusMax = 200; // of one contact, kept until it is clear what it is
 constexpr std::int64_t kLongueurMax = std::int64_t{1} << 52U;
@@ -100,7 +99,7 @@ class LecteurAdi {
     [[nodiscard]] std::int64_t AllerALaMarque(std::int64_t reste);
     void Finir(bool marque);
     void FinirEntete();
-    void Poser(std::string_view nom, std::string_view valeur);
+    void Poser(std::string_view nom, std::string_view valeur, std::int64_t longueur);
     [[nodiscard]] std::int64_t Octets(std::int64_t longueur);
     [[nodiscard]] std::string Texte(std::string_view octets) const;
     void Dire(std::string_view nom, std::string_view avant, std::string_view devenu);
@@ -148,16 +147,18 @@ void LecteurAdi::Champ(const Marque& marque) {
     const std::int64_t longueur = Octets(marque.longueur);
     const bool dedans = longueur <= fenetre_.Reste();
     const char suivant = dedans ? fenetre_.OctetA(fenetre_.Position() + longueur) : 'x';
-    const std::string_view vu = fenetre_.Voir(kValeurMax);
-    std::string valeur(
-        vu.substr(0, std::min<std::size_t>(static_cast<std::size_t>(longueur), kValeurMax)));
-    if (suivant == '<' || EstUnVide(suivant)) {
+    const std::string_view vu =
+        fenetre_.Voir(kValeurMax)
+            .substr(0, std::min(static_cast<std::size_t>(longueur), kValeurMax));
+    const bool nette = suivant == '<' || EstUnVide(suivant);
+    // Of a length that is not to be believed no more is copied than there is up to the next tag.
+    std::string valeur(nette ? vu : vu.substr(0, ProchaineMarque(vu)));
+    if (nette) {
         finsNettes_ += EstAscii(valeur) ? 0 : 1;
         fenetre_.Avancer(longueur);
-        Poser(nom, SansVides(valeur));
+        Poser(nom, SansVides(valeur), longueur);
         return;
     }
-    // The length is not to be believed: a value ends at the next tag at the latest.
     const std::int64_t reelle = AllerALaMarque(std::min(longueur, fenetre_.Reste()));
     valeur.resize(std::min(valeur.size(), static_cast<std::size_t>(reelle)));
     const std::string_view texte = SansVides(valeur);
@@ -169,7 +170,7 @@ void LecteurAdi::Champ(const Marque& marque) {
         Dire(nom, annoncee, "longueur fausse : lu jusqu'à la marque suivante");
     else if (!texte.empty())
         Dire(nom, texte, "le texte continue au-delà de sa longueur : coupé");
-    Poser(nom, texte);
+    Poser(nom, texte, reelle);
 }
 
 // Goes to the next tag, at most `reste` bytes; returns how many they were. What has been searched
@@ -195,11 +196,11 @@ std::int64_t LecteurAdi::AllerALaMarque(std::int64_t reste) {
     return fenetre_.Position() - debut;
 }
 
-void LecteurAdi::Poser(std::string_view nom, std::string_view valeur) {
+void LecteurAdi::Poser(std::string_view nom, std::string_view valeur, std::int64_t longueur) {
     if (receveur_ == nullptr)
         return;
     const std::string texte = Texte(valeur);
-    if (PoserChamp(contact_, nom, texte))
+    if (PoserChamp(contact_, nom, texte, longueur))
         return;
     if (inconnus_.size() < kInconnusMax)
         inconnus_.emplace_back(nom, texte.substr(0, kNomMax));
@@ -269,8 +270,9 @@ GenreAdif ReconnaitreGenre(const Fichier& fichier) {
     if (vu.starts_with("\xEF\xBB\xBF"))
         vu.remove_prefix(3);
     vu = SansVides(vu);
-    return vu.starts_with("<?xml") || EstMarque(vu.substr(0, 4), "<ADX") ? GenreAdif::Adx
-                                                                         : GenreAdif::Adi;
+    const bool xml =
+        vu.starts_with("<?xml") || vu.starts_with("<!") || EstMarque(vu.substr(0, 4), "<ADX");
+    return xml ? GenreAdif::Adx : GenreAdif::Adi;
 }
 
 LectureAdi ExaminerAdi(const Fichier& fichier) {

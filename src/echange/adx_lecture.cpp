@@ -16,12 +16,32 @@ namespace orvalis {
 namespace {
 
 constexpr std::size_t kBloc = 64UL * 1024;
-constexpr std::size_t kValeurMax = 1000;
 // Expat keeps a tag until it is complete, every open element and every name there is: none of it is
 // left to the file.
 constexpr std::int64_t kMarqueMax = 1024L * 1024;
 constexpr int kProfondeurMax = 32;
 constexpr std::size_t kNomsMax = 20'000;
+constexpr std::size_t kOctetsNomsMax = 2'000'000; // of all of them
+
+struct Faute {
+    XML_Error code;
+    std::string_view phrase;
+};
+constexpr std::array<Faute, 7> kFautes = {{
+    {XML_ERROR_NO_ELEMENTS, "le fichier finit avant son premier élément"},
+    {XML_ERROR_UNCLOSED_TOKEN, "une marque n'est pas fermée"},
+    {XML_ERROR_PARTIAL_CHAR, "le fichier finit au milieu d'un caractère"},
+    {XML_ERROR_TAG_MISMATCH, "une marque de fin n'est pas celle de l'élément ouvert"},
+    {XML_ERROR_UNDEFINED_ENTITY, "une entité n'est pas définie"},
+    {XML_ERROR_UNKNOWN_ENCODING, "le codage annoncé est inconnu"},
+    {XML_ERROR_NO_MEMORY, "la mémoire est épuisée"},
+}};
+
+std::string_view DireFauteXml(XML_Error code) {
+    const auto* const faute = std::find_if(kFautes.begin(), kFautes.end(),
+                                           [code](const Faute& f) { return f.code == code; });
+    return faute == kFautes.end() ? "ce n'est pas du XML bien formé" : faute->phrase;
+}
 
 struct DetruireXml {
     void operator()(XML_Parser xml) const { XML_ParserFree(xml); }
@@ -42,8 +62,10 @@ class LecteurAdx {
     }
     static void XMLCALL Texte(void* moi, const XML_Char* texte, int n) {
         Garder(moi, [&](LecteurAdx& lecteur) {
+            const auto octets = static_cast<std::size_t>(n);
+            lecteur.longueur_ += static_cast<std::int64_t>(octets);
             if (lecteur.valeur_.size() < kValeurMax)
-                lecteur.valeur_.append(texte, std::min(static_cast<std::size_t>(n), kValeurMax));
+                lecteur.valeur_.append(texte, std::min(octets, kValeurMax));
         });
     }
     // Expat is C: an exception waits until it has returned.
@@ -64,6 +86,7 @@ class LecteurAdx {
     }
     static int XMLCALL Codage(void*, const XML_Char* nom, XML_Encoding* codage);
 
+    void Retenir(std::string_view nom);
     void OuvrirElement(std::string_view nom, const XML_Char** attributs);
     void FermerElement(std::string_view nom);
     void FinirContact(std::string_view pourquoi);
@@ -75,13 +98,15 @@ class LecteurAdx {
     ContactAdif contact_;
     std::string nom_; ///< of the field that is open
     std::string valeur_;
+    std::int64_t longueur_ = 0; ///< of the whole value, of which no more than its beginning is kept
     int profondeur_ = 0;
     bool dansContact_ = false;
     bool dansEntete_ = false;
     bool doctype_ = false;
     bool trop_ = false; ///< more elements in each other, or more names, than any contact has
     std::unordered_set<std::size_t> noms_;
-    bool assez_ = false; ///< the receiver wants no more
+    std::size_t octetsNoms_ = 0; ///< what expat keeps of them
+    bool assez_ = false;         ///< the receiver wants no more
     std::exception_ptr exception_;
 };
 
@@ -118,11 +143,16 @@ int LecteurAdx::Codage(void* /*moi*/, const XML_Char* nom, XML_Encoding* codage)
     return XML_STATUS_OK;
 }
 
+void LecteurAdx::Retenir(std::string_view nom) {
+    if (noms_.insert(std::hash<std::string_view>{}(nom)).second)
+        octetsNoms_ += nom.size();
+}
+
 void LecteurAdx::OuvrirElement(std::string_view nom, const XML_Char** attributs) {
-    noms_.insert(std::hash<std::string_view>{}(nom));
+    Retenir(nom);
     for (const XML_Char** attribut = attributs; *attribut != nullptr; attribut += 2)
-        noms_.insert(std::hash<std::string_view>{}(*attribut));
-    if (++profondeur_ > kProfondeurMax || noms_.size() > kNomsMax) {
+        Retenir(*attribut);
+    if (++profondeur_ > kProfondeurMax || noms_.size() > kNomsMax || octetsNoms_ > kOctetsNomsMax) {
         trop_ = true;
         XML_StopParser(xml_.get(), XML_FALSE);
     }
@@ -135,6 +165,7 @@ void LecteurAdx::OuvrirElement(std::string_view nom, const XML_Char** attributs)
         dansEntete_ = true;
     }
     valeur_.clear();
+    longueur_ = 0;
     nom_ = nom;
     if (majuscules != "APP")
         return;
@@ -154,7 +185,8 @@ void LecteurAdx::FermerElement(std::string_view nom) {
         FinirContact("");
     else if (majuscules == "HEADER")
         dansEntete_ = false;
-    else if (!nom_.empty() && dansContact_ && !PoserChamp(contact_, nom_, Rogner(valeur_)))
+    else if (!nom_.empty() && dansContact_ &&
+             !PoserChamp(contact_, nom_, Rogner(valeur_), longueur_))
         receveur_.Inconnu(nom_);
     else if (!nom_.empty() && dansEntete_)
         receveur_.Entete(nom_, Rogner(valeur_));
@@ -203,7 +235,7 @@ void LecteurAdx::Lire() {
         if (trop_)
             return Arreter("des éléments trop imbriqués ou trop de noms");
         if (statut == XML_STATUS_ERROR)
-            return Arreter(XML_ErrorString(XML_GetErrorCode(xml_.get())));
+            return Arreter(DireFauteXml(XML_GetErrorCode(xml_.get())));
         if (position - static_cast<std::int64_t>(XML_GetCurrentByteIndex(xml_.get())) > kMarqueMax)
             return Arreter("une marque trop longue");
     }

@@ -19,9 +19,6 @@ constexpr std::array<std::string_view, kNbBalises> kNoms = {
     "QSL_RCVD",     "QSLRDATE",      "STATION_CALLSIGN",
     "QSL_SENT_VIA", "QSL_RCVD_VIA"};
 
-// Longer values are read on for their length only: no field of the logbook holds a tenth of it.
-constexpr std::size_t kValeurMax = 1024;
-
 constexpr std::string_view kHexa = "0123456789ABCDEF";
 
 int Chiffre(char c) {
@@ -47,8 +44,13 @@ std::optional<std::size_t> Chercher(const std::array<std::string_view, n>& noms,
     return {};
 }
 
-void Poser(ContactAdif& contact, std::string& place, std::string_view nom,
-           std::string_view valeur) {
+void Poser(ContactAdif& contact, std::string& place, std::string_view nom, std::string_view valeur,
+           std::int64_t longueur) {
+    contact.connu = true;
+    valeur = valeur.substr(0, kValeurMax);
+    if (longueur > static_cast<std::int64_t>(kValeurMax))
+        Signaler(contact, nom, std::to_string(longueur) + " octets",
+                 "le rapport n'en montre que le début");
     if (place.empty())
         place = valeur;
     else if (!valeur.empty() && place != valeur)
@@ -95,11 +97,10 @@ void Signaler(ContactAdif& contact, std::string_view champ, std::string_view ava
         contact.remarques.push_back({"", "", "et d'autres encore"});
 }
 
-bool PoserChamp(ContactAdif& contact, std::string_view nom, std::string_view valeur) {
-    valeur = valeur.substr(0, kValeurMax);
+bool PoserChamp(ContactAdif& contact, std::string_view nom, std::string_view valeur,
+                std::int64_t longueur) {
     if (const auto balise = BaliseNommee(nom)) {
-        contact.connu = true;
-        Poser(contact, contact[*balise], nom, valeur);
+        Poser(contact, contact[*balise], nom, valeur, longueur);
         return true;
     }
     if (nom.size() <= kPrefixeOrvalis.size() ||
@@ -108,8 +109,7 @@ bool PoserChamp(ContactAdif& contact, std::string_view nom, std::string_view val
     const auto champ = ChampNomme(nom.substr(kPrefixeOrvalis.size()));
     if (!champ)
         return false;
-    contact.connu = true;
-    Poser(contact, contact.exacts[NumeroZone(*champ) - 1], nom, valeur);
+    Poser(contact, contact.exacts[NumeroZone(*champ) - 1], nom, valeur, longueur);
     return true;
 }
 

@@ -86,9 +86,15 @@ struct ContactAdif {
 /// Remarks on one contact beyond these are counted as one.
 inline constexpr std::size_t kRemarquesMax = 60;
 
+/// The most that is kept of a value: no field of the logbook holds a hundredth of it, the rest is
+/// for the report, which tells what was cut.
+inline constexpr std::size_t kValeurMax = 16UL * 1024;
+
 /// Puts a value read into its place: of a repeated field the first counts, and another one is told.
-/// Returns false when the logbook has no place for a field of that name.
-bool PoserChamp(ContactAdif& contact, std::string_view nom, std::string_view valeur);
+/// `longueur` is that of the whole value in bytes, where no more than its beginning was kept, which
+/// is told as well. Returns false when the logbook has no place for a field of that name.
+bool PoserChamp(ContactAdif& contact, std::string_view nom, std::string_view valeur,
+                std::int64_t longueur = 0);
 void Signaler(ContactAdif& contact, std::string_view champ, std::string_view avant,
               std::string_view devenu);
 

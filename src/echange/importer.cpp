@@ -76,6 +76,8 @@ class Importateur : public Receveur {
     }
     [[nodiscard]] const std::string& Locator() const { return conventions_.monLocator; }
     [[nodiscard]] const BilanImport& Bilan() const { return bilan_; }
+    /// A sentence behind another; empty when there was none.
+    [[nodiscard]] const std::string& PremierIncident() const { return premierIncident_; }
 
     void Entete(std::string_view nom, std::string_view valeur) override {
         const std::string programme = MajusculesAscii(valeur);
@@ -93,7 +95,9 @@ class Importateur : public Receveur {
                                   : "(et d'autres)"];
     }
     void Incident(std::int64_t ligne, const Remarque& remarque) override {
-        ++bilan_.incidents;
+        if (bilan_.incidents++ == 0)
+            premierIncident_ = " La ligne " + std::to_string(ligne) + " : " + remarque.avant +
+                               (remarque.avant.empty() ? "" : ", ") + remarque.devenu + ".";
         Dire(ligne, "", remarque);
     }
     [[nodiscard]] bool Contact(const ContactAdif& contact) override;
@@ -109,6 +113,7 @@ class Importateur : public Receveur {
     VoirFiche voirFiche_;
     VoirLigne voirLigne_;
     BilanImport bilan_;
+    std::string premierIncident_;
     DejaVues deja_;
 };
 
@@ -173,7 +178,8 @@ void Lire(const DemandeImport& demande, Importateur& importateur) {
     Lire(fichier, lecture, importateur);
     const BilanImport& bilan = importateur.Bilan();
     if (bilan.lus == 0)
-        throw RefusEchange("Il n'y a pas de contact dans « " + demande.source.string() + " ».");
+        throw RefusEchange("Il n'y a pas de contact dans « " + demande.source.string() + " »." +
+                           importateur.PremierIncident());
     if (bilan.locatorsSupposes > 0 && importateur.Locator().empty())
         throw RefusEchange("Les contacts ne disent pas le locator de la station : donnez-le par "
                            "--locator.");

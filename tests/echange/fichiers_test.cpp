@@ -23,6 +23,9 @@ TEST(FichierAdif, Adi) {
         {d + "<STATE:2>OK // Oklahoma <NAME:4>Jean // <comment\n<EOR>", "SNOM=Jean"},
         {d + "<NAME:4>Jean <NAME:5>Jules <NAME:4>Jean<EOR>",
          "SNOM=Jean[NAME: champ répété : le premier compte]"},
+        {d + "<NAME:4>Jean <SRX:3001>" + std::string(3001, 'x') + "<QSL_VIA:3000>" +
+             std::string(3000, ' ') + "<QSL_VIA:2000>" + std::string(1999, ' ') + "x<EOR>",
+         "SNOM=Jean|INFO=               x"},
         {d + "<NAME:4>Jean\n", "SNOM=Jean[EOR: la marque de fin manque]"},
         {d + "<NAME:40>Jean\n<EOR>\n", "SNOM=Jean[NAME: longueur au-delà de la fin du fichier : lu "
                                        "jusqu'à la marque suivante]"},
@@ -81,6 +84,13 @@ TEST(FichierAdif, Adx) {
         {adx("<RECORD>" + contact + "<QTH>" + std::string(3000, 'x') + "</QTH>" + fin),
          lu + "|SQTH=xxxxxxxxxxxxxxxxxxxxxxxxx|MLOC=JN18AA[QTH: devient « "
               "xxxxxxxxxxxxxxxxxxxxxxxxx »]"},
+        // The end of a long value is told, whichever it is.
+        {adx("<RECORD>" + contact + "<SRX/><QTH>" + std::string(3000, 'x') + "y</QTH><QTH>" +
+             std::string(3001, 'x') + "</QTH>" + fin),
+         lu + "|SQTH=xxxxxxxxxxxxxxxxxxxxxxxxx|MLOC=JN18AA[QTH: champ répété : le premier compte]"
+              "[QTH: devient « xxxxxxxxxxxxxxxxxxxxxxxxx »]"},
+        {adx("<RECORD>" + contact + "<NAME>" + std::string(70'000, ' ') + "</NAME>" + fin),
+         lu + "|MLOC=JN18AA[NAME: le rapport n'en montre que le début]"},
         {"<?xml version=\"1.0\" encoding=\"windows-1252\"?>\n<ADX><RECORD>" + contact +
              "<QTH>\x8CUF</QTH></RECORD></ADX>",
          lu + "|SQTH=ŒUF|MLOC=JN18AA"},
@@ -92,17 +102,23 @@ TEST(FichierAdif, Adx) {
     const std::size_t complet = entier.find("</QSO_DATE>") + 11;
     for (std::size_t n = complet; n < entier.size(); ++n)
         EXPECT_TRUE(ImporterTexte(entier.substr(0, n)).texte.starts_with(lu)) << n;
-    const std::string refuses[] = {"<!DOCTYPE a [<!ENTITY b \"c\">]><ADX><RECORD>" + contact +
-                                       "</RECORD></ADX>",
-                                   "",
-                                   "\\",
-                                   "<ADX></ADX>",
-                                   "rien",
-                                   std::string(1 << 20, '<'),
-                                   "<ADX>" + Fois(200, "<a>") + "<RECORD>" + contact + "</RECORD>",
-                                   "<ADX a=\"" + std::string(3 << 20, 'x')};
-    for (const std::string& refuse : refuses)
-        EXPECT_THROW(static_cast<void>(ImporterTexte(refuse)), RefusEchange)
+    std::string noms;
+    for (int i = 100; i < 200; ++i)
+        noms += "<n" + std::to_string(i) + std::string(50'000, 'n') + "/>";
+    const Textes refuses = {
+        {"<!DOCTYPE a [<!ENTITY b \"c\">]><ADX><RECORD>" + contact + "</RECORD></ADX>", "entités"},
+        {"", "pas de contact"},
+        {"\\", "pas de contact"},
+        {"<ADX></ADX>", "pas de contact"},
+        {"<ADX>\n<a></b>", "La ligne 2 : une marque de fin n'est pas celle"},
+        {"rien", "pas de contact"},
+        {std::string(1 << 20, '<'), "pas de contact"},
+        {"<ADX>" + Fois(200, "<a>") + "<RECORD>" + contact + "</RECORD>", "trop imbriqués"},
+        {"<ADX>" + noms + "<RECORD>" + contact + "</RECORD>", "trop de noms"},
+        {"<ADX a=\"" + std::string(3 << 20, 'x'), "trop longue"}};
+    for (const auto& [refuse, pourquoi] : refuses)
+        EXPECT_THAT([&texte = refuse] { static_cast<void>(ImporterTexte(texte)); },
+                    testing::ThrowsMessage<RefusEchange>(testing::HasSubstr(pourquoi)))
             << refuse.substr(0, 80);
 }
 

@@ -1,5 +1,6 @@
 #include "compagnons/db_orvalis/fenetre/dlg_apercu.h"
 
+#include "core/texte.h"
 #include "ui/bureau/texte_qt.h"
 #include "ui/widgets/police.h"
 
@@ -17,12 +18,15 @@ namespace orvalis {
 namespace {
 
 QString EnLigne(const LigneRapport& ligne) {
+    constexpr std::size_t kAvantMax = 200; // the report has all of it
     QString texte = QStringLiteral("ligne %1").arg(ligne.ligne);
     for (const std::string_view mot : {ligne.indicatif, ligne.champ})
         if (!mot.empty())
             texte += QStringLiteral("  ") + Q(mot);
     if (!ligne.avant.empty())
-        texte += QStringLiteral("  «\u00A0%1\u00A0»").arg(Q(ligne.avant));
+        texte += QStringLiteral("  «\u00A0%1%2\u00A0»")
+                     .arg(Q(Gauche(ligne.avant, kAvantMax)),
+                          ligne.avant.size() > kAvantMax ? QStringLiteral("…") : QString());
     return texte + QStringLiteral("\u00A0: ") + Q(ligne.devenu);
 }
 
