@@ -277,9 +277,12 @@ BilanBase FaireBase(const DemandeBase& demande) {
     RemplirSource(base, demande, bilan);
     base.Executer(std::string{kIndex}.append(kVues).append("COMMIT;"));
     base.Fermer();
-    Fichier fichier(place.Provisoire(), ModeFichier::LectureEcriture);
-    fichier.Synchroniser();
-    fichier.Fermer();
+    try {
+        Fichier fichier(place.Provisoire(), ModeFichier::LectureEcriture);
+        fichier.Synchroniser();
+    } catch (const Erreur& echec) {
+        throw place.Nommer(echec);
+    }
     RefuserAncienne(place.Cible());
     place.Prendre();
     return bilan;

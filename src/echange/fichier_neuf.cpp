@@ -65,16 +65,19 @@ void PlaceNeuve::Prendre() {
     SynchroniserNom(cible_);
 }
 
+Erreur PlaceNeuve::Nommer(const Erreur& echec) const {
+    return {echec.Nature(), cible_, echec.code()};
+}
+
 FichierNeuf::FichierNeuf(const fs::path& cible, Ancien ancien) : place_(cible, ancien) {
     Essayer([&] { fichier_ = Fichier(place_.Provisoire(), ModeFichier::Creation); });
 }
 
-// What fails is the file that was asked for, not the name it has meanwhile.
 template<class Faire> void FichierNeuf::Essayer(Faire faire) const {
     try {
         faire();
     } catch (const Erreur& echec) {
-        throw Erreur(echec.Nature(), place_.Cible(), echec.code());
+        throw place_.Nommer(echec);
     }
 }
 
@@ -95,10 +98,16 @@ void FichierNeuf::Vider() {
     tampon_.clear();
 }
 
-void FichierNeuf::Terminer() {
+void FichierNeuf::Achever() {
     Vider();
     Essayer([&] { fichier_.Synchroniser(); });
     fichier_.Fermer();
+    acheve_ = true;
+}
+
+void FichierNeuf::Terminer() {
+    if (!acheve_)
+        Achever();
     place_.Prendre();
 }
 

@@ -35,6 +35,8 @@ class PlaceNeuve {
     void Prendre();
     /// Whether it has; so too when Prendre threw because that may not outlast a power cut.
     [[nodiscard]] bool EstPrise() const noexcept { return prise_; }
+    /// A failure of the file of the own name, told of the file that was asked for.
+    [[nodiscard]] Erreur Nommer(const Erreur& echec) const;
 
   private:
     std::filesystem::path cible_;
@@ -52,7 +54,9 @@ class FichierNeuf {
     void Ecrire(std::string_view octets);
     /// Writes bytes over others that were added before.
     void Recrire(std::int64_t position, std::string_view octets);
-    /// The file is complete: it is flushed, and takes its name. Without this nothing is left.
+    /// The file is complete: it is flushed to the disk and closed, and lacks nothing but its name.
+    void Achever();
+    /// It takes its name, complete as with Achever. Without this nothing is left.
     void Terminer();
     /// Whether the file has its name, see PlaceNeuve.
     [[nodiscard]] bool EstEnPlace() const noexcept { return place_.EstPrise(); }
@@ -65,6 +69,7 @@ class FichierNeuf {
     Fichier fichier_; ///< closed before its place goes
     std::int64_t ecrits_ = 0;
     std::string tampon_;
+    bool acheve_ = false;
 };
 
 } // namespace orvalis

@@ -245,13 +245,14 @@ BilanImport ImporterAdif(const DemandeImport& demande, const Fuseau& fuseau) {
     cahier.Ecrire(Octets(FicheFinDeLog(importateur.Locator())));
     BilanImport bilan = importateur.Bilan();
     bilan.rapport = chemin;
+    cahier.Achever(); // a full disk is met before either has its name
     rapport.Terminer(bilan);
     try {
         cahier.Terminer();
     } catch (...) {
-        // A report of what did not come to pass would only stand in the way.
+        // A report of what did not come to pass would only stand in the way where nothing may.
         std::error_code erreur;
-        if (!cahier.EstEnPlace())
+        if (!cahier.EstEnPlace() && demande.ancien == Ancien::Protege)
             fs::remove(chemin, erreur);
         throw;
     }

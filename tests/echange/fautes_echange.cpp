@@ -2,6 +2,7 @@
 // file or the new one stands there afterwards, and nothing else has changed.
 #include "compagnons/db_orvalis/bilan_html.h"
 #include "echange/aides_echange.h"
+#include "echange/base.h"
 #include "echange/exporter.h"
 #include "echange/refus.h"
 #include "fautes/injection.h"
@@ -19,7 +20,6 @@ using Fichiers = std::map<std::string, std::string>;
 
 struct Operation {
     const char* nom;
-    std::vector<std::string> cibles; ///< a report, which may go, comes before its logbook
     std::function<void(const fs::path&)> agir;
 };
 
@@ -33,12 +33,13 @@ void Importer(const fs::path& ici, const char* cible, Ancien ancien) {
 }
 
 const std::vector<Operation> kOperations = {
-    {"ADI, replaced",
-     {"ancien.adi"},
-     [](auto& ici) { Exporter(ici, "ancien.adi", GenreAdif::Adi); }},
-    {"ADX, new", {"neuf.adx"}, [](auto& ici) { Exporter(ici, "neuf.adx", GenreAdif::Adx); }},
+    {"ADI, replaced", [](auto& ici) { Exporter(ici, "ancien.adi", GenreAdif::Adi); }},
+    {"ADX, new", [](auto& ici) { Exporter(ici, "neuf.adx", GenreAdif::Adx); }},
+    {"base, replaced",
+     [](auto& ici) {
+         static_cast<void>(FaireBase({ici / kCahier, ici / "ancien.sqlite", "F5ABC", {}, "x"}));
+     }},
     {"summary, replaced",
-     {"ancien.html"},
      [](auto& ici) {
          static_cast<void>(EcrireBilan({ici / kCahier,
                                         ici / "ancien.html",
@@ -46,12 +47,8 @@ const std::vector<Operation> kOperations = {
                                         {},
                                         Jour{std::chrono::year{2026} / 9 / 30}}));
      }},
-    {"import, new",
-     {"G.rapport.txt", "G.Vek"},
-     [](auto& ici) { Importer(ici, "G.Vek", Ancien::Protege); }},
-    {"import, replaced",
-     {"A.rapport.txt", "A.Vek"},
-     [](auto& ici) { Importer(ici, "A.Vek", Ancien::Remplace); }},
+    {"import, new", [](auto& ici) { Importer(ici, "G.Vek", Ancien::Protege); }},
+    {"import, replaced", [](auto& ici) { Importer(ici, "A.Vek", Ancien::Remplace); }},
 };
 
 Fichiers LireFichiers(const fs::path& dossier) {
@@ -89,12 +86,14 @@ std::string Essayer(const Operation& operation, const fs::path& ici, const Fichi
     return statut == 0 ? bilan.message.data() : "crashed";
 }
 
-std::string Juger(const Operation& operation, const Plan& plan, const std::string& dit,
-                  const Fichiers& avant, const Fichiers& apres, Fichiers trouves) {
+std::string Juger(const Plan& plan, const std::string& dit, const Fichiers& avant,
+                  const Fichiers& apres, Fichiers trouves) {
     if ((dit == "killed") != plan.faute.tue || dit == "crashed")
         return "died: " + dit;
     if (plan.faute.tue) // what was under way stays under a name of its own
         std::erase_if(trouves, [](const auto& f) { return f.first.ends_with(".tmp"); });
+    if (dit.find(".tmp") != dit.npos)
+        return "names a file that nobody asked for: " + dit;
     if (dit.empty() && trouves != apres)
         return "said nothing, although it is not done";
     for (const auto& [nom, octets] : trouves) {
@@ -103,7 +102,7 @@ std::string Juger(const Operation& operation, const Plan& plan, const std::strin
             return nom + " is neither the former nor the new one";
     }
     for (const auto& [nom, octets] : avant)
-        if (!trouves.contains(nom) && (operation.cibles.size() == 1 || nom != operation.cibles[0]))
+        if (!trouves.contains(nom))
             return nom + " is gone";
     return "";
 }
@@ -122,6 +121,7 @@ int main() {
         {"S.Vek", orvalis::aides::Contact("F1AAA", "09/01/25") + orvalis::aides::Fin()},
         {"ancien.adi", "former"},
         {"ancien.html", "former"},
+        {"ancien.sqlite", "SQLite format 3"},
         {"A.Vek", orvalis::aides::Fin()},
         {"A.rapport.txt", "former"}};
     const std::string contact =
@@ -141,8 +141,7 @@ int main() {
         for (std::size_t rang = 0; rang < appels.size(); ++rang)
             for (const Plan& plan : Fautes(appels[rang], rang)) {
                 const std::string dit = Essayer(operation, ici, avant, plan, *bilan);
-                const std::string degat =
-                    Juger(operation, plan, dit, avant, apres, LireFichiers(ici));
+                const std::string degat = Juger(plan, dit, avant, apres, LireFichiers(ici));
                 ++essais;
                 degats += degat.empty() ? 0 : 1;
                 if (!degat.empty())

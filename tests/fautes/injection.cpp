@@ -149,6 +149,13 @@ REMPLACER(ssize_t, pwrite, (int f, const void* octets, size_t t, off_t p),
 REMPLACER(int, open, (const char* nom, int drapeaux, ...),
           Suivi(nom), (drapeaux & O_CREAT) != 0 ? kPlace : kAutre, 0, 0,
           SYS_openat, AT_FDCWD, nom, drapeaux, 0600) // no fault depends on the rights
+REMPLACER(ssize_t, pread64, (int f, void* octets, size_t t, off64_t p),
+          Suivi(f), kLecture, t, p, SYS_pread64, f, octets, n, p)
+REMPLACER(ssize_t, pwrite64, (int f, const void* octets, size_t t, off64_t p),
+          Suivi(f), kEcriture, t, p, SYS_pwrite64, f, octets, n, p)
+REMPLACER(int, open64, (const char* nom, int drapeaux, ...),
+          Suivi(nom), (drapeaux & O_CREAT) != 0 ? kPlace : kAutre, 0, 0,
+          SYS_openat, AT_FDCWD, nom, drapeaux, 0600)
 REMPLACER(int, fallocate, (int f, int mode, off_t debut, off_t taille),
           Suivi(f), kPlace, 0, 0, SYS_fallocate, f, mode, debut, taille)
 REMPLACER(int, fdatasync, (int f), Suivi(f), kPlace, 0, 0, SYS_fdatasync, f)
