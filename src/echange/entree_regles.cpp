@@ -64,10 +64,15 @@ void LireFin(Entree& e, Jour premier, std::optional<Heure> debut) {
         MomentDe(dernier.value_or(premier), *fin) + std::chrono::days{lendemain ? 1 : 0};
     e.Mettre(Champ::HFIN, EcrireHeure(HeureDe(e.conventions.fuseau.DepuisUtc(utc))));
     const Moment depart = MomentDe(premier, debut.value_or(Heure{0}));
-    const bool parle = dernier.has_value() || e[Balise::QSO_DATE_OFF].empty();
-    if (!parle || utc < depart || utc >= depart + std::chrono::days{debut ? 1 : 2})
+    // Only the hour is kept, so that who reads the logbook takes the end for the next one of it.
+    const std::string_view pourquoi =
+        !dernier && !e[Balise::QSO_DATE_OFF].empty()       ? "date illisible"
+        : utc < depart                                     ? "une fin avant le début"
+        : utc >= depart + std::chrono::days{debut ? 1 : 2} ? "une fin plus d'un jour après le début"
+                                                           : "";
+    if (!pourquoi.empty())
         e.Noter(Champ::HFIN, Balise::QSO_DATE_OFF,
-                "une fin plus d'un jour après le début : seule l'heure de fin est gardée");
+                std::string{pourquoi} + " : seule l'heure de fin est gardée");
 }
 
 } // namespace

@@ -99,6 +99,11 @@ TEST(ContactAdif, Entree) {
         {"TIME_ON=1000|TIME_OFF=0900|QSO_DATE_OFF=20250112",
          "HDEB=10:00|HFIN=09:00[QSO_DATE_OFF: une fin plus d'un jour après le début : seule "
          "l'heure de fin est gardée]"},
+        {"TIME_ON=1000|TIME_OFF=0900|QSO_DATE_OFF=20250109",
+         "HDEB=10:00|HFIN=09:00[QSO_DATE_OFF: une fin avant le début : seule l'heure de fin est "
+         "gardée]"},
+        {"TIME_ON=1000|TIME_OFF=1100|QSO_DATE_OFF=20250231",
+         "HDEB=10:00|HFIN=11:00[QSO_DATE_OFF: date illisible : seule l'heure de fin est gardée]"},
         {"FREQ=14.06100|BAND=20M", "FREQ=14.061"},
         {"FREQ=14,1|MODE=USB", "FREQ=14.1|MODE=USB"},
         {"FREQ=7050|MODE=MFSK|SUBMODE=FT4", "FREQ=7.050|MODE=FT4[FREQ: devient « 7.050 » MHz]"},

@@ -113,9 +113,9 @@ void DessinerLegende(Imprimante& imprimante, const Cadre& cadre, const BilanCahi
                     std::string{aspect.nom} + "\u00A0: " + EcrireNombre(nombres[i]));
         y += kLigne;
     }
-    EcrireTexte(imprimante, cadre.x, y + 120, "Sous le code : les contacts.",
+    EcrireTexte(imprimante, cadre.x, y + 120, "Sous le code\u00A0: les contacts.",
                 {8, false, Encre::Gris});
-    EcrireTexte(imprimante, cadre.x, y + 340, "20 : la Corse, 2A et 2B ensemble.",
+    EcrireTexte(imprimante, cadre.x, y + 340, "20\u00A0: la Corse, 2A et 2B ensemble.",
                 {8, false, Encre::Gris});
 }
 
