@@ -1,34 +1,34 @@
 #include "echange/rapport.h"
 
+#include "core/texte.h"
+
+#include <algorithm>
 #include <array>
 
 namespace orvalis {
 namespace {
 
-constexpr std::size_t kLargeurCompte = 12;
-
-struct Compte {
-    std::string_view texte; ///< all of one width
-    std::int64_t BilanImport::*nombre;
-};
-constexpr std::array<Compte, 7> kComptes = {{
-    {"Contacts lus                                 ", &BilanImport::lus},
-    {"Contacts repris dans le cahier               ", &BilanImport::repris},
-    {"  dont changés, coupés ou incomplets         ", &BilanImport::changes},
-    {"  dont égaux à un contact précédent          ", &BilanImport::egaux},
-    {"  dont sans locator de la station (supposé)  ", &BilanImport::locatorsSupposes},
-    {"Contacts laissés de côté                     ", &BilanImport::laisses},
-    {"Anomalies hors des contacts                  ", &BilanImport::incidents},
+constexpr std::array<CompteImport, 7> kComptes = {{
+    {"Contacts lus", false, &BilanImport::lus},
+    {"Contacts repris dans le cahier", false, &BilanImport::repris},
+    {"changés, coupés ou incomplets", true, &BilanImport::changes},
+    {"égaux à un contact précédent", true, &BilanImport::egaux},
+    {"sans locator de la station (supposé)", true, &BilanImport::locatorsSupposes},
+    {"Contacts laissés de côté", false, &BilanImport::laisses},
+    {"Anomalies hors des contacts", false, &BilanImport::incidents},
 }};
 
+// All of one length, so that they can be written over.
 std::string Comptes(const BilanImport& bilan) {
+    constexpr std::size_t kLargeurNom = 45;
+    constexpr std::size_t kLargeurNombre = 12;
     std::string texte;
-    for (const Compte& compte : kComptes) {
+    for (const CompteImport& compte : kComptes) {
+        const std::string nom = (compte.dont ? "  dont " : "") + std::string{compte.nom};
         const std::string nombre = std::to_string(bilan.*compte.nombre);
-        texte += compte.texte;
-        texte += ':';
-        texte += std::string(kLargeurCompte - std::min(kLargeurCompte, nombre.size()), ' ');
-        texte += nombre + "\n";
+        texte += nom + std::string(kLargeurNom - std::min(kLargeurNom, Longueur(nom)), ' ') + ":" +
+                 std::string(kLargeurNombre - std::min(kLargeurNombre, nombre.size()), ' ') +
+                 nombre + "\n";
     }
     return texte;
 }
@@ -41,6 +41,10 @@ void AjouterCase(std::string& texte, std::string_view valeur, char fin) {
 }
 
 } // namespace
+
+std::span<const CompteImport> ComptesImport() {
+    return kComptes;
+}
 
 Rapport::Rapport(const DemandeImport& demande, const std::filesystem::path& chemin)
     : fichier_(chemin, demande.ancien) {

@@ -3,7 +3,17 @@
 
 #include "echange/importer.h"
 
+#include <span>
+
 namespace orvalis {
+
+/// A count of an import under its name, in the report and wherever else it is shown.
+struct CompteImport {
+    std::string_view nom;
+    bool dont; ///< is a part of the one before
+    std::int64_t BilanImport::*nombre;
+};
+[[nodiscard]] std::span<const CompteImport> ComptesImport();
 
 /// Grows line by line on the disk, so that no file makes it too large for the memory.
 class Rapport {

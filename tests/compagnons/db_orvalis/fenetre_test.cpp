@@ -97,6 +97,7 @@ TEST_F(DbOrvalisFenetre, SortiesCommeLaLigneDeCommande) {
     EXPECT_EQ(Texte("LabCahier"), (dossier / "Orvalis/F5ABC.Vek").string());
     EXPECT_EQ(Texte("LabContenu"), "1 contact, du 09/07/25 au 09/07/25, station F5ABC");
     EXPECT_FALSE(Bouton("BtStation").isEnabled());
+    EXPECT_TRUE(Bouton("BtAdi").hasFocus()) << "and not what closes the window";
     const auto sans = [](std::string texte) { // without the time it was made
         const auto la = texte.find("CREATED_TIMESTAMP");
         return la == texte.npos ? texte : texte.erase(la, 40);
@@ -151,6 +152,15 @@ TEST_F(DbOrvalisFenetre, AutreCahierEtBilan) {
             }});
     EXPECT_THAT(imprime, testing::Contains("T 300 1620 22g Arial 3"));
     EXPECT_THAT(imprime, testing::Contains("FIN"));
+    const int largeur = fenetre->minimumSizeHint().width();
+    const std::string loin = Fois(8, "un long chemin jusque là/");
+    fs::create_directories(dossier / loin);
+    dossier.Poser(loin + "S.Vek", Fin());
+    choisis = {Chemin((loin + "S.Vek").c_str()), Chemin("S.Vek")};
+    Presser('C');
+    EXPECT_EQ(Texte("LabCahier"), (dossier / (loin + "S.Vek")).string());
+    EXPECT_EQ(fenetre->minimumSizeHint().width(), largeur);
+    Presser('C');
     choisis = {Chemin("rien.Vek")};
     Presser('C');
     EXPECT_THAT(Texte("LabMessage"), testing::HasSubstr("rien.Vek"));

@@ -1,6 +1,7 @@
 #include "compagnons/db_orvalis/fenetre/dlg_apercu.h"
 
 #include "core/texte.h"
+#include "echange/rapport.h"
 #include "ui/bureau/texte_qt.h"
 #include "ui/widgets/police.h"
 
@@ -10,9 +11,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
-
-#include <array>
-#include <utility>
 
 namespace orvalis {
 namespace {
@@ -50,20 +48,13 @@ DlgApercu::DlgApercu(QWidget* parent, const QString& source, const EtudeImport& 
     auto* titre = new QLabel(source, this);
     titre->setTextFormat(Qt::PlainText);
     titre->setFont(PoliceAjustee(font(), kTitre));
-    const std::array<std::pair<const char*, std::int64_t>, 7> comptes = {{
-        {"Contacts dans le fichier", bilan.lus},
-        {"Repris dans le nouveau cahier", bilan.repris},
-        {"    dont coupés ou changés", bilan.changes},
-        {"    dont égaux à un autre", bilan.egaux},
-        {"    dont sans locator de la station", bilan.locatorsSupposes},
-        {"Laissés de côté", bilan.laisses},
-        {"Lignes hors de tout contact", bilan.incidents},
-    }};
     auto* table = new QFormLayout;
-    for (const auto& [nom, nombre] : comptes) {
-        auto* valeur = new QLabel(QString::number(nombre), this);
+    for (const CompteImport& compte : ComptesImport()) {
+        auto* valeur = new QLabel(QString::number(bilan.*compte.nombre), this);
+        valeur->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("0000000")));
         valeur->setAlignment(Qt::AlignRight);
-        table->addRow(Q(nom), valeur);
+        table->addRow((compte.dont ? QStringLiteral("    dont ") : QString()) + Q(compte.nom),
+                      valeur);
     }
     table->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     table->setFormAlignment(Qt::AlignLeft);

@@ -126,7 +126,7 @@ FenetreDbOrvalis::FenetreDbOrvalis(Lieu lieu, Demandes demandes)
 }
 
 void FenetreDbOrvalis::Composer() {
-    cahier_ = new QLabel(this);
+    cahier_ = new LabChemin(this);
     cahier_->setObjectName(QStringLiteral("LabCahier"));
     cahier_->setTextFormat(Qt::PlainText);
     cahier_->setFont(PoliceAjustee(font(), kTitre));
@@ -182,7 +182,7 @@ void FenetreDbOrvalis::Composer() {
     colonne->addLayout(groupes);
     colonne->addWidget(message_, 1);
     colonne->addLayout(pied);
-    setMinimumWidth(fontMetrics().averageCharWidth() * 100);
+    setMinimumWidth(fontMetrics().averageCharWidth() * 90); // 683 points: a laptop at 200 %
     QWidget* avant = choisir_;
     for (QWidget* suivant :
          std::initializer_list<QWidget*>{revenir_, surCahier_[0], surCahier_[1], surCahier_[2],
@@ -195,7 +195,7 @@ void FenetreDbOrvalis::Composer() {
 
 void FenetreDbOrvalis::Montrer() {
     const bool aLui = etat_.station && etat_.cahier == etat_.station->cahier;
-    cahier_->setText(etat_.cahier.empty() ? QStringLiteral("aucun") : Q(etat_.cahier.string()));
+    cahier_->Montrer(etat_.cahier.empty() ? QStringLiteral("aucun") : Q(etat_.cahier.string()));
     contenu_->setText(DireContenu(etat_));
     QPalette palette = message_->palette();
     const QColor texte = etat_.faute ? RougeSur(this->palette().color(QPalette::Window))
@@ -265,7 +265,8 @@ void FenetreDbOrvalis::LireCahier(const fs::path& chemin, std::function<void()> 
             etat_.cahier = chemin;
             etat_.bilan = std::move(*lu);
             Montrer();
-            if (focusWidget() == nullptr || !focusWidget()->isEnabled())
+            // When the window opens, only what closes it could take the focus.
+            if (foyer_ == nullptr || !foyer_->isEnabled())
                 surCahier_.front()->setFocus();
             if (ensuite)
                 ensuite();

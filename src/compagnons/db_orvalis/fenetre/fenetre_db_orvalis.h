@@ -4,6 +4,7 @@
 #include "compagnons/db_orvalis/bilan_dessin.h"
 #include "compagnons/db_orvalis/fenetre/demandes.h"
 #include "compagnons/db_orvalis/fenetre/dlg_apercu.h"
+#include "compagnons/db_orvalis/fenetre/lab_chemin.h"
 #include "compagnons/db_orvalis/fenetre/travail.h"
 #include "compagnons/db_orvalis/phrases.h"
 #include "compagnons/db_orvalis/station_lue.h"
@@ -69,7 +70,7 @@ class FenetreDbOrvalis : public QWidget {
     Demandes demandes_;
     EtatDb etat_;
     std::unique_ptr<Fuseau> fuseau_; ///< of the work under way
-    QLabel* cahier_ = nullptr;
+    LabChemin* cahier_ = nullptr;
     QLabel* contenu_ = nullptr;
     QLabel* message_ = nullptr;
     QProgressBar* progression_ = nullptr;
