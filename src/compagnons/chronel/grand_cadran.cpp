@@ -6,7 +6,7 @@
 
 namespace orvalis {
 namespace {
-constexpr int kLignes = 8;        ///< its height in lines of text
+constexpr int kLignes = 7;        ///< its height in lines of text
 constexpr qreal kEpaisseur = 1.8; ///< of its lines, against those of the small dial
 } // namespace
 

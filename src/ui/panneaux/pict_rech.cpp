@@ -19,12 +19,7 @@ PictRech::PictRech(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::
     connect(ui_->RechText, &QLineEdit::textChanged, this, &PictRech::texteChange);
     ui_->RechText->setMinimumWidth(QFontMetrics(font()).averageCharWidth() * 18);
     ui_->RechText->setClearButtonEnabled(true);
-    PeindreSelonBureau(*ui_->RechText, [this] {
-        // Some dark palettes leave the placeholder black.
-        QPalette palette;
-        palette.setColor(QPalette::PlaceholderText, Discrete(palette.color(QPalette::Text)));
-        ui_->RechText->setPalette(palette);
-    });
+    TeinterExemple(*ui_->RechText);
 }
 
 PictRech::~PictRech() = default;

@@ -10,6 +10,7 @@
 #include <QDialog>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -146,6 +147,7 @@ TEST_F(DbOrvalisFenetre, AutreCahierEtBilan) {
     // Written to meanwhile: the summary is of the logbook as it is now.
     dossier.Poser("S.Vek", Fois(3, Contact("F2BBB", "09/01/25")) + Fin());
     Presser('L', {[this](QDialog& d) {
+                EXPECT_LT(d.width(), d.screen()->availableSize().width());
                 Taper(d, Qt::Key_I, Qt::AltModifier);
                 EXPECT_TRUE(QTest::qWaitFor([this] { return !imprime.empty(); }));
                 Taper(d, Qt::Key_Escape);
@@ -159,6 +161,7 @@ TEST_F(DbOrvalisFenetre, AutreCahierEtBilan) {
     choisis = {Chemin((loin + "S.Vek").c_str()), Chemin("S.Vek")};
     Presser('C');
     EXPECT_EQ(Texte("LabCahier"), (dossier / (loin + "S.Vek")).string());
+    QApplication::sendPostedEvents(); // layouts in each other pass it on
     EXPECT_EQ(fenetre->minimumSizeHint().width(), largeur);
     Presser('C');
     choisis = {Chemin("rien.Vek")};

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace orvalis {
@@ -85,7 +86,8 @@ DlgApercu::DlgApercu(QWidget* parent, const QString& source, const EtudeImport& 
     colonne->addWidget(pourquoi);
     colonne->addWidget(lignes, 1);
     colonne->addWidget(boutons);
-    resize(fontMetrics().averageCharWidth() * 90, sizeHint().height());
+    resize(QSize(fontMetrics().averageCharWidth() * 90, sizeHint().height())
+               .boundedTo(screen()->availableSize() - QSize(16, 40)));
     (importer->isEnabled() ? importer : boutons->button(QDialogButtonBox::Cancel))->setFocus();
 }
 

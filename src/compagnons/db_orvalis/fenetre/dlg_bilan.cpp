@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -90,7 +91,7 @@ DlgBilan::DlgBilan(QWidget* parent, const FeuilleBilan& feuille, const Demandes&
     auto* colonne = new QVBoxLayout(this);
     colonne->addWidget(defilement);
     colonne->addLayout(boutons);
-    resize(820, 640);
+    resize(QSize(820, 640).boundedTo(screen()->availableSize() - QSize(16, 40)));
     defilement->setFocus(); // arrows and page keys move the sheets
 }
 
