@@ -31,17 +31,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t n)
     using namespace orvalis;
     const auto source = fuzz::Poser("source", octets, n);
     const auto cible = fuzz::Dossier() / "G.Vek";
+    std::string cahier;
     try {
-        const std::string cahier = Importer(source, cible);
-        for (const GenreAdif genre : {GenreAdif::Adi, GenreAdif::Adx}) {
-            const auto sortie = fuzz::Dossier() / "sortie";
-            static const Fuseau utc;
-            static_cast<void>(ExporterAdif({cible, sortie, genre, "", {}, ""}, utc));
-            if (cahier.size() > kTailleFiche)
-                fuzz::Exiger(Importer(sortie, fuzz::Dossier() / "H.Vek") == cahier);
-        }
+        cahier = Importer(source, cible);
     } catch (const RefusEchange&) {
         return 0; // no contact in it, or entities
+    }
+    for (const GenreAdif genre : {GenreAdif::Adi, GenreAdif::Adx}) {
+        const auto sortie = fuzz::Dossier() / "sortie";
+        static const Fuseau utc;
+        static_cast<void>(ExporterAdif({cible, sortie, genre, "", {}, ""}, utc));
+        if (cahier.size() > kTailleFiche)
+            fuzz::Exiger(Importer(sortie, fuzz::Dossier() / "H.Vek") == cahier);
     }
     return 0;
 }

@@ -181,8 +181,8 @@ void Lire(const DemandeImport& demande, Importateur& importateur) {
         throw RefusEchange("Il n'y a pas de contact dans « " + demande.source.string() + " »." +
                            importateur.PremierIncident());
     if (bilan.locatorsSupposes > 0 && importateur.Locator().empty())
-        throw RefusEchange("Les contacts ne disent pas le locator de la station : donnez-le par "
-                           "--locator.");
+        throw RefusEchange("Les contacts ne disent pas le locator de la station : il faut le "
+                           "donner (en ligne de commande par --locator).");
 }
 
 void RefuserLaCible(const DemandeImport& demande) {

@@ -24,11 +24,13 @@ std::string Comptes(const BilanImport& bilan) {
     constexpr std::size_t kLargeurNombre = 12;
     std::string texte;
     for (const CompteImport& compte : kComptes) {
-        const std::string nom = (compte.dont ? "  dont " : "") + std::string{compte.nom};
+        const std::size_t debut = texte.size();
+        texte.append(compte.dont ? "  dont " : "").append(compte.nom);
+        const std::size_t n = Longueur(std::string_view{texte}.substr(debut));
+        texte.append(kLargeurNom - std::min(kLargeurNom, n), ' ');
         const std::string nombre = std::to_string(bilan.*compte.nombre);
-        texte += nom + std::string(kLargeurNom - std::min(kLargeurNom, Longueur(nom)), ' ') + ":" +
-                 std::string(kLargeurNombre - std::min(kLargeurNombre, nombre.size()), ' ') +
-                 nombre + "\n";
+        texte.append(":").append(kLargeurNombre - std::min(kLargeurNombre, nombre.size()), ' ');
+        texte.append(nombre).append("\n");
     }
     return texte;
 }

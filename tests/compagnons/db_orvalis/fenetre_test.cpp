@@ -197,6 +197,20 @@ TEST_F(DbOrvalisFenetre, SansStation) {
     for (const char* nom : {"BtAdi", "BtAdx", "BtBase", "BtPage", "BtBilan", "BtStation"})
         EXPECT_FALSE(Bouton(nom).isEnabled()) << nom;
     EXPECT_TRUE(Bouton("BtChoisir").isEnabled());
+    // Nothing tells the station's locator: it is asked for.
+    choisis = {Chemin("f.adi"), Chemin("G.Vek")};
+    Presser('I', {[](QDialog& d) {
+                      const auto taper = [&d](const char* locator) {
+                          Taper(d, Qt::Key_T, Qt::AltModifier);
+                          QTest::keyClicks(QApplication::focusWidget(), Q(locator));
+                          Taper(d, Qt::Key_Return);
+                      };
+                      taper("jn1");
+                      EXPECT_TRUE(d.isVisible()) << "no locator";
+                      taper("8du");
+                  },
+                  kContinuer});
+    EXPECT_EQ(Lire(dossier / "G.Vek").substr(159, 6), "JN18DU");
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "compagnons/db_orvalis/fenetre/dlg_heures.h"
 
+#include "geo/locator.h"
 #include "ui/bureau/texte_qt.h"
 
 #include <QDialogButtonBox>
@@ -10,7 +11,7 @@
 
 namespace orvalis {
 
-DlgHeures::DlgHeures(QWidget* parent, const QString& question) : QDialog(parent) {
+DlgHeures::DlgHeures(QWidget* parent, const QString& question, bool locator) : QDialog(parent) {
     setWindowTitle(QStringLiteral("Les heures"));
     auto* texte = new QLabel(question, this);
     texte->setWordWrap(true);
@@ -34,14 +35,30 @@ DlgHeures::DlgHeures(QWidget* parent, const QString& question) : QDialog(parent)
     auto* colonne = new QVBoxLayout(this);
     for (QWidget* ligne : std::initializer_list<QWidget*>{texte, utc_, locales_, zone_})
         colonne->addWidget(ligne);
+    if (locator) {
+        locator_ = new QLineEdit(this);
+        locator_->setMaxLength(static_cast<int>(kLargeurLocator));
+        auto* legende = new QLabel(
+            QStringLiteral("Locator de la s&tation, pour les contacts qui ne le disent pas\u00A0:"),
+            this);
+        legende->setBuddy(locator_);
+        colonne->addSpacing(12);
+        colonne->addWidget(legende);
+        colonne->addWidget(locator_);
+        connect(locator_, &QLineEdit::textChanged, this, [this, boutons] {
+            const std::string lu = Reponse().locator;
+            boutons->button(QDialogButtonBox::Ok)->setEnabled(lu.empty() || LocatorValide(lu));
+        });
+    }
     colonne->addSpacing(12);
     colonne->addWidget(boutons);
     setMinimumWidth(fontMetrics().averageCharWidth() * 60);
     utc_->setFocus();
 }
 
-std::string DlgHeures::Zone() const {
-    return locales_->isChecked() ? S(zone_->currentText()) : std::string{};
+ReponseHeures DlgHeures::Reponse() const {
+    return {locales_->isChecked() ? S(zone_->currentText()) : std::string{},
+            locator_ == nullptr ? std::string{} : S(locator_->text().trimmed().toUpper())};
 }
 
 } // namespace orvalis

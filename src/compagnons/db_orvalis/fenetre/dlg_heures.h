@@ -3,21 +3,29 @@
 
 #include <QComboBox>
 #include <QDialog>
+#include <QLineEdit>
 #include <QRadioButton>
 
 #include <string>
 
 namespace orvalis {
 
+/// What is not in the files themselves.
+struct ReponseHeures {
+    std::string zone;    ///< its name; empty for UTC
+    std::string locator; ///< of the station; empty where it was not asked for, or not given
+};
+
 class DlgHeures : public QDialog {
   public:
-    /// `question` says whose hours are meant.
-    DlgHeures(QWidget* parent, const QString& question);
+    /// `question` says whose hours are meant; with `locator` the station's own is asked for as
+    /// well.
+    DlgHeures(QWidget* parent, const QString& question, bool locator);
 
-    /// The name of the zone; empty for UTC.
-    [[nodiscard]] std::string Zone() const;
+    [[nodiscard]] ReponseHeures Reponse() const;
 
   private:
+    QLineEdit* locator_ = nullptr;
     QRadioButton* utc_;
     QRadioButton* locales_;
     QComboBox* zone_;

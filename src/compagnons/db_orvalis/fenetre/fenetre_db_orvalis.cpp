@@ -2,7 +2,6 @@
 
 #include "compagnons/db_orvalis/bilan_html.h"
 #include "compagnons/db_orvalis/fenetre/dlg_bilan.h"
-#include "compagnons/db_orvalis/fenetre/dlg_heures.h"
 #include "core/erreurs.h"
 #include "echange/lecture_cahier.h"
 #include "echange/refus.h"
@@ -292,11 +291,12 @@ QString FenetreDbOrvalis::Propose(const QString& suffixe) const {
     return QDir(Q(lieu_.maison.string())).filePath(nom + QLatin1Char('.') + suffixe);
 }
 
-std::optional<std::string> FenetreDbOrvalis::DemanderHeures(const QString& question) {
-    DlgHeures dialogue(this, question);
+std::optional<ReponseHeures> FenetreDbOrvalis::DemanderHeures(const QString& question,
+                                                              bool locator) {
+    DlgHeures dialogue(this, question, locator);
     if (dialogue.exec() != QDialog::Accepted)
         return {};
-    return dialogue.Zone();
+    return dialogue.Reponse();
 }
 
 void FenetreDbOrvalis::Sortir(std::size_t sortie) {
@@ -305,14 +305,15 @@ void FenetreDbOrvalis::Sortir(std::size_t sortie) {
         this, {true, Q(s.infobulle), Propose(Q(s.suffixe)), Q(s.filtre), Q(s.suffixe)});
     if (cible.isEmpty())
         return;
-    const auto zone = s.heures ? DemanderHeures(QStringLiteral("ADIF est en temps universel. Les "
-                                                               "heures de ce cahier sont\u00A0:"))
-                               : std::string{};
-    if (!zone)
+    const auto reponse = s.heures
+                             ? DemanderHeures(QStringLiteral("ADIF est en temps universel. Les "
+                                                             "heures de ce cahier sont\u00A0:"))
+                             : ReponseHeures{};
+    if (!reponse)
         return;
     auto constat = std::make_shared<Constat>();
     Travailler(
-        QStringLiteral("Écriture de «\u00A0%1\u00A0»…").arg(cible), *zone,
+        QStringLiteral("Écriture de «\u00A0%1\u00A0»…").arg(cible), reponse->zone,
         [this, constat, s, cible](const Fuseau& fuseau) {
             *constat = s.faire({etat_, S(cible), fuseau, etat_.bilan->faitLe});
         },
@@ -333,19 +334,23 @@ void FenetreDbOrvalis::Importer() {
                                 {}});
     if (source.isEmpty())
         return;
-    const auto zone = DemanderHeures(QStringLiteral(
-        "Le fichier est en temps universel. Les heures du nouveau cahier seront\u00A0:"));
-    if (!zone)
-        return;
     DemandeImport demande;
-    demande.source = S(source);
     demande.locator = LocatorDe(etat_.station);
+    const auto reponse = DemanderHeures(
+        QStringLiteral(
+            "Le fichier est en temps universel. Les heures du nouveau cahier seront\u00A0:"),
+        demande.locator.empty());
+    if (!reponse)
+        return;
+    if (demande.locator.empty())
+        demande.locator = reponse->locator;
+    demande.source = S(source);
     demande.proteges = FichiersDe(etat_.station);
     auto etude = std::make_shared<EtudeImport>();
     Travailler(
-        QStringLiteral("Lecture de «\u00A0%1\u00A0»…").arg(source), *zone,
+        QStringLiteral("Lecture de «\u00A0%1\u00A0»…").arg(source), reponse->zone,
         [demande, etude](const Fuseau& fuseau) { *etude = Etudier(demande, fuseau); },
-        [this, demande, etude, zone] { MontrerApercu(demande, *zone, *etude); });
+        [this, demande, etude, zone = reponse->zone] { MontrerApercu(demande, zone, *etude); });
 }
 
 void FenetreDbOrvalis::MontrerApercu(const DemandeImport& demande, const std::string& zone,

@@ -4,6 +4,7 @@
 #include "compagnons/db_orvalis/bilan_dessin.h"
 #include "compagnons/db_orvalis/fenetre/demandes.h"
 #include "compagnons/db_orvalis/fenetre/dlg_apercu.h"
+#include "compagnons/db_orvalis/fenetre/dlg_heures.h"
 #include "compagnons/db_orvalis/fenetre/lab_chemin.h"
 #include "compagnons/db_orvalis/fenetre/travail.h"
 #include "compagnons/db_orvalis/phrases.h"
@@ -58,8 +59,10 @@ class FenetreDbOrvalis : public QWidget {
     void Importer();
     void MontrerApercu(const DemandeImport& demande, const std::string& zone,
                        const EtudeImport& etude);
-    /// Asks what the hours are: the zone, empty for UTC; none when that was cancelled.
-    [[nodiscard]] std::optional<std::string> DemanderHeures(const QString& question);
+    /// Asks what the hours are, and the station's locator with `locator`; nothing when that was
+    /// cancelled.
+    [[nodiscard]] std::optional<ReponseHeures> DemanderHeures(const QString& question,
+                                                              bool locator = false);
     /// Lets `faire` work beside the window, with the hours of `zone`; then `finir`, unless it
     /// failed, which is told.
     void Travailler(const QString& quoi, const std::string& zone,
