@@ -30,13 +30,19 @@ std::vector<BilanDepartement> TousLesDepartements() {
     return departements;
 }
 
+// How far a contact went; kept for each, so it is small.
+struct Portee {
+    std::int32_t numero;
+    double km;
+};
+
 // What is counted by a name until it can be put in order.
 struct Comptes {
     std::map<int, std::size_t> annees;
     std::unordered_map<const Bande*, std::size_t> bandes;
     std::unordered_map<std::string_view, std::size_t> modes;
     std::unordered_map<std::string, BilanCarre> carres;
-    std::unordered_map<std::string, Lointain> stations;
+    std::vector<Portee> portees; ///< of contacts with a callsign
 };
 
 void CompterDate(BilanCahier& bilan, Comptes& comptes, std::int32_t numero,
@@ -75,11 +81,8 @@ void CompterLieu(Comptes& comptes, std::int32_t numero, const QsoRecord& fiche,
         ++carre.contacts;
         carre.confirme = carre.confirme || confirme;
     }
-    MesureContact mesure = MesurerContact(fiche);
-    Lointain& station = comptes.stations[sens.indicatif];
-    if (mesure.km.value_or(0) > station.km)
-        station = {numero,    sens.indicatif, sens.carre, sens.date, std::move(mesure.distance),
-                   *mesure.km};
+    if (!sens.indicatif.empty())
+        comptes.portees.push_back({numero, MesurerContact(fiche).km.value_or(0)});
 }
 
 void RangerBandesEtModes(BilanCahier& bilan, const Comptes& comptes) {
@@ -93,7 +96,7 @@ void RangerBandesEtModes(BilanCahier& bilan, const Comptes& comptes) {
     });
 }
 
-void RangerLieux(BilanCahier& bilan, Comptes& comptes) {
+void RangerCarres(BilanCahier& bilan, Comptes& comptes) {
     for (auto& [nom, carre] : comptes.carres) {
         carre.carre = nom;
         bilan.carresConfirmes += carre.confirme ? 1 : 0;
@@ -101,16 +104,37 @@ void RangerLieux(BilanCahier& bilan, Comptes& comptes) {
     }
     std::sort(bilan.carres.begin(), bilan.carres.end(),
               [](const BilanCarre& a, const BilanCarre& b) { return a.carre < b.carre; });
-    for (auto& [indicatif, station] : comptes.stations)
-        if (station.km > 0)
-            bilan.lointains.push_back(std::move(station));
-    const std::size_t n = std::min(kNbLointains, bilan.lointains.size());
-    std::partial_sort(bilan.lointains.begin(),
-                      bilan.lointains.begin() + static_cast<std::ptrdiff_t>(n),
-                      bilan.lointains.end(), [](const Lointain& a, const Lointain& b) {
-                          return a.km != b.km ? a.km > b.km : a.numero < b.numero;
-                      });
-    bilan.lointains.resize(n);
+}
+
+// Of each station the contact of the longest distance, the first of several; of these the farthest.
+void RangerStations(BilanCahier& bilan, std::span<const QsoRecord> fiches,
+                    std::vector<Portee>& portees) {
+    const auto fiche = [fiches](const Portee& p) -> const QsoRecord& {
+        return fiches[static_cast<std::size_t>(p.numero) - 1];
+    };
+    const auto station = [&fiche](const Portee& p) {
+        return Rogner(OctetsChamp(fiche(p), Champ::CSGN));
+    };
+    const auto plusLoin = [](const Portee& a, const Portee& b) {
+        return a.km != b.km ? a.km > b.km : a.numero < b.numero;
+    };
+    std::sort(portees.begin(), portees.end(), [&](const Portee& a, const Portee& b) {
+        const int ordre = station(a).compare(station(b));
+        return ordre != 0 ? ordre < 0 : plusLoin(a, b);
+    });
+    const auto meme = [&](const Portee& a, const Portee& b) { return station(a) == station(b); };
+    portees.erase(std::unique(portees.begin(), portees.end(), meme), portees.end());
+    bilan.stations = portees.size();
+    std::erase_if(portees, [](const Portee& p) { return p.km <= 0; });
+    const std::size_t n = std::min(kNbLointains, portees.size());
+    std::partial_sort(portees.begin(), portees.begin() + static_cast<std::ptrdiff_t>(n),
+                      portees.end(), plusLoin);
+    portees.resize(n);
+    for (const Portee& p : portees) {
+        SensFiche sens = ComprendreFiche(fiche(p));
+        bilan.lointains.push_back({p.numero, std::move(sens.indicatif), std::move(sens.carre),
+                                   sens.date, MesurerContact(fiche(p)).distance, p.km});
+    }
 }
 
 void RangerDepartements(BilanCahier& bilan) {
@@ -146,13 +170,12 @@ BilanCahier FaireBilan(std::span<const QsoRecord> fiches) {
         ++bilan.saCarte[static_cast<std::size_t>(sens.saCarte.etat)];
         bilan.aRepondre += confirme && sens.maCarte.etat == EtatQsl::Rien ? 1 : 0;
     }
-    comptes.stations.erase("");
-    bilan.stations = comptes.stations.size();
     for (const auto& [annee, contacts] : comptes.annees)
         bilan.annees.push_back({annee, contacts});
     RangerBandesEtModes(bilan, comptes);
     RangerDepartements(bilan);
-    RangerLieux(bilan, comptes);
+    RangerCarres(bilan, comptes);
+    RangerStations(bilan, fiches, comptes.portees);
     return bilan;
 }
 
