@@ -31,7 +31,7 @@ class Compte {
         for (const auto& [nom, avant] : vus_)
             if (const auto apres = ici.find(nom); apres == ici.end())
                 faute += nom + " a disparu ; ";
-            else if (nom == kCahier || !EstLeCahier(apres->second, ici)) // else a backup or a copy
+            else if (nom == kCahier || !EstUneCopie(apres->second, ici))
                 faute += Juger(nom, avant, apres->second, permis);
         Retenir(std::move(ici));
         return faute;
@@ -91,11 +91,13 @@ class Compte {
         if (vus_.contains(kCahier))
             cahiers_.insert(vus_[kCahier]);
     }
-    // Deleted, the logbook goes on in the file that the program has open: one of those seen.
-    [[nodiscard]] bool EstLeCahier(const Contacts& contacts,
+    // The logbook on show, which may be another. The own one, deleted, goes on in the file that the
+    // program has open: one of those seen.
+    [[nodiscard]] bool EstUneCopie(const Contacts& contacts,
                                    const std::map<std::string, Contacts>& ici) const {
-        const auto cahier = ici.find(kCahier);
-        return cahier == ici.end() ? cahiers_.contains(contacts) : cahier->second == contacts;
+        const auto pareil = [&](const auto& autre) { return autre.second == contacts; };
+        const bool deux = std::count_if(ici.begin(), ici.end(), pareil) > 1;
+        return deux || (!ici.contains(kCahier) && cahiers_.contains(contacts));
     }
     [[nodiscard]] static std::string Juger(const std::string& nom, const Contacts& avant,
                                            const Contacts& apres, const Permis& permis) {
