@@ -61,6 +61,13 @@ std::string Confronter(Banc& banc) {
     const bool question = banc.Etat("FraMsgFiche") != "caché";
     const std::string numero = banc.Texte("NoFicheLab");
     SCOPED_TRACE(avant + " (" + montre + ") : " + phrase);
+    std::vector<std::string> remplies; // what the operator gave, not the clock nor the station
+    for (int k = 1; k <= 17 && saisie; ++k) {
+        const bool donnee = k == 16 || ((k == 2 || k == 3) && banc.Etat("OptionEnr1") == "coché");
+        if (std::string texte = banc.Texte("TxtField_" + std::to_string(k));
+            !donnee && !texte.empty())
+            remplies.push_back(std::move(texte));
+    }
     std::string pendant; // the second of ERREUR
     banc.systeme.pendantPause = [&] { pendant = banc.Texte(avant); };
     banc.Touche(Qt::Key_Return);
@@ -97,6 +104,21 @@ std::string Confronter(Banc& banc) {
                                    joint[2].size()),
                       joint[2]);
         }
+    }
+    if (Dit(phrase, "^(?:oublie (.*?) ; )?recommence la fiche ([0-9]+),", t)) {
+        std::string dites;
+        for (std::size_t i = 0; i < std::min<std::size_t>(remplies.size(), 3); ++i)
+            dites += (i == 0 ? "« " : ", « ") + remplies[i] + " »";
+        if (remplies.size() > 3)
+            dites += " et " + std::to_string(remplies.size() - 3) + " autre";
+        EXPECT_EQ(t[1].substr(0, dites.size()), dites);
+        EXPECT_EQ(banc.Texte("NoFicheLab"), " Charger fiche N° " + t[2]);
+        for (int k = 1; k <= 17; ++k)
+            EXPECT_TRUE(k == 16 || banc.Texte("TxtField_" + std::to_string(k)).empty()) << k;
+    } else if (Dit(phrase, "^(?:passe|reste) en (Réel|Différé)", t)) {
+        EXPECT_EQ(banc.Etat(t[1] == "Réel" ? "OptionEnr1" : "OptionEnr2"), "coché");
+    } else if (Dit(phrase, "^(dé)?coche", t)) {
+        EXPECT_EQ(banc.Etat(avant) == "coché", t[1].empty());
     }
     if (!boite)
         return phrase.substr(0, phrase.find(' '));
@@ -161,6 +183,13 @@ TEST(Conseil, DitCeQueFaitEntreeDansLaSaisieEtLaCorrection) {
             if (question || (saisie && (banc.Etat("BtEnrSuivant") == "actif" || tirer(8) == 0)))
                 banc.Faire(saisie ? bouton : tirer(2) ? "foyer FraCmdOui" : "foyer FraCmdNon");
             break;
+        case 4:
+            if (saisie)
+                banc.Faire(banc.Etat("BtEnrAnnuler") == "actif" && tirer(6) == 0
+                               ? "foyer BtEnrAnnuler"
+                           : tirer(2) ? "foyer OptionEnr1"
+                                      : "foyer OptionEnr2");
+            break;
         default:
             if (tirer(2) && banc.Texte("foyer").starts_with("TxtField_"))
                 banc.Faire("touche Ctrl+A");
@@ -180,10 +209,12 @@ TEST(Conseil, DitCeQueFaitEntreeDansLaSaisieEtLaCorrection) {
     for (const std::string mode : {"réel ", "différé ", "correction "})
         for (int k = 1; k <= 17; ++k)
             EXPECT_TRUE(vus.contains(mode + "TxtField_" + std::to_string(k))) << mode << k;
-    for (const auto& [mode, verbes] :
-         aides::Textes{{"réel", "garde|prend|vide|laisse|reste|affiche|enregistre|abandonne"},
-                       {"différé", "garde|prend|vide|laisse|reste|affiche|enregistre|abandonne"},
-                       {"correction", "demande|remet|efface|reste|ne|affiche|enregistre|rend"}})
+    for (const auto& [mode, verbes] : aides::Textes{
+             {"réel", "garde|prend|vide|laisse|reste|affiche|enregistre|abandonne|oublie|"
+                      "passe"},
+             {"différé", "garde|prend|vide|laisse|reste|affiche|enregistre|abandonne|oublie|"
+                         "passe"},
+             {"correction", "demande|remet|efface|reste|ne|affiche|enregistre|rend"}})
         for (const std::string& verbe : aides::Couper(verbes, "|"))
             EXPECT_TRUE(vus.contains(mode + ' ' + verbe)) << mode << ' ' << verbe;
 }
@@ -363,7 +394,16 @@ TEST(Conseil, LesAutresControles) {
            {{"clic BtContactsFermer; clic BtNewQSO; valide f6abc; menu MnuChangerLocator; touche "
              "Ctrl+A; tape jn18d",
              "Entrée : reste ici ; il faut six caractères, comme JN18DU | Première fois"}});
-    for (const char* suite : {"", "touche Ctrl+A; tape jn99zz", "tape jn18du", "", ""}) {
+    for (const char* suite : {"", "touche Ctrl+A; tape jn99zz", "foyer ChangLocChk",
+                              "foyer ChangLocText; tape jn18du"}) {
+        banc.Faire(suite);
+        Confronter(banc);
+    }
+    Suivre(banc, {{"foyer ChangLocChk", "Entrée : décoche cette case ; Valider prend « JN18DU » "
+                                        "pour locator | Première fois"},
+                  {"entree 1", "Entrée : coche cette case ; Valider prend « JN18DU » pour "
+                               "locator, au prochain lancement aussi | Première fois"}});
+    for (const char* suite : {"", "", "foyer BtChangValid", ""}) {
         banc.Faire(suite);
         Confronter(banc);
     }

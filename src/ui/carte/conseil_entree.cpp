@@ -8,6 +8,7 @@
 #include "ui/carte/saisie.h"
 #include "ui/carte/vue.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace orvalis {
@@ -57,16 +58,17 @@ void DirePuis(Phrase& p, const Essai& e) {
 
 namespace {
 
+// Whether the clock fills the box.
+bool Donnee(const Carte& carte, Boite boite) {
+    return carte.saisie.tempsReel && (boite == Boite::Date || boite == Boite::Debut);
+}
+
 // Whether the card under entry holds more than a callsign and what the clock and the station give.
 bool PlusQueLIndicatif(const Carte& carte) {
-    for (const DescriptionBoite& d : kBoites) {
-        const bool donnee =
-            carte.saisie.tempsReel && (d.boite == Boite::Date || d.boite == Boite::Debut);
-        if (d.boite != Boite::Indicatif && d.boite != Boite::MonLocator && !donnee &&
-            !carte.zones[d.boite].empty())
-            return true;
-    }
-    return false;
+    return std::any_of(kBoites.begin(), kBoites.end(), [&carte](const DescriptionBoite& d) {
+        return d.boite != Boite::Indicatif && d.boite != Boite::MonLocator &&
+               !Donnee(carte, d.boite) && !carte.zones[d.boite].empty();
+    });
 }
 
 void DireAbandon(Phrase& p, const Carte& carte) {
@@ -164,15 +166,58 @@ void DireLocator(Phrase& p, Essai e) {
     }
 }
 
-void DireFinLocator(Phrase& p, Essai e, bool valider) {
+// What BtChangValid or BtChangAnnul does.
+void DireLocatorPris(Phrase& p, Essai& e, bool valider) {
     Station station = e.station;
+    const bool garder = e.ecran.locator.garder;
     if (valider) // not into the Settings file: this is a trial
-        ChangerLocatorStation(station, e.carte, e.avant.locator.texte, false);
+        ChangerLocatorStation(station, e.carte, e.ecran.locator.texte, false);
     FermerChangLocator(e.carte, e.ecran, station);
     const bool change = station.monLocator != e.station.monLocator;
     p.Dire(change ? "prend " : "garde ").Citer(station.monLocator).Dire(" pour locator");
-    if (valider && e.avant.locator.garder)
+    if (valider && garder)
         p.Dire(", au prochain lancement aussi");
+}
+
+void DireFinLocator(Phrase& p, Essai e, bool valider) {
+    DireLocatorPris(p, e, valider);
+    DirePuis(p, e);
+}
+
+// Of the tick counts what BtChangValid makes of it, once that is there.
+void DireGarder(Phrase& p, Essai e) {
+    GarderLocator(e.ecran, !e.avant.locator.garder);
+    p.Dire(e.ecran.locator.garder ? "coche cette case" : "décoche cette case");
+    if (!e.ecran.locator.valider)
+        return;
+    p.Dire(kPointVirgule).Dire("Valider ");
+    DireLocatorPris(p, e, true);
+}
+
+void DireOption(Phrase& p, Essai e, bool tempsReel) {
+    ChoisirTempsReel(e.carte, e.ecran, e.station, tempsReel);
+    const bool change = tempsReel != e.carteAvant.saisie.tempsReel;
+    p.Dire(change ? "passe en " : "reste en ").Dire(tempsReel ? "Réel" : "Différé");
+    DirePuis(p, e);
+}
+
+// What of the contact goes when its card is begun anew; what the clock gave it gives again.
+void DireAnnuler(Phrase& p, Essai e, NumeroFiche fiche) {
+    constexpr int kCites = 3;
+    e.Suivre(PreparerSaisie(e.carteAvant, e.station, fiche));
+    int perdues = 0;
+    for (const DescriptionBoite& d : kBoites) {
+        const std::string& avant = e.carteAvant.zones[d.boite];
+        if (avant.empty() || avant == e.carte.zones[d.boite] || Donnee(e.carteAvant, d.boite))
+            continue;
+        if (++perdues <= kCites)
+            p.Dire(perdues == 1 ? "oublie " : ", ").Citer(avant);
+    }
+    if (perdues > kCites)
+        p.Dire(" et " + Compte(perdues - kCites, "autre") + " ")
+            .Dire(perdues == kCites + 1 ? "case" : "cases");
+    p.Dire(perdues > 0 ? std::string{kPointVirgule} : "")
+        .Dire("recommence la fiche " + std::to_string(fiche.Valeur()));
     DirePuis(p, e);
 }
 
@@ -224,6 +269,13 @@ Phrase DireEntree(const Session& session, const Ecran& ecran, const EtatFeuille&
     case Cible::Terminer:
         DireFin(p, session, ecran, FinDeSaisie::Terminer);
         break;
+    case Cible::Annuler:
+        DireAnnuler(p, essai(), session.cahier.Prochaine());
+        break;
+    case Cible::OptionReel:
+    case Cible::OptionDiffere:
+        DireOption(p, essai(), ecran.foyer.ici.cible == Cible::OptionReel);
+        break;
     case Cible::Oui:
         DireReponse(p, session.carte, true);
         break;
@@ -241,6 +293,9 @@ Phrase DireEntree(const Session& session, const Ecran& ecran, const EtatFeuille&
         break;
     case Cible::AnnulerLocator:
         DireFinLocator(p, essai(), false);
+        break;
+    case Cible::GarderLocator:
+        DireGarder(p, essai());
         break;
     case Cible::BoiteEtiquette:
     case Cible::VoieBureau:

@@ -28,11 +28,15 @@ enum class Cible : unsigned char {
     Nouveau,          ///< BtNewQSO
     Suivant,          ///< BtEnrSuivant
     Terminer,         ///< BtEnrTerminer
+    Annuler,          ///< BtEnrAnnuler
+    OptionReel,       ///< OptionEnr1
+    OptionDiffere,    ///< OptionEnr2
     Oui,              ///< FraCmdOui
     Non,              ///< FraCmdNon
     TexteLocator,     ///< ChangLocText
     ValiderLocator,   ///< BtChangValid
     AnnulerLocator,   ///< BtChangAnnul
+    GarderLocator,    ///< ChangLocChk
     Sauvegarder,      ///< BtPjSauvegarder
     Jumeler,          ///< BtPjumeler
     BoiteEtiquette,   ///< FLdText, by number

@@ -38,6 +38,15 @@ VerdictLocator EntrerLocator(Carte& carte, Ecran& ecran, const Station& station)
     return verdict;
 }
 
+void GarderLocator(Ecran& ecran, bool garder) {
+    ecran.locator.garder = garder;
+}
+
+void ChoisirTempsReel(Carte& carte, Ecran& ecran, const Station& station, bool tempsReel) {
+    carte.saisie.tempsReel = tempsReel;
+    DeplacerFoyer(carte, ecran, station, SurBoite(Boite::Indicatif));
+}
+
 void FermerChangLocator(Carte& carte, Ecran& ecran, const Station& station) {
     const bool dansUneBoite = BoiteDuFoyer(ecran.foyer.ici).has_value();
     const std::string saisi = carte.saisie.TexteSaisi;

@@ -18,6 +18,12 @@ void CederAuxContacts(Carte& carte, Ecran& ecran, const Station& station);
 /// one reads "ERREUR", all of it selected. The second of that is the caller's.
 VerdictLocator EntrerLocator(Carte& carte, Ecran& ecran, const Station& station);
 
+/// ChangLocChk ticked, or not: whether BtChangValid will keep the locator for the next start too.
+void GarderLocator(Ecran& ecran, bool garder);
+
+/// Real time or not, from the next contact confirmed on; the focus goes to box 1.
+void ChoisirTempsReel(Carte& carte, Ecran& ecran, const Station& station, bool tempsReel);
+
 /// PictChangLocator goes; box 16 shows the station's locator, the focus returns to the last box. By
 /// key, a box that has the focus keeps it with its text.
 void FermerChangLocator(Carte& carte, Ecran& ecran, const Station& station);

@@ -38,13 +38,18 @@ bool Joignable(const Carte& carte, const Ecran& ecran, const Foyer& foyer) {
         return !carte.saisie.EnSaisie && ecran.menuActif && !ecran.contacts.boutonsGrises;
     case Cible::Suivant:
         return carte.saisie.EnSaisie && ecran.suivantArme;
+    case Cible::Annuler:
+        return carte.saisie.EnSaisie && ecran.annulerActif;
     case Cible::Terminer:
+    case Cible::OptionReel:
+    case Cible::OptionDiffere:
         return carte.saisie.EnSaisie;
     case Cible::Oui:
     case Cible::Non:
         return ecran.question.has_value();
     case Cible::TexteLocator:
     case Cible::AnnulerLocator:
+    case Cible::GarderLocator:
         return ecran.locator.montre;
     case Cible::ValiderLocator:
         return ecran.locator.montre && ecran.locator.valider;

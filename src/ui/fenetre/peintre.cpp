@@ -38,7 +38,7 @@ struct NomDeCible {
     int derniere; // of controls that are numbered from 1; else 0
 };
 
-constexpr std::array<NomDeCible, 21> kNoms = {{
+constexpr std::array<NomDeCible, 25> kNoms = {{
     {Cible::Boite, "TxtField_%1", static_cast<int>(kNbBoites)},
     {Cible::Liste, "ListeLog", 0},
     {Cible::Contacts, "ContactsListe", 0},
@@ -46,11 +46,15 @@ constexpr std::array<NomDeCible, 21> kNoms = {{
     {Cible::Nouveau, "BtNewQSO", 0},
     {Cible::Suivant, "BtEnrSuivant", 0},
     {Cible::Terminer, "BtEnrTerminer", 0},
+    {Cible::Annuler, "BtEnrAnnuler", 0},
+    {Cible::OptionReel, "OptionEnr1", 0},
+    {Cible::OptionDiffere, "OptionEnr2", 0},
     {Cible::Oui, "FraCmdOui", 0},
     {Cible::Non, "FraCmdNon", 0},
     {Cible::TexteLocator, "ChangLocText", 0},
     {Cible::ValiderLocator, "BtChangValid", 0},
     {Cible::AnnulerLocator, "BtChangAnnul", 0},
+    {Cible::GarderLocator, "ChangLocChk", 0},
     {Cible::Sauvegarder, "BtPjSauvegarder", 0},
     {Cible::Jumeler, "BtPjumeler", 0},
     {Cible::BoiteEtiquette, "FLdText_%1", static_cast<int>(kNbBoitesEtiquette)},

@@ -28,7 +28,7 @@ void SurEntreeLocator(Plateau& p) {
 }
 
 void GarderLocator(Plateau& p, bool garder) {
-    p.ecran.locator.garder = garder;
+    GarderLocator(p.ecran, garder);
 }
 
 void ValiderLocator(Plateau& p) {

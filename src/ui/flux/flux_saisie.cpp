@@ -3,6 +3,7 @@
 #include "ui/bureau/systeme.h"
 #include "ui/carte/conditions.h"
 #include "ui/carte/conseil.h"
+#include "ui/carte/entree_panneaux.h"
 #include "ui/carte/foyer.h"
 #include "ui/carte/saisie.h"
 #include "ui/flux/conduite.h"
@@ -96,8 +97,7 @@ void AnnulerSaisie(Plateau& p) {
 }
 
 void ChoisirOption(Plateau& p, bool tempsReel) {
-    p.session.carte.saisie.tempsReel = tempsReel;
-    DonnerFoyer(p, SurBoite(Boite::Indicatif));
+    ChoisirTempsReel(p.session.carte, p.ecran, p.session.station, tempsReel);
 }
 
 void SurEntree(Plateau& p, Boite boite) {
