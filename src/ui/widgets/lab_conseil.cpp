@@ -100,16 +100,17 @@ void LabConseil::Ajuster() {
     const QFontMetrics mesure = fontMetrics();
     const int lignes = width() < kCaracteres * mesure.averageCharWidth() ? 2 : 1;
     setFixedHeight(lignes * mesure.height() + 2 * kInterligne);
-    const auto [entree, etat] = Lignes();
-    const bool entier = entree.texte == Q(conseil_.entree) && etat.texte == Q(conseil_.etat);
+    lignes_ = Lignes();
+    const bool entier =
+        lignes_.first.texte == Q(conseil_.entree) && lignes_.second.texte == Q(conseil_.etat);
     setToolTip(entier ? QString() : Texte());
 }
 
 void LabConseil::paintEvent(QPaintEvent* /*evenement*/) {
     QPainter peintre(this);
-    const auto [entree, etat] = Lignes();
-    for (const Ligne& ligne : {entree, etat})
-        peintre.drawText(ligne.cadre, static_cast<int>(ligne.cote) | Qt::AlignVCenter, ligne.texte);
+    for (const Ligne* ligne : {&lignes_.first, &lignes_.second})
+        peintre.drawText(ligne->cadre, static_cast<int>(ligne->cote) | Qt::AlignVCenter,
+                         ligne->texte);
 }
 
 void LabConseil::resizeEvent(QResizeEvent* evenement) {

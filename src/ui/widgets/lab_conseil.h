@@ -6,6 +6,8 @@
 
 #include <QWidget>
 
+#include <utility>
+
 namespace orvalis {
 
 class LabConseil : public QWidget {
@@ -39,6 +41,7 @@ class LabConseil : public QWidget {
     void Ajuster();
 
     Conseil conseil_;
+    std::pair<Ligne, Ligne> lignes_;
 };
 
 } // namespace orvalis
