@@ -11,6 +11,7 @@
 #   ECRAN=1366x768        size of the screen
 #   QT_SCALE_FACTOR=2     passed on to Qt
 #   SOMBRE=1              dark palette
+#   CONTRASTE=1           high contrast: white on black
 #   POLICE=12             point size of the desktop's font (10)
 #   TITRE="..."           what the title of the window that is waited for holds; the default is
 #                         the title that the main window takes once the logbook is on show
@@ -69,6 +70,7 @@ fixed=DejaVu Sans Mono,${POLICE:-10},-1,5,50,0,0,0,0,0
 "
     local fond=239,240,241 vue=255,255,255 texte=35,38,41 passif=112,125,138
     [[ -z ${SOMBRE-} ]] || fond=42,46,50 vue=27,30,32 texte=252,252,252 passif=161,169,177
+    [[ -z ${CONTRASTE-} ]] || fond=0,0,0 vue=0,0,0 texte=255,255,255 passif=255,255,255
     local groupe
     for groupe in Window Button View Tooltip Selection Complementary; do
         local arriere=$fond avant=$texte

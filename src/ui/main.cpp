@@ -1,6 +1,6 @@
-#include "ui/bureau/application.h"
 #include "ui/bureau/systeme_reel.h"
 #include "ui/fenetre/orvalis.h"
+#include "ui/widgets/application.h"
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);

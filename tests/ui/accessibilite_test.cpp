@@ -1,9 +1,11 @@
 // What a screen reader says and what the keyboard reaches, in every state of the window.
 #include "ui/banc.h"
+#include "ui/widgets/style_lisible.h"
 
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QMenuBar>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -97,6 +99,59 @@ TEST(Accessibilite, LaBoiteQuiALeFoyerSeVoit) {
     QApplication::setFont(avant);
 }
 
+// The buttons of the pages too, as long as the list lies beside the card.
+TEST(Accessibilite, LesBoutonsDePageSeVoient) {
+    Banc banc(Contacts(30) + Fin());
+    const auto* bouton = banc.Controle<QWidget>("CmdPageMoins");
+    for (const QSize taille : {QSize(1366, 720), QSize(1100, 640), QSize(1100, 600)}) {
+        banc.fenetre->resize(taille);
+        QTest::qWait(1);
+        EXPECT_EQ(bouton->visibleRegion().boundingRect(), bouton->rect()) << taille.width();
+    }
+}
+
+// On desktops of light, dark and no grey at all, the texts that those make pale, and the edges.
+TEST(Accessibilite, LesTextesPalesSeLisent) {
+    for (const auto& [fond, boite, encre] :
+         std::vector<std::array<QColor, 3>>{{"#eff0f1", "#ffffff", "#232629"},
+                                            {"#2a2e32", "#1b1e20", "#fcfcfc"},
+                                            {"#000000", "#000000", "#ffffff"}}) {
+        StyleLisible style;
+        QPalette palette(fond);
+        for (const auto role : {QPalette::Window, QPalette::Button})
+            palette.setColor(role, fond);
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+            palette.setColor(role, encre);
+        palette.setColor(QPalette::Base, boite);
+        palette.setColor(QPalette::Highlight, "#3daee9");
+        palette.setColor(QPalette::HighlightedText, "#fcfcfc");
+        palette.setColor(QPalette::Link, "#1d99f3");
+        style.polish(palette);
+        palette.setCurrentColorGroup(QPalette::Disabled);
+        const auto contraste = [&palette](auto texte, auto sur) {
+            return Contraste(palette.color(texte), palette.color(sur));
+        };
+        EXPECT_GE(contraste(QPalette::WindowText, QPalette::Window), 4.5) << S(fond.name());
+        EXPECT_GE(contraste(QPalette::ButtonText, QPalette::Button), 4.5) << S(fond.name());
+        EXPECT_GE(contraste(QPalette::Text, QPalette::Base), 4.5) << S(fond.name());
+        palette.setCurrentColorGroup(QPalette::Active);
+        EXPECT_EQ(palette.color(QPalette::Text), encre);
+        EXPECT_GE(contraste(QPalette::PlaceholderText, QPalette::Base), 4.5) << S(fond.name());
+        EXPECT_GE(contraste(QPalette::Link, QPalette::Base), 4.5) << S(fond.name());
+        EXPECT_GE(contraste(QPalette::HighlightedText, QPalette::Highlight), 4.5);
+        if (fond.lightness() > 128)
+            continue;
+        QCheckBox coche;
+        coche.setStyle(&style);
+        coche.setPalette(palette);
+        const QImage image = coche.grab().toImage();
+        double bord = 0;
+        for (int x = 0; x < image.width(); ++x)
+            bord = std::max(bord, Contraste(image.pixelColor(x, image.height() / 2), fond));
+        EXPECT_GE(bord, 3) << S(fond.name());
+    }
+}
+
 // What is asked and shown leaves the sheet and the search box where they are, and the window as
 // high.
 TEST(Accessibilite, RienNeBougeNiNeDefile) {
@@ -126,22 +181,12 @@ TEST(Accessibilite, RienNeBougeNiNeDefile) {
             return ici;
         };
         const auto avant = places();
-        for (const char* gestes : {"menu MnuGestionFeuilleQSL; touche Esc", "touche Alt+S"}) {
+        for (const char* gestes : {"menu MnuGestionFeuilleQSL; touche Esc",
+                                   "touche Alt+N; valide f6abc; touche Alt+T", "touche Alt+S"}) {
             banc.Faire(gestes);
             EXPECT_EQ(places(), avant) << gestes << taille.width();
         }
     }
-}
-
-double Contraste(const QColor& a, const QColor& b) {
-    const auto clarte = [](const QColor& couleur) {
-        const auto lineaire = [](double c) {
-            return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-        };
-        return 0.2126 * lineaire(couleur.redF()) + 0.7152 * lineaire(couleur.greenF()) +
-               0.0722 * lineaire(couleur.blueF()) + 0.05;
-    };
-    return std::max(clarte(a), clarte(b)) / std::min(clarte(a), clarte(b));
 }
 
 // Pixels that can be read on the ground, more than a caret and a dead key under composition make.

@@ -1,5 +1,5 @@
 #include "compagnons/chronel/fenetre_chronel.h"
-#include "ui/bureau/application.h"
+#include "ui/widgets/application.h"
 
 #include <QIcon>
 

@@ -107,6 +107,9 @@ QString SystemeReel::ChoisirFichier(QWidget* parent, const DemandeFichier& deman
                                 ? QString::fromStdString(DossierProgramme(Lecteur()).string())
                                 : demande.dossier;
     QFileDialog dialogue(parent, demande.titre, dossier, QStringLiteral("Fichier (*.Vek)"));
+    constexpr int kLarge = 100, kHaut = 35; // characters and lines: all columns of the files
+    const QFontMetrics mesure = dialogue.fontMetrics();
+    dialogue.resize(kLarge * mesure.averageCharWidth(), kHaut * mesure.height());
     dialogue.setDefaultSuffix(QStringLiteral("Vek"));
     dialogue.setAcceptMode(demande.enregistrer ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialogue.setFileMode(demande.enregistrer ? QFileDialog::AnyFile : QFileDialog::ExistingFile);

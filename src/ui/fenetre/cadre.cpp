@@ -9,6 +9,7 @@
 #include <QStyle>
 #include <QTimer>
 
+#include <algorithm>
 #include <utility>
 
 namespace orvalis {
@@ -19,7 +20,10 @@ Cadre::Cadre(QWidget& gauche, Droite droite, QWidget* parent)
     ligne_ = new QHBoxLayout(centre);
     ligne_->setContentsMargins(8, 6, 8, 6);
     ligne_->setSpacing(10);
-    ligne_->addWidget(&gauche_);
+    auto* pile = new QVBoxLayout;
+    pile->addWidget(&gauche_, 1);
+    pile->addStretch(0);
+    ligne_->addLayout(pile);
     ligne_->addWidget(&droite_.widget, 1);
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
@@ -64,6 +68,11 @@ void Cadre::Arranger() {
     const int reste = place - LargeurMinimale(gauche_) - ligne_->spacing();
     // A card in many short rows is worse to read than a list below it.
     const bool cote = reste >= droite_.largeurPleine() * 55 / 100;
+    // Beside a right side that is higher than the window, the list and the buttons under it are in
+    // view all the same.
+    const int hauteur =
+        std::max(height() - bords.top() - bords.bottom(), gauche_.minimumSizeHint().height());
+    gauche_.setMaximumHeight(cote ? hauteur : QWIDGETSIZE_MAX);
     ligne_->setDirection(cote ? QBoxLayout::LeftToRight : QBoxLayout::BottomToTop);
     droite_.ranger(cote ? reste : place);
 }

@@ -242,15 +242,16 @@ QWidget* Orvalis::ColonneDroite() {
     auto* reponses = new QVBoxLayout;
     reponses->setContentsMargins(0, 0, 1, 0);
     reponses->setSpacing(0);
-    for (QWidget* panneau :
-         std::initializer_list<QWidget*>{&panneaux_.changLocator, &panneaux_.classer,
-                                         &panneaux_.jumelage, &panneaux_.contacts}) {
+    for (QFrame* panneau :
+         std::initializer_list<QFrame*>{&panneaux_.changLocator, &panneaux_.classer,
+                                        &panneaux_.jumelage, &panneaux_.contacts}) {
         // The list takes the height there is; the others are as high as what they say.
         const bool haut = panneau == &panneaux_.contacts;
         reponses->addWidget(panneau, haut ? 1 : 0);
         if (!haut)
             panneau->setSizePolicy(panneau->sizePolicy().horizontalPolicy(), QSizePolicy::Maximum);
         panneau->setAutoFillBackground(true);
+        panneau->setFrameStyle(QFrame::Box | QFrame::Plain); // a clear edge over the sheet
         panneau->raise();
     }
     reponses->addStretch(0);

@@ -5,6 +5,13 @@
 #include <utility>
 
 namespace orvalis {
+namespace {
+
+bool PrendPlace(const QWidget& widget) {
+    return !widget.isHidden() || widget.sizePolicy().retainSizeWhenHidden();
+}
+
+} // namespace
 
 void Rangees::Ajouter(std::vector<QWidget*> widgets, int espace, std::size_t repousse) {
     rangees_.push_back({std::move(widgets), espace, repousse});
@@ -15,12 +22,15 @@ Rangees::Coupures Rangees::Couper(const Rangee& rangee, int largeur) {
     Coupures coupures = {0};
     int prise = 0;
     for (std::size_t i = 0; i < rangee.widgets.size(); ++i) {
+        // What is out of sight breaks no row, whatever it said when it was seen last.
+        if (!PrendPlace(*rangee.widgets[i]))
+            continue;
         const int large = LargeurMinimale(*rangee.widgets[i]);
-        if (i > 0 && prise + rangee.espace + large > largeur) {
+        if (prise > 0 && prise + rangee.espace + large > largeur) {
             coupures.push_back(i);
             prise = large;
         } else {
-            prise += (i > 0 ? rangee.espace : 0) + large;
+            prise += (prise > 0 ? rangee.espace : 0) + large;
         }
     }
     return coupures;

@@ -52,7 +52,7 @@ void TeinterFond(QAbstractButton& bouton, Teinte teinte) {
     if (teinte != Teinte::Aucune) {
         palette.setColor(QPalette::Button, TeinteEnCouleur(teinte));
         palette.setColor(QPalette::ButtonText, QColor(Qt::black));
-        palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x80, 0x70, 0x60));
+        palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x6E, 0x5E, 0x4E));
     }
     bouton.setPalette(palette);
 }

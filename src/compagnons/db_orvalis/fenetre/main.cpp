@@ -1,7 +1,7 @@
 #include "compagnons/db_orvalis/commande.h"
 #include "compagnons/db_orvalis/fenetre/fenetre_db_orvalis.h"
-#include "ui/bureau/application.h"
 #include "ui/bureau/systeme_reel.h"
+#include "ui/widgets/application.h"
 
 #include <QFileDialog>
 #include <QIcon>
