@@ -3,16 +3,22 @@
 #include "core/dossier.h"
 #include "ui/bureau/texte_qt.h"
 
+#include <QDir>
 #include <QStandardPaths>
 #include <QStorageInfo>
 
 namespace orvalis {
 
+QString DossierDocuments() {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QDir(documents).exists() ? documents : QDir::homePath();
+}
+
 QString DossierAmovible() {
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes())
         if (volume.isReady() && !volume.isReadOnly() && EstRacineAmovible(S(volume.rootPath())))
             return volume.rootPath();
-    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return DossierDocuments();
 }
 
 } // namespace orvalis

@@ -1,6 +1,7 @@
 #include "ui/bureau/systeme_reel.h"
 
 #include "core/dossier.h"
+#include "ui/bureau/dossier_amovible.h"
 #include "ui/bureau/imprimante_qt.h"
 
 #include <QCoreApplication>
@@ -14,7 +15,6 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
-#include <QStandardPaths>
 #include <QTimer>
 
 #include <cmath>
@@ -107,7 +107,7 @@ QString SystemeReel::ChoisirFichier(QWidget* parent, const DemandeFichier& deman
                                 ? QString::fromStdString(DossierProgramme(Lecteur()).string())
                                 : demande.dossier;
     QFileDialog dialogue(parent, demande.titre, dossier, QStringLiteral("Fichier (*.Vek)"));
-    constexpr int kLarge = 100, kHaut = 35; // characters and lines: all columns of the files
+    constexpr int kLarge = 115, kHaut = 35; // characters and lines: all columns of the files
     const QFontMetrics mesure = dialogue.fontMetrics();
     dialogue.resize(kLarge * mesure.averageCharWidth(), kHaut * mesure.height());
     dialogue.setDefaultSuffix(QStringLiteral("Vek"));
@@ -160,9 +160,7 @@ namespace {
 QString PdfPropose(const QString& dernier) {
     if (!dernier.isEmpty() && !QFileInfo::exists(dernier))
         return dernier; // chosen, and not written
-    const QDir dossier(dernier.isEmpty()
-                           ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
-                           : QFileInfo(dernier).path());
+    const QDir dossier(dernier.isEmpty() ? DossierDocuments() : QFileInfo(dernier).path());
     QString nom = QStringLiteral("Orvalis.pdf");
     for (int n = 2; dossier.exists(nom); ++n)
         nom = QStringLiteral("Orvalis-%1.pdf").arg(n);

@@ -74,12 +74,13 @@ void StyleLisible::polish(QPalette& palette) {
         for (const auto& [texte, fond, plein] : kTextes) {
             if (groupe != QPalette::Disabled && texte == plein)
                 continue; // the desktop's own
+            const QColor ici = palette.color(groupe, texte);
             const QColor sur = palette.color(groupe, fond);
-            palette.setColor(groupe, texte,
-                             Lisible(palette.color(groupe, texte), sur,
-                                     plein == QPalette::NColorRoles
-                                         ? ExtremeSur(sur)
-                                         : palette.color(QPalette::Active, plein)));
+            if (plein != QPalette::NColorRoles)
+                palette.setColor(groupe, texte,
+                                 Lisible(ici, sur, palette.color(QPalette::Active, plein)));
+            else if (Contraste(ici, sur) < kContrasteTexte)
+                palette.setColor(groupe, texte, ExtremeSur(sur));
         }
 }
 
