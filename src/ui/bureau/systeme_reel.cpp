@@ -10,6 +10,7 @@
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPrintDialog>
@@ -40,6 +41,13 @@ QString RaisonDeLancement(const QString& chemin) {
 void Dire(QMessageBox::Icon icone, QWidget* parent, const QString& titre, const QString& texte) {
     QMessageBox boite(icone, titre, texte, QMessageBox::Ok, parent);
     boite.setTextFormat(Qt::PlainText);
+    // No narrower than its title, with an icon and three buttons beside it.
+    constexpr int kAutour = 16;
+    if (auto* grille = qobject_cast<QGridLayout*>(boite.layout()))
+        grille->addItem(new QSpacerItem(boite.fontMetrics().horizontalAdvance(titre) +
+                                            kAutour * boite.fontMetrics().averageCharWidth(),
+                                        0),
+                        grille->rowCount(), 0, 1, grille->columnCount());
     boite.exec();
 }
 

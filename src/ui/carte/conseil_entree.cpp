@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace orvalis {
 namespace {
@@ -203,20 +204,21 @@ void DireOption(Phrase& p, Essai e, bool tempsReel) {
 
 // What of the contact goes when its card is begun anew; what the clock gave it gives again.
 void DireAnnuler(Phrase& p, Essai e, NumeroFiche fiche) {
-    constexpr int kCites = 3;
+    constexpr std::size_t kCites = 4;
     e.Suivre(PreparerSaisie(e.carteAvant, e.station, fiche));
-    int perdues = 0;
+    std::vector<std::string_view> perdus;
     for (const DescriptionBoite& d : kBoites) {
         const std::string& avant = e.carteAvant.zones[d.boite];
-        if (avant.empty() || avant == e.carte.zones[d.boite] || Donnee(e.carteAvant, d.boite))
-            continue;
-        if (++perdues <= kCites)
-            p.Dire(perdues == 1 ? "oublie " : ", ").Citer(avant);
+        if (!avant.empty() && avant != e.carte.zones[d.boite] && !Donnee(e.carteAvant, d.boite))
+            perdus.push_back(avant);
     }
-    if (perdues > kCites)
-        p.Dire(" et " + Compte(perdues - kCites, "autre") + " ")
-            .Dire(perdues == kCites + 1 ? "case" : "cases");
-    p.Dire(perdues > 0 ? std::string{kPointVirgule} : "")
+    // More than that are counted, two of them at least.
+    const std::size_t cites = perdus.size() > kCites ? kCites - 1 : perdus.size();
+    for (std::size_t i = 0; i < cites; ++i)
+        p.Dire(i == 0 ? "oublie " : ", ").Citer(perdus[i]);
+    if (perdus.size() > cites)
+        p.Dire(" et " + std::to_string(perdus.size() - cites) + " autres cases");
+    p.Dire(perdus.empty() ? std::string_view{} : kPointVirgule)
         .Dire("recommence la fiche " + std::to_string(fiche.Valeur()));
     DirePuis(p, e);
 }
