@@ -1,6 +1,7 @@
 // What a screen reader says and what the keyboard reaches, in every state of the window.
 #include "ui/banc.h"
 #include "ui/widgets/style_lisible.h"
+#include "ui/widgets/teintes.h"
 
 #include <QAccessible>
 #include <QAction>
@@ -132,7 +133,10 @@ TEST(Accessibilite, LesTextesPalesSeLisent) {
             return Contraste(palette.color(texte), palette.color(sur));
         };
         EXPECT_GE(contraste(QPalette::WindowText, QPalette::Window), 4.5) << S(fond.name());
-        EXPECT_GE(contraste(QPalette::ButtonText, QPalette::Button), 4.5) << S(fond.name());
+        const QColor face =
+            palette.color(QPalette::Button).lighter(fond.lightness() < 128 ? 140 : 100);
+        EXPECT_GE(Contraste(palette.color(QPalette::ButtonText), face), 4.5) << S(fond.name());
+        EXPECT_GE(Contraste(RougeSur(fond), face), 4.5) << S(fond.name());
         EXPECT_GE(contraste(QPalette::Text, QPalette::Base), 4.5) << S(fond.name());
         palette.setCurrentColorGroup(QPalette::Active);
         EXPECT_EQ(palette.color(QPalette::Text), encre);
@@ -246,7 +250,7 @@ TEST(Accessibilite, CouleursSuiventLeBureau) {
         QApplication::setPalette(palette);
         QEvent change(QEvent::ApplicationPaletteChange); // Qt sends it once its loop runs
         QCoreApplication::sendEvent(banc.fenetre.get(), &change);
-        const QColor rouge = sombre ? QColor(255, 128, 128) : QColor(192, 0, 0);
+        const QColor rouge = sombre ? QColor(255, 144, 144) : QColor(192, 0, 0);
         EXPECT_EQ(couleur("BtKillFiche", QPalette::ButtonText), rouge);
         EXPECT_EQ(couleur("TxtField_15", QPalette::Text), rouge);
         EXPECT_EQ(couleur("PictBtEtiq02", QPalette::WindowText), palette.color(QPalette::Mid));

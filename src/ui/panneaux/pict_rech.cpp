@@ -3,11 +3,9 @@
 #include "ui/bureau/texte_qt.h"
 #include "ui/widgets/filtre_edition.h"
 #include "ui/widgets/gestes.h"
-#include "ui/widgets/teintes.h"
 #include "ui_pict_rech.h"
 
 #include <QMouseEvent>
-#include <QPalette>
 
 namespace orvalis {
 
@@ -19,7 +17,6 @@ PictRech::PictRech(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::
     connect(ui_->RechText, &QLineEdit::textChanged, this, &PictRech::texteChange);
     ui_->RechText->setMinimumWidth(QFontMetrics(font()).averageCharWidth() * 18);
     ui_->RechText->setClearButtonEnabled(true);
-    TeinterExemple(*ui_->RechText);
 }
 
 PictRech::~PictRech() = default;

@@ -43,6 +43,8 @@ QColor Lisible(const QColor& texte, const QColor& fond, const QColor& plein) {
     return plein;
 }
 
+constexpr int kBoutonSombre = 140; // per cent
+
 QColor ExtremeSur(const QColor& fond) {
     return Contraste(Qt::black, fond) > Contraste(Qt::white, fond) ? Qt::black : Qt::white;
 }
@@ -75,7 +77,10 @@ void StyleLisible::polish(QPalette& palette) {
             if (groupe != QPalette::Disabled && texte == plein)
                 continue; // the desktop's own
             const QColor ici = palette.color(groupe, texte);
-            const QColor sur = palette.color(groupe, fond);
+            QColor sur = palette.color(groupe, fond);
+            // Buttons are drawn lighter than their colour, by as much as this where they are dark.
+            if (fond == QPalette::Button && EstSombre(sur))
+                sur = sur.lighter(kBoutonSombre);
             if (plein != QPalette::NColorRoles)
                 palette.setColor(groupe, texte,
                                  Lisible(ici, sur, palette.color(QPalette::Active, plein)));

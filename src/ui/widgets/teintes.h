@@ -35,7 +35,7 @@ void RougirTexte(QAbstractButton& bouton);
 }
 /// A red that can be read on `fond`.
 [[nodiscard]] inline QColor RougeSur(const QColor& fond) {
-    return EstSombre(fond) ? QColor(0xFF, 0x80, 0x80) : QColor(0xC0, 0, 0);
+    return EstSombre(fond) ? QColor(0xFF, 0x90, 0x90) : QColor(0xC0, 0, 0);
 }
 
 /// `texte` made pale, to be read beside it but not as it; 4.5:1 on the backgrounds of a box.
