@@ -49,6 +49,12 @@ QColor ExtremeSur(const QColor& fond) {
     return Contraste(Qt::black, fond) > Contraste(Qt::white, fond) ? Qt::black : Qt::white;
 }
 
+// An edge on a dark window.
+QColor Bord(const QPalette& palette) {
+    return Melange(palette.color(QPalette::Window), palette.color(QPalette::Active, QPalette::Text),
+                   0.4);
+}
+
 // The edges that this style derives from the colour of the window, by darkening it.
 bool APourtour(QStyle::PrimitiveElement element) {
     switch (element) {
@@ -72,6 +78,8 @@ double Contraste(const QColor& a, const QColor& b) {
 
 void StyleLisible::polish(QPalette& palette) {
     QProxyStyle::polish(palette);
+    if (EstSombre(palette.color(QPalette::Window)))
+        palette.setColor(QPalette::Mid, Bord(palette));
     for (const auto groupe : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
         for (const auto& [texte, fond, plein] : kTextes) {
             if (groupe != QPalette::Disabled && texte == plein)
@@ -98,10 +106,7 @@ void StyleLisible::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     QPalette& palette = const_cast<QStyleOption*>(option)->palette;
     const QPalette avant = palette;
     constexpr int kAssombri = 140; // per cent, what the style darkens by
-    palette.setColor(QPalette::Window,
-                     Melange(avant.color(QPalette::Window),
-                             avant.color(QPalette::Active, QPalette::WindowText), 0.4)
-                         .lighter(kAssombri));
+    palette.setColor(QPalette::Window, Bord(avant).lighter(kAssombri));
     QProxyStyle::drawPrimitive(element, option, peintre, widget);
     palette = avant;
 }
