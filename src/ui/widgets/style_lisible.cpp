@@ -49,10 +49,9 @@ QColor ExtremeSur(const QColor& fond) {
     return Contraste(Qt::black, fond) > Contraste(Qt::white, fond) ? Qt::black : Qt::white;
 }
 
-// An edge on a dark window.
+// An edge on a dark window, whatever colour the text in it has.
 QColor Bord(const QPalette& palette) {
-    return Melange(palette.color(QPalette::Window), palette.color(QPalette::Active, QPalette::Text),
-                   0.4);
+    return Melange(palette.color(QPalette::Window), Qt::white, 0.4);
 }
 
 // The edges that this style derives from the colour of the window, by darkening it.
