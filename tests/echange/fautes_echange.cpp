@@ -8,9 +8,6 @@
 #include "fautes/injection.h"
 
 #include <iostream>
-#include <sys/mman.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace orvalis::operateur {
 namespace {
@@ -65,25 +62,14 @@ std::string Essayer(const Operation& operation, const fs::path& ici, const Fichi
         fs::remove(entree.path());
     for (const auto& [nom, octets] : avant)
         std::ofstream(ici / nom, std::ios::binary) << octets;
-    bilan = {};
-    const pid_t enfant = ::fork();
-    if (enfant == 0) {
-        ::alarm(20);
-        Armer(ici.string(), plan, bilan);
-        std::string dit;
+    return LancerArme(ici.string(), plan, bilan, [&]() -> std::string {
         try {
             operation.agir(ici);
+            return {};
         } catch (const std::exception& erreur) {
-            dit = erreur.what();
+            return erreur.what();
         }
-        dit.copy(bilan.message.data(), bilan.message.size() - 1);
-        ::_exit(0);
-    }
-    int statut = -1;
-    ::waitpid(enfant, &statut, 0);
-    if (WIFSIGNALED(statut) && WTERMSIG(statut) == SIGKILL)
-        return "killed";
-    return statut == 0 ? bilan.message.data() : "crashed";
+    });
 }
 
 std::string Juger(const Plan& plan, const std::string& dit, const Fichiers& avant,
@@ -112,9 +98,7 @@ std::string Juger(const Plan& plan, const std::string& dit, const Fichiers& avan
 
 int main() {
     using namespace orvalis::operateur;
-    void* memoire =
-        ::mmap(nullptr, sizeof(Bilan), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
-    auto* bilan = new (memoire) Bilan;
+    Bilan& bilan = NouveauBilan();
     const orvalis::aides::Dossier dossier;
     const fs::path ici = (dossier / "").parent_path();
     Fichiers avant = {
@@ -131,8 +115,8 @@ int main() {
     int essais = 0;
     int degats = 0;
     for (const Operation& operation : kOperations) {
-        const std::string temoin = Essayer(operation, ici, avant, {}, *bilan);
-        const std::vector<Appel> appels(bilan->appels.data(), bilan->appels.data() + bilan->nombre);
+        const std::string temoin = Essayer(operation, ici, avant, {}, bilan);
+        const std::vector<Appel> appels(bilan.appels.data(), bilan.appels.data() + bilan.nombre);
         const Fichiers apres = LireFichiers(ici);
         const bool marche = temoin.empty() && apres != avant && !appels.empty();
         std::cout << operation.nom << ": " << appels.size() << " calls "
@@ -140,7 +124,7 @@ int main() {
         degats += marche ? 0 : 1;
         for (std::size_t rang = 0; rang < appels.size(); ++rang)
             for (const Plan& plan : Fautes(appels[rang], rang)) {
-                const std::string dit = Essayer(operation, ici, avant, plan, *bilan);
+                const std::string dit = Essayer(operation, ici, avant, plan, bilan);
                 const std::string degat = Juger(plan, dit, avant, apres, LireFichiers(ici));
                 ++essais;
                 degats += degat.empty() ? 0 : 1;

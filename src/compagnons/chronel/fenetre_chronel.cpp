@@ -67,8 +67,6 @@ void FenetreChronel::Preparer() {
         titre->setFont(PoliceAjustee(font(), kPetite));
     ui_->TxtDate->setFixedWidth(LargeurDeBoite(*ui_->TxtDate, 11));
     ui_->TxtHeure->setFixedWidth(LargeurDeBoite(*ui_->TxtHeure, 9));
-    TeinterExemple(*ui_->TxtDate);
-    TeinterExemple(*ui_->TxtHeure);
     // Room for the longest sentence, so that none moves what is below it.
     for (QLabel* phrase : {ui_->LabEtat, ui_->LabMessage})
         phrase->setMinimumHeight(2 * phrase->fontMetrics().lineSpacing() + kMarge);

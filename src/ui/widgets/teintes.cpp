@@ -87,12 +87,4 @@ void PeindreSelonBureau(QWidget& widget, std::function<void()> peindre) {
     widget.installEventFilter(new Repeintre(widget, std::move(peindre)));
 }
 
-void TeinterExemple(QWidget& boite) {
-    PeindreSelonBureau(boite, [&boite] {
-        QPalette palette;
-        palette.setColor(QPalette::PlaceholderText, Discrete(palette.color(QPalette::Text)));
-        boite.setPalette(palette);
-    });
-}
-
 } // namespace orvalis

@@ -54,7 +54,4 @@ void RougirTexte(QAbstractButton& bouton);
 /// Paints now, and again each time the desktop changes its colours while `widget` lives.
 void PeindreSelonBureau(QWidget& widget, std::function<void()> peindre);
 
-/// Lets what an empty box shows be read: some dark palettes leave it black.
-void TeinterExemple(QWidget& boite);
-
 } // namespace orvalis

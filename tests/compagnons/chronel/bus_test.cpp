@@ -1,7 +1,6 @@
 // The window of Chronel on a private bus; started by bus_prive.py, and by nothing else.
 #include "compagnons/chronel/fenetre_chronel.h"
 #include "ui/bureau/texte_qt.h"
-#include "ui/widgets/teintes.h"
 
 #include <QApplication>
 #include <QDBusReply>
@@ -129,14 +128,6 @@ TEST(Service, ReseauPuisMain) {
     EXPECT_EQ(essai.Foyer() + essai.Texte("TxtHeure"), "TxtHeure");
     const QDBusReply<qlonglong> ecart = Demander(u"Ecart"_s);
     EXPECT_EQ(ecart.value(), std::chrono::microseconds(1893499200s - 1795282215s).count());
-
-    QPalette sombre(Qt::black);
-    sombre.setColor(QPalette::PlaceholderText, Qt::black); // as some desktops leave it
-    QApplication::setPalette(sombre);
-    EXPECT_TRUE(QTest::qWaitFor([&] {
-        return essai.Boite("TxtHeure")->palette().color(QPalette::PlaceholderText).rgb() ==
-               Discrete(sombre.color(QPalette::Text)).rgb();
-    }));
 
     Demander(u"SetNTP"_s, {true, true}); // by another program
     EXPECT_TRUE(QTest::qWaitFor([&] { return essai.Etats() == "CA-"; }));
