@@ -4,6 +4,6 @@ find_program(GZIP gzip)
 if(NOT GZIP)
     message(FATAL_ERROR "The package needs gzip for its change log and manual pages.")
 endif()
-file(GLOB_RECURSE a_comprimer "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/*/man1/*.1"
+file(GLOB_RECURSE a_comprimer "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/*.1"
      "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/*/changelog")
 execute_process(COMMAND ${GZIP} -9n ${a_comprimer} COMMAND_ERROR_IS_FATAL ANY)
