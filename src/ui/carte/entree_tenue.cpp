@@ -14,7 +14,7 @@ bool EstUneRepetition(const EntreeTenue& touche, const MouvementEntree& appui) {
         return appui.repetee;
     const std::uint64_t depuis = appui.instant - *touche.appui;
     if (touche.enfoncee)
-        return depuis <= kAttenteMs;
+        return depuis <= kAttenteMs && appui.fenetre == touche.fenetre;
     return touche.relachee == appui.instant && depuis >= (touche.propre ? kRafaleMs : 1);
 }
 
@@ -24,6 +24,7 @@ void SuivreEntree(EntreeTenue& touche, const MouvementEntree& mouvement) {
     if (mouvement.enfoncee) {
         touche.propre = !EstUneRepetition(touche, mouvement);
         touche.appui = mouvement.instant;
+        touche.fenetre = mouvement.fenetre;
     } else {
         touche.relachee = mouvement.instant;
     }

@@ -92,7 +92,8 @@ std::optional<MouvementEntree> MouvementDeEntree(const QObject& objet, const QEv
     const auto& touche = static_cast<const QKeyEvent&>(evenement);
     if (touche.key() != Qt::Key_Return && touche.key() != Qt::Key_Enter)
         return std::nullopt;
-    return MouvementEntree{enfoncee, touche.timestamp(), touche.isAutoRepeat()};
+    return MouvementEntree{enfoncee, touche.timestamp(), touche.isAutoRepeat(),
+                           reinterpret_cast<std::uintptr_t>(&objet)};
 }
 
 // A letter held with Alt: a command, or a slip of the hand, but never a letter of a box.

@@ -243,15 +243,16 @@ TEST(Modification, LesChangementsSAccumulentJusquALaReponse) {
     EXPECT_EQ(QuestionEffacer(carte).numero + QuestionModifier(carte).indicatif, "12F5ABC");
 }
 
-// The key pressed (+), released (-), marked as repeated (r), with its instants -> presses of its
-// own.
+// The key pressed (+), released (-), marked as repeated (r) or in another window (f), with its
+// instants -> presses of its own.
 TEST(Saisie, EntreeTenueOuPressee) {
     const auto appuis = [](const std::string& mouvements) {
         EntreeTenue touche;
         std::string propres;
         for (const std::string& mot : Couper(mouvements, " ")) {
             const bool appui = mot[0] == '+';
-            SuivreEntree(touche, {appui, std::stoull(mot.substr(1)), mot.back() == 'r'});
+            SuivreEntree(touche, {appui, std::stoull(mot.substr(1)), mot.back() == 'r',
+                                  mot.back() == 'f' ? 1U : 0U});
             if (appui)
                 propres += touche.propre ? 'o' : '-';
         }
@@ -263,6 +264,8 @@ TEST(Saisie, EntreeTenueOuPressee) {
                             {"+9 +509r +539r -560 +900", "o--o"}, // without releases
                             {"+9 +509 +539 -560 +900", "o--o"},   // the same, unmarked
                             {"+9 +2000", "oo"},                   // released elsewhere
+                            {"+9 +600f -650f +700f", "ooo"},      // released where it was blocked
+                            {"+9 -509f +509f +539f", "o--"},      // held into another window
                             {"+0r -0 +0", "-o"},                  // no clock
                             {"+9 -10 +11 -12 +13", "ooo"},        // 2 ms a key
                             {"+9 -10 +10 -11 +11", "ooo"}});      // sent in one instant
