@@ -41,13 +41,16 @@ QString RaisonDeLancement(const QString& chemin) {
 void Dire(QMessageBox::Icon icone, QWidget* parent, const QString& titre, const QString& texte) {
     QMessageBox boite(icone, titre, texte, QMessageBox::Ok, parent);
     boite.setTextFormat(Qt::PlainText);
-    // No narrower than its title, with an icon and three buttons beside it.
+    // No narrower than its title, which most desktops write bold, with an icon and three buttons.
     constexpr int kAutour = 16;
+    QFont gras = boite.font();
+    gras.setBold(true);
+    const QFontMetrics lettres(gras);
     if (auto* grille = qobject_cast<QGridLayout*>(boite.layout()))
-        grille->addItem(new QSpacerItem(boite.fontMetrics().horizontalAdvance(titre) +
-                                            kAutour * boite.fontMetrics().averageCharWidth(),
-                                        0),
-                        grille->rowCount(), 0, 1, grille->columnCount());
+        grille->addItem(
+            new QSpacerItem(lettres.horizontalAdvance(titre) + kAutour * lettres.averageCharWidth(),
+                            0),
+            grille->rowCount(), 0, 1, grille->columnCount());
     boite.exec();
 }
 
