@@ -188,12 +188,12 @@ TEST(Impression, PagesFeuillesEtReglage) {
     std::vector<std::string> operations;
     banc.systeme.imprimante = [&] { return std::make_unique<Enregistreur>(operations); };
     const auto ligne26 = testing::Contains("T 160 1920 8 MS sans Serif 000026");
-    banc.Suivre("page : menu MnuImpPage");
+    banc.Suivre("page : menu MnuImpPage -> LabConseil contient Page 2 imprimée");
     EXPECT_THAT(operations, ligne26);
     banc.Suivre("blank page : menu MnuImpPageVierge");
     EXPECT_THAT(operations, testing::Not(ligne26));
     operations.clear();
-    banc.Suivre("now blank : menu MnuImpPage");
+    banc.Suivre("now blank : menu MnuImpPage -> LabConseil contient Page vierge imprimée");
     EXPECT_THAT(operations, testing::AllOf(testing::Contains("FIN"), testing::Not(ligne26)));
     banc.Suivre(R"(
  row of the sheet : rangee 2 -> TxtField_1 ligne = F27QSO|2/5

@@ -10,6 +10,12 @@
 #include <memory>
 
 namespace orvalis {
+namespace {
+
+constexpr std::string_view kPageVierge = "Page vierge imprimée";
+
+} // namespace
+
 bool Imprimer(Plateau& p, std::string_view fait, const std::function<void(Imprimante&)>& dessin) {
     try {
         const std::unique_ptr<Imprimante> imprimante = p.systeme.PreparerImpression(&p.fenetre);
@@ -34,14 +40,16 @@ void ConfigurerImprimante(Plateau& p) {
 
 void ImprimerPageAffichee(Plateau& p) {
     const Session& s = p.session;
-    const std::string fait = "Page " + std::to_string(s.page.numero) + " imprimée";
+    const std::string fait = s.page.premiere == kAucuneFiche
+                                 ? std::string{kPageVierge}
+                                 : "Page " + std::to_string(s.page.numero) + " imprimée";
     static_cast<void>(Imprimer(p, fait, [&s](Imprimante& imprimante) {
         ImprimerPage(imprimante, s.cahier, s.station, s.page, s.page.premiere);
     }));
 }
 
 void ImprimerPageVierge(Plateau& p) {
-    static_cast<void>(Imprimer(p, "Page vierge imprimée", [&p](Imprimante& imprimante) {
+    static_cast<void>(Imprimer(p, kPageVierge, [&p](Imprimante& imprimante) {
         Session& s = p.session;
         // Kept on purpose, for the printed sheets: the page on show then counts as blank until a
         // page is shown again.
