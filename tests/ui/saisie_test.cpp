@@ -12,7 +12,7 @@ namespace orvalis::operateur::saisie {
 TEST(Saisie, QuaranteContactsDansLesDeuxModes) {
     Banc banc(Fin());
     std::string attendu;
-    banc.Suivre("entry : clic BtNewQSO");
+    banc.Suivre(R"(entry : clic BtNewQSO -> FraLab01 FraLab02 = " 0000000000|Indicatif")");
     for (int i = 10; i < 30; ++i) {
         const std::string n = std::to_string(i);
         banc.systeme.maintenant.minutes = i;

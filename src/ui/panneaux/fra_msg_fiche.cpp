@@ -23,8 +23,9 @@ FraMsgFiche::FraMsgFiche(QWidget* parent)
     : QGroupBox(parent), ui_(std::make_unique<Ui::FraMsgFiche>()) {
     ui_->setupUi(this);
     ui_->FraLabTouches->setFont(PoliceAjustee(font(), kPetite));
-    // Room for nearly all of what it will say, so that its coming moves nothing.
-    ui_->FraLab01->setMinimumWidth(LargeurDeTexte(*ui_->FraLab01, "32767"));
+    // Room for nearly all of what it will say, so that its coming moves nothing; the text it is
+    // designed with, which nobody sees, takes no more.
+    ui_->FraLab01->setFixedWidth(LargeurDeTexte(*ui_->FraLab01, "32767"));
     ui_->FraLab02->setMinimumWidth(LargeurDeTexte(*ui_->FraLab02, "HB9ABC/P"));
     constexpr std::size_t kEtroit = 5;
     for (QWidget* bouton : {ui_->FraCmdOui, ui_->FraCmdNon})
@@ -39,6 +40,7 @@ FraMsgFiche::~FraMsgFiche() = default;
 void FraMsgFiche::Montrer(const Question& question) {
     setTitle(Q(question.legende));
     Encadrer();
+    ui_->FraLab01->setMaximumWidth(QWIDGETSIZE_MAX);
     ui_->FraLab01->setText(Q(question.numero));
     ui_->FraLab02->setText(Q(question.indicatif));
 }
