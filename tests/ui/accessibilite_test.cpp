@@ -30,8 +30,8 @@ bool EstUnControle(const QWidget& widget) {
                        (est(&widget, {"QScrollBar"}) && !widget.objectName().isEmpty()));
 }
 
-// Controls without a name to say, and among what is on show and enabled, what Tab never comes to
-// and letters that mean two things with Alt.
+// Controls without a name to say, texts that may break inside quotes, and among what is on show and
+// enabled, what Tab never comes to and letters that mean two things with Alt.
 std::string Defauts(const QWidget& fenetre) {
     std::string defauts;
     std::multiset<QKeySequence> lettres;
@@ -39,6 +39,9 @@ std::string Defauts(const QWidget& fenetre) {
         const QAccessibleInterface* lu = QAccessible::queryAccessibleInterface(widget);
         if (EstUnControle(*widget) && (!lu || lu->text(QAccessible::Name).trimmed().isEmpty()))
             defauts += "no name: " + S(widget->objectName()) + ' ';
+        const std::string dit = lu ? S(lu->text(QAccessible::Name)) : "";
+        if ((dit + S(widget->toolTip())).find("« ") != std::string::npos)
+            defauts += "breaks inside quotes: " + S(widget->objectName()) + ' ';
         if (!widget->isVisible() || !widget->isEnabled())
             continue;
         if (EstUnControle(*widget) && !widget->inherits("QScrollBar") &&

@@ -47,9 +47,9 @@ constexpr std::array<DescriptionBoiteEditeur, kNbBoitesEtiquette> kBoitesEditeur
     {kBoiteReport, Largeur(ChampEtiquette::Report), Touches::Libres, 3,
      "Report donné au correspondant"},
     {kBoiteLigne1, Largeur(ChampEtiquette::Ligne1), Touches::Libres, 4,
-     "Imprimé avant « Confirming QSO with » : votre indicatif, par exemple"},
+     "Imprimé avant «\u00A0Confirming QSO with\u00A0»\u00A0: votre indicatif, par exemple"},
     {kBoiteLigne2, Largeur(ChampEtiquette::Ligne2), Touches::Libres, 4,
-     "Imprimée après « Via QSL Manager » ; l'étiquette en garde 15 caractères"},
+     "Imprimée après «\u00A0Via QSL Manager\u00A0»\u00A0; l'étiquette en garde 15 caractères"},
     {kBoiteManager, Largeur(ChampEtiquette::Voie), Touches::Majuscules, 5,
      "Indicatif du manager, quand la carte ne part ni par le bureau ni en direct"},
     {kBoiteRappel, Largeur(ChampEtiquette::Indicatif), Touches::Majuscules, kRangeeContact,
@@ -86,7 +86,7 @@ QString BulleChoix(EtatEtiquette etat) {
     case EtatEtiquette::Libre:
         break;
     }
-    return QStringLiteral("Cette étiquette manque sur la feuille : ne pas l'utiliser");
+    return QStringLiteral("Cette étiquette manque sur la feuille\u00A0: ne pas l'utiliser");
 }
 
 } // namespace
