@@ -52,11 +52,10 @@ void Jumeler(Plateau& p) {
     static_cast<void>(Essayer(p, [&] {
         const Sablier sablier;
         const std::filesystem::path chemin(S(source));
-        const NumeroFiche premiere = s.cahier.Prochaine();
         const std::int32_t nombre = JumelerCahier(s.cahier, s.station, chemin);
         Annoncer(p.ecran, Compte(nombre, "contact") + " de " + chemin.filename().string() +
                               (nombre < 2 ? " ajouté" : " ajoutés") +
-                              DireDejaLa(s.cahier, premiere));
+                              DireDejaLa(s.cahier, s.cahier.Prochaine() - nombre));
     }));
     if (!p.ecran.arret)
         RelireCahier(p);
