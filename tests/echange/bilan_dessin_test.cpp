@@ -111,6 +111,10 @@ TEST(BilanDessin, LesPlusPetitesBarresEnsemble) {
             textes += o.substr(o.find_last_of(' '));
     EXPECT_EQ(textes, " MODE 6 MODE 7 MODE 8 MODE 9 MODE 10 MODE 11 MODE 12 MODE 13 MODE 14 MODE 15"
                       " MODE 16 MODE 17 MODE 18 MODE 19 MODE 20 autres 15");
+    Enregistreur barres("Arial");
+    DessinerBarres(barres, {0, 0, 5000, 900},
+                   std::array{Valeur{"", 32767}, Valeur{"", 1}, Valeur{"", 0}});
+    EXPECT_EQ(barres.Compter("B "), 3) << "one is seen, nothing is not; the edge is the third";
 }
 
 TEST(BilanDessin, PageDuWeb) {

@@ -132,7 +132,8 @@ TEST(ContactAdif, Entree) {
         {"QSL_SENT=R|QSL_RCVD=R", "[QSL_SENT: sans place dans le cahier : laissé vide]"
                                   "[QSL_RCVD: sans place dans le cahier : laissé vide]"},
         {"QSL_SENT=Q|QSL_RCVD=V|QSLRDATE=20250308", "MQSL=En cours|SQSL=08/03/25"},
-        {"QSL_SENT=Y|QSL_SENT_VIA=E", "[QSL_SENT: une confirmation en ligne n'est pas une carte]"},
+        {"QSL_SENT=Y|QSL_SENT_VIA=E|QSL_RCVD=Y|QSL_RCVD_VIA=B",
+         "SQSL=OK[QSL_SENT: une confirmation en ligne n'est pas une carte]"},
         {"QSL_SENT=Y|QSLSDATE=19590101", "MQSL=OK[QSLSDATE: date illisible : devient « OK »]"},
         {"QSLRDATE=20250308", "[QSLRDATE: une date sans état de la carte : laissée de côté]"},
         {"CALL=f4wka/p", ""},

@@ -200,6 +200,7 @@ TEST(DbOrvalis, Commandes) {
         {"--adx a.adx --cahier abime", "1", "a.adx"},
         {"--base b.sqlite", "0", "b.sqlite"},
         {"--base b.sqlite --cahier abime", "1", "b.sqlite"},
+        {"--base b.sqlite --cahier sansdate", "1", "b.sqlite"},
         {"--base ancien.txt", "2", ""},
         {"--base vide --heures utc", "2", ""},
         {"--base prise.sqlite", "2", ""},
@@ -236,6 +237,7 @@ TEST(DbOrvalis, Commandes) {
         dossier.Poser("S.Vek", Contact("F2BBB", "09/01/25") + Fin());
         dossier.Poser("pris.Vek", Fin());
         dossier.Poser("abime", Contact("F2BBB", "?") + "F3");
+        dossier.Poser("sansdate", Contact("F2BBB", "?") + Fin());
         dossier.Poser("source", Fin());
         dossier.Poser("f.adi", adi);
         dossier.Poser("lu.rapport.txt", adi);

@@ -64,6 +64,7 @@ TEST(Jumelage, OctetParOctet) {
         {a + f, Contact("  F 1  ") + b + Fin("JN33AA"), a + Contact("F 1") + b + f},
         {a + Fin("IN00AA"), Fin("JN33AA") + b, a + f},
         {f, a + b + f, a + b + f},
+        {f, Contact("              X") + f, Contact("X") + f},     // set right in its field
         {a + f + a + a + b + a, b + b + f, a + b + b + f + b + a}, // remains behind the end
         {a + f, blanche + bref, a + blanche + courte + f},
         {bref, a + a + f, courte + a + a + f},

@@ -84,7 +84,8 @@ TEST(FeuilleImprimee, EtiquettesAuxLongsEnTetes) {
 }
 
 TEST(FeuilleImprimee, Vierge) {
-    std::string enTete = "de la remplie";
+    const std::string longue(47, 'R'); // the heading of the last filled label
+    std::string enTete = longue;
     Enregistreur feuille("Comic sans MS", 300, 400); // from the corner of the first label
     ImprimerFeuilleVierge(feuille, "F5XYZ", enTete);
     const auto premiere = Liste(kCommun + R"(
@@ -96,7 +97,7 @@ TEST(FeuilleImprimee, Vierge) {
          Liste(R"(0 0; 5800 0; 0 1980; 5800 1980; 0 3960; 5800 3960; 0 5940; 5800 5940; 0 7920;
  5800 7920; 0 9900; 5800 9900; 0 11880; 5800 11880; 0 13860; 5800 13860)"))
         EXPECT_EQ(feuille.Compter("R " + coin + ' '), 1) << coin;
-    EXPECT_EQ(enTete, "de la remplie");
+    EXPECT_EQ(enTete, longue);
 }
 
 } // namespace orvalis::aides::etiquette

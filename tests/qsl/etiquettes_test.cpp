@@ -246,6 +246,8 @@ TEST(FluxEtiquettes, ContactDUneEtiquetteImprimee) {
  no mark : A17h E, F18h | F18h 2 -> A17h E, F18h J | | quitter ""
  no mark, stale number : F18h, A17h E | F18h 2 -> F18h J, A17h E | | quitter ""
  no mark, a twin has it : F18h, F18h E | F18h 1 -> F18h, F18h J | | quitter ""
+ no mark, two stale labels : F18h | F18h 8, F18h 9
+     -> F18h J | | quitter "" dit N° 2 (F 21/11/26 18) sa
  no mark, another label's twin : F18h E, F18h | F18h 1, F18h 8 -> F18h J, F18h J | | quitter ""
  no mark, numbered : F18h, F18h | F18h 2 -> F18h, F18h J | | quitter ""
  no mark, twins : F18h, F18h | F18h 8

@@ -248,6 +248,7 @@ TEST(Accessibilite, CouleursSuiventLeBureau) {
     const auto couleur = [&banc](const char* nom, QPalette::ColorRole role) {
         return banc.Controle<QWidget>(nom)->palette().color(role);
     };
+    EXPECT_EQ(couleur("PictBtEtiq01", QPalette::WindowText), clair.color(QPalette::Highlight));
     for (const bool sombre : {true, false}) {
         const QPalette palette = sombre ? QPalette(Qt::black) : clair;
         QApplication::setPalette(palette);

@@ -234,7 +234,9 @@ TEST(Conseil, CeQuiTientEtCeQuiEstGris) {
                    "Fiche 1 corrigée"},
                   {"ligne 2; clic BtKillFiche", "Entrée : garde la fiche 2"},
                   {"foyer FraCmdOui", "Entrée : supprime la fiche 2"},
-                  {"entree 1", "Fiche 2 supprimée"}});
+                  {"entree 1", "Fiche 2 supprimée"},
+                  {"fichier VekSave/F5ABC-neuf.Vek; menu MnuSauver; ligne 1", // once more
+                   "Dernière sauvegarde il y a moins de 24 heures ; aucun contact depuis"}});
     banc.Faire("ligne 1; clic TxtField_9; valide lyon; menu MnuDoublons; clic RechText");
     designer("BtNewQSO");
     Suivre(banc, {{"", "Entrée : ne fait rien ; il faut un indicatif ou une date jj/mm/aa | "
@@ -243,6 +245,11 @@ TEST(Conseil, CeQuiTientEtCeQuiEstGris) {
     designer("MnuCreateMDB");
     Suivre(banc, {{"", "Entrée : reste ici ; il faut un indicatif | Réaliser  fichier.mdb : "
                        "terminez d'abord la saisie"}});
+    designer("BtEnrSuivant"); // which goes from under the pointer
+    Suivre(banc, {{"", "Entrée : reste ici ; il faut un indicatif | validez d'abord le RST reçu"},
+                  {"touche Alt+T; ligne 1",
+                   "Dernière sauvegarde il y a moins de 24 heures ; aucun contact "
+                   "depuis"}});
     EXPECT_EQ(DireDejaContacte({1, aides::Enregistrement(Octets("F1QSO||||7.085"))}),
               "Déjà contacté une fois sur 7.085");
 }

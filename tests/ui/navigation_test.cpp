@@ -124,7 +124,15 @@ TEST(Navigation, CarteListeEtFeuilleMontrentLesOctets) {
     const std::string lu = S(banc.Controle<QWidget>("BoussoleAzim")->accessibleName());
     EXPECT_EQ(lu,
               "Azimut 321°, compté vers l'ouest : la station est au cap 039°, compté vers l'est");
+    const auto peinte = [&banc] { // not drawn for us, as by grab(), but as the screen has it
+        QCoreApplication::processEvents();
+        const auto* boussole = banc.Controle<QWidget>("BoussoleAzim");
+        const QPixmap ecran = banc.fenetre->screen()->grabWindow(banc.fenetre->winId());
+        return ecran.copy({boussole->mapTo(banc.fenetre.get(), QPoint()), boussole->size()});
+    };
+    const QImage avant = peinte().toImage();
     banc.Suivre("across the 180th meridian : ligne 2 ->");
+    EXPECT_FALSE(avant.isNull() || avant == peinte().toImage());
     EXPECT_TRUE(banc.Controle<QWidget>("LabAzim")->toolTip().endsWith(
         Q("(l'azimut ne vaut pas au-delà du 180e méridien)")));
     for (const char* pas : {"his is missing : ligne 3 -> LabDist LabAzim = \"          |    \"",

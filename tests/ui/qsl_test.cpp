@@ -75,7 +75,9 @@ TEST(Qsl, VieDUneEtiquette) {
     banc.Suivre(R"(
  sheet : menu MnuGestionFeuilleQSL -> caché EtiquetteApercu; EtiquetteVue_3 =;
      EtiquetteVue_1 contient 59+20dB\nSSB; BtTag_1 BtTag_3 foyer = F6XYZ/P [1]|Etiquette  [3] libre|BtChoix_1
- on paper : clic BtPrintQSL; touche Return -> foyer = BtChoix_1
+ on paper : clic BtPrintQSL; touche Return -> foyer = BtChoix_1)");
+    EXPECT_EQ(S(banc.Controle<QWidget>("BtChoix_1")->accessibleName()), "Effacer : F6XYZ/P [1]");
+    banc.Suivre(R"(
  review : touche Return -> FLdText_5 FLdText_6 = 59+20dB|SSB; lecture FLdText_7;
      EtiquetteApercu contient 59+20dB\nSSB; grisé BtIndicatifQSL
  the way out : -> caché BtQuitQSL; foyer = BtLeaveQSL

@@ -44,7 +44,7 @@ TEST(Saisie, QuaranteContactsDansLesDeuxModes) {
     banc.Suivre(R"(
  ended : -> NoFicheLab foyer = " Fiche N° 40 |ListeLog"
  accents : ligne 5; clic TxtField_12; valide éloïse -> actif FraMsgFiche; FraLab01 = 30
- Yes : touche Alt+O -> caché FraMsgFiche
+ Yes : touche Alt+O -> caché FraMsgFiche; ligne = 5/15
  date : ligne 7; clic TxtField_2; valide 02/05/26 -> actif FraMsgFiche; FraLab01 = 32
  deletion : touche Alt+O; clic CmdSensHaut, BtKillFiche -> foyer = FraCmdNon
  deleted : clic FraCmdOui -> LabPage NoFicheLab = "Page 1 / 2| Fiche N° 25 ")");
@@ -139,6 +139,7 @@ TEST(Saisie, ChangementDeLocatorGardeOuNon) {
         Banc banc(Fin());
         banc.Suivre(R"(
  panel : clic BtNewQSO; valide f6abc; clic TxtField_16 -> foyer = ChangLocText
+ tick let go : clic ChangLocChk, BtChangAnnul, TxtField_16 -> actif ChangLocChk
  too short : valide jn18d -> caché BtChangValid
  whole : valide u -> foyer = BtChangValid
  thought better of : foyer ChangLocText -> ChangLocText = JN04SD; caché BtChangValid
