@@ -7,12 +7,12 @@
 
 namespace orvalis::operateur::demarrage {
 
-// Takes these steps in the creation dialog as soon as it is open, then cancels it.
-void DansLaCreation(Banc& banc, const std::string& chemin) {
-    QTimer::singleShot(0, [&banc, chemin] {
+// Takes these steps in the creation dialog, or in another, as soon as it is open, then cancels it.
+void DansLaCreation(Banc& banc, const std::string& chemin, const char* nom = "Dlg1") {
+    QTimer::singleShot(0, [&banc, chemin, nom] {
         auto* dialogue = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (dialogue == nullptr)
-            return DansLaCreation(banc, chemin);
+        if (dialogue == nullptr || dialogue->objectName() != Q(nom))
+            return DansLaCreation(banc, chemin, nom);
         dialogue->activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(dialogue));
         QCoreApplication::processEvents();
@@ -70,9 +70,14 @@ TEST(Demarrage, CahierCoupe) {
 
 TEST(Demarrage, ToutArreterNeCreeRien) {
     Banc banc;
+    DansLaCreation(banc,
+                   "Enter again, its release lost : foyer Fr1CmdFermer; entree 1 -> caché "
+                   "Fr1CmdFermer",
+                   "Dlg2");
     DansLaCreation(banc, R"(
  eight characters : tape f5abc/mm -> Dlg1Conseil contient avec 8 caractères, Valider ne fera rien
- seven : touche Backspace -> Dlg1Conseil contient accepte « F5ABC/M », puis Locator)");
+ seven : touche Backspace -> Dlg1Conseil contient accepte « F5ABC/M », puis Locator
+ coordinates : foyer BtAppelLocator; entree 1)");
     banc.Ouvrir();
     EXPECT_EQ(banc.systeme.codeDeFin, 0);
     EXPECT_FALSE(std::filesystem::exists(banc.Dossier()));
