@@ -236,8 +236,13 @@ TEST(Accessibilite, LeGuideSOuvreAuChapitre) {
         Banc banc(Contacts(3) + Fin());
         banc.Faire(chemin);
         QTest::qWait(1);
-        const auto* texte = banc.Controle<QTextBrowser>("GuideTexte");
-        EXPECT_EQ(S(texte->cursorForPosition({40, 12}).block().text()), titre) << chemin;
+        auto* texte = banc.Controle<QTextBrowser>("GuideTexte");
+        const auto montre = [texte] {
+            return S(texte->cursorForPosition({40, 12}).block().text());
+        };
+        EXPECT_EQ(montre(), titre) << chemin;
+        texte->setSource(QUrl(Q("qrc:/guide/guide.md#la-fenêtre"))); // as a link does
+        EXPECT_EQ(montre(), "La fenêtre") << chemin;
     }
 }
 

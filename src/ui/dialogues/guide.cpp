@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QSignalBlocker>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextTable>
@@ -134,12 +135,15 @@ void Guide::Chercher(bool enArriere) {
         texte_->setTextCursor(avant);
 }
 
+// The document does not tell that it is changed here: a browser that hears of it loads it anew at
+// the next link, without what was changed.
 void Guide::Habiller() {
     const QUrl source = texte_->source();
     if (std::exchange(habille_, source.path()) == source.path())
         return;
     QTextDocument& document = *texte_->document();
     document.setUndoRedoEnabled(false);
+    const QSignalBlocker silence(document);
     QTextCursor ensemble(&document); // one layout for all that changes
     ensemble.beginEditBlock();
     for (QTextBlock bloc = document.begin(); bloc.isValid(); bloc = bloc.next()) {
@@ -170,6 +174,7 @@ void Guide::Habiller() {
 // A picture is never wider than the window.
 void Guide::AjusterImages() {
     QTextDocument& document = *texte_->document();
+    const QSignalBlocker silence(document);
     const int place = texte_->viewport()->width() - 2 * qRound(document.documentMargin());
     QTextCursor ensemble(&document);
     ensemble.beginEditBlock();
