@@ -86,18 +86,25 @@ std::size_t Decalage(std::string_view s, std::size_t n) {
     return i;
 }
 
+// Calls `faire` with each character of a text and what stands for it there.
+template<typename Faire> void PourChaqueCaractere(std::string_view utf8, Faire faire) {
+    for (std::size_t i = 0; i < utf8.size();) {
+        const Lu lu = LireCode(utf8.substr(i));
+        faire(lu.code, utf8.substr(i, lu.octets));
+        i += lu.octets;
+    }
+}
+
 template<typename Convertir> std::string Convertis(std::string_view utf8, Convertir convertir) {
     std::string sortie;
     sortie.reserve(utf8.size());
-    for (std::size_t i = 0; i < utf8.size();) {
-        const Lu lu = LireCode(utf8.substr(i));
-        const int octet = OctetDe(lu.code);
+    PourChaqueCaractere(utf8, [&](char32_t code, std::string_view caractere) {
+        const int octet = OctetDe(code);
         if (octet >= 0)
             AjouterCode(sortie, CodeDe(convertir(static_cast<unsigned char>(octet))));
         else
-            sortie.append(utf8.substr(i, lu.octets));
-        i += lu.octets;
-    }
+            sortie.append(caractere);
+    });
     return sortie;
 }
 
@@ -114,35 +121,26 @@ std::string DepuisCp1252(std::string_view octets) {
 std::string VersCp1252(std::string_view utf8) {
     std::string sortie;
     sortie.reserve(utf8.size());
-    for (std::size_t i = 0; i < utf8.size();) {
-        const Lu lu = LireCode(utf8.substr(i));
-        const int octet = OctetDe(lu.code);
+    PourChaqueCaractere(utf8, [&sortie](char32_t code, std::string_view /*caractere*/) {
+        const int octet = OctetDe(code);
         sortie.push_back(octet < 0 ? '?' : static_cast<char>(octet));
-        i += lu.octets;
-    }
+    });
     return sortie;
 }
 
 std::string NettoyerSaisie(std::string_view utf8) {
     std::string sortie;
     sortie.reserve(utf8.size());
-    for (std::size_t i = 0; i < utf8.size();) {
-        const Lu lu = LireCode(utf8.substr(i));
-        if (!EstDeCommande(lu.code)) {
-            if (OctetDe(lu.code) < 0)
-                sortie.push_back('?');
-            else
-                sortie.append(utf8.substr(i, lu.octets));
-        }
-        i += lu.octets;
-    }
+    PourChaqueCaractere(utf8, [&sortie](char32_t code, std::string_view caractere) {
+        if (!EstDeCommande(code))
+            sortie.append(OctetDe(code) < 0 ? "?" : caractere);
+    });
     return sortie;
 }
 
 std::size_t Longueur(std::string_view utf8) {
     std::size_t n = 0;
-    for (std::size_t i = 0; i < utf8.size(); ++n)
-        i += LireCode(utf8.substr(i)).octets;
+    PourChaqueCaractere(utf8, [&n](char32_t /*code*/, std::string_view /*caractere*/) { ++n; });
     return n;
 }
 
