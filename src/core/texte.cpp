@@ -198,6 +198,12 @@ int ValeurNumerique(std::string_view texte) {
     return static_cast<int>(valeur);
 }
 
+std::string EspacerMilliers(std::string chiffres) {
+    for (std::size_t i = chiffres.size(); i > 3; i -= 3)
+        chiffres.insert(i - 3, "\u00A0");
+    return chiffres;
+}
+
 unsigned char MajusculeCp1252(unsigned char o) {
     if ((o >= 'a' && o <= 'z') || (o >= 0xE0 && o <= 0xFE && o != 0xF7))
         return static_cast<unsigned char>(o - 0x20);

@@ -51,6 +51,13 @@ namespace orvalis {
 /// at 999,999,999.
 [[nodiscard]] int ValeurNumerique(std::string_view texte);
 
+/// `chiffres` with no-break spaces between its thousands.
+[[nodiscard]] std::string EspacerMilliers(std::string chiffres);
+/// "12 345", with no-break spaces.
+template<class Entier> [[nodiscard]] std::string EcrireNombre(Entier nombre) {
+    return EspacerMilliers(std::to_string(nombre));
+}
+
 /// Upper case of one Windows-1252 byte, for searches that do not decode records.
 [[nodiscard]] unsigned char MajusculeCp1252(unsigned char octet);
 

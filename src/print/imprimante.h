@@ -13,6 +13,9 @@
 
 namespace orvalis {
 
+inline constexpr int kTwipsParPoint = 20;
+inline constexpr int kEpaisseurTrait = 8; ///< twips; of lines and unfilled rectangles
+
 /// What pages and labels are printed on, and no more.
 enum class Papier { A4 };
 enum class Orientation { Portrait };

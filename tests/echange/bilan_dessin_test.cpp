@@ -2,6 +2,7 @@
 #include "aides.h"
 #include "compagnons/db_orvalis/bilan_html.h"
 #include "compagnons/db_orvalis/imprimante_svg.h"
+#include "core/texte.h"
 #include "print/enregistreur.h"
 
 namespace orvalis::aides {
@@ -58,7 +59,7 @@ TEST(BilanDessin, AucunTexteSurUnAutreNiHorsDeLaFeuille) {
     constexpr int kHauteur = 16438;
     Mesureur feuille;
     ImprimerBilan(feuille, Enorme());
-    EXPECT_EQ(feuille.page, kPagesBilan);
+    EXPECT_EQ(feuille.page, 2);
     EXPECT_GT(feuille.textes.size(), 300U);
     for (const auto& [page, a, texte] : feuille.textes) {
         EXPECT_TRUE(a.x >= 0 && a.y >= 0 && a.Droite() <= kLargeur && a.Bas() <= kHauteur) << texte;

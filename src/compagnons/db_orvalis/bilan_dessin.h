@@ -18,8 +18,6 @@ struct FeuilleBilan {
     Jour faitLe;
 };
 
-inline constexpr int kPagesBilan = 2;
-
 /// A part of the sheets with its title above it.
 struct PartieBilan {
     std::string_view titre;

@@ -8,7 +8,6 @@
 namespace orvalis {
 namespace {
 
-constexpr int kTwipsParPoint = 20;
 constexpr Style kPetit{8, false, Encre::Gris};
 constexpr int kFilet = 10;
 
@@ -24,7 +23,7 @@ std::size_t PlusGrande(std::span<const Valeur> valeurs) {
 }
 
 // `longueur` for the largest number; what is not nothing can be seen.
-int Longueur(std::size_t nombre, std::size_t plusGrande, int longueur) {
+int LongueurDessinee(std::size_t nombre, std::size_t plusGrande, int longueur) {
     constexpr int kVisible = 20;
     if (nombre == 0)
         return 0;
@@ -54,7 +53,7 @@ void DessinerEchelle(Imprimante& imprimante, const Cadre& corps, int gauche,
                      std::size_t plusGrande) {
     const std::size_t pas = PasEchelle(plusGrande);
     for (std::size_t n = pas; n <= plusGrande; n += pas) {
-        const int y = corps.Bas() - Longueur(n, plusGrande, corps.hauteur);
+        const int y = corps.Bas() - LongueurDessinee(n, plusGrande, corps.hauteur);
         Remplir(imprimante, {corps.x, y, corps.largeur, kFilet}, Encre::Trait);
         EcrireTexte(imprimante, gauche, y - HauteurLigne(kPetit) / 2, EcrireNombre(n), kPetit);
     }
@@ -104,13 +103,6 @@ void Remplir(Imprimante& imprimante, const Cadre& cadre, Encre encre) {
     imprimante.RemplirRectangle(cadre.x, cadre.y, cadre.Droite(), cadre.Bas());
 }
 
-std::string EcrireNombre(std::size_t nombre) {
-    std::string texte = std::to_string(nombre);
-    for (std::size_t i = texte.size(); i > 3; i -= 3)
-        texte.insert(i - 3, "\u00A0");
-    return texte;
-}
-
 void DessinerColonnes(Imprimante& imprimante, const Cadre& cadre, std::span<const Valeur> valeurs) {
     if (valeurs.empty())
         return;
@@ -134,7 +126,7 @@ void DessinerColonnes(Imprimante& imprimante, const Cadre& cadre, std::span<cons
     for (int i = 0; i < n; ++i) {
         const Valeur& valeur = valeurs[static_cast<std::size_t>(i)];
         const int milieu = corps.x + corps.largeur * (2 * i + 1) / (2 * n);
-        const int hauteur = Longueur(valeur.nombre, plusGrande, corps.hauteur);
+        const int hauteur = LongueurDessinee(valeur.nombre, plusGrande, corps.hauteur);
         if (hauteur > 0)
             Remplir(imprimante, {milieu - largeur / 2, corps.Bas() - hauteur, largeur, hauteur},
                     Encre::Forte);
@@ -163,7 +155,8 @@ void DessinerBarres(Imprimante& imprimante, const Cadre& cadre, std::span<const 
     for (const Valeur& valeur : valeurs) {
         EcrireTexte(imprimante, cadre.x + noms, y + kSurTexte, Tenir(imprimante, valeur.nom, noms),
                     {}, Cote::Droite);
-        const int longueur = Longueur(valeur.nombre, plusGrande, cadre.Droite() - debut - nombres);
+        const int longueur =
+            LongueurDessinee(valeur.nombre, plusGrande, cadre.Droite() - debut - nombres);
         if (longueur > 0)
             Remplir(imprimante, {debut, y + (kHauteurBarre - kEpaisseur) / 2, longueur, kEpaisseur},
                     Encre::Forte);

@@ -1,4 +1,4 @@
-// Charts on a printer: columns, bars, tables of texts.
+// Charts on a printer: columns, bars, and the texts beside them.
 #pragma once
 
 #include "print/imprimante.h"
@@ -42,8 +42,6 @@ void EcrireTexte(Imprimante& imprimante, int x, int y, std::string_view texte, S
                                 Style style = {});
 void Remplir(Imprimante& imprimante, const Cadre& cadre, Encre encre);
 
-/// "12 345", with no-break spaces.
-[[nodiscard]] std::string EcrireNombre(std::size_t nombre);
 /// The word for so many: "un" from 0 to 1, "plusieurs" beyond.
 [[nodiscard]] constexpr std::string_view Accorder(std::size_t nombre, std::string_view un,
                                                   std::string_view plusieurs) {

@@ -10,9 +10,6 @@
 namespace orvalis {
 namespace {
 
-constexpr int kTwipsParPoint = 20;
-constexpr int kEpaisseurTrait = 8;
-
 // Of the characters from the blank to the tilde, in thousandths of the size; regular, then bold.
 constexpr std::array<std::array<short, 95>, 2> kLargeurs = {{
     {278,  278, 355, 556, 556, 889, 667, 191, 333, 333, 389, 584, 278, 333, 278, 278,

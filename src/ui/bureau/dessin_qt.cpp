@@ -1,6 +1,6 @@
 #include "ui/bureau/dessin_qt.h"
 
-#include <QString>
+#include "ui/bureau/texte_qt.h"
 
 #include <algorithm>
 #include <array>
@@ -8,8 +8,6 @@
 
 namespace orvalis {
 namespace {
-
-constexpr int kTwipsParPoint = 20;
 
 // Families that stand in for one the system lacks, best first. The layouts are measured for the
 // narrow faces asked for; what the system would pick by itself crosses the rules, and for the
@@ -27,10 +25,6 @@ constexpr std::array kRemplacants = {
     Remplacants{"Courrier", {"Arial", "Liberation Sans", "Nimbus Sans"}},
 };
 
-QString Texte(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 QColor Teindre(Encre encre) {
     const CouleurEncre couleur = CouleurDe(encre);
     return {couleur.rouge, couleur.vert, couleur.bleu};
@@ -39,11 +33,11 @@ QColor Teindre(Encre encre) {
 } // namespace
 
 void DessinQt::ChoisirPolice(std::string_view famille) {
-    QStringList familles{Texte(famille)};
+    QStringList familles{Q(famille)};
     for (const Remplacants& remplacants : kRemplacants)
         if (remplacants.famille == famille)
             for (const std::string_view par : remplacants.par)
-                familles << Texte(par);
+                familles << Q(par);
     police_.setFamilies(familles);
 }
 
@@ -66,7 +60,7 @@ void DessinQt::Placer(int x, int y) {
 
 void DessinQt::Ecrire(std::string_view utf8, Suite suite) {
     const QFontMetricsF mesures = Mesures(police_);
-    const QString texte = Texte(utf8);
+    const QString texte = Q(utf8);
     const QPointF ligneDeBase = position_ + QPointF(0, mesures.ascent());
     Ajouter([police = police_, encre = encre_, ligneDeBase, texte](QPainter& peintre) {
         const QPen trait = peintre.pen();
@@ -83,7 +77,7 @@ void DessinQt::Ecrire(std::string_view utf8, Suite suite) {
 }
 
 int DessinQt::LargeurTexte(std::string_view utf8) const {
-    return static_cast<int>(std::lround(Mesures(police_).horizontalAdvance(Texte(utf8))));
+    return static_cast<int>(std::lround(Mesures(police_).horizontalAdvance(Q(utf8))));
 }
 
 void DessinQt::TracerLigne(int x1, int y1, int x2, int y2) {

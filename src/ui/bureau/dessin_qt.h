@@ -48,7 +48,6 @@ class DessinQt : public Imprimante {
     [[nodiscard]] const QStringList& Textes() const { return textes_; }
 
   protected:
-    static constexpr qreal kEpaisseurTrait = 8; // twips
     /// Takes what was gathered out of this drawing.
     [[nodiscard]] DessinQt Prendre();
     /// The font in hand on what is drawn on.

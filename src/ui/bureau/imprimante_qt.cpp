@@ -121,8 +121,7 @@ void ImprimanteQt::ChoisirPapier(Papier papier, Orientation orientation) {
 }
 
 std::string ImprimanteQt::Nom() const {
-    const bool pdf = imprimante_.outputFormat() == QPrinter::PdfFormat;
-    return S(pdf ? imprimante_.outputFileName() : imprimante_.printerName());
+    return S(EstPdf(imprimante_) ? imprimante_.outputFileName() : imprimante_.printerName());
 }
 
 void ImprimanteQt::TerminerDocument() {

@@ -163,7 +163,7 @@ std::string DireDejaContacte(const StationContactee& station) {
         return "Première fois";
     const auto champ = [&station](Champ c) { return TexteRogne(station.derniere, c); };
     std::string dit = station.fois == 1 ? "Déjà contacté une fois"
-                                        : "Déjà contacté " + Nombre(station.fois) + " fois";
+                                        : "Déjà contacté " + EcrireNombre(station.fois) + " fois";
     if (const std::string date = champ(Champ::DQSO); !date.empty())
         dit += (station.fois == 1 ? ", le " : ", la dernière le ") + date;
     if (const std::string frequence = champ(Champ::FREQ); !frequence.empty())
@@ -180,15 +180,8 @@ std::string DireDejaContacte(const StationContactee& station) {
     return dit;
 }
 
-std::string Nombre(std::int64_t n) {
-    std::string chiffres = std::to_string(n);
-    for (std::size_t i = chiffres.size(); i > 3; i -= 3)
-        chiffres.insert(i - 3, kInsecable);
-    return chiffres;
-}
-
 std::string Compte(std::int64_t n, std::string_view mot) {
-    return Nombre(n) + std::string{kInsecable} + std::string{mot} + (n < 2 ? "" : "s");
+    return EcrireNombre(n) + std::string{kInsecable} + std::string{mot} + (n < 2 ? "" : "s");
 }
 
 } // namespace orvalis

@@ -52,8 +52,7 @@ struct InfoJointe {
 /// "Déjà contacté 3 fois, ..." or "Première fois".
 [[nodiscard]] std::string DireDejaContacte(const StationContactee& station);
 
-/// A number with its thousands apart, and the word for what is counted, plural from 2 on.
-[[nodiscard]] std::string Nombre(std::int64_t n);
+/// A number, and the word for what is counted, plural from 2 on.
 [[nodiscard]] std::string Compte(std::int64_t n, std::string_view mot);
 
 } // namespace orvalis

@@ -2,6 +2,7 @@
 
 #include "core/dossier.h"
 #include "core/recherche.h"
+#include "core/texte.h"
 #include "maint/jumelage.h"
 #include "ui/bureau/sablier.h"
 #include "ui/bureau/systeme.h"
@@ -25,7 +26,7 @@ std::string DireDejaLa(const Cahier& cahier, NumeroFiche premiere) {
         const std::int32_t deja = CompterDejaLa(cahier, premiere);
         if (deja == 0)
             return ", aucun n'y était déjà";
-        return ", dont " + Nombre(deja) + " y étai" + (deja < 2 ? "t" : "ent") + " déjà";
+        return ", dont " + EcrireNombre(deja) + " y étai" + (deja < 2 ? "t" : "ent") + " déjà";
     } catch (const std::exception&) {
         return {};
     }
