@@ -33,6 +33,9 @@ inline constexpr std::array<ColonnePage, 13> kColonnesPage = {{
     {"QSL", "Sa", 8, Champ::SQSL},
 }};
 
+inline constexpr std::size_t kColonneIndicatif = 5;
+static_assert(kColonnesPage[kColonneIndicatif].champ == Champ::CSGN);
+
 using CellulesPage = std::array<std::string, kColonnesPage.size()>;
 
 /// The cells of record `k`, each trimmed and cut to its column.

@@ -17,13 +17,12 @@ PlagePage CalculerPlage(std::int32_t page, std::int32_t nbFiches) {
 }
 
 std::string LigneListe(NumeroFiche k, const QsoRecord& fiche) {
-    constexpr std::size_t kLargeurLigne = 40;
     return Cadrer(Cadrer(std::to_string(k.Valeur()), kLargeurNumero) + " : " +
                       Cadrer(TexteRogne(fiche, Champ::CSGN), kIndicatifListe) + ":" +
                       Cadrer(TexteRogne(fiche, Champ::DQSO), Description(Champ::DQSO).largeur) +
                       ":" +
                       Cadrer(TexteRogne(fiche, Champ::HDEB), Description(Champ::HDEB).largeur),
-                  kLargeurLigne);
+                  kLargeurLigneListe);
 }
 
 std::optional<MouvementListe> PageDeTouche(ToucheListe touche, NumeroFiche courante, int ligne,

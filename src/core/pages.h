@@ -14,6 +14,10 @@ namespace orvalis {
 /// Characters of a record number and of a callsign in the lists of the screen.
 inline constexpr std::size_t kLargeurNumero = 6;
 inline constexpr std::size_t kIndicatifListe = 10;
+/// Characters of a line of the log list, and of one of the contacts list.
+inline constexpr std::size_t kLargeurLigneListe = 40;
+inline constexpr std::size_t kLargeurTexteContact = 40; ///< what stands behind its number
+inline constexpr std::size_t kLargeurLigneContact = kLargeurNumero + kLargeurTexteContact;
 
 inline constexpr std::int32_t kFichesParPage = 25;
 /// The list numbers contacts in 16 bits; what lies beyond is counted and kept, but not listed.
@@ -43,7 +47,8 @@ struct PageAffichee {
 /// Records of page `page` (from 1) in a logbook of `nbFiches` contacts.
 [[nodiscard]] PlagePage CalculerPlage(std::int32_t page, std::int32_t nbFiches);
 
-/// Line of the log list for record `k`: 40 characters, number, callsign, date and start time.
+/// Line of the log list for record `k`: kLargeurLigneListe characters, number, callsign, date and
+/// start time.
 [[nodiscard]] std::string LigneListe(NumeroFiche k, const QsoRecord& fiche);
 
 /// Record number that begins a line of the log list or of the contacts list.

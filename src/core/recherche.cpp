@@ -13,7 +13,6 @@
 namespace orvalis {
 namespace {
 
-constexpr std::size_t kLargeurTexte = 40;
 constexpr std::size_t kLargeurDate = Description(Champ::DQSO).largeur;
 // Callsign, date, times and frequency lie together at the head of a record.
 constexpr std::size_t kOctetsDoublon = Description(Champ::MODE).decalage;
@@ -52,7 +51,7 @@ class Pliage {
 };
 
 std::string Ligne(NumeroFiche k, std::string_view texte) {
-    return Cadrer(std::to_string(k.Valeur()), kLargeurNumero) + Cadrer(texte, kLargeurTexte);
+    return Cadrer(std::to_string(k.Valeur()), kLargeurNumero) + Cadrer(texte, kLargeurTexteContact);
 }
 
 std::string LigneContact(NumeroFiche k, const QsoRecord& fiche) {

@@ -11,7 +11,7 @@ namespace {
 
 constexpr auto kTaille = static_cast<std::int64_t>(kTailleFiche);
 // Records that one write of the file moves at most.
-constexpr auto kFichesParEcriture = static_cast<std::int32_t>(kPlusGrandePiece / kTailleFiche);
+constexpr auto kFichesParEcriture = static_cast<std::int32_t>(kFichesParPiece);
 
 // Kept on purpose, for the operators: each word is shown one pass late ("Dates" while the years are
 // compared).

@@ -71,9 +71,7 @@ constexpr std::size_t kIndicatifCourt = 10; // longest callsign that keeps the l
 // Where the columns of the page begin, after that of the number.
 constexpr std::array kXColonnes = {720,  1380, 1830, 2300, 3100,  5000,
                                    5500, 6000, 6600, 8600, 10100, 10800};
-constexpr std::size_t kColonneIndicatif = 5;
-static_assert(kXColonnes.size() + 1 == kColonnesPage.size() &&
-              kColonnesPage[kColonneIndicatif].champ == Champ::CSGN);
+static_assert(kXColonnes.size() + 1 == kColonnesPage.size());
 
 void Tracer(Imprimante& imprimante, const Trait& trait) {
     imprimante.TracerLigne(trait.x1, trait.y1, trait.x2, trait.y2);

@@ -1,5 +1,6 @@
 #include "ui/panneaux/pict_contacts.h"
 
+#include "core/pages.h"
 #include "ui/bureau/texte_qt.h"
 #include "ui_pict_contacts.h"
 
@@ -18,9 +19,8 @@ PictContacts::PictContacts(QWidget* parent)
 PictContacts::~PictContacts() = default;
 
 void PictContacts::Dimensionner() {
-    constexpr int kLargeurLigne = 46;
     ListeLignes& liste = *ui_->ContactsListe;
-    liste.setMinimumWidth(liste.Composer(font(), kLargeurLigne) + 10 +
+    liste.setMinimumWidth(liste.Composer(font(), static_cast<int>(kLargeurLigneContact)) + 10 +
                           liste.verticalScrollBar()->sizeHint().width());
 }
 

@@ -1,5 +1,6 @@
 #include "ui/panneaux/pict_liste.h"
 
+#include "core/pages.h"
 #include "ui/bureau/texte_qt.h"
 #include "ui/widgets/presence.h"
 #include "ui/widgets/teintes.h"
@@ -59,9 +60,8 @@ PictListe::PictListe(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui
 PictListe::~PictListe() = default;
 
 void PictListe::Dimensionner() {
-    constexpr int kLargeurLigne = 40;
     ListeLignes& liste = *ui_->ListeLog;
-    liste.setFixedWidth(liste.Composer(font(), kLargeurLigne) + 8);
+    liste.setFixedWidth(liste.Composer(font(), static_cast<int>(kLargeurLigneListe)) + 8);
     liste.setMinimumHeight((QFontMetrics(liste.font()).height() + 1) * kFichesParPage +
                            2 * liste.frameWidth());
     const int cote = QFontMetrics(font()).height() * 2;

@@ -199,7 +199,6 @@ void VuePage::PeindreTete(QPainter& peintre) const {
 
 void VuePage::PeindreRangees(QPainter& peintre) const {
     const Encres encres = EncresDe(palette());
-    constexpr std::size_t kIndicatif = 5; // column
     for (int r = 0; r < kFichesParPage; ++r) {
         const int y = mesures_.tete + r * mesures_.ligne;
         const auto rang = static_cast<std::size_t>(r);
@@ -214,7 +213,7 @@ void VuePage::PeindreRangees(QPainter& peintre) const {
         int x = 0;
         for (std::size_t c = 0; c < kColonnesPage.size(); ++c) {
             QFont police = mesures_.police;
-            police.setBold(c == kIndicatif);
+            police.setBold(c == kColonneIndicatif);
             peintre.setFont(police);
             const int large = mesures_.Colonne(c);
             peintre.drawText(QRect(x + qCeil(mesures_.caractere + mesures_.appoint) / 2, y, large,
