@@ -4,6 +4,7 @@
 
 #include <array>
 #include <chrono>
+#include <cstdlib>
 
 namespace orvalis {
 namespace {
@@ -71,15 +72,16 @@ std::string HeureLongue(const Instant& instant) {
     return HeureCourte(instant) + ":" + DeuxChiffres(instant.secondes);
 }
 
-std::string MentionUtc(const Instant& instant) {
-    if (instant.decalageUtc == 0)
-        return {};
+std::string EcartUtc(int minutes) {
     constexpr int kMinutesParHeure = 60;
-    const int ecart = std::abs(instant.decalageUtc);
-    const int minutes = ecart % kMinutesParHeure;
-    return std::string{"heure locale, UTC"} + (instant.decalageUtc < 0 ? "−" : "+") +
-           std::to_string(ecart / kMinutesParHeure) +
-           (minutes == 0 ? "" : ":" + DeuxChiffres(minutes));
+    const int ecart = std::abs(minutes);
+    const int reste = ecart % kMinutesParHeure;
+    return (minutes < 0 ? "−" : "+") + std::to_string(ecart / kMinutesParHeure) +
+           (reste == 0 ? "" : ":" + DeuxChiffres(reste));
+}
+
+std::string MentionUtc(const Instant& instant) {
+    return instant.decalageUtc == 0 ? "" : "heure locale, UTC" + EcartUtc(instant.decalageUtc);
 }
 
 } // namespace orvalis

@@ -48,6 +48,9 @@ struct Verification {
 /// hh:mm:ss
 [[nodiscard]] std::string HeureLongue(const Instant& instant);
 
+/// "+5:30", "−3", "+0": hours alone where they are whole.
+[[nodiscard]] std::string EcartUtc(int minutes);
+
 /// "heure locale, UTC+5:30", hours alone where they are whole; nothing when the clock tells UTC.
 [[nodiscard]] std::string MentionUtc(const Instant& instant);
 

@@ -1,7 +1,9 @@
 #include "compagnons/chronel/fenetre_chronel.h"
 
 #include "compagnons/chronel/grand_cadran.h"
+#include "core/dates.h"
 #include "ui/bureau/texte_qt.h"
+#include "ui/widgets/gestes.h"
 #include "ui/widgets/police.h"
 #include "ui/widgets/teintes.h"
 #include "ui_fenetre_chronel.h"
@@ -9,8 +11,6 @@
 #include <QAccessible>
 #include <QDateTime>
 #include <QKeyEvent>
-
-#include <cstdlib>
 
 namespace orvalis {
 namespace {
@@ -30,16 +30,9 @@ Instant InstantDe(const QDateTime& t) {
             t.time().hour(), t.time().minute(), t.time().second()};
 }
 
-// "UTC+1", "UTC-3:30"; the zone's own name is of no use to who compares two clocks.
+// "UTC+1", "UTC−3:30"; the zone's own name is of no use to who compares two clocks.
 QString DireDecalage(int secondes) {
-    const int minutes = std::abs(secondes) / 60;
-    const QString reste = minutes % 60 == 0
-                              ? QString()
-                              : QStringLiteral(":%1").arg(minutes % 60, 2, 10, QLatin1Char('0'));
-    return QStringLiteral("Heure de l'ordinateur (UTC%1%2%3)")
-        .arg(secondes < 0 ? QStringLiteral("\u2212") : QStringLiteral("+"))
-        .arg(minutes / 60)
-        .arg(reste);
+    return Q("Heure de l'ordinateur (UTC" + EcartUtc(secondes / 60) + ")");
 }
 
 } // namespace
@@ -221,13 +214,10 @@ void FenetreChronel::changeEvent(QEvent* evenement) {
 
 // Enter presses the button that has the focus; held down, it does so once.
 bool FenetreChronel::eventFilter(QObject* objet, QEvent* evenement) {
-    if (evenement->type() != QEvent::KeyPress)
-        return QWidget::eventFilter(objet, evenement);
-    const auto* touche = static_cast<QKeyEvent*>(evenement);
     auto* bouton = qobject_cast<QAbstractButton*>(objet);
-    if (bouton == nullptr || (touche->key() != Qt::Key_Return && touche->key() != Qt::Key_Enter))
+    if (bouton == nullptr || !EstEntree(*evenement))
         return QWidget::eventFilter(objet, evenement);
-    if (!touche->isAutoRepeat())
+    if (!static_cast<QKeyEvent*>(evenement)->isAutoRepeat())
         bouton->click();
     return true;
 }
