@@ -1,13 +1,13 @@
 #include "ui/dialogues/guide.h"
 
 #include "ui/bureau/texte_qt.h"
+#include "ui/widgets/police.h"
 
 #include <QHBoxLayout>
 #include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -57,7 +57,7 @@ Guide::Guide(QWidget* parent)
     connect(texte_, &QTextBrowser::sourceChanged, this, &Guide::Habiller);
     texte_->setSource(kGuide);
     const QSize voulue = QSize(fontMetrics().averageCharWidth() * 110, fontMetrics().height() * 44);
-    resize(voulue.boundedTo(screen()->availableSize() - QSize(16, 40)));
+    resize(TailleSurEcran(*this, voulue));
 }
 
 void Guide::Disposer() {

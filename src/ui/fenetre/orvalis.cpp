@@ -32,14 +32,12 @@
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QGridLayout>
-#include <QGuiApplication>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QScopedValueRollback>
-#include <QScreen>
 #include <QStackedWidget>
 #include <QTimer>
 
@@ -189,8 +187,7 @@ void Orvalis::Disposer() {
 void Orvalis::Dimensionner() {
     const QSize voulue = cadre_->TailleVoulue() +
                          QSize(0, menuBar()->sizeHint().height() + panneaux_.conseil.height());
-    const QScreen* ecran = QGuiApplication::primaryScreen();
-    resize(ecran == nullptr ? voulue : voulue.boundedTo(ecran->availableSize() - QSize(16, 40)));
+    resize(TailleSurEcran(*this, voulue));
 }
 
 // What a list of contacts found is read beside the list of the log; the boxes of the card keep

@@ -1,5 +1,7 @@
 #include "ui/widgets/boussole.h"
 
+#include "ui/widgets/teintes.h"
+
 #include <QPainter>
 #include <QPolygonF>
 
@@ -45,7 +47,7 @@ void Boussole::paintEvent(QPaintEvent* /*evenement*/) {
     peintre.rotate(90);
     peintre.rotate(*cap_);
     peintre.setPen(Qt::NoPen);
-    peintre.setBrush(QColor(0xC0, 0x39, 0x2B)); // that of the second hand of the clock
+    peintre.setBrush(kRougeAiguille);
     peintre.drawPolygon(QPolygonF({{0, -rayon * 0.9},
                                    {rayon * 0.32, rayon * 0.55},
                                    {0, rayon * 0.3},

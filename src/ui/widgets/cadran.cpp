@@ -1,5 +1,7 @@
 #include "ui/widgets/cadran.h"
 
+#include "ui/widgets/teintes.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -49,7 +51,7 @@ void DessinerCadran(QPainter& peintre, const QRectF& cadre, const QPalette& pale
     };
     aiguille(instant.heures * 30.0 + instant.minutes / 2.0, 0.5, 2.5, trait);
     aiguille(instant.minutes * 6.0, 0.72, 1.8, trait);
-    aiguille(instant.secondes * 6.0, 0.78, 1.0, QColor(0xC0, 0x39, 0x2B));
+    aiguille(instant.secondes * 6.0, 0.78, 1.0, kRougeAiguille);
 }
 
 } // namespace orvalis

@@ -3,6 +3,7 @@
 
 #include <QFont>
 #include <QFontDatabase>
+#include <QScreen>
 #include <QWidget>
 
 #include <cstddef>
@@ -34,6 +35,13 @@ inline constexpr qreal kTitre = 1.2;   ///< the title of a panel
     constexpr int kBords = 14;
     const int chiffre = boite.fontMetrics().horizontalAdvance(QLatin1Char('0'));
     return static_cast<int>(caracteres) * chiffre + kBords;
+}
+
+/// `voulue`, as far as the screen of `fenetre` has room for it with its frame and title.
+[[nodiscard]] inline QSize TailleSurEcran(const QWidget& fenetre, const QSize& voulue) {
+    constexpr QSize kAutour(16, 40);
+    const QScreen* ecran = fenetre.screen();
+    return ecran == nullptr ? voulue : voulue.boundedTo(ecran->availableSize() - kAutour);
 }
 
 /// Lets a widget come and go without moving anything.

@@ -13,6 +13,9 @@ namespace orvalis {
 inline const QColor kAmbre{0xFF, 0xD8, 0x66};
 inline const QColor kEncreSurAmbre{0x3A, 0x2D, 0x00};
 
+/// The second hand of a clock, and the needle of the compass, on the light and the dark face.
+inline const QColor kRougeAiguille{0xC0, 0x39, 0x2B};
+
 /// The style sheet of a label that says such a thing; `marges` around its text.
 [[nodiscard]] QString StyleAmbre(const char* marges = "1px 8px");
 

@@ -10,7 +10,6 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QVBoxLayout>
 
 namespace orvalis {
@@ -86,8 +85,7 @@ DlgApercu::DlgApercu(QWidget* parent, const QString& source, const EtudeImport& 
     colonne->addWidget(pourquoi);
     colonne->addWidget(lignes, 1);
     colonne->addWidget(boutons);
-    resize(QSize(fontMetrics().averageCharWidth() * 90, sizeHint().height())
-               .boundedTo(screen()->availableSize() - QSize(16, 40)));
+    resize(TailleSurEcran(*this, {fontMetrics().averageCharWidth() * 90, sizeHint().height()}));
     (importer->isEnabled() ? importer : boutons->button(QDialogButtonBox::Cancel))->setFocus();
 }
 

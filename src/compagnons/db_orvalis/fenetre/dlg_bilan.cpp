@@ -3,11 +3,11 @@
 #include "core/erreurs.h"
 #include "ui/bureau/dessin_qt.h"
 #include "ui/bureau/texte_qt.h"
+#include "ui/widgets/police.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -91,7 +91,7 @@ DlgBilan::DlgBilan(QWidget* parent, const FeuilleBilan& feuille, const Demandes&
     auto* colonne = new QVBoxLayout(this);
     colonne->addWidget(defilement);
     colonne->addLayout(boutons);
-    resize(QSize(820, 640).boundedTo(screen()->availableSize() - QSize(16, 40)));
+    resize(TailleSurEcran(*this, {820, 640}));
     defilement->setFocus(); // arrows and page keys move the sheets
 }
 
