@@ -98,7 +98,7 @@ void ViderCarte(Carte& carte) {
     carte.zones = {};
     for (const DescriptionBoite& d : kBoites)
         MontrerZone(carte, d.boite);
-    carte.numero = "  Fiche N° 0  ";
+    carte.numero = kNumeroDeCarteVide;
     carte.distance.clear();
     carte.azimut.clear();
     carte.departement.clear();

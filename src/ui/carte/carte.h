@@ -63,15 +63,17 @@ struct EtatSaisie {
     std::string manager;    ///< 15 characters, set by Enter in box 17
 };
 
+inline constexpr const char* kNumeroDeCarteVide = "  Fiche N° 0  ";
+
 struct Carte {
     NumeroFiche ficheCourante; ///< k, the record on the card; none while there is none
     QsoRecord tampon;          ///< record buffer: the record last read or written
     Zones zones;               ///< working slots
     std::array<BoiteMontree, kNbBoites> boites;
-    std::string numero = "  Fiche N° 0  "; ///< NoFicheLab
-    std::string distance;                  ///< LabDist
-    std::string azimut;                    ///< LabAzim
-    std::string departement;               ///< LabDept
+    std::string numero = kNumeroDeCarteVide; ///< NoFicheLab
+    std::string distance;                    ///< LabDist
+    std::string azimut;                      ///< LabAzim
+    std::string departement;                 ///< LabDept
     EtatSaisie saisie;
     MemoireDistance memoireDistance; ///< last coordinates of the distance routine
 

@@ -90,7 +90,9 @@ void Classer(Plateau& p) {
     e.activeRech = false;
     e.recherche.montre = false;
     e.jumelage.montre = false;
-    e.classer = {true, " QRX ,Je classe !", std::to_string(p.session.cahier.nbFiches), {}, {}};
+    e.classer = {};
+    e.classer.montre = true;
+    e.classer.nombre = std::to_string(p.session.cahier.nbFiches);
     bool entier = true;
     // Storage that cannot be mapped cannot be sorted; nothing else is the matter with it.
     static_cast<void>(Essayer(p, [&] { entier = Trier(p); }));

@@ -1,6 +1,7 @@
 #include "ui/panneaux/pict_fiche.h"
 
 #include "ui/bureau/texte_qt.h"
+#include "ui/carte/carte.h"
 #include "ui/widgets/boussole.h"
 #include "ui/widgets/police.h"
 #include "ui/widgets/presence.h"
@@ -88,7 +89,7 @@ PictFiche::PictFiche(QWidget* parent) : QFrame(parent) {
 
 void PictFiche::FaireEntete() {
     noFicheLab_ = FaireLabel("NoFicheLab", this);
-    noFicheLab_->setText(QStringLiteral("  Fiche N° 0  "));
+    noFicheLab_->setText(Q(kNumeroDeCarteVide));
     noFicheLab_->setFont(PoliceAjustee(font(), kTitre));
     labNonEnregistre_ = FaireLabel("LabNonEnregistre", this);
     labNonEnregistre_->setStyleSheet(StyleAmbre());
