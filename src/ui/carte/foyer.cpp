@@ -134,21 +134,4 @@ void OuvrirChangLocator(Carte& carte, Ecran& ecran, const Station& station) {
     DeplacerFoyer(carte, ecran, station, {Cible::TexteLocator});
 }
 
-void ViderContacts(ListeContacts& contacts) {
-    const ListeContacts vide;
-    contacts.lignes = std::make_shared<const std::vector<std::string>>();
-    contacts.choisie = vide.choisie;
-    contacts.compte = vide.compte;
-    contacts.nature = vide.nature;
-    contacts.doublons = vide.doublons;
-    contacts.reprise = vide.reprise;
-}
-
-void RendreBoutons(Ecran& ecran) {
-    if (ecran.contacts.montree)
-        return;
-    ecran.contacts.boutonsGrises = false;
-    ecran.contacts.supprimerGrise = false;
-}
-
 } // namespace orvalis

@@ -40,10 +40,4 @@ void SaisirTexteLocator(Carte& carte, Ecran& ecran, std::string_view texte);
 /// Opens PictChangLocator, BtChangValid hidden, the focus in its box.
 void OuvrirChangLocator(Carte& carte, Ecran& ecran, const Station& station);
 
-/// A contacts list in which nothing was found.
-void ViderContacts(ListeContacts& contacts);
-
-/// Gives back the idle buttons that a contacts list greyed, once none is on show.
-void RendreBoutons(Ecran& ecran);
-
 } // namespace orvalis

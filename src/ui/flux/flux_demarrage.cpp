@@ -8,6 +8,7 @@
 #include "ui/bureau/systeme.h"
 #include "ui/bureau/texte_qt.h"
 #include "ui/carte/foyer.h"
+#include "ui/carte/liste_contacts.h"
 #include "ui/dialogues/dlg1.h"
 #include "ui/flux/conduite.h"
 #include "ui/flux/flux_fichiers.h"

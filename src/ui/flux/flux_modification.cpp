@@ -2,6 +2,7 @@
 
 #include "ui/carte/conseil.h"
 #include "ui/carte/foyer.h"
+#include "ui/carte/liste_contacts.h"
 #include "ui/carte/modification.h"
 #include "ui/flux/conduite.h"
 #include "ui/flux/flux_navigation.h"

@@ -2,6 +2,7 @@
 #include "aides.h"
 #include "ui/carte/echappement.h"
 #include "ui/carte/foyer.h"
+#include "ui/carte/liste_contacts.h"
 #include "ui/carte/modification.h"
 #include "ui/carte/vue.h"
 
