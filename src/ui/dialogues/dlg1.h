@@ -32,8 +32,6 @@ class Dlg1 : public QDialog {
     [[nodiscard]] Creation Lire() const;
     void Conseiller();
     void AccepterIndicatif();
-    /// Callsign and file name from the callsign box; false when that is empty.
-    bool PrendreIndicatif();
     void AccepterLocator();
     void CalculerLocator();
     void Valider();

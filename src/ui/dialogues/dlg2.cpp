@@ -3,6 +3,7 @@
 #include "core/texte.h"
 #include "geo/locator.h"
 #include "geo/notations.h"
+#include "ui/bureau/texte_qt.h"
 #include "ui/carte/chapitre.h"
 #include "ui/dialogues/guide.h"
 #include "ui/widgets/gestes.h"
@@ -62,12 +63,12 @@ class Dlg2::Filtre : public QValidator {
     Filtre(const Regle& regle, QObject* parent) : QValidator(parent), regle_(regle) {}
 
     State validate(QString& texte, int& curseur) const override {
-        const std::string avant = texte.left(curseur).toStdString();
-        const std::string apres = texte.mid(curseur).toStdString();
+        const std::string avant = S(texte.left(curseur));
+        const std::string apres = S(texte.mid(curseur));
         const TexteEdite pris =
             FiltrerTexte(regle_.touches, regle_.largeur, {avant + apres, Longueur(avant)});
         // What these boxes take is one unit of Qt's text for each character.
-        texte = QString::fromStdString(pris.texte);
+        texte = Q(pris.texte);
         curseur = static_cast<int>(pris.curseur);
         return Acceptable;
     }
@@ -146,7 +147,7 @@ void Dlg2::Ouvrir() {
     locator_ = kLocatorOuverture;
     locatorEdite_ = false;
     modifie_ = false;
-    ui_->Fr1TextLocator->setText(QString::fromStdString(locator_));
+    ui_->Fr1TextLocator->setText(Q(locator_));
     AfficherDepuisLocator();
     ui_->Fr1CmdFermer->setFocus();
 }
@@ -168,7 +169,7 @@ bool Dlg2::eventFilter(QObject* objet, QEvent* evenement) {
     case QEvent::KeyPress:
         return TraiterTouche(*boite, *static_cast<QKeyEvent*>(evenement));
     case QEvent::InputMethod: {
-        const std::string compose = TexteCompose(*evenement).toStdString();
+        const std::string compose = S(TexteCompose(*evenement));
         return !compose.empty() && FiltrerTouches(boite->regle.touches, compose).empty();
     }
     case QEvent::MouseButtonRelease:
@@ -207,14 +208,14 @@ bool Dlg2::TraiterTouche(const Boite& boite, const QKeyEvent& touche) {
         return false;
     const bool plein = boite.regle.largeur > 0 && !boite.champ->hasSelectedText() &&
                        boite.champ->text().size() >= static_cast<int>(boite.regle.largeur);
-    return plein || FiltrerTouches(boite.regle.touches, Gauche(texte.toStdString(), 1)).empty();
+    return plein || FiltrerTouches(boite.regle.touches, Gauche(S(texte), 1)).empty();
 }
 
 // Enter takes a complete locator over; in the other boxes, whose values are taken over as they are
 // typed, it only moves on.
 void Dlg2::Confirmer(const Boite& boite) {
     if (boite.notation == Notation::Locator) {
-        const std::string saisi = boite.champ->text().toStdString();
+        const std::string saisi = S(boite.champ->text());
         if (!LocatorValide(saisi))
             return;
         RetenirLocator(saisi);
@@ -233,9 +234,9 @@ void Dlg2::Choisir(const Boite& boite) {
 void Dlg2::Quitter(const Boite& boite) {
     if (boite.notation != Notation::Locator)
         return;
-    const std::string saisi = boite.champ->text().toStdString();
+    const std::string saisi = S(boite.champ->text());
     if (boite.champ->text().size() < static_cast<int>(kLargeurLocator)) {
-        boite.champ->setText(QString::fromStdString(locator_));
+        boite.champ->setText(Q(locator_));
         AfficherDepuisLocator();
     } else if (locatorEdite_ && LocatorValide(saisi)) {
         // Left without Enter, a complete locator would contradict the coordinates beside it.
@@ -262,7 +263,7 @@ void Dlg2::ChangerDms(const Boite& boite) {
         AfficherEntier(boite.champ, 0, static_cast<int>(boite.regle.largeur));
         boite.champ->selectAll();
     }
-    CalculerDepuisDMS();
+    CalculerDepuisDms();
     const bool complet = boite.champ->text().size() == static_cast<int>(boite.regle.largeur);
     if (!refuse && (complet || EstLettre(boite.regle.touches)))
         boite.suivant->setFocus();
@@ -272,7 +273,7 @@ void Dlg2::ChangerDecimal(const Boite& boite) {
     // Kept on purpose, for the operators: a value out of range is passed over, and the other box
     // goes on from the last one that was in range.
     const bool estLatitude = boite.champ == ui_->Fr1LatCent;
-    const float lu = LireDecimal(boite.champ->text().toStdString());
+    const float lu = LireDecimal(S(boite.champ->text()));
     if (std::abs(lu) >= static_cast<float>(estLatitude ? kLimiteLatitude : kLimiteLongitude))
         return;
     (estLatitude ? latitude_ : longitude_) = lu;
@@ -280,7 +281,7 @@ void Dlg2::ChangerDecimal(const Boite& boite) {
     AfficherDms();
 }
 
-void Dlg2::CalculerDepuisDMS() {
+void Dlg2::CalculerDepuisDms() {
     const auto lire = [](const QLineEdit* degres, const QLineEdit* minutes,
                          const QLineEdit* secondes) {
         return DmsVersDecimal({Entier(degres), Entier(minutes), Entier(secondes)});
@@ -303,8 +304,8 @@ void Dlg2::AfficherDepuisLocator() {
 }
 
 void Dlg2::AfficherDecimal() {
-    ui_->Fr1LatCent->setText(QString::fromStdString(FormaterDecimal(latitude_)));
-    ui_->Fr1LonCent->setText(QString::fromStdString(FormaterDecimal(longitude_)));
+    ui_->Fr1LatCent->setText(Q(FormaterDecimal(latitude_)));
+    ui_->Fr1LonCent->setText(Q(FormaterDecimal(longitude_)));
 }
 
 void Dlg2::AfficherDms() {
@@ -331,7 +332,7 @@ void Dlg2::RetenirLocator(const std::string& nouveau) {
     locator_ = nouveau;
     locatorEdite_ = false;
     modifie_ = true;
-    ui_->Fr1TextLocator->setText(QString::fromStdString(locator_));
+    ui_->Fr1TextLocator->setText(Q(locator_));
 }
 
 } // namespace orvalis

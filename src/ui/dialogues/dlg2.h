@@ -69,7 +69,7 @@ class Dlg2 : public QDialog {
     void ChangerDms(const Boite& boite);
     void ChangerDecimal(const Boite& boite);
 
-    void CalculerDepuisDMS();
+    void CalculerDepuisDms();
     void AfficherDepuisLocator();
     void AfficherDms();
     void AfficherDecimal();
