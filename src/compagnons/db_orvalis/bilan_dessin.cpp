@@ -14,7 +14,7 @@ constexpr std::string_view kPolice = "Arial";
 constexpr Style kGris{9, false, Encre::Gris};
 constexpr Style kPetitGris{8, false, Encre::Gris};
 
-std::string Jours(Jour jour) {
+std::string JourLong(Jour jour) {
     constexpr std::array<std::string_view, 12> kMois = {
         "janvier", "février", "mars",      "avril",   "mai",      "juin",
         "juillet", "août",    "septembre", "octobre", "novembre", "décembre"};
@@ -244,8 +244,9 @@ std::string TitreBilan(const FeuilleBilan& feuille) {
 std::string SousTitreBilan(const FeuilleBilan& feuille) {
     std::string texte = feuille.cahier;
     if (feuille.bilan.premier)
-        texte += ", du " + Jours(*feuille.bilan.premier) + " au " + Jours(*feuille.bilan.dernier);
-    return texte + " – fait le " + Jours(feuille.faitLe);
+        texte +=
+            ", du " + JourLong(*feuille.bilan.premier) + " au " + JourLong(*feuille.bilan.dernier);
+    return texte + " – fait le " + JourLong(feuille.faitLe);
 }
 
 void DessinerPartie(Imprimante& imprimante, const PartieBilan& partie, const BilanCahier& bilan) {

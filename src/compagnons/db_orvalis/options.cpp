@@ -6,42 +6,42 @@ namespace orvalis {
 namespace {
 
 // Which of the two works an option belongs to.
-enum class Travail : unsigned char { Tous, Sortie, Entree };
+enum class Sens : unsigned char { Tous, Sortie, Entree };
 
 struct Option {
     std::string_view nom;
     std::string_view valeur; ///< its name in the help; empty when it takes none
     std::optional<std::string> Options::*place;
     bool Options::*marque;
-    Travail travail;
+    Sens sens;
     bool fait; ///< one of these is what is to be done
     std::string_view aide;
 };
 
 constexpr std::array<Option, 12> kOptions = {{
-    {"--base", "F.sqlite", &Options::base, nullptr, Travail::Sortie, true,
+    {"--base", "F.sqlite", &Options::base, nullptr, Sens::Sortie, true,
      "fait du cahier une base SQLite"},
-    {"--adif", "F.adi", &Options::adif, nullptr, Travail::Sortie, true,
+    {"--adif", "F.adi", &Options::adif, nullptr, Sens::Sortie, true,
      "écrit les contacts dans un fichier ADIF (ADI)"},
-    {"--adx", "F.adx", &Options::adx, nullptr, Travail::Sortie, true,
+    {"--adx", "F.adx", &Options::adx, nullptr, Sens::Sortie, true,
      "écrit les contacts dans un fichier ADIF (ADX)"},
-    {"--bilan", "F.html", &Options::bilan, nullptr, Travail::Sortie, true,
+    {"--bilan", "F.html", &Options::bilan, nullptr, Sens::Sortie, true,
      "fait du cahier une page de chiffres et de graphiques"},
-    {"--cahier", "F.Vek", &Options::cahier, nullptr, Travail::Sortie, false,
+    {"--cahier", "F.Vek", &Options::cahier, nullptr, Sens::Sortie, false,
      "le cahier à lire, au lieu de celui de la station"},
-    {"--indicatif", "I", &Options::indicatif, nullptr, Travail::Sortie, false,
+    {"--indicatif", "I", &Options::indicatif, nullptr, Sens::Sortie, false,
      "l'indicatif de la station, au lieu de celui des paramètres"},
-    {"--importer", "F", &Options::importer, nullptr, Travail::Entree, true,
+    {"--importer", "F", &Options::importer, nullptr, Sens::Entree, true,
      "lit un fichier ADIF (ADI ou ADX)"},
-    {"--vers", "G.Vek", &Options::vers, nullptr, Travail::Entree, false,
+    {"--vers", "G.Vek", &Options::vers, nullptr, Sens::Entree, false,
      "le cahier à faire, et son rapport à côté"},
-    {"--locator", "L", &Options::locator, nullptr, Travail::Entree, false,
+    {"--locator", "L", &Options::locator, nullptr, Sens::Entree, false,
      "le locator de la station, pour les contacts qui ne le disent pas"},
-    {"--remplacer", "", nullptr, &Options::remplacer, Travail::Entree, false,
+    {"--remplacer", "", nullptr, &Options::remplacer, Sens::Entree, false,
      "remplace G.Vek s'il existe"},
-    {"--heures", "utc|locales", &Options::heures, nullptr, Travail::Tous, false,
+    {"--heures", "utc|locales", &Options::heures, nullptr, Sens::Tous, false,
      "les heures du cahier : utc (d'office), locales, ou un fuseau comme Europe/Paris"},
-    {"--help", "", nullptr, &Options::aide, Travail::Tous, true, "montre ces lignes"},
+    {"--help", "", nullptr, &Options::aide, Sens::Tous, true, "montre ces lignes"},
 }};
 
 const Option& Trouver(std::string_view nom) {
@@ -70,8 +70,7 @@ void Controler(const Options& options) {
     if (faire == nullptr)
         throw OptionsRefusees("Rien n'est demandé.");
     for (const Option& option : kOptions)
-        if (Presente(options, option) && option.travail != Travail::Tous &&
-            option.travail != faire->travail)
+        if (Presente(options, option) && option.sens != Sens::Tous && option.sens != faire->sens)
             throw OptionsRefusees("« " + std::string{option.nom} + " » ne va pas avec « " +
                                   std::string{faire->nom} + " ».");
     if (options.importer && !options.vers)
