@@ -80,8 +80,8 @@ struct EtatFeuille {
     Place etiquetteEnCours;     ///< place under edit; none while there is no label
     std::string ligneMemorisee; ///< first text line of the last label validated in this run
     QslSlotRecord tampon;       ///< label last read or written
-    EtiquettesDeFeuille
-        connue; ///< what the screen stands for: as the file was loaded or written last
+    /// What the screen stands for: the labels as the file was loaded or written last.
+    EtiquettesDeFeuille connue;
     VueFeuille vue;
 
     [[nodiscard]] EtatEtiquette Etat(Place place) const { return etats[Rang(place)]; }

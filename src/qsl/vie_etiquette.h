@@ -23,6 +23,7 @@
 
 namespace orvalis {
 
+/// What a procedure of the sheet came to.
 struct ReponseQSL {
     bool fait = false;   ///< the action was carried out
     bool marque = false; ///< MQSL of a contact was written, perhaps that of the one on the card

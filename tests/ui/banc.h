@@ -102,9 +102,10 @@ class SystemeDEssai : public Systeme {
 ///   caché A B         the state of controls: caché, grisé, coché, lecture (for reading only),
 ///                     actif (none of these)
 ///   rouge A           a box whose text is the dark red of an error, selected or not
-///   foyer = A         what has the focus     ligne = 2/25       row chosen, 0 for none, of how
-///   many demandes = a|b    what the system was asked in this step averti = texte    what the
-///   operator was warned of; a warning without this sight is a failure
+///   foyer = A         what has the focus
+///   ligne = 2/25      row chosen, 0 for none, of how many
+///   demandes = a|b    what the system was asked in this step
+///   averti = texte    what the operator was warned of; a warning without this sight is a failure
 /// In what is seen the program folder is "~" and the end of a line "\n".
 class Banc {
   public:

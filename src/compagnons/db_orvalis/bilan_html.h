@@ -10,8 +10,10 @@
 
 namespace orvalis {
 
+/// The page itself; what it holds is escaped and it asks for no other file.
 [[nodiscard]] std::string PageBilan(const FeuilleBilan& feuille);
 
+/// What EcrireBilan is asked for.
 struct DemandeBilan {
     std::filesystem::path cahier; ///< the logbook that is read; its file is never written
     std::filesystem::path cible;

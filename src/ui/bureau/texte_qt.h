@@ -8,10 +8,12 @@
 
 namespace orvalis {
 
+/// Our text for Qt.
 [[nodiscard]] inline QString Q(std::string_view utf8) {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
+/// And back.
 [[nodiscard]] inline std::string S(const QString& texte) {
     return texte.toStdString();
 }

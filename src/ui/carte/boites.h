@@ -64,10 +64,9 @@ enum class Touches {
 
 struct DescriptionBoite {
     Boite boite;
-    std::string_view
-        nomLegende; ///< objectName of the caption above; empty when it shares the last one
-    std::string_view legende; ///< the caption, underscores and blanks included
-    std::size_t longueur;     ///< most characters the box takes
+    std::string_view nomLegende; ///< objectName of the caption above; empty: shares the last one
+    std::string_view legende;    ///< the caption, underscores and blanks included
+    std::size_t longueur;        ///< most characters the box takes
     bool centre;
     Touches touches;
     std::string_view exemple; ///< shown pale in the empty box that is typed in; none: nothing

@@ -19,8 +19,8 @@ enum class VerdictLocator {
 
 /// BtChangValid: `texte`, trimmed and padded to 6 characters, becomes the own locator, and that of
 /// the contact under entry. With `garder` the Settings file in the program folder is rewritten
-/// with it, its two other values as they are in the file; throws Erreur or
-/// Erreur, nothing being changed then.
+/// with it, its two other values as they are in the file; throws Erreur,
+/// nothing being changed then.
 void ChangerLocatorStation(Station& station, Carte& carte, std::string_view texte, bool garder);
 
 } // namespace orvalis

@@ -5,6 +5,7 @@
 
 namespace orvalis {
 
+/// How ChargerParametres came back.
 enum class Demarrage { Pret, Recommencer, Arreter };
 
 /// The first activation of the window: pauses one second and loads the settings, again after the
@@ -14,8 +15,8 @@ bool Demarrer(Plateau& p);
 
 /// Reads the Settings file, opens the logbook it names and shows it (Pret). Without program folder
 /// or Settings file the creation dialog runs first: Recommencer once it has written them, Arreter
-/// when the operator gave up. Throws
-/// Erreur; CahierPerdu, having let go nothing, when the own logbook was open and is lost.
+/// when the operator gave up. Throws Erreur; CahierPerdu, having let go nothing, when the own
+/// logbook was open and is lost.
 [[nodiscard]] Demarrage ChargerParametres(Plateau& p);
 
 /// Fills the window from the open logbook.

@@ -48,7 +48,9 @@ void AfficherFiche(Plateau& p);
 /// The log list takes what the operator does again, unless a panel that wants it quiet is on show.
 void RendreListe(Plateau& p);
 
+/// A paging button. Back selects the first line of the page, forward none.
 void SurBoutonPage(Plateau& p, BoutonPage bouton);
+/// The scroll bar stands at record `valeur`: the list turns to its page.
 void SurDefilement(Plateau& p, std::int32_t valeur);
 /// Returns whether the key moved a page.
 [[nodiscard]] bool SurToucheListe(Plateau& p, ToucheListe touche);
