@@ -1,8 +1,12 @@
 # One interface target carries every compiler flag; nothing else sets any.
 add_library(orvalis_flags INTERFACE)
 target_compile_features(orvalis_flags INTERFACE cxx_std_20)
-target_compile_options(orvalis_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
-                       $<$<BOOL:${ORVALIS_WERROR}>:-Werror>)
+if(MSVC)
+    target_compile_options(orvalis_flags INTERFACE /W4 /utf-8 /permissive- /Zc:__cplusplus)
+else()
+    target_compile_options(orvalis_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+                           $<$<BOOL:${ORVALIS_WERROR}>:-Werror>)
+endif()
 # GCC 12 sees overlapping copies in std::string concatenation where there are none (bug 105651).
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     target_compile_options(orvalis_flags INTERFACE -Wno-restrict)
@@ -29,11 +33,19 @@ if(ORVALIS_HARDENING)
     target_link_options(orvalis_flags INTERFACE -Wl,-z,relro -Wl,-z,now)
 endif()
 
+if(WIN32)
+    # What the headers of the system would define beside what is asked of them.
+    target_compile_definitions(orvalis_flags INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
+    if(NOT ORVALIS_QT AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        target_link_options(orvalis_flags INTERFACE -static) # runs where it was made
+    endif()
+endif()
+
 find_program(CCACHE ccache)
 if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
 endif()
 find_program(LLD ld.lld)
-if(LLD)
+if(LLD AND NOT WIN32)
     target_link_options(orvalis_flags INTERFACE -fuse-ld=lld)
 endif()

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "core/cahier.h"
+#include "core/chemins.h"
 #include "core/station.h"
 
 #include <algorithm>
@@ -14,37 +15,50 @@
 #include <fstream>
 #include <functional>
 #include <gmock/gmock.h>
-#include <linux/capability.h>
 #include <map>
+#include <random>
 #include <sstream>
+#ifndef _WIN32
+#include <linux/capability.h>
 #include <sys/resource.h>
 #include <sys/syscall.h>
 #include <unistd.h>
+#endif
 
 namespace orvalis::aides {
 
-/// A folder that goes with its test.
+/// A folder that goes with its test. On Windows its name has letters of no one code page.
 class Dossier {
   public:
     Dossier() {
-        std::string modele = (std::filesystem::temp_directory_path() / "orvalisXXXXXX").string();
-        chemin_ = ::mkdtemp(modele.data());
+#ifdef _WIN32
+        const std::u8string nom = u8"orvalis-\u00e9\u03a9\u4e2d-";
+#else
+        const std::u8string nom = u8"orvalis";
+#endif
+        do
+            chemin_ = std::filesystem::temp_directory_path() / nom;
+        while (!std::filesystem::create_directory(chemin_ += std::to_string(hasard_())));
     }
     Dossier(const Dossier&) = delete;
     Dossier& operator=(const Dossier&) = delete;
-    ~Dossier() { std::filesystem::remove_all(chemin_); }
+    ~Dossier() {
+        std::filesystem::remove_all(chemin_);
+    }
     [[nodiscard]] std::filesystem::path operator/(const std::string& n) const {
-        return chemin_ / n;
+        return chemin_ / CheminTexte(n);
     }
     std::filesystem::path Poser(const std::string& nom, std::string_view octets) const {
-        std::ofstream(chemin_ / nom, std::ios::binary) << octets;
-        return chemin_ / nom;
+        std::ofstream(*this / nom, std::ios::binary) << octets;
+        return *this / nom;
     }
 
   private:
+    std::random_device hasard_;
     std::filesystem::path chemin_;
 };
 
+#ifndef _WIN32
 /// While one lives, no file of this program grows beyond `taille` bytes, as on a full disk.
 class DisquePlein {
   public:
@@ -79,6 +93,7 @@ class SansPrivileges {
     __user_cap_header_struct tete_ = {_LINUX_CAPABILITY_VERSION_3, 0};
     std::array<__user_cap_data_struct, 2> avant_ = {};
 };
+#endif
 
 inline std::string Lire(const std::filesystem::path& chemin) {
     std::ifstream flux(chemin, std::ios::binary);

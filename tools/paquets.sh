@@ -18,6 +18,14 @@ PAQUETS_FUZZ=(clang-14 libclang-rt-14-dev lld)
 # The pictures of the guide. The look-alike of the labels' handwriting shows on one of them.
 PAQUETS_CAPTURES=(xdotool pngquant optipng poppler-utils fonts-comic-neue
                   python3-dbusmock dbus-daemon)
+# Windows, from this system (tools/windows): the libraries without Qt, their tests, then Qt and the
+# program, then the package and its picture.
+PAQUETS_WINDOWS=(g++-mingw-w64-x86-64-posix cmake ninja-build ccache dpkg-dev make gcc libc6-dev tcl
+                 googletest wine64 wine)
+PAQUETS_WINDOWS_QT=(g++ qt6-base-dev qt6-base-dev-tools qt6-translations-l10n librsvg2-bin icoutils)
+PAQUETS_WINDOWS_ESSAIS=(xvfb xauth x11-utils imagemagick)
+PAQUETS_WINDOWS_PAQUET=(nsis zip unzip python3-markdown)
+PAQUETS_WINDOWS_IMAGE=(fonts-liberation fonts-comic-neue fonts-dejavu-core fonts-open-sans)
 
 # Prints the packages among the arguments that are not installed.
 paquets_absents() {

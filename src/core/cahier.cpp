@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 
 namespace orvalis {
 namespace {
@@ -13,8 +12,10 @@ FichierFiches OuvrirEnEcriture(const std::filesystem::path& chemin, bool lecture
     try {
         return {chemin, ModeFichier::LectureEcriture};
     } catch (const Erreur& echec) {
-        const int raison = echec.code().value();
-        if (!lectureSeulePermise || (raison != EACCES && raison != EROFS && raison != EPERM))
+        const std::error_code& raison = echec.code();
+        if (!lectureSeulePermise ||
+            (raison != std::errc::permission_denied && raison != std::errc::read_only_file_system &&
+             raison != std::errc::operation_not_permitted))
             throw;
         return {chemin, ModeFichier::Lecture};
     }

@@ -1,6 +1,7 @@
 #include "core/creation.h"
 
 #include "core/cahier.h"
+#include "core/chemins.h"
 #include "core/dossier.h"
 #include "core/texte.h"
 #include "geo/locator.h"
@@ -25,7 +26,7 @@ bool CreerCahier(const fs::path& lecteur, const Parametres& parametres) {
         return false;
     FichierFiches fichier(TrouverFichier(dossier, parametres.nomFichier), ModeFichier::Creation);
     if (!fichier.Support().Verrouiller())
-        throw Erreur(NatureErreur::DejaOuvert, dossier / parametres.nomFichier);
+        throw Erreur(NatureErreur::DejaOuvert, dossier / CheminTexte(parametres.nomFichier));
     EcrireParametres(TrouverParametres(dossier), parametres);
     // An existing logbook is not emptied: only its first record becomes the end of the log.
     fichier.Ecrire(kPremiereFiche, FicheFinDeLog(parametres.monLocator));
@@ -40,7 +41,8 @@ CahierDejaLa ContactsDejaLa(const fs::path& lecteur, std::string_view nomFichier
         const fs::path chemin = TrouverFichier(DossierProgramme(lecteur), nomFichier);
         if (!Present(chemin))
             return {};
-        return {chemin.filename().string(), FichierFiches(chemin, ModeFichier::Lecture).Compter()};
+        return {TexteChemin(chemin.filename()),
+                FichierFiches(chemin, ModeFichier::Lecture).Compter()};
     } catch (const std::exception&) {
         return {}; // the creation itself will say what is wrong with it
     }

@@ -1,6 +1,8 @@
 #include "core/dossier.h"
 
+#include "core/chemins.h"
 #include "core/erreurs.h"
+#include "core/noyau.h"
 #include "core/texte.h"
 
 #include <algorithm>
@@ -38,6 +40,13 @@ bool Dedans(const PointDeMontage& point, const std::vector<fs::path>& composants
            (!deux || composants[1] == point.debut[1]);
 }
 
+// The drive, "C:\", that a path begins with; empty where it begins with none.
+std::string LecteurEnTete(std::string_view texte) {
+    const bool present =
+        texte.size() >= 3 && texte[1] == ':' && (texte[2] == '\\' || texte[2] == '/');
+    return std::string(texte.substr(0, present ? 3 : 0));
+}
+
 bool EstAbsence(const std::error_code& erreur) {
     return erreur == std::errc::no_such_file_or_directory || erreur == std::errc::not_a_directory;
 }
@@ -53,9 +62,11 @@ bool Present(const fs::path& chemin) {
 }
 
 fs::path CalculerLecteur(const fs::path& courant, const fs::path& maison) {
-    const std::string texte = courant.string();
-    if (texte.size() >= 3 && texte[1] == ':' && (texte[2] == '\\' || texte[2] == '/'))
-        return texte.substr(0, 3);
+    if (const auto lecteur = LecteurEnTete(TexteChemin(courant)); !lecteur.empty())
+        return CheminTexte(lecteur);
+    // A folder of another computer is on no drive.
+    if (TexteChemin(courant).starts_with("\\\\"))
+        return CheminTexte(LecteurEnTete(TexteChemin(maison)));
     const std::vector<fs::path> composants = Composants(courant);
     for (const PointDeMontage& point : kPointsDeMontage) {
         if (!Dedans(point, composants) || composants.size() < point.profondeur)
@@ -76,26 +87,26 @@ bool EstRacineAmovible(const fs::path& racine) {
 }
 
 std::string TexteLecteur(const fs::path& lecteur) {
-    std::string texte = lecteur.string();
+    std::string texte = TexteChemin(lecteur);
     if (texte.empty() || (texte.back() != '/' && texte.back() != '\\'))
         texte.push_back(static_cast<char>(fs::path::preferred_separator));
     return texte;
 }
 
 fs::path DossierProgramme(const fs::path& lecteur) {
-    return TexteLecteur(lecteur) + std::string{kNomDossier};
+    return CheminTexte(TexteLecteur(lecteur) + std::string{kNomDossier});
 }
 
 fs::path TrouverFichier(const fs::path& dossier, std::string_view nom) {
-    fs::path exact = dossier / fs::path{nom};
-    if (Present(exact))
+    fs::path exact = dossier / CheminTexte(nom);
+    if (Present(exact) && !noyau::kSansCasse)
         return exact;
     std::error_code erreur;
     const std::string cherche = Majuscules(nom);
     fs::path trouve; // not the first that the folder happens to list
     for (auto it = fs::directory_iterator(dossier, erreur);
          !erreur && it != fs::directory_iterator(); it.increment(erreur))
-        if (Majuscules(it->path().filename().string()) == cherche)
+        if (Majuscules(TexteChemin(it->path().filename())) == cherche)
             trouve = std::max(trouve, it->path());
     if (erreur && !EstAbsence(erreur))
         throw Erreur(NatureErreur::LireDossier, dossier, erreur);

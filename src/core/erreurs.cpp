@@ -1,5 +1,8 @@
 #include "core/erreurs.h"
 
+#include "core/chemins.h"
+#include "core/noyau.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -12,22 +15,15 @@ namespace {
 // A line of a message breaks before no mark of punctuation and inside no quotes.
 constexpr std::string_view kDeuxPoints = "\u00a0: ";
 
-struct Raison {
-    int code;
-    std::string_view texte;
-    std::string_view remede = {}; ///< what the operator can do about it
-};
-
 constexpr std::string_view kFaireDeLaPlace = "Libérez de la place ou choisissez un autre disque.";
 constexpr std::string_view kVoirLesDroits =
     "Vérifiez vos droits sur ce fichier et sur son dossier.";
 
-constexpr std::array<Raison, 18> kRaisons = {{
+constexpr std::array kRaisons = std::to_array<noyau::RaisonMotivee>({
     {ENOENT, "le fichier n'existe pas"},
     {EACCES, "l'accès est refusé", kVoirLesDroits},
     {EPERM, "l'opération n'est pas permise", kVoirLesDroits},
     {ENOSPC, "le disque est plein", kFaireDeLaPlace},
-    {EDQUOT, "l'espace disque accordé est épuisé", kFaireDeLaPlace},
     {EIO, "erreur de lecture ou d'écriture du support",
      "Mettez vos fichiers à l'abri sur un autre support."},
     {EROFS, "le support est protégé en écriture",
@@ -43,12 +39,19 @@ constexpr std::array<Raison, 18> kRaisons = {{
     {ENOMEM, "la mémoire est épuisée"},
     {ENODEV, "le support ne permet pas cette opération"},
     {EBUSY, "le fichier est utilisé par un autre programme", "Fermez-le, puis recommencez."},
-}};
+#ifdef EDQUOT
+    {EDQUOT, "l'espace disque accordé est épuisé", kFaireDeLaPlace},
+#endif
+});
 
-const Raison* TrouverRaison(const std::error_code& raison) {
-    const auto* ici = std::find_if(kRaisons.begin(), kRaisons.end(),
-                                   [&](const Raison& r) { return r.code == raison.value(); });
-    return ici == kRaisons.end() ? nullptr : ici;
+const noyau::RaisonMotivee* TrouverRaison(const std::error_code& raison) {
+    const std::error_code commune = noyau::Commune(raison);
+    // What all systems know has one number everywhere; the others are numbers of this one.
+    const std::span<const noyau::RaisonMotivee> raisons =
+        commune.category() == std::generic_category() ? kRaisons : noyau::RaisonsPropres();
+    const auto ici = std::find_if(raisons.begin(), raisons.end(),
+                                  [&](const auto& r) { return r.code == commune.value(); });
+    return ici == raisons.end() ? nullptr : &*ici;
 }
 
 // `objet` is the file, or the printer's name.
@@ -125,7 +128,7 @@ std::string_view Remede(NatureErreur nature, bool nomme, const std::error_code& 
                    ? "Vérifiez-la, ou prenez-en une autre par «\u00a0Configurer imprimante\u00a0»."
                    : "Prenez-en une par «\u00a0Configurer imprimante\u00a0».";
     default:
-        const Raison* connue = TrouverRaison(raison);
+        const noyau::RaisonMotivee* connue = TrouverRaison(raison);
         return connue == nullptr ? std::string_view{} : connue->remede;
     }
 }
@@ -143,8 +146,8 @@ std::string Message(NatureErreur nature, const std::string& objet, const std::er
 
 Erreur::Erreur(NatureErreur nature, std::filesystem::path chemin, std::error_code raison,
                std::string_view suite)
-    : std::runtime_error(Message(nature, chemin.string(), raison, suite)), nature_(nature),
-      chemin_(std::move(chemin)), raison_(raison) {}
+    : std::runtime_error(Message(nature, TexteChemin(chemin), raison, suite)), nature_(nature),
+      chemin_(std::move(chemin)), raison_(noyau::Commune(raison)) {}
 
 Erreur::Erreur(const std::string& imprimante)
     : std::runtime_error(Message(NatureErreur::Imprimer, imprimante, {}, {})),
@@ -167,7 +170,7 @@ Erreur Erreur::Suivie(std::string_view suite) const {
 }
 
 std::string RaisonFrancaise(const std::error_code& raison) {
-    const Raison* connue = TrouverRaison(raison);
+    const noyau::RaisonMotivee* connue = TrouverRaison(raison);
     return connue != nullptr ? std::string{connue->texte}
                              : "erreur n°\u00a0" + std::to_string(raison.value()) + " du système";
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/erreurs.h"
+#include "core/noyau.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -10,12 +11,6 @@
 #include <span>
 
 namespace orvalis {
-
-enum class ModeFichier {
-    Lecture,         ///< must exist; reading only
-    LectureEcriture, ///< must exist
-    Creation         ///< created when missing; an existing file keeps its bytes
-};
 
 /// Owns one open file. Every operation throws Erreur when the system refuses it.
 class Fichier {
@@ -28,9 +23,9 @@ class Fichier {
     Fichier& operator=(const Fichier&) = delete;
     ~Fichier();
 
-    [[nodiscard]] bool EstOuvert() const noexcept { return descripteur_ >= 0; }
+    [[nodiscard]] bool EstOuvert() const noexcept { return poignee_ != noyau::kAucune; }
     [[nodiscard]] const std::filesystem::path& Chemin() const noexcept { return chemin_; }
-    [[nodiscard]] int Descripteur() const noexcept { return descripteur_; }
+    [[nodiscard]] noyau::Poignee Poignee() const noexcept { return poignee_; }
     /// Opened for reading only.
     [[nodiscard]] bool EstProtege() const noexcept { return protege_; }
     void Fermer() noexcept;
@@ -55,13 +50,16 @@ class Fichier {
     void Raccourcir(std::int64_t taille);
     /// Takes the advisory lock that keeps a second program off this file; false when another
     /// holder has it. It goes with the file's closing. A file system that knows no locks counts
-    /// as locked.
+    /// as locked; where opening for writing is the lock, it was taken then, or refused as
+    /// DejaOuvert.
     [[nodiscard]] bool Verrouiller();
     /// True when `autre` is a path to the file that is open here, under whatever name.
     [[nodiscard]] bool EstLeMeme(const std::filesystem::path& autre) const;
 
   private:
-    int descripteur_ = -1;
+    void Exiger(NatureErreur nature, const std::error_code& raison) const;
+
+    noyau::Poignee poignee_ = noyau::kAucune;
     bool protege_ = false;
     bool estLeCahier_ = false;
     std::filesystem::path chemin_;

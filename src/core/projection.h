@@ -6,7 +6,10 @@
 // into the mapping stop anywhere. Here the new bytes lie ready in a page of their own, and the
 // kernel copies them into the mapping in one read of that page, which no signal interrupts; it is
 // also three times faster than a write. Like every write it is in the file at once for every
-// other reader, and on the disk after Fichier::Synchroniser.
+// other reader, and on the disk after Fichier::Synchroniser. That is projection_posix.cpp.
+//
+// On Windows the end of a program waits for a write that is under way, so a piece is one plain
+// write (projection_windows.cpp); the mapping is only read, and a single piece needs none.
 #pragma once
 
 #include "core/fichier.h"
@@ -59,8 +62,8 @@ class Projection {
     const Fichier& fichier_;
     std::size_t taille_;
     char* octets_ = nullptr;
-    int page_ = -1;           ///< the nameless file behind the workshop
-    char* atelier_ = nullptr; ///< its mapping
+    noyau::Poignee page_ = noyau::kAucune; ///< the nameless file behind the workshop
+    char* atelier_ = nullptr;              ///< its mapping
     std::array<char, kPlusGrandePiece> anciens_ = {};
 };
 

@@ -31,7 +31,7 @@ void RemplacerFichier(const fs::path& chemin, std::string_view octets) {
         fs::remove(provisoire, erreur);
         throw Erreur(echec.Nature(), reel, echec.code());
     }
-    fs::rename(provisoire, reel, erreur);
+    noyau::Renommer(provisoire, reel, erreur);
     if (const std::error_code raison = erreur) {
         fs::remove(provisoire, erreur);
         throw Erreur(NatureErreur::Remplacer, reel, raison);

@@ -1,3 +1,4 @@
+#include "core/chemins.h"
 #include "core/texte.h"
 #include "echange/adif_fichiers.h"
 #include "echange/refus.h"
@@ -230,7 +231,7 @@ void LecteurAdx::Lire() {
         if (assez_)
             return;
         if (doctype_)
-            throw RefusEchange("Le fichier « " + fichier_.Chemin().string() +
+            throw RefusEchange("Le fichier « " + TexteChemin(fichier_.Chemin()) +
                                " » définit ses propres entités : il n'est pas lu.");
         if (trop_)
             return Arreter("des éléments trop imbriqués ou trop de noms");

@@ -1,5 +1,6 @@
 #include "echange/base.h"
 
+#include "core/chemins.h"
 #include "core/departements.h"
 #include "echange/exporter.h"
 #include "echange/fichier_neuf.h"
@@ -229,7 +230,7 @@ void RemplirDepartements(BaseOuverte& base) {
 void RemplirSource(BaseOuverte& base, const DemandeBase& demande, const BilanBase& bilan) {
     Requete requete(base, "INSERT INTO source VALUES (?,?,?,?,?,?)");
     std::error_code erreur;
-    const std::string chemin = fs::absolute(demande.cahier, erreur).string();
+    const std::string chemin = TexteChemin(fs::absolute(demande.cahier, erreur));
     requete.Lier(1, chemin);
     requete.Lier(2, static_cast<std::int64_t>(bilan.contacts));
     requete.Lier(3, demande.indicatif);
@@ -243,7 +244,7 @@ void RemplirSource(BaseOuverte& base, const DemandeBase& demande, const BilanBas
 void RefuserAncienne(const fs::path& cible) {
     for (const char* suite : {"-journal", "-wal", "-shm"})
         if (std::error_code erreur; fs::exists(fs::path(cible) += suite, erreur))
-            throw RefusEchange("Un autre programme travaille sur la base « " + cible.string() +
+            throw RefusEchange("Un autre programme travaille sur la base « " + TexteChemin(cible) +
                                " » : fermez-le d'abord.");
     std::error_code erreur;
     if (!fs::is_regular_file(cible, erreur))
@@ -253,7 +254,7 @@ void RefuserAncienne(const fs::path& cible) {
     const Fichier fichier(cible, ModeFichier::Lecture);
     const std::size_t n = fichier.Lire(0, debut);
     if (n > 0 && std::string_view{debut.data(), n} != kDebut)
-        throw RefusEchange("« " + cible.string() +
+        throw RefusEchange("« " + TexteChemin(cible) +
                            " » n'est pas une base : ce fichier n'est pas "
                            "remplacé.");
 }

@@ -1,5 +1,6 @@
 #include "echange/exporter.h"
 
+#include "core/chemins.h"
 #include "core/texte.h"
 #include "echange/fichier_neuf.h"
 #include "echange/lettres.h"
@@ -18,7 +19,7 @@ fs::path Reel(const fs::path& chemin) {
 }
 
 std::string NomSansCasse(const fs::path& chemin) {
-    return Majuscules(chemin.filename().string());
+    return Majuscules(TexteChemin(chemin.filename()));
 }
 } // namespace
 
@@ -40,9 +41,10 @@ bool PrendUnePlace(const fs::path& cible, std::span<const fs::path> proteges) {
 void RefuserCible(const fs::path& cible, std::span<const fs::path> proteges) {
     std::error_code erreur;
     const fs::path reelle = fs::weakly_canonical(cible, erreur);
-    if (PrendUnePlace(cible, proteges) || MajusculesAscii(cible.extension().string()) == ".VEK" ||
-        MajusculesAscii(reelle.extension().string()) == ".VEK")
-        throw RefusEchange("« " + cible.string() +
+    if (PrendUnePlace(cible, proteges) ||
+        MajusculesAscii(TexteChemin(cible.extension())) == ".VEK" ||
+        MajusculesAscii(TexteChemin(reelle.extension())) == ".VEK")
+        throw RefusEchange("« " + TexteChemin(cible) +
                            " » est un fichier d'Orvalis : il n'est pas remplacé.");
 }
 

@@ -1,5 +1,6 @@
 #include "echange/fichier_neuf.h"
 
+#include "core/chemins.h"
 #include "echange/refus.h"
 
 #include <random>
@@ -25,7 +26,7 @@ fs::path NomProvisoire(const fs::path& cible) {
 }
 
 RefusEchange ExisteDeja(const fs::path& cible) {
-    return RefusEchange("Le fichier « " + cible.string() + " » existe déjà.");
+    return RefusEchange("Le fichier « " + TexteChemin(cible) + " » existe déjà.");
 }
 
 } // namespace
@@ -37,7 +38,7 @@ PlaceNeuve::PlaceNeuve(const fs::path& cible, Ancien ancien)
     if (fs::exists(etat) && ancien == Ancien::Protege)
         throw ExisteDeja(cible);
     if (fs::exists(etat) && !fs::is_regular_file(etat))
-        throw RefusEchange("« " + cible.string() + " » n'est pas un fichier ordinaire.");
+        throw RefusEchange("« " + TexteChemin(cible) + " » n'est pas un fichier ordinaire.");
     provisoire_ = NomProvisoire(cible_);
 }
 
@@ -58,7 +59,7 @@ void PlaceNeuve::Prendre() {
         if (erreur == std::errc::file_exists || fs::exists(fs::symlink_status(cible_, erreur)))
             throw ExisteDeja(cible_);
     }
-    fs::rename(provisoire_, cible_, erreur);
+    noyau::Renommer(provisoire_, cible_, erreur);
     if (erreur)
         throw Erreur(NatureErreur::Remplacer, cible_, erreur);
     prise_ = true;

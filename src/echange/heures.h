@@ -2,6 +2,7 @@
 #pragma once
 
 #include "echange/sens.h"
+#include "echange/zone_systeme.h"
 
 #include <chrono>
 #include <optional>
@@ -29,9 +30,8 @@ using Seconde = std::chrono::sys_seconds;
 [[nodiscard]] std::string EcrireInstantAdif(Seconde instant);
 [[nodiscard]] std::string EcrireInstantIso(Seconde instant);
 
-/// What the logbook's hours are. The time zones are those of the system's C library, which knows
-/// them by the process's environment: while an object with a zone lives, the environment names it,
-/// so there is one at a time, and no other thread that asks for the time.
+/// What the logbook's hours are. The time zones are those of the system: while an object with a
+/// zone lives, there is one at a time, and no other thread that asks for the time (ZoneSysteme).
 class Fuseau {
   public:
     /// UTC: nothing is converted.
@@ -39,9 +39,6 @@ class Fuseau {
     /// The zone of that name ("Europe/Paris"), the system's own for an empty name. Throws
     /// RefusEchange when there is none such.
     explicit Fuseau(std::string_view nom);
-    Fuseau(const Fuseau&) = delete;
-    Fuseau& operator=(const Fuseau&) = delete;
-    ~Fuseau();
 
     /// Of an hour that comes twice the first (summer time) is meant; an hour that is skipped counts
     /// as if the clock had not been put forward yet.
@@ -49,9 +46,7 @@ class Fuseau {
     [[nodiscard]] Moment DepuisUtc(Moment utc) const;
 
   private:
-    bool converti_ = false;
-    bool nomme_ = false;               ///< the environment's zone was set
-    std::optional<std::string> avant_; ///< what it was before
+    std::optional<ZoneSysteme> zone_;
 };
 
 } // namespace orvalis

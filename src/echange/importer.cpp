@@ -1,5 +1,6 @@
 #include "echange/importer.h"
 
+#include "core/chemins.h"
 #include "core/fichier_fiches.h"
 #include "echange/adif_fichiers.h"
 #include "echange/entree.h"
@@ -178,7 +179,7 @@ void Lire(const DemandeImport& demande, Importateur& importateur) {
     Lire(fichier, lecture, importateur);
     const BilanImport& bilan = importateur.Bilan();
     if (bilan.lus == 0)
-        throw RefusEchange("Il n'y a pas de contact dans « " + demande.source.string() + " »." +
+        throw RefusEchange("Il n'y a pas de contact dans « " + TexteChemin(demande.source) + " »." +
                            importateur.PremierIncident());
     if (bilan.locatorsSupposes > 0 && importateur.Locator().empty())
         throw RefusEchange("Les contacts ne disent pas le locator de la station : il faut le "
@@ -186,10 +187,10 @@ void Lire(const DemandeImport& demande, Importateur& importateur) {
 }
 
 void RefuserLaCible(const DemandeImport& demande) {
-    const std::string nom = "« " + demande.cible.string() + " »";
+    const std::string nom = "« " + TexteChemin(demande.cible) + " »";
     const fs::path rapport = CheminRapport(demande.cible);
     for (const fs::path& place : {demande.cible, rapport}) {
-        const std::string sonNom = "« " + place.string() + " »";
+        const std::string sonNom = "« " + TexteChemin(place) + " »";
         if (PrendUnePlace(place, demande.proteges))
             throw RefusEchange(sonNom + " est un fichier de la station : l'importation fait un "
                                         "second cahier, à jumeler ensuite.");
@@ -197,7 +198,7 @@ void RefuserLaCible(const DemandeImport& demande) {
             throw RefusEchange(sonNom + " est le fichier à lire.");
     }
     if (MemeFichier(rapport, demande.cible))
-        throw RefusEchange("« " + rapport.string() +
+        throw RefusEchange("« " + TexteChemin(rapport) +
                            " », la place du rapport, est le cahier à faire.");
     std::error_code erreur;
     if (fs::exists(fs::symlink_status(demande.cible, erreur)) && demande.ancien == Ancien::Protege)

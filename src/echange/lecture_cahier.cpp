@@ -1,5 +1,6 @@
 #include "echange/lecture_cahier.h"
 
+#include "core/chemins.h"
 #include "core/fichier_fiches.h"
 #include "echange/refus.h"
 
@@ -37,7 +38,8 @@ CahierLu Charger(const std::filesystem::path& chemin) {
     };
     CahierLu lu = Parcourir(chemin, prevoir, [&](std::span<const QsoRecord> bloc) {
         if (fiches.size() + bloc.size() > kContactsMax)
-            throw RefusEchange("« " + chemin.string() + " » a trop de contacts pour un cahier.");
+            throw RefusEchange("« " + TexteChemin(chemin) +
+                               " » a trop de contacts pour un cahier.");
         fiches.insert(fiches.end(), bloc.begin(), bloc.end());
         return true;
     });
@@ -79,7 +81,7 @@ CahierLu LireCahierEntier(const std::filesystem::path& chemin, const Patience& p
         if (EstEncore(chemin, lu))
             return lu;
         if (!patience.encore())
-            throw RefusEchange("Le cahier « " + chemin.string() +
+            throw RefusEchange("Le cahier « " + TexteChemin(chemin) +
                                " » est en train d'être réécrit : recommencez plus tard.");
     }
 }

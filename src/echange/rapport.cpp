@@ -1,5 +1,6 @@
 #include "echange/rapport.h"
 
+#include "core/chemins.h"
 #include "core/texte.h"
 
 #include <algorithm>
@@ -51,8 +52,8 @@ std::span<const CompteImport> ComptesImport() {
 Rapport::Rapport(const DemandeImport& demande, const std::filesystem::path& chemin)
     : fichier_(chemin, demande.ancien) {
     const std::string titre =
-        "Importation dans un cahier Orvalis\n\nFichier lu : " + demande.source.string() +
-        "\nCahier fait : " + demande.cible.string() + "\n\n";
+        "Importation dans un cahier Orvalis\n\nFichier lu : " + TexteChemin(demande.source) +
+        "\nCahier fait : " + TexteChemin(demande.cible) + "\n\n";
     comptes_ = static_cast<std::int64_t>(titre.size());
     fichier_.Ecrire(titre);
     fichier_.Ecrire(Comptes({}));

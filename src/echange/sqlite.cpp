@@ -1,13 +1,21 @@
 #include "echange/sqlite.h"
 
+#include "core/chemins.h"
 #include "core/erreurs.h"
 
-#include <cerrno>
 #include <sqlite3.h>
 #include <stdexcept>
 #include <utility>
 
 namespace orvalis {
+namespace {
+
+// The number of the system's last refusal: errno, or Windows's own.
+std::error_code RaisonDuSysteme(sqlite3* base) {
+    return {sqlite3_system_errno(base), std::system_category()};
+}
+
+} // namespace
 
 void BaseOuverte::Fermeture::operator()(sqlite3* base) const {
     sqlite3_close_v2(base);
@@ -16,24 +24,23 @@ void BaseOuverte::Fermeture::operator()(sqlite3* base) const {
 BaseOuverte::BaseOuverte(const std::filesystem::path& chemin, std::filesystem::path nom)
     : nom_(std::move(nom)) {
     sqlite3* base = nullptr;
-    const int code = sqlite3_open_v2(chemin.string().c_str(), &base,
+    const int code = sqlite3_open_v2(TexteChemin(chemin).c_str(), &base,
                                      SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
     base_.reset(base);
     if (base == nullptr)
         throw std::bad_alloc();
     if (code != SQLITE_OK)
-        throw Erreur(NatureErreur::Creer, nom_,
-                     {sqlite3_system_errno(base), std::generic_category()});
+        throw Erreur(NatureErreur::Creer, nom_, RaisonDuSysteme(base));
 }
 
 void BaseOuverte::Echouer() const {
     const int code = sqlite3_errcode(base_.get());
-    int raison = sqlite3_system_errno(base_.get());
+    std::error_code raison = RaisonDuSysteme(base_.get());
     if (code == SQLITE_FULL)
-        raison = ENOSPC;
+        raison = std::make_error_code(std::errc::no_space_on_device);
     if (code == SQLITE_FULL || code == SQLITE_IOERR || code == SQLITE_CANTOPEN)
         throw Erreur(NatureErreur::Ecrire, nom_,
-                     {raison == 0 ? EIO : raison, std::generic_category()});
+                     raison ? raison : std::make_error_code(std::errc::io_error));
     throw std::runtime_error(sqlite3_errmsg(base_.get()));
 }
 

@@ -1,5 +1,6 @@
 #include "maint/ouverture.h"
 
+#include "core/chemins.h"
 #include "core/texte.h"
 #include "geo/locator.h"
 
@@ -10,7 +11,7 @@ namespace orvalis {
 
 std::string NomAutreCahier(const std::filesystem::path& chemin) {
     constexpr std::size_t kExtension = 4;
-    const std::string titre = chemin.filename().string();
+    const std::string titre = TexteChemin(chemin.filename());
     const std::size_t n = Longueur(titre);
     return std::string{n > kExtension ? Gauche(titre, n - kExtension) : titre};
 }

@@ -1,5 +1,6 @@
 #include "maint/sauvegardes.h"
 
+#include "core/chemins.h"
 #include "core/dossier.h"
 #include "core/fichier_fiches.h"
 #include "core/texte.h"
@@ -13,10 +14,10 @@ namespace fs = std::filesystem;
 namespace {
 
 bool EstUneSauvegardeDe(const fs::path& chemin, const fs::path& cahier) {
-    const std::string nom = Majuscules(chemin.stem().string());
-    const std::string voulu = Majuscules(cahier.stem().string());
+    const std::string nom = Majuscules(TexteChemin(chemin.stem()));
+    const std::string voulu = Majuscules(TexteChemin(cahier.stem()));
     if (!nom.starts_with(voulu) ||
-        Majuscules(chemin.extension().string()) != Majuscules(cahier.extension().string()))
+        Majuscules(TexteChemin(chemin.extension())) != Majuscules(TexteChemin(cahier.extension())))
         return false;
     return nom.size() == voulu.size() ||
            std::isalnum(static_cast<unsigned char>(nom[voulu.size()])) == 0;
@@ -27,7 +28,7 @@ bool EstUneSauvegardeDe(const fs::path& chemin, const fs::path& cahier) {
 std::optional<Sauvegarde> DerniereSauvegarde(const fs::path& lecteur, std::string_view nom,
                                              const std::optional<Sauvegarde>& connue) {
     const fs::path dossier = TrouverFichier(DossierProgramme(lecteur), kNomSauvegardes);
-    const fs::path cahier{nom};
+    const fs::path cahier = CheminTexte(nom);
     std::optional<Sauvegarde> derniere;
     std::error_code raison;
     for (const fs::directory_entry& entree : fs::directory_iterator(dossier, raison)) {

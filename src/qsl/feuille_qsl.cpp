@@ -1,5 +1,6 @@
 #include "qsl/feuille_qsl.h"
 
+#include "core/chemins.h"
 #include "core/dossier.h"
 #include "core/projection.h"
 #include "core/remplacement.h"
@@ -130,7 +131,7 @@ bool OuvrirFeuilleQSL(FeuilleQSL& feuille) {
     const bool manque = Manque(feuille.chemin);
     if (manque)
         CreerFeuille(feuille.chemin);
-    feuille.fichier = Fichier(feuille.chemin, ModeFichier::LectureEcriture);
+    feuille.fichier = Fichier(feuille.chemin, ModeFichier::Partage);
     return manque;
 }
 
@@ -154,7 +155,7 @@ std::string SuivreFeuille(FeuilleQSL& feuille) {
     const std::string disparues = Disparues(feuille.connue, etiquettes);
     MontrerEtiquettes(feuille, etiquettes);
     feuille.vue.restaurer = false;
-    return "La feuille d'étiquettes «\u00A0" + feuille.chemin.string() +
+    return "La feuille d'étiquettes «\u00A0" + TexteChemin(feuille.chemin) +
            (neuve ? "\u00A0» avait disparu\u00A0: en voici une neuve."
                   : "\u00A0» a été changée par un autre programme\u00A0: la voici telle qu'elle "
                     "est.") +

@@ -22,17 +22,19 @@ TEST(Erreurs, PhrasesPourLOperateur) {
         {Lire, EIO,
          "de lire le fichier « é » : erreur de lecture ou d'écriture du support. Mettez vos "
          "fichiers à l'abri sur un autre support."},
+#ifndef _WIN32
         {Synchroniser, EDQUOT,
          "d'écrire dans le fichier « é » : l'espace disque accordé est épuisé. Libérez de la "
          "place ou choisissez un autre disque."},
         {Verrouiller, ENOTEMPTY, "de réserver le fichier « é » : erreur n° 39 du système."},
+#endif
         {CreerDossier, ENOENT, "de créer le dossier « é » : le dossier n'existe pas."},
         {LireDossier, EMFILE, "de lire le dossier « é » : trop de fichiers sont ouverts."},
         {Remplacer, EROFS,
          "de remplacer le fichier « é » : le support est protégé en écriture. Déverrouillez-le ou "
          "choisissez un autre support."}};
     for (const auto& [nature, code, phrase] : cas) {
-        const Erreur erreur(nature, "é", Systeme(code));
+        const Erreur erreur(nature, CheminTexte("é"), Systeme(code));
         EXPECT_EQ(MessageErreur(erreur), std::string{"Impossible "} + phrase);
         EXPECT_EQ(erreur.code(), Systeme(code));
         EXPECT_FALSE(erreur.ConcerneLeCahier()) << phrase;
@@ -59,7 +61,9 @@ TEST(Erreurs, SeulLeCahierOuvertEstEnCause) {
     const Cahier autreProgramme = Ouvrir(dossier.Poser("P.Vek", Fin()));
     EXPECT_THAT([&] { OuvrirCahier(cahier, dossier / "absent.Vek"); }, Concerne(false));
     EXPECT_THAT([&] { OuvrirCahier(cahier, dossier / "P.Vek"); }, Concerne(false));
+#ifndef _WIN32
     EXPECT_THAT([&] { CopierCahier(cahier, MaStation(), "/dev/full"); }, Concerne(false));
+#endif
     EXPECT_NO_THROW(CompterFiches(cahier));
 
     // Paired from a file that is there, into a logbook that may not be written.
@@ -70,12 +74,14 @@ TEST(Erreurs, SeulLeCahierOuvertEstEnCause) {
     EXPECT_THAT([&] { JumelerCahier(protege, MaStation(), notre); }, Concerne(true));
     EXPECT_THAT([&] { JumelerCahier(protege, MaStation(), dossier / "rien"); }, Concerne(false));
 
+#ifndef _WIN32
     // Something else has taken the place of the open file, under its name.
     std::filesystem::remove(notre);
     std::filesystem::create_directory(notre);
     EXPECT_NO_THROW(CompterFiches(cahier));
     EXPECT_THROW(OuvrirCahier(cahier, notre), CahierPerdu);
     EXPECT_THAT([&] { OuvrirCahier(cahier, dossier / "absent.Vek"); }, Concerne(false));
+#endif
 
     // The open logbook itself, wherever its object has moved.
     const FichierFiches ailleurs = std::move(cahier.fichier);

@@ -53,7 +53,7 @@ TEST(Projection, FichierRaccourciParUnAutre) {
         fichier.DevenirLeCahier();
         Projection projection(fichier, kTaille);
         Remplir(projection, 'b');
-        ASSERT_EQ(::ftruncate(fichier.Descripteur(), static_cast<off_t>(reste)), 0);
+        ASSERT_EQ(::ftruncate(static_cast<int>(fichier.Poignee()), static_cast<off_t>(reste)), 0);
         EXPECT_THAT([&] { projection.Remplacer(kIci, kPiece); },
                     testing::Throws<Erreur>(testing::Property(&Erreur::ConcerneLeCahier, true)));
         projection.Amener(0);

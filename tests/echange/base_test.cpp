@@ -1,4 +1,5 @@
 // The base, asked in SQL; and the numbers of a logbook beside what SQL says of them.
+#include "core/chemins.h"
 #include "echange/aides_echange.h"
 #include "echange/base.h"
 #include "echange/bilan.h"
@@ -48,7 +49,7 @@ TEST(Base, CeQueLesFichesVeulentDire) {
     const BilanBase bilan = FaireBase({cahier, cible, "F5ABC", {}, "2026-11-21 18:31:25"});
     EXPECT_EQ(bilan.contacts, fiches.size());
     sqlite3* base = nullptr;
-    ASSERT_EQ(sqlite3_open(cible.c_str(), &base), SQLITE_OK);
+    ASSERT_EQ(sqlite3_open(TexteChemin(cible).c_str(), &base), SQLITE_OK);
     const Textes questions = {
         {"SELECT date,debut,fin,annee,hertz,bande,mode_adif,sous_mode FROM qso",
          "1960-01-09|10:00|-|1960|7085000|40m|SSB|USB & 2059-12-31|-|-|2059|-|20m|OLIVIA|- & "
@@ -120,7 +121,7 @@ TEST(Bilan, ChaqueNombreCommeEnSql) {
     const auto cible = dossier / "S.sqlite";
     static_cast<void>(FaireBase({dossier.Poser("S.Vek", octets + Fin()), cible, "", {}, ""}));
     sqlite3* base = nullptr;
-    ASSERT_EQ(sqlite3_open(cible.c_str(), &base), SQLITE_OK);
+    ASSERT_EQ(sqlite3_open(TexteChemin(cible).c_str(), &base), SQLITE_OK);
 
     const BilanCahier b = FaireBilan(fiches);
     const auto compte = [](const ComptePar& c) { return Cases(c.nom, c.contacts); };

@@ -4,8 +4,6 @@
 #include "echange/lecture_cahier.h"
 #include "echange/refus.h"
 
-#include <sys/file.h>
-
 namespace orvalis::aides {
 namespace {
 
@@ -169,6 +167,7 @@ TEST(LectureCahier, JusquaCeQueDeuxLecturesSAccordent) {
     EXPECT_EQ(attentes, 5);
 }
 
+#ifndef _WIN32
 // Command lines in a station's folder -> what is answered, and the files that are other than
 // before.
 TEST(DbOrvalis, Commandes) {
@@ -258,8 +257,8 @@ TEST(DbOrvalis, Commandes) {
             return tous;
         };
         const auto dabord = fichiers();
-        const Fichier ouvert(dossier / "pris.Vek", ModeFichier::LectureEcriture);
-        ASSERT_EQ(::flock(ouvert.Descripteur(), LOCK_EX), 0);
+        Fichier ouvert(dossier / "pris.Vek", ModeFichier::LectureEcriture);
+        ASSERT_TRUE(ouvert.Verrouiller());
 
         fs::current_path(dossier / "");
         const auto mots = Couper(ligne, " ");
@@ -281,6 +280,7 @@ TEST(DbOrvalis, Commandes) {
         EXPECT_EQ(autres, attendu) << ligne << messages.str();
     }
 }
+#endif
 
 } // namespace
 } // namespace orvalis::aides

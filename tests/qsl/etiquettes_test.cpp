@@ -149,7 +149,9 @@ TEST(FeuilleQSL, UneFeuilleAbimeeGardeSesOctets) {
         EXPECT_EQ(EtiquettesAImprimer(service.feuille).size(), attendu);
         EXPECT_EQ(service.OctetsFeuille(), octets.empty() ? Feuille("") : octets);
         EXPECT_EQ(service.feuille.boites[kBoiteIndicatif], octets.empty() ? "***" : "");
+#ifndef _WIN32
         EXPECT_FALSE(std::filesystem::exists(service.dossier / "FeuilleQSL.txt"));
+#endif
     }
 }
 
@@ -258,6 +260,7 @@ TEST(FluxEtiquettes, ContactDUneEtiquetteImprimee) {
 }
 
 // What another program does to the sheet is seen before a place is touched.
+#ifndef _WIN32 // where a name is free only once nobody has the file open
 TEST(FluxEtiquettes, UneFeuilleChangeeDehorsEstMontreeEtDite) {
     Essayer("", R"(
  opened : F18h | | dehors 1 Z01h; montrer -> F18h | Z01h | panneau quitter imprimer "N° 2"
@@ -288,6 +291,7 @@ TEST(FluxEtiquettes, UneFeuilleChangeeDehorsEstMontreeEtDite) {
                                   "étiquettes imprimées restent à contrôler."));
     EXPECT_EQ(Lire(service.cahier.chemin), Fiches("F18h E") + Fin());
 }
+#endif
 
 // The program was killed after the label was written, before its contact was marked.
 TEST(FluxEtiquettes, UnContactSansMarqueRecoitSaSeuleMarque) {
@@ -307,6 +311,7 @@ TEST(FluxEtiquettes, UnContactSansMarqueRecoitSaSeuleMarque) {
     EXPECT_TRUE(clic.reponse.marque);
 }
 
+#ifndef _WIN32 // where no other program can write into an open logbook
 TEST(FluxEtiquettes, UnContactChangeDepuisLaRechercheResteTelQuel) {
     ServiceQSL service(Fiches("F18h E"), "");
     QslSlotRecord cherchee;
@@ -316,6 +321,7 @@ TEST(FluxEtiquettes, UnContactChangeDepuisLaRechercheResteTelQuel) {
     EXPECT_FALSE(MarquerContact(service.cahier, trouve, "J"));
     EXPECT_EQ(Lire(service.cahier.chemin), Fiches("P18h E") + Fin());
 }
+#endif
 
 TEST(FluxEtiquettes, LaFeuilleSeRemplit) {
     const std::string z = Etiquettes("Z01h");

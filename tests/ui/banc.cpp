@@ -111,7 +111,11 @@ std::string Banc::Texte(const std::string& nom) const {
                     : nom == "averti"                  ? systeme.avertissements.join('|'_L1)
                     : nom == "ligne" ? u"%1/%2"_s.arg(liste->currentRow() + 1).arg(liste->count())
                                      : TexteDe(*Controle<QObject>(nom));
-    return S(texte.replace(Q(Dossier().string()), u"~"_s).replace('\n'_L1, u"\\n"_s));
+    texte.replace(Q(TexteChemin(Dossier())), u"~"_s);
+#ifdef _WIN32
+    texte.replace(u'\\', u'/');
+#endif
+    return S(texte.replace('\n'_L1, u"\\n"_s));
 }
 
 std::string Banc::Etat(const std::string& nom) const {

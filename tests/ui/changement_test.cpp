@@ -155,6 +155,7 @@ TEST(Changement, UnClassementSArrete) {
     }
 }
 
+#ifndef _WIN32
 TEST(Changement, UnDisquePleinFaitNoterLeContact) {
     Banc banc(Contacts(3) + kFin);
     // The manager is that of the contact before: what is stored holds it, and no box shows it.
@@ -172,5 +173,6 @@ TEST(Changement, UnDisquePleinFaitNoterLeContact) {
     EXPECT_EQ(banc.systeme.codeDeFin, 1);
     EXPECT_EQ(banc.OctetsCahier(), Contacts(3) + kNouveau + kFin);
 }
+#endif
 
 } // namespace orvalis::operateur::changement

@@ -88,6 +88,7 @@ TEST(Maintenance, ErreursDesAutresFichiersSeDisentSansRienPerdre) {
     EXPECT_FALSE(banc.systeme.codeDeFin);
 }
 
+#ifndef _WIN32
 TEST(Maintenance, UnCahierProtegeNeSeClassePas) {
     Banc banc(Contacts(3) + Fin());
     const std::string octets = Contacts(60).substr(30 * kTailleFiche) + Contacts(30) + Fin();
@@ -101,5 +102,6 @@ TEST(Maintenance, UnCahierProtegeNeSeClassePas) {
     EXPECT_EQ(banc.Lire("F6XYZ.Vek"), octets);
     EXPECT_FALSE(banc.systeme.codeDeFin);
 }
+#endif
 
 } // namespace orvalis::operateur::maintenance

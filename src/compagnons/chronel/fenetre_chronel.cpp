@@ -78,6 +78,7 @@ void FenetreChronel::Brancher() {
     connect(&service_, &ServiceHeure::Repondu, this, &FenetreChronel::RevenirAuFoyer);
     connect(ui_->ChkReseau, &QCheckBox::clicked, this, &FenetreChronel::ChangerReseau);
     connect(ui_->BtRegler, &QPushButton::clicked, this, &FenetreChronel::ReglerALaMain);
+    connect(ui_->BtPage, &QPushButton::clicked, &service_, &ServiceHeure::OuvrirPage);
     connect(ui_->BtFermer, &QPushButton::clicked, this, &QWidget::close);
     connect(ui_->TxtDate, &QLineEdit::returnPressed, ui_->TxtHeure, [this] {
         ui_->TxtHeure->setFocus();
@@ -111,6 +112,9 @@ void FenetreChronel::Battre() {
 void FenetreChronel::Montrer() {
     const VueChronel vue = VoirChronel(etat_);
     ui_->LabEtat->setText(Q(vue.etat));
+    ui_->BtPage->setVisible(vue.page);
+    ui_->ChkReseau->setHidden(vue.page);
+    ui_->GrpMain->setHidden(vue.page);
     ui_->ChkReseau->setEnabled(vue.interrupteur);
     ui_->ChkReseau->setChecked(vue.coche);
     for (QWidget* saisie :

@@ -1,13 +1,12 @@
 #include "compagnons/chronel/fenetre_chronel.h"
+#include "ui/bureau/icone.h"
 #include "ui/widgets/application.h"
-
-#include <QIcon>
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QTranslator francais;
     orvalis::PreparerApplication(QStringLiteral("Chronel"), francais);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/orvalis.svg")));
+    QApplication::setWindowIcon(orvalis::IconeProgramme());
     orvalis::FenetreChronel fenetre;
     fenetre.show();
     fenetre.activateWindow();

@@ -1,3 +1,5 @@
+#ifndef _WIN32
+
 #include "compagnons/chronel/service_heure.h"
 
 #include "ui/bureau/texte_qt.h"
@@ -110,6 +112,10 @@ void ServiceHeure::Regler(std::chrono::microseconds ecart) {
                                             {static_cast<qlonglong>(ecart.count()), true, true}));
 }
 
+void ServiceHeure::OuvrirPage() {
+    // The service is all there is.
+}
+
 void ServiceHeure::Envoyer(Demande demande, const QDBusMessage& message) {
     // The operator may take as long as it pleases to find the password.
     constexpr int kSansLimite = std::numeric_limits<int>::max();
@@ -128,3 +134,5 @@ void ServiceHeure::Envoyer(Demande demande, const QDBusMessage& message) {
 }
 
 } // namespace orvalis
+
+#endif

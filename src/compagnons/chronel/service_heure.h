@@ -1,11 +1,14 @@
-// The service of the system that keeps the time (org.freedesktop.timedate1), on the system bus.
+// The service of the system that keeps the time (org.freedesktop.timedate1), on the system bus; on
+// Windows the page of the system's settings (service_heure_windows.cpp).
 #pragma once
 
 #include "compagnons/chronel/regles/etat_service.h"
 
+#include <QObject>
+#ifndef _WIN32
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QObject>
+#endif
 
 #include <chrono>
 
@@ -13,8 +16,10 @@ class QDBusPendingCall;
 
 namespace orvalis {
 
+#ifndef _WIN32
 /// What is asked of the service's own interface; the system may put its question to the operator.
 [[nodiscard]] QDBusMessage MessageDemande(const QString& methode, const QVariantList& arguments);
+#endif
 
 class ServiceHeure : public QObject {
     Q_OBJECT
@@ -29,6 +34,8 @@ class ServiceHeure : public QObject {
     /// Moves the clock by `ecart`. It is a difference that is asked for, and not a time: however
     /// long the question of the permission stands there, none of that is lost.
     void Regler(std::chrono::microseconds ecart);
+    /// Opens the page that sets the clock, where there is one.
+    void OuvrirPage();
 
   Q_SIGNALS:
     /// The state is no longer what it was.
@@ -40,14 +47,16 @@ class ServiceHeure : public QObject {
     void ProprietesChangees();
 
   private:
+    EtatService& etat_;
+#ifndef _WIN32
     void Brancher();
     void Apprendre(const QDBusPendingCall& reponse);
     void Envoyer(Demande demande, const QDBusMessage& message);
 
-    EtatService& etat_;
     QDBusConnection bus_;
     bool lecture_ = false; ///< asked how things stand, not answered yet
     bool encore_ = false;  ///< and to be asked again after that
+#endif
 };
 
 } // namespace orvalis

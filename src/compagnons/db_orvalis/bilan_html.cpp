@@ -1,6 +1,7 @@
 #include "compagnons/db_orvalis/bilan_html.h"
 
 #include "compagnons/db_orvalis/imprimante_svg.h"
+#include "core/chemins.h"
 #include "echange/fichier_neuf.h"
 
 #include <algorithm>
@@ -80,7 +81,7 @@ BilanExport EcrireBilan(const DemandeBilan& demande) {
     const CahierLu cahier = LireCahierEntier(demande.cahier);
     FichierNeuf fichier(demande.cible, Ancien::Remplace);
     const FeuilleBilan feuille{FaireBilan(cahier.fiches), demande.indicatif,
-                               demande.cahier.filename().string(), demande.faitLe};
+                               TexteChemin(demande.cahier.filename()), demande.faitLe};
     fichier.Ecrire(PageBilan(feuille));
     fichier.Terminer();
     return {feuille.bilan.contacts, feuille.bilan.datesIllisibles.size(), cahier.finPresente,

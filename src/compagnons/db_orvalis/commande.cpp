@@ -4,6 +4,7 @@
 #include "compagnons/db_orvalis/options.h"
 #include "compagnons/db_orvalis/phrases.h"
 #include "compagnons/db_orvalis/station_lue.h"
+#include "core/chemins.h"
 #include "core/erreurs.h"
 #include "core/texte.h"
 #include "echange/base.h"
@@ -49,7 +50,7 @@ Origine ChoisirOrigine(const Options& options, const Alentours& alentours) {
         throw RefusEchange(
             "Aucun cahier de la station n'est trouvé\u00A0: donnez-en un par --cahier.");
     Origine origine;
-    origine.cahier = options.cahier ? fs::path{*options.cahier} : station->cahier;
+    origine.cahier = options.cahier ? CheminTexte(*options.cahier) : station->cahier;
     origine.proteges = FichiersDe(station);
     origine.indicatif = options.indicatif ? Majuscules(Rogner(*options.indicatif))
                                           : IndicatifDe(station, origine.cahier);
@@ -63,7 +64,7 @@ Retour Conclure(const Alentours& alentours, const Constat& constat) {
 
 Retour Exporter(const Options& options, const Alentours& alentours) {
     const Origine origine = ChoisirOrigine(options, alentours);
-    const fs::path cible = options.adx ? *options.adx : *options.adif;
+    const fs::path cible = CheminTexte(options.adx ? *options.adx : *options.adif);
     const DemandeExport demande{origine.cahier,
                                 cible,
                                 options.adx ? GenreAdif::Adx : GenreAdif::Adi,
@@ -84,7 +85,7 @@ void RefuserHeures(const Options& options, std::string_view option, std::string_
 Retour Baser(const Options& options, const Alentours& alentours) {
     RefuserHeures(options, "--base", "la base");
     const Origine origine = ChoisirOrigine(options, alentours);
-    const fs::path cible = *options.base;
+    const fs::path cible = CheminTexte(*options.base);
     const BilanBase bilan = FaireBase({origine.cahier, cible, origine.indicatif, origine.proteges,
                                        EcrireInstantIso(Maintenant())});
     return Conclure(alentours, DireSortie({bilan.contacts, bilan.sansDate, bilan.finPresente,
@@ -95,7 +96,7 @@ Retour Baser(const Options& options, const Alentours& alentours) {
 Retour FaireLeBilan(const Options& options, const Alentours& alentours) {
     RefuserHeures(options, "--bilan", "le bilan");
     const Origine origine = ChoisirOrigine(options, alentours);
-    const fs::path cible = *options.bilan;
+    const fs::path cible = CheminTexte(*options.bilan);
     const BilanExport bilan =
         EcrireBilan({origine.cahier, cible, origine.indicatif, origine.proteges, Aujourdhui()});
     return Conclure(alentours,
@@ -105,8 +106,8 @@ Retour FaireLeBilan(const Options& options, const Alentours& alentours) {
 Retour Importer(const Options& options, const Alentours& alentours) {
     const auto station = LireStation(alentours.courant, alentours.maison);
     DemandeImport demande;
-    demande.source = *options.importer;
-    demande.cible = *options.vers;
+    demande.source = CheminTexte(*options.importer);
+    demande.cible = CheminTexte(*options.vers);
     demande.ancien = options.remplacer ? Ancien::Remplace : Ancien::Protege;
     demande.locator = options.locator ? Majuscules(Rogner(*options.locator)) : LocatorDe(station);
     if (options.locator && !LocatorValide(demande.locator))

@@ -1,5 +1,7 @@
 #include "compagnons/db_orvalis/phrases.h"
 
+#include "core/chemins.h"
+
 namespace orvalis {
 
 std::string Contacts(std::size_t nombre, std::string_view un, std::string_view plusieurs) {
@@ -11,7 +13,7 @@ std::string Contacts(std::size_t nombre, std::string_view un, std::string_view p
 Constat DireSortie(const BilanExport& bilan, const std::filesystem::path& cahier,
                    const std::filesystem::path& cible, std::string_view sansDate,
                    std::string_view un, std::string_view plusieurs) {
-    Constat constat{Contacts(bilan.contacts, un, plusieurs) + " dans «\u00A0" + cible.string() +
+    Constat constat{Contacts(bilan.contacts, un, plusieurs) + " dans «\u00A0" + TexteChemin(cible) +
                         "\u00A0».\n",
                     false};
     if (bilan.sansDate > 0)
@@ -19,7 +21,7 @@ Constat DireSortie(const BilanExport& bilan, const std::filesystem::path& cahier
                          " pas de date lisible\u00A0: " + std::string{sansDate} + ".\n";
     const bool sain = bilan.finPresente && bilan.longueurEntiere;
     if (!sain)
-        constat.texte += "Le cahier «\u00A0" + cahier.string() +
+        constat.texte += "Le cahier «\u00A0" + TexteChemin(cahier) +
                          "\u00A0» n'a pas la fin d'un cahier\u00A0: il est peut-être abîmé.\n";
     constat.remarques = bilan.sansDate > 0 || !sain;
     return constat;
@@ -27,10 +29,11 @@ Constat DireSortie(const BilanExport& bilan, const std::filesystem::path& cahier
 
 Constat DireImport(const BilanImport& bilan, const std::filesystem::path& cible) {
     return {Contacts(static_cast<std::size_t>(bilan.repris), "repris", "repris") + " dans «\u00A0" +
-                cible.string() + "\u00A0»\u00A0; changés\u00A0: " + std::to_string(bilan.changes) +
+                TexteChemin(cible) +
+                "\u00A0»\u00A0; changés\u00A0: " + std::to_string(bilan.changes) +
                 ", égaux à un autre\u00A0: " + std::to_string(bilan.egaux) +
                 ", laissés de côté\u00A0: " + std::to_string(bilan.laisses) +
-                ". Le rapport est «\u00A0" + bilan.rapport.string() + "\u00A0».\n",
+                ". Le rapport est «\u00A0" + TexteChemin(bilan.rapport) + "\u00A0».\n",
             bilan.ADire()};
 }
 

@@ -1,6 +1,7 @@
 #include "ui/bureau/dossier_amovible.h"
 
-#include "core/dossier.h"
+#include "core/chemins.h"
+#include "core/noyau.h"
 #include "ui/bureau/texte_qt.h"
 
 #include <QDir>
@@ -16,7 +17,8 @@ QString DossierDocuments() {
 
 QString DossierAmovible() {
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes())
-        if (volume.isReady() && !volume.isReadOnly() && EstRacineAmovible(S(volume.rootPath())))
+        if (volume.isReady() && !volume.isReadOnly() &&
+            noyau::EstAmovible(CheminTexte(S(volume.rootPath()))))
             return volume.rootPath();
     return DossierDocuments();
 }

@@ -1,5 +1,6 @@
 #include "ui/bureau/imprimante_qt.h"
 
+#include "core/chemins.h"
 #include "core/erreurs.h"
 #include "ui/bureau/texte_qt.h"
 
@@ -34,7 +35,7 @@ bool EstPdf(const QPrinter& imprimante) {
 
 Erreur Refus(const QPrinter& imprimante) {
     if (EstPdf(imprimante))
-        return {NatureErreur::EcrirePdf, imprimante.outputFileName().toStdString()};
+        return {NatureErreur::EcrirePdf, CheminTexte(S(imprimante.outputFileName()))};
     return Erreur::DImprimante(imprimante.printerName().toStdString());
 }
 
@@ -87,7 +88,7 @@ bool PdfComplet(const QString& chemin) {
 // The folder where a document is made before it is delivered does not take it.
 Erreur SansProvisoire(int raison) {
     return {NatureErreur::Creer,
-            QDir::tempPath().toStdString() + "/orvalis*.pdf",
+            CheminTexte(S(QDir::tempPath())) / "orvalis*.pdf",
             {raison, std::generic_category()}};
 }
 

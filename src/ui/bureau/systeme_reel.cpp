@@ -1,8 +1,12 @@
 #include "ui/bureau/systeme_reel.h"
 
+#include "core/chemins.h"
 #include "core/dossier.h"
+#include "core/noyau.h"
 #include "ui/bureau/dossier_amovible.h"
+#include "ui/bureau/dossier_courant.h"
 #include "ui/bureau/imprimante_qt.h"
+#include "ui/bureau/texte_qt.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -57,7 +61,12 @@ void Dire(QMessageBox::Icon icone, QWidget* parent, const QString& titre, const 
 } // namespace
 
 std::filesystem::path SystemeReel::Lecteur() const {
-    return CalculerLecteur(QDir::currentPath().toStdString(), QDir::homePath().toStdString());
+#ifdef Q_OS_WIN
+    const std::filesystem::path repli = noyau::LecteurDuSysteme();
+#else
+    const std::filesystem::path repli = CheminTexte(S(QDir::homePath()));
+#endif
+    return CalculerLecteur(CheminTexte(S(QDir::currentPath())), repli);
 }
 
 Instant SystemeReel::Maintenant() const {
@@ -104,7 +113,7 @@ bool Remplacer(QWidget* parent, const QString& chemin) {
     QMessageBox boite(QMessageBox::Question, QStringLiteral("Orvalis"),
                       QStringLiteral("Le fichier «\u00a0%1\u00a0» existe déjà. Voulez-vous le "
                                      "remplacer\u00a0?")
-                          .arg(chemin),
+                          .arg(QDir::toNativeSeparators(chemin)),
                       QMessageBox::Yes | QMessageBox::No, parent);
     boite.setTextFormat(Qt::PlainText);
     boite.setDefaultButton(QMessageBox::No);
@@ -114,9 +123,9 @@ bool Remplacer(QWidget* parent, const QString& chemin) {
 } // namespace
 
 QString SystemeReel::ChoisirFichier(QWidget* parent, const DemandeFichier& demande) {
-    const QString dossier = demande.dossier.isEmpty()
-                                ? QString::fromStdString(DossierProgramme(Lecteur()).string())
-                                : demande.dossier;
+    const DossierCourantGarde garde;
+    const QString dossier =
+        demande.dossier.isEmpty() ? Q(TexteChemin(DossierProgramme(Lecteur()))) : demande.dossier;
     QFileDialog dialogue(parent, demande.titre, dossier, QStringLiteral("Fichier (*.Vek)"));
     constexpr int kLarge = 115, kHaut = 35; // characters and lines: all columns of the files
     const QFontMetrics mesure = dialogue.fontMetrics();
@@ -139,7 +148,7 @@ QString SystemeReel::ChoisirFichier(QWidget* parent, const DemandeFichier& deman
 }
 
 std::filesystem::path SystemeReel::DossierInstalle() const {
-    return QCoreApplication::applicationDirPath().toStdString();
+    return CheminTexte(S(QCoreApplication::applicationDirPath()));
 }
 
 std::optional<QString> SystemeReel::Lancer(const QString& chemin) {
@@ -181,6 +190,7 @@ QString PdfPropose(const QString& dernier) {
 } // namespace
 
 bool SystemeReel::DemanderSortie(QWidget* parent, const QString& titre) {
+    const DossierCourantGarde garde;
     QPrinter& sortie = Sortie();
     sortie.setCopyCount(1);
     QPrintDialog dialogue(&sortie, parent);

@@ -1,5 +1,6 @@
 #include "ui/dialogues/a_propos.h"
 
+#include "ui/bureau/icone.h"
 #include "ui/bureau/systeme.h"
 #include "ui/widgets/police.h"
 #include "ui_a_propos.h"
@@ -14,7 +15,7 @@ APropos::APropos(Systeme& systeme, QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::APropos>()) {
     ui_->setupUi(this);
     ui_->LabTitre->setFont(PoliceAjustee(font(), 1.8));
-    ui_->LabIcone->setPixmap(QIcon(QStringLiteral(":/orvalis.svg")).pixmap(QSize(72, 72)));
+    ui_->LabIcone->setPixmap(IconeProgramme().pixmap(QSize(72, 72)));
     ui_->LabVersion->setText(QStringLiteral("Version " ORVALIS_VERSION));
     ui_->LabSysteme->setText(QStringLiteral("Qt %1\n%2 (%3)")
                                  .arg(QString::fromLatin1(qVersion()),

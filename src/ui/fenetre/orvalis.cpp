@@ -1,6 +1,7 @@
 #include "ui/fenetre/orvalis.h"
 
 #include "core/erreurs.h"
+#include "ui/bureau/icone.h"
 #include "ui/bureau/texte_qt.h"
 #include "ui/carte/saisie.h"
 #include "ui/fenetre/cadre.h"
@@ -139,7 +140,7 @@ Orvalis::Orvalis(Systeme& systeme, QWidget* parent)
       timer1_(new QTimer(this)) {
     ChargerRessources();
     setObjectName(QStringLiteral("Orvalis"));
-    setWindowIcon(QIcon(QStringLiteral(":/orvalis.svg")));
+    setWindowIcon(IconeProgramme());
     timer1_->setObjectName(QStringLiteral("Timer1"));
     designateur_ = new Designateur([this](const Commande* c) { Designer(c); }, this);
     Disposer();

@@ -1,5 +1,6 @@
 #include "ui/flux/flux_compagnons.h"
 
+#include "core/chemins.h"
 #include "core/creation.h"
 #include "core/dossier.h"
 #include "core/erreurs.h"
@@ -26,11 +27,11 @@ struct Essai {
 };
 
 Essai Essayer(Systeme& systeme, const std::filesystem::path& dossier, std::string_view nom) {
-    Essai essai{dossier / nom, true, {}};
+    Essai essai{dossier / CheminTexte(nom), true, {}};
     try {
         essai.chemin = TrouverFichier(dossier, nom);
         essai.present = Present(essai.chemin);
-        essai.raison = systeme.Lancer(Q(essai.chemin.string()));
+        essai.raison = systeme.Lancer(Q(TexteChemin(essai.chemin)));
     } catch (const Erreur& echec) { // the folder cannot be listed
         essai.raison = Q(RaisonFrancaise(echec.code()));
     }
@@ -60,7 +61,7 @@ void LancerCompagnon(Plateau& p, std::string_view nom) {
             echec = std::move(essai);
     }
     const std::string chemin = echec->present
-                                   ? echec->chemin.string()
+                                   ? TexteChemin(echec->chemin)
                                    : CheminProgrammeTexte(p.session.station.lecteur, nom);
     p.systeme.Avertir(&p.fenetre,
                       QStringLiteral("Impossible de démarrer «\u00a0%1\u00a0»\u00a0: %2.")

@@ -1,6 +1,7 @@
 #include "ui/flux/flux_fichiers.h"
 
 #include "core/cahier.h"
+#include "core/chemins.h"
 #include "core/dossier.h"
 #include "core/erreurs.h"
 #include "maint/copie.h"
@@ -19,7 +20,7 @@ namespace orvalis {
 namespace {
 
 QString NomDuFichier(const Session& session) {
-    return Q(session.cahier.chemin.filename().string());
+    return Q(TexteChemin(session.cahier.chemin.filename()));
 }
 
 // Backup and copy take what is there now; where that is not to be had, the operator is told and
@@ -46,7 +47,7 @@ bool CopierVers(Plateau& p, const DemandeFichier& demande, std::string_view fait
     if (p.ecran.arret || cible.isEmpty())
         return false;
     VerifierAvantCopie(p);
-    const std::filesystem::path chemin(S(cible));
+    const std::filesystem::path chemin = CheminTexte(S(cible));
     const auto copier = [&] {
         const Sablier sablier;
         CopierCahier(cahier, p.session.station, chemin);
@@ -54,8 +55,8 @@ bool CopierVers(Plateau& p, const DemandeFichier& demande, std::string_view fait
     if (p.ecran.arret || !Essayer(p, copier))
         return false;
     if (!cahier.fichier.Support().EstLeMeme(chemin)) // nothing was copied
-        Annoncer(p.ecran, std::string{fait} + " dans " + S(cible) + std::string{kDeuxPoints} +
-                              Compte(cahier.nbFiches, "contact"));
+        Annoncer(p.ecran, std::string{fait} + " dans " + TexteChemin(CheminTexte(S(cible))) +
+                              std::string{kDeuxPoints} + Compte(cahier.nbFiches, "contact"));
     return true;
 }
 
@@ -88,7 +89,8 @@ void PrevenirSiIncomplet(Plateau& p) {
             QStringLiteral(
                 "Le cahier «\u00a0%1\u00a0» est peut-être abîmé\u00a0: %2. Copiez-le à l'abri, "
                 "puis vérifiez ses derniers contacts.")
-                .arg(Q(p.session.cahier.chemin.string()), defauts.join(QStringLiteral(" et "))));
+                .arg(Q(TexteChemin(p.session.cahier.chemin)),
+                     defauts.join(QStringLiteral(" et "))));
 }
 
 bool FaireSauvegarde(Plateau& p) {
@@ -96,7 +98,7 @@ bool FaireSauvegarde(Plateau& p) {
     if (!Essayer(p, [&] { dossier = CheminSauvegardes(p.session.station.lecteur); }))
         return false;
     const bool fait = CopierVers(p,
-                                 {true, Q(dossier.string()), NomDuFichier(p.session),
+                                 {true, Q(TexteChemin(dossier)), NomDuFichier(p.session),
                                   QStringLiteral("Sauvegarder le cahier")},
                                  "Sauvegardé");
     RegarderSauvegardes(p);
@@ -110,8 +112,8 @@ void RegarderSauvegardes(Plateau& p) {
         return;
     etat.connu = false;
     try {
-        etat.derniere = DerniereSauvegarde(s.station.lecteur, s.cahier.chemin.filename().string(),
-                                           etat.derniere);
+        etat.derniere = DerniereSauvegarde(s.station.lecteur,
+                                           TexteChemin(s.cahier.chemin.filename()), etat.derniere);
         etat.jours = etat.derniere ? JoursDepuis(*etat.derniere) : 0;
         etat.connu = true;
     } catch (const std::exception&) {
@@ -148,7 +150,7 @@ void OuvrirAutre(Plateau& p) {
     BilanOuverture bilan;
     const auto ouvrir = [&] {
         const Sablier sablier;
-        bilan = OuvrirAutreCahier(s.cahier, s.station, S(choisi));
+        bilan = OuvrirAutreCahier(s.cahier, s.station, CheminTexte(S(choisi)));
     };
     if (!Essayer(p, ouvrir) || !bilan.ouvert)
         return;

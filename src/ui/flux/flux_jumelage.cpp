@@ -1,5 +1,6 @@
 #include "ui/flux/flux_jumelage.h"
 
+#include "core/chemins.h"
 #include "core/dossier.h"
 #include "core/recherche.h"
 #include "core/texte.h"
@@ -39,7 +40,7 @@ void OuvrirJumelage(Plateau& p) {
     AbandonnerModification(p);
     RelireCahier(p);
     p.ecran.liste.active = false;
-    p.ecran.jumelage = {true, p.session.cahier.chemin.filename().string(), false};
+    p.ecran.jumelage = {true, TexteChemin(p.session.cahier.chemin.filename()), false};
     DonnerFoyer(p, {Cible::Sauvegarder});
 }
 
@@ -52,9 +53,9 @@ void Jumeler(Plateau& p) {
         return;
     static_cast<void>(Essayer(p, [&] {
         const Sablier sablier;
-        const std::filesystem::path chemin(S(source));
+        const std::filesystem::path chemin = CheminTexte(S(source));
         const std::int32_t nombre = JumelerCahier(s.cahier, s.station, chemin);
-        Annoncer(p.ecran, Compte(nombre, "contact") + " de " + chemin.filename().string() +
+        Annoncer(p.ecran, Compte(nombre, "contact") + " de " + TexteChemin(chemin.filename()) +
                               (nombre < 2 ? " ajouté" : " ajoutés") +
                               DireDejaLa(s.cahier, s.cahier.Prochaine() - nombre));
     }));

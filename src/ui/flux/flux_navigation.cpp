@@ -1,5 +1,6 @@
 #include "ui/flux/flux_navigation.h"
 
+#include "core/chemins.h"
 #include "ui/bureau/systeme.h"
 #include "ui/bureau/texte_qt.h"
 #include "ui/flux/conduite.h"
@@ -40,7 +41,7 @@ std::string NomMontre(const Session& s) {
 // Another logbook that is named like the station's own is told from it by its folder.
 std::string DossierMontre(const Session& s) {
     return s.cahier.autre == s.station.indicatif && !s.cahier.EstLeNotre()
-               ? "Autre cahier, du dossier " + s.cahier.chemin.parent_path().string()
+               ? "Autre cahier, du dossier " + TexteChemin(s.cahier.chemin.parent_path())
                : std::string();
 }
 

@@ -71,6 +71,7 @@ TEST(Chronel, FautesEnFrancais) {
     EXPECT_THAT(DireFaute("a.b.C", ""), testing::HasSubstr("« a.b.C »"));
 }
 
+#ifndef _WIN32
 TEST(Chronel, DatesEtHeuresTapees) {
     ::setenv("TZ", "Europe/Paris", 1);
     ::tzset();
@@ -113,6 +114,7 @@ TEST(Chronel, DatesEtHeuresTapees) {
     ::unsetenv("TZ");
     ::tzset();
 }
+#endif
 
 } // namespace
 } // namespace orvalis

@@ -37,7 +37,7 @@ struct DbOrvalisFenetre : testing::Test {
     }
     void Ouvrir() {
         fenetre = std::make_unique<FenetreDbOrvalis>(
-            Lieu{dossier / "", dossier / ""},
+            Lieu{{}, dossier / ""}, // in no folder, so that no drive is found in it
             Demandes{[this](QWidget*, const DemandeChemin&) {
                          return choisis.isEmpty() ? QString() : choisis.takeFirst();
                      },

@@ -32,6 +32,10 @@ std::string DireEtat(const EtatService& etat) {
                "pas la régler.";
     case Acces::Refus:
         return etat.refus;
+    case Acces::Page:
+        return "Le système tient l'heure lui-même\u00A0: sa page de réglage la met à l'heure, par "
+               "le "
+               "réseau ou à la main.";
     case Acces::Etabli:
         break;
     }
@@ -65,6 +69,7 @@ VueChronel VoirChronel(const EtatService& etat) {
     vue.interrupteur = libre && (etat.peutReseau || etat.reseau);
     vue.coche = etat.acces == Acces::Etabli && etat.reseau;
     vue.saisie = libre && !etat.reseau;
+    vue.page = etat.acces == Acces::Page;
     if (etat.enCours != Demande::Aucune)
         vue.message = "Demande faite au système\u00A0: s'il pose une question, répondez-y.";
     else if (vue.message.empty() && libre && etat.reseau)

@@ -10,6 +10,7 @@ enum class Acces {
     Attente, ///< asked, not answered yet
     SansBus, ///< no system bus
     Refus,   ///< the bus, but no service: EtatService::refus says why
+    Page,    ///< no service that a program may ask; a page of the system's own sets the clock
     Etabli
 };
 
@@ -35,6 +36,7 @@ struct VueChronel {
     bool interrupteur = false; ///< the switch can be used
     bool coche = false;        ///< it stands on "by the network"
     bool saisie = false;       ///< a time can be typed
+    bool page = false;         ///< the system's own page is offered, in the place of all that
 };
 [[nodiscard]] VueChronel VoirChronel(const EtatService& etat);
 

@@ -2,6 +2,7 @@
 
 #include "compagnons/db_orvalis/bilan_html.h"
 #include "compagnons/db_orvalis/fenetre/dlg_bilan.h"
+#include "core/chemins.h"
 #include "core/erreurs.h"
 #include "echange/lecture_cahier.h"
 #include "echange/refus.h"
@@ -194,7 +195,7 @@ void FenetreDbOrvalis::Composer() {
 
 void FenetreDbOrvalis::Montrer() {
     const bool aLui = etat_.station && etat_.cahier == etat_.station->cahier;
-    cahier_->Montrer(etat_.cahier.empty() ? QStringLiteral("aucun") : Q(etat_.cahier.string()));
+    cahier_->Montrer(etat_.cahier.empty() ? QStringLiteral("aucun") : Q(TexteChemin(etat_.cahier)));
     contenu_->setText(DireContenu(etat_));
     QPalette palette = message_->palette();
     const QColor texte = etat_.faute ? RougeSur(this->palette().color(QPalette::Window))
@@ -255,10 +256,10 @@ void FenetreDbOrvalis::LireCahier(const fs::path& chemin, std::function<void()> 
     const Jour jour = Aujourdhui();
     auto lu = std::make_shared<FeuilleBilan>();
     Travailler(
-        QStringLiteral("Lecture de «\u00A0%1\u00A0»…").arg(Q(chemin.string())), {},
+        QStringLiteral("Lecture de «\u00A0%1\u00A0»…").arg(Q(TexteChemin(chemin))), {},
         [this, lu, chemin, jour](const Fuseau& /*fuseau*/) {
             *lu = {FaireBilan(LireCahierEntier(chemin).fiches), IndicatifDe(etat_.station, chemin),
-                   chemin.filename().string(), jour};
+                   TexteChemin(chemin.filename()), jour};
         },
         [this, lu, chemin, ensuite = std::move(ensuite)] {
             etat_.cahier = chemin;
@@ -275,11 +276,11 @@ void FenetreDbOrvalis::LireCahier(const fs::path& chemin, std::function<void()> 
 void FenetreDbOrvalis::ChoisirCahier() {
     const QString chemin = demandes_.chemin(this, {false,
                                                    QStringLiteral("Cahier à lire"),
-                                                   Q(etat_.cahier.string()),
+                                                   Q(TexteChemin(etat_.cahier)),
                                                    QStringLiteral("Cahier (*.Vek)"),
                                                    {}});
     if (!chemin.isEmpty())
-        LireCahier(S(chemin));
+        LireCahier(CheminTexte(S(chemin)));
 }
 
 void FenetreDbOrvalis::RevenirALaStation() {
@@ -287,8 +288,8 @@ void FenetreDbOrvalis::RevenirALaStation() {
 }
 
 QString FenetreDbOrvalis::Propose(const QString& suffixe) const {
-    const QString nom = QFileInfo(Q(etat_.cahier.string())).completeBaseName();
-    return QDir(Q(lieu_.maison.string())).filePath(nom + QLatin1Char('.') + suffixe);
+    const QString nom = QFileInfo(Q(TexteChemin(etat_.cahier))).completeBaseName();
+    return QDir(Q(TexteChemin(lieu_.maison))).filePath(nom + QLatin1Char('.') + suffixe);
 }
 
 std::optional<ReponseHeures> FenetreDbOrvalis::DemanderHeures(const QString& question,
@@ -315,7 +316,7 @@ void FenetreDbOrvalis::Sortir(std::size_t sortie) {
     Travailler(
         QStringLiteral("Écriture de «\u00A0%1\u00A0»…").arg(cible), reponse->zone,
         [this, constat, s, cible](const Fuseau& fuseau) {
-            *constat = s.faire({etat_, S(cible), fuseau, etat_.bilan->faitLe});
+            *constat = s.faire({etat_, CheminTexte(S(cible)), fuseau, etat_.bilan->faitLe});
         },
         [this, constat] { Dire(Q(constat->texte)); });
 }
@@ -329,7 +330,7 @@ void FenetreDbOrvalis::Importer() {
     const QString source =
         demandes_.chemin(this, {false,
                                 QStringLiteral("Fichier à importer"),
-                                Q(lieu_.maison.string()),
+                                Q(TexteChemin(lieu_.maison)),
                                 QStringLiteral("ADIF (*.adi *.adif *.adx);;Tous les fichiers (*)"),
                                 {}});
     if (source.isEmpty())
@@ -344,7 +345,7 @@ void FenetreDbOrvalis::Importer() {
         return;
     if (demande.locator.empty())
         demande.locator = reponse->locator;
-    demande.source = S(source);
+    demande.source = CheminTexte(S(source));
     demande.proteges = FichiersDe(etat_.station);
     auto etude = std::make_shared<EtudeImport>();
     Travailler(
@@ -355,23 +356,23 @@ void FenetreDbOrvalis::Importer() {
 
 void FenetreDbOrvalis::MontrerApercu(const DemandeImport& demande, const std::string& zone,
                                      const EtudeImport& etude) {
-    DlgApercu apercu(this, Q(demande.source.filename().string()), etude);
+    DlgApercu apercu(this, Q(TexteChemin(demande.source.filename())), etude);
     if (apercu.exec() != QDialog::Accepted) {
         Dire(QStringLiteral("Rien n'a été importé."));
         return;
     }
-    const QString cible = demandes_.chemin(
-        this,
-        {true, QStringLiteral("Nouveau cahier"),
-         QDir(Q(lieu_.maison.string()))
-             .filePath(QFileInfo(Q(demande.source.string())).baseName() + QStringLiteral(".Vek")),
-         QStringLiteral("Cahier (*.Vek)"), QStringLiteral("Vek")});
+    const QString cible =
+        demandes_.chemin(this, {true, QStringLiteral("Nouveau cahier"),
+                                QDir(Q(TexteChemin(lieu_.maison)))
+                                    .filePath(QFileInfo(Q(TexteChemin(demande.source))).baseName() +
+                                              QStringLiteral(".Vek")),
+                                QStringLiteral("Cahier (*.Vek)"), QStringLiteral("Vek")});
     if (cible.isEmpty()) {
         Dire(QStringLiteral("Rien n'a été importé."));
         return;
     }
     DemandeImport complete = demande;
-    complete.cible = S(cible);
+    complete.cible = CheminTexte(S(cible));
     complete.ancien = Ancien::Remplace; // the file dialog has asked
     auto constat = std::make_shared<Constat>();
     Travailler(

@@ -1,20 +1,31 @@
 #include "compagnons/db_orvalis/commande.h"
 #include "compagnons/db_orvalis/fenetre/fenetre_db_orvalis.h"
+#include "core/chemins.h"
+#include "ui/bureau/dossier_courant.h"
 #include "ui/bureau/systeme_reel.h"
+#include "ui/bureau/texte_qt.h"
 #include "ui/widgets/application.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QIcon>
 
 #include <cstdlib>
 #include <iostream>
 #include <vector>
+#ifdef Q_OS_WIN
+#include <cstdio>
+#include <fcntl.h>
+#include <io.h>
+#include <windows.h>
+#endif
 
 namespace {
 
 using namespace orvalis;
 
 QString DemanderChemin(QWidget* parent, const DemandeChemin& demande) {
+    const DossierCourantGarde garde;
     QFileDialog dialogue(parent, demande.titre, {}, demande.filtre);
     dialogue.setAcceptMode(demande.enregistrer ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialogue.setFileMode(demande.enregistrer ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
@@ -44,6 +55,33 @@ int MontrerFenetre(int argc, char** argv, const Lieu& lieu) {
 
 } // namespace
 
+#ifdef Q_OS_WIN
+
+// The arguments that the system hands over are in its code page; Qt has them as they were typed.
+// What is written is UTF-8, and so is what the console takes while this lasts.
+int main(int argc, char** argv) {
+    std::error_code erreur;
+    const Lieu lieu{std::filesystem::current_path(erreur), CheminTexte(S(QDir::homePath()))};
+    if (argc < 2)
+        return MontrerFenetre(argc, argv, lieu);
+    const QCoreApplication application(argc, argv);
+    std::vector<std::string> textes;
+    for (const QString& argument : QCoreApplication::arguments().mid(1))
+        textes.push_back(S(argument));
+    const std::vector<std::string_view> arguments(textes.begin(), textes.end());
+    ::_setmode(::_fileno(stdout), _O_BINARY); // the same bytes as elsewhere in a file
+    ::_setmode(::_fileno(stderr), _O_BINARY);
+    const UINT avant = ::GetConsoleOutputCP();
+    ::SetConsoleOutputCP(CP_UTF8);
+    const auto retour =
+        ExecuterCommande(arguments, {lieu.courant, lieu.maison, std::cout, std::cerr});
+    std::cout.flush();
+    ::SetConsoleOutputCP(avant);
+    return static_cast<int>(retour);
+}
+
+#else
+
 int main(int argc, char** argv) {
     const char* maison = std::getenv("HOME");
     std::error_code erreur;
@@ -54,3 +92,5 @@ int main(int argc, char** argv) {
     return static_cast<int>(
         ExecuterCommande(arguments, {lieu.courant, lieu.maison, std::cout, std::cerr}));
 }
+
+#endif
