@@ -167,8 +167,9 @@ void Reserver(Poignee poignee, std::int64_t fin, std::error_code& raison) {
         raison = DerniereErreur();
         return;
     }
-    if (fin <= etat.AllocationSize.QuadPart)
-        return; // less would cut the file
+    // Less would cut the file, and a compressed or sparse one takes less room than it is long.
+    if (fin <= std::max(etat.AllocationSize.QuadPart, etat.EndOfFile.QuadPart))
+        return;
     std::error_code echec;
     PoserTaille(fichier, FileAllocationInfo, fin, echec);
     if (echec == std::errc::no_space_on_device)
