@@ -12,7 +12,7 @@
 namespace orvalis::bench {
 namespace {
 
-BilanExport Exporter(const CahierEssai& essai, GenreAdif genre, const Fuseau& fuseau) {
+BilanSortie Exporter(const CahierEssai& essai, GenreAdif genre, const Fuseau& fuseau) {
     return ExporterAdif({essai.Chemin(), essai.Dossier() / "f.adif", genre, "BENCH", {}, ""},
                         fuseau);
 }

@@ -185,7 +185,7 @@ void LierValeur(Requete& requete, int place, const Valeur& valeur) {
         requete.LierRien(place);
 }
 
-void RemplirQso(BaseOuverte& base, const CahierLu& cahier, BilanBase& bilan) {
+void RemplirQso(BaseOuverte& base, const CahierLu& cahier, BilanSortie& bilan) {
     constexpr std::size_t kNbColonnes = 1 + kNbChamps + kColonnes.size() + 1;
     std::string sql = "INSERT INTO qso VALUES (?";
     for (std::size_t i = 1; i < kNbColonnes; ++i)
@@ -227,7 +227,7 @@ void RemplirDepartements(BaseOuverte& base) {
     }
 }
 
-void RemplirSource(BaseOuverte& base, const DemandeBase& demande, const BilanBase& bilan) {
+void RemplirSource(BaseOuverte& base, const DemandeBase& demande, const BilanSortie& bilan) {
     Requete requete(base, "INSERT INTO source VALUES (?,?,?,?,?,?)");
     std::error_code erreur;
     const std::string chemin = TexteChemin(fs::absolute(demande.cahier, erreur));
@@ -261,13 +261,13 @@ void RefuserAncienne(const fs::path& cible) {
 
 } // namespace
 
-BilanBase FaireBase(const DemandeBase& demande) {
+BilanSortie FaireBase(const DemandeBase& demande) {
     RefuserCible(demande.cible, demande.proteges);
     RefuserCible(demande.cible, {&demande.cahier, 1});
     const CahierLu cahier = LireCahierEntier(demande.cahier);
     PlaceNeuve place(demande.cible, Ancien::Remplace);
     RefuserAncienne(place.Cible());
-    BilanBase bilan{0, 0, cahier.finPresente, cahier.longueurEntiere};
+    BilanSortie bilan{0, 0, cahier.finPresente, cahier.longueurEntiere};
     BaseOuverte base(place.Provisoire(), demande.cible);
     // The file is nothing until it is whole, so it needs no journal of its own.
     base.Executer("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF;"

@@ -1,8 +1,8 @@
 // A logbook as an SQLite base, for questions that the window does not answer.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
+#include "echange/lecture_cahier.h"
+
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -17,16 +17,9 @@ struct DemandeBase {
     std::string creation;                        ///< when it is made, see EcrireInstantIso
 };
 
-struct BilanBase {
-    std::size_t contacts = 0;
-    std::size_t sansDate = 0; ///< contacts whose date cannot be read
-    bool finPresente = true;  ///< see CahierLu
-    bool longueurEntiere = true;
-};
-
 /// Makes the base, described in docs/formats.md, in one transaction; a former one is replaced once
 /// the new one is on the disk, but not while a journal says that a program is at work on it, and no
 /// file that is no base. Throws Erreur or RefusEchange, with nothing written.
-[[nodiscard]] BilanBase FaireBase(const DemandeBase& demande);
+[[nodiscard]] BilanSortie FaireBase(const DemandeBase& demande);
 
 } // namespace orvalis

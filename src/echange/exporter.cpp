@@ -48,11 +48,11 @@ void RefuserCible(const fs::path& cible, std::span<const fs::path> proteges) {
                            " » est un fichier d'Orvalis : il n'est pas remplacé.");
 }
 
-BilanExport ExporterAdif(const DemandeExport& demande, const Fuseau& fuseau) {
+BilanSortie ExporterAdif(const DemandeExport& demande, const Fuseau& fuseau) {
     RefuserCible(demande.cible, demande.proteges);
     RefuserCible(demande.cible, {&demande.cahier, 1});
     const CahierLu cahier = LireCahierEntier(demande.cahier);
-    BilanExport bilan{cahier.fiches.size(), 0, cahier.finPresente, cahier.longueurEntiere};
+    BilanSortie bilan{cahier.fiches.size(), 0, cahier.finPresente, cahier.longueurEntiere};
     FichierNeuf fichier(demande.cible, Ancien::Remplace);
     fichier.Ecrire(EnteteAdif(demande.genre, demande.creation));
     const auto jumeaux = demande.genre == GenreAdif::Adx ? Jumeaux::Oui : Jumeaux::Non;

@@ -22,16 +22,9 @@ struct DemandeExport {
     std::string creation;                        ///< time of the file, see EcrireInstantAdif
 };
 
-struct BilanExport {
-    std::size_t contacts = 0;
-    std::size_t sansDate = 0; ///< contacts that other programs leave out
-    bool finPresente = true;  ///< see CahierLu
-    bool longueurEntiere = true;
-};
-
 /// Writes all contacts of the logbook; a former file is replaced once the new one is on the disk.
 /// Throws Erreur or RefusEchange, with nothing written.
-[[nodiscard]] BilanExport ExporterAdif(const DemandeExport& demande, const Fuseau& fuseau);
+[[nodiscard]] BilanSortie ExporterAdif(const DemandeExport& demande, const Fuseau& fuseau);
 
 /// Refuses a place for a file of another form: a logbook's, by the end .Vek of its name, or that of
 /// one of the files `proteges` under whatever name. Throws RefusEchange.

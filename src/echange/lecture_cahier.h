@@ -3,6 +3,7 @@
 
 #include "core/qso_record.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <vector>
@@ -14,6 +15,14 @@ struct CahierLu {
     std::vector<QsoRecord> fiches; ///< records 1 to N
     bool finPresente = false;      ///< an end-of-log record stands behind them
     bool longueurEntiere = true;   ///< the file is a whole number of records
+};
+
+/// What came out of a logbook that was led out, whatever into.
+struct BilanSortie {
+    std::size_t contacts = 0;
+    std::size_t sansDate = 0; ///< contacts whose date cannot be read, which ADIF readers leave out
+    bool finPresente = true;  ///< see CahierLu
+    bool longueurEntiere = true;
 };
 
 /// How to wait for a logbook that is being rewritten.

@@ -46,7 +46,7 @@ TEST(Base, CeQueLesFichesVeulentDire) {
     }
     const auto cahier = dossier.Poser("S.Vek", octets + Fin());
     const auto cible = dossier / "S.sqlite";
-    const BilanBase bilan = FaireBase({cahier, cible, "F5ABC", {}, "2026-11-21 18:31:25"});
+    const BilanSortie bilan = FaireBase({cahier, cible, "F5ABC", {}, "2026-11-21 18:31:25"});
     EXPECT_EQ(bilan.contacts, fiches.size());
     sqlite3* base = nullptr;
     ASSERT_EQ(sqlite3_open(TexteChemin(cible).c_str(), &base), SQLITE_OK);

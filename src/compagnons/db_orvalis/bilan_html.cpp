@@ -75,7 +75,7 @@ std::string PageBilan(const FeuilleBilan& feuille) {
     return page + "</main>\n</body>\n</html>\n";
 }
 
-BilanExport EcrireBilan(const DemandeBilan& demande) {
+BilanSortie EcrireBilan(const DemandeBilan& demande) {
     RefuserCible(demande.cible, demande.proteges);
     RefuserCible(demande.cible, {&demande.cahier, 1});
     const CahierLu cahier = LireCahierEntier(demande.cahier);

@@ -24,7 +24,7 @@ struct DemandeBilan {
 
 /// Writes the page; a former file is replaced once the new one is on the disk. Throws Erreur or
 /// RefusEchange, with nothing written.
-[[nodiscard]] BilanExport EcrireBilan(const DemandeBilan& demande);
+[[nodiscard]] BilanSortie EcrireBilan(const DemandeBilan& demande);
 
 /// The computer's day, for DemandeBilan. As long as it takes no Fuseau may live.
 [[nodiscard]] Jour Aujourdhui();

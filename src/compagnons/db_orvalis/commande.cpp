@@ -71,7 +71,7 @@ Retour Exporter(const Options& options, const Alentours& alentours) {
                                 origine.indicatif,
                                 origine.proteges,
                                 EcrireInstantAdif(Maintenant())};
-    const BilanExport bilan = ExporterAdif(demande, *ChoisirFuseau(options));
+    const BilanSortie bilan = ExporterAdif(demande, *ChoisirFuseau(options));
     return Conclure(alentours, DireSortie(bilan, origine.cahier, cible, kSansDateAdif));
 }
 
@@ -86,18 +86,16 @@ Retour Baser(const Options& options, const Alentours& alentours) {
     RefuserHeures(options, "--base", "la base");
     const Origine origine = ChoisirOrigine(options, alentours);
     const fs::path cible = CheminTexte(*options.base);
-    const BilanBase bilan = FaireBase({origine.cahier, cible, origine.indicatif, origine.proteges,
-                                       EcrireInstantIso(Maintenant())});
-    return Conclure(alentours, DireSortie({bilan.contacts, bilan.sansDate, bilan.finPresente,
-                                           bilan.longueurEntiere},
-                                          origine.cahier, cible, kSansDateBase));
+    const BilanSortie bilan = FaireBase({origine.cahier, cible, origine.indicatif, origine.proteges,
+                                         EcrireInstantIso(Maintenant())});
+    return Conclure(alentours, DireSortie(bilan, origine.cahier, cible, kSansDateBase));
 }
 
 Retour FaireLeBilan(const Options& options, const Alentours& alentours) {
     RefuserHeures(options, "--bilan", "le bilan");
     const Origine origine = ChoisirOrigine(options, alentours);
     const fs::path cible = CheminTexte(*options.bilan);
-    const BilanExport bilan =
+    const BilanSortie bilan =
         EcrireBilan({origine.cahier, cible, origine.indicatif, origine.proteges, Aujourdhui()});
     return Conclure(alentours,
                     DireSortie(bilan, origine.cahier, cible, kSansDateBilan, "compté", "comptés"));

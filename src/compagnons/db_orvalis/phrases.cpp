@@ -10,7 +10,7 @@ std::string Contacts(std::size_t nombre, std::string_view un, std::string_view p
            std::string{pluriel ? plusieurs : un};
 }
 
-Constat DireSortie(const BilanExport& bilan, const std::filesystem::path& cahier,
+Constat DireSortie(const BilanSortie& bilan, const std::filesystem::path& cahier,
                    const std::filesystem::path& cible, std::string_view sansDate,
                    std::string_view un, std::string_view plusieurs) {
     Constat constat{Contacts(bilan.contacts, un, plusieurs) + " dans «\u00A0" + TexteChemin(cible) +

@@ -17,7 +17,7 @@ struct Constat {
 };
 
 /// A file was made of a logbook; `sansDate` says what comes of contacts without a date.
-[[nodiscard]] Constat DireSortie(const BilanExport& bilan, const std::filesystem::path& cahier,
+[[nodiscard]] Constat DireSortie(const BilanSortie& bilan, const std::filesystem::path& cahier,
                                  const std::filesystem::path& cible, std::string_view sansDate,
                                  std::string_view un = "écrit",
                                  std::string_view plusieurs = "écrits");

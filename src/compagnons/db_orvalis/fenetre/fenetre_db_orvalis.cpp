@@ -33,7 +33,7 @@ struct Depart {
 };
 
 template<GenreAdif genre> Constat SortirAdif(const Depart& d) {
-    const BilanExport bilan =
+    const BilanSortie bilan =
         ExporterAdif({d.etat.cahier, d.cible, genre, IndicatifDe(d.etat.station, d.etat.cahier),
                       FichiersDe(d.etat.station), EcrireInstantAdif(Maintenant())},
                      d.fuseau);
@@ -41,15 +41,14 @@ template<GenreAdif genre> Constat SortirAdif(const Depart& d) {
 }
 
 Constat SortirBase(const Depart& d) {
-    const BilanBase bilan =
+    const BilanSortie bilan =
         FaireBase({d.etat.cahier, d.cible, IndicatifDe(d.etat.station, d.etat.cahier),
                    FichiersDe(d.etat.station), EcrireInstantIso(Maintenant())});
-    return DireSortie({bilan.contacts, bilan.sansDate, bilan.finPresente, bilan.longueurEntiere},
-                      d.etat.cahier, d.cible, kSansDateBase);
+    return DireSortie(bilan, d.etat.cahier, d.cible, kSansDateBase);
 }
 
 Constat SortirPage(const Depart& d) {
-    const BilanExport bilan =
+    const BilanSortie bilan =
         EcrireBilan({d.etat.cahier, d.cible, IndicatifDe(d.etat.station, d.etat.cahier),
                      FichiersDe(d.etat.station), d.jour});
     return DireSortie(bilan, d.etat.cahier, d.cible, kSansDateBilan, "compté", "comptés");
